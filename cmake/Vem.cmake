@@ -1,0 +1,84 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+# What every target of the house shares: language level, warnings, toolkit switches, sanitizers,
+# and the two functions by which a folder declares its library and its tests.
+
+option(VEM_TESTS "Build the tests" ON)
+option(VEM_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" ON)
+set(VEM_SANITIZE "" CACHE STRING "Sanitizers to build with, as -fsanitize= takes them")
+
+if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+    set(CMAKE_BUILD_TYPE RelWithDebInfo CACHE STRING "Build type" FORCE)
+endif()
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets)
+if(VEM_TESTS)
+    find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
+endif()
+
+# dnf and rpm live in the system's interpreter; another Python may stand earlier on PATH.
+set(Python3_EXECUTABLE /usr/bin/python3 CACHE FILEPATH "The interpreter that has dnf and rpm")
+find_package(Python3 3.9 REQUIRED COMPONENTS Interpreter Development.Embed)
+
+# Where the running build finds its helper script and pictures without being installed.
+set(VEM_SHARE_DIR "${CMAKE_BINARY_DIR}/share/vem")
+
+add_library(vem_options INTERFACE)
+target_compile_definitions(vem_options INTERFACE
+    QT_NO_KEYWORDS
+    QT_NO_CAST_TO_ASCII
+    QT_NO_FOREACH
+    QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
+    QT_STRICT_ITERATORS)
+target_compile_options(vem_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wold-style-cast -Woverloaded-virtual -Wnon-virtual-dtor)
+if(VEM_WARNINGS_AS_ERRORS)
+    target_compile_options(vem_options INTERFACE -Werror)
+endif()
+if(VEM_SANITIZE)
+    target_compile_options(vem_options INTERFACE -fsanitize=${VEM_SANITIZE} -fno-omit-frame-pointer)
+    target_link_options(vem_options INTERFACE -fsanitize=${VEM_SANITIZE})
+endif()
+
+# vem_library(name SOURCES file... [LINKS folder-or-target...])
+# The library vem_<name> of this folder. LINKS names other folders of the house by their short name;
+# anything with "::" is a target of another package.
+function(vem_library name)
+    cmake_parse_arguments(arg "" "" "SOURCES;LINKS" ${ARGN})
+    add_library(vem_${name} STATIC ${arg_SOURCES})
+    target_include_directories(vem_${name} PUBLIC "${PROJECT_SOURCE_DIR}")
+    target_link_libraries(vem_${name} PUBLIC vem_options Qt6::Widgets)
+    vem_link(vem_${name} ${arg_LINKS})
+endfunction()
+
+# vem_test(name SOURCES file... LINKS folder-or-target... [LABELS label...])
+# A QtTest program run by ctest without a display.
+function(vem_test name)
+    cmake_parse_arguments(arg "" "" "SOURCES;LINKS;LABELS" ${ARGN})
+    add_executable(${name} ${arg_SOURCES})
+    target_link_libraries(${name} PRIVATE vem_options Qt6::Test)
+    vem_link(${name} ${arg_LINKS})
+    target_compile_definitions(${name} PRIVATE
+        VEM_TEST_SHARE="${VEM_SHARE_DIR}"
+        VEM_TEST_SOURCE="${CMAKE_CURRENT_SOURCE_DIR}")
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES
+        LABELS "${arg_LABELS}"
+        TIMEOUT 300
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;VEMSHARE=${VEM_SHARE_DIR};LC_ALL=C.UTF-8;ASAN_OPTIONS=detect_leaks=0;UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1")
+endfunction()
+
+function(vem_link target)
+    foreach(link IN LISTS ARGN)
+        if(link MATCHES "::")
+            target_link_libraries(${target} PUBLIC ${link})
+        else()
+            target_link_libraries(${target} PUBLIC vem_${link})
+        endif()
+    endforeach()
+endfunction()
