@@ -1,0 +1,331 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""Estates for tests, the sample and the benchmark: real rpms, real repositories, a real rpm database.
+
+An estate is a directory with everything that the program needs to work on something other than the
+host::
+
+    <directory>/root/                    what VEMROOT names: the managed system
+    <directory>/root/etc/yum.conf        main configuration
+    <directory>/root/etc/yum.repos.d/    one <id>.repo per repository
+    <directory>/root/var/lib/rpm/        the rpm database
+    <directory>/repos/<id>/              the repositories' rpms and metadata
+    <directory>/rpmbuild/                where rpms are built
+
+A first estate::
+
+    estate = Estate(tmp_path)
+    (old,) = estate.build(spec("lamp", "1.0"))
+    (new,) = estate.build(spec("lamp", "1.1"))
+    estate.write_main_config()
+    estate.repository("base", [new])
+    estate.install([old])
+    assert estate.installed() == {"lamp-1.0-1.noarch"}
+
+Where the rpm database lies
+    Always at /var/lib/rpm below the root. Debian's rpm looks at $HOME/.rpmdb below the root instead
+    (so another HOME means another, empty database), and dnf's library follows it. So that every tool
+    sees the same packages whatever it believes, `serve_home` puts a relative symbolic link from
+    <root>/$HOME/.rpmdb to /var/lib/rpm; the constructor does it for the present HOME. Whoever runs a
+    program with another HOME calls `serve_home` with that HOME before. The commands that this module
+    runs itself name the path (`--dbpath /var/lib/rpm`) and need no link.
+
+    A program that is embedded in Python and wants /var/lib/rpm without any link can say
+    ``rpm.addMacro("_dbpath", "/var/lib/rpm")``, but only after the last reading of rpm's configuration:
+    importing `rpm` reads it, and libdnf reads it again when its first sack or context is made, which
+    throws the macro away. After `dnf.Base(...)` and before `fill_sack` it holds.
+
+Who may
+    rpm changes its root directory while it installs: the module runs it directly as root (also the root
+    of a user namespace), otherwise inside a user namespace of its own (`unshare --map-root-user`).
+
+Nothing here reads or writes the host's rpm database, and nothing uses the network.
+"""
+
+from __future__ import annotations
+
+import os
+import shutil
+import subprocess
+from concurrent.futures import ThreadPoolExecutor
+from pathlib import Path
+from typing import Mapping, Optional, Sequence, Union
+
+DB_PATH = "/var/lib/rpm"
+"""The rpm database below the root."""
+
+BUILD_JOBS = 2
+
+SpecSource = Union[str, Path]
+"""The text of a spec file, or the path of one."""
+
+
+class EstateError(RuntimeError):
+    """A tool failed; the text holds the command line and everything that the tool wrote."""
+
+
+def spec(
+    name: str,
+    version: str = "1.0",
+    release: str = "1",
+    *,
+    epoch: Optional[int] = None,
+    arch: Optional[str] = "noarch",
+    summary: Optional[str] = None,
+    description: Optional[str] = None,
+    group: Optional[str] = None,
+    requires: Sequence[str] = (),
+    provides: Sequence[str] = (),
+    conflicts: Sequence[str] = (),
+    obsoletes: Sequence[str] = (),
+    files: Optional[Mapping[str, str]] = None,
+    scriptlets: Optional[Mapping[str, str]] = None,
+    changelog: Optional[str] = None,
+    tags: Optional[Mapping[str, str]] = None,
+) -> str:
+    """Text of a spec file for one package.
+
+    `files` maps absolute paths to texts, put there literally, each ended by a line feed. `scriptlets` maps a section heading without
+    "%", such as "post" or "pre -p <lua>", to its body; double a "%" that rpmbuild shall not expand. `tags` are further preamble lines. `arch` None
+    leaves the architecture to the build (`Estate.build`'s argument or the host's).
+    """
+    preamble = {"Name": name, "Epoch": epoch, "Version": version, "Release": release}
+    preamble["Summary"] = summary or f"The {name} package"
+    preamble["License"] = "MIT"
+    preamble["Group"] = group
+    preamble["BuildArch"] = "noarch" if arch == "noarch" else None
+    preamble["AutoReqProv"] = "no"
+    preamble.update(tags or {})
+    lines = [f"{tag}: {value}" for tag, value in preamble.items() if value is not None]
+    for tag, values in (
+        ("Requires", requires),
+        ("Provides", provides),
+        ("Conflicts", conflicts),
+        ("Obsoletes", obsoletes),
+    ):
+        lines += [f"{tag}: {value}" for value in values]
+    lines += ["%description", description or f"The {name} package."]
+    lines.append("%install")
+    for number, (path, text) in enumerate((files or {}).items()):
+        target = f"%{{buildroot}}{path}"
+        mark = f"END_OF_FILE_{number}"
+        lines.append(f'mkdir -p "{os.path.dirname(target)}"')
+        lines += [f"cat > \"{target}\" <<'{mark}'", text.removesuffix("\n").replace("%", "%%"), mark]
+    for heading, body in (scriptlets or {}).items():
+        lines += [f"%{heading}", body]
+    lines.append("%files")
+    lines += [f'"{path}"' for path in files or {}]
+    if changelog:
+        lines += ["%changelog", changelog]
+    return "\n".join(lines) + "\n"
+
+
+def shell_spec(name: str, version: str = "1.0", release: str = "1", **more: object) -> str:
+    """Text of a spec file for a package that gives a root its /bin/sh.
+
+    It carries the host's statically linked busybox, so that ordinary shell scriptlets run below the root
+    without anything else there. `more` goes to `spec`.
+    """
+    busybox = shutil.which("busybox", path="/bin:/usr/bin:/usr/local/bin")
+    if busybox is None:
+        raise EstateError("busybox is missing (Debian: busybox-static)")
+    text = spec(name, version, release, arch=None, provides=("/bin/sh",), **more)  # type: ignore[arg-type]
+    commands = ("sh", "cat", "echo", "ls", "mkdir", "rm", "sleep", "true", "false")
+    install = [f"install -D -m 755 {busybox} %{{buildroot}}/bin/busybox"]
+    install += [f"ln -s busybox %{{buildroot}}/bin/{command}" for command in commands]
+    text = text.replace("%install\n", "\n".join(["%install", *install, ""]), 1)
+    listing = "\n".join(["%files", "/bin/busybox", *(f"/bin/{command}" for command in commands), ""])
+    return text.replace("%files\n", listing, 1)
+
+
+def run(command: Sequence[Union[str, Path]], **options: object) -> str:
+    """Runs a tool and gives its standard output; EstateError when it fails."""
+    environment = {**os.environ, "LC_ALL": "C.UTF-8"}
+    done = subprocess.run(  # type: ignore[call-overload]
+        [str(part) for part in command],
+        stdin=subprocess.DEVNULL,
+        stdout=subprocess.PIPE,
+        stderr=subprocess.PIPE,
+        env=environment,
+        encoding="utf-8",
+        errors="replace",
+        **options,
+    )
+    if done.returncode != 0:
+        words = " ".join(str(part) for part in command)
+        raise EstateError(f"{words}: status {done.returncode}\n{done.stdout}{done.stderr}")
+    return str(done.stdout)
+
+
+class Estate:
+    """One estate; see the module's text for its layout. Not for use from two threads at once."""
+
+    def __init__(self, directory: Union[str, Path]) -> None:
+        """Makes the directories; what is there already stays, so that an estate can be opened again."""
+        self.directory = Path(directory).resolve()
+        self.root = self.directory / "root"
+        self.repos_dir = self.directory / "repos"
+        self.build_dir = self.directory / "rpmbuild"
+        (self.root / "etc/yum.repos.d").mkdir(parents=True, exist_ok=True)
+        (self.root / DB_PATH.lstrip("/")).mkdir(parents=True, exist_ok=True)
+        # rpm's %_tmppath: Lua and shell scriptlets are put there before they run.
+        (self.root / "var/tmp").mkdir(parents=True, exist_ok=True)
+        self.repos_dir.mkdir(exist_ok=True)
+        self.serve_home()
+
+    def serve_home(self, home: Optional[Union[str, Path]] = None) -> None:
+        """Lets tools that run with this HOME (default: the present one) see the estate's rpm database."""
+        home_text = str(home) if home is not None else os.path.expanduser("~")
+        link = self.root / home_text.lstrip("/") / ".rpmdb"
+        if link.is_symlink():
+            return
+        link.parent.mkdir(parents=True, exist_ok=True)
+        database = self.root / DB_PATH.lstrip("/")
+        link.symlink_to(os.path.relpath(database, link.parent))
+
+    # Packages ----------------------------------------------------------------------------------------
+
+    def build(
+        self,
+        specs: Union[SpecSource, Sequence[SpecSource]],
+        arch: Optional[str] = None,
+        defines: Optional[Mapping[str, str]] = None,
+    ) -> list[Path]:
+        """Builds spec files, two at a time, and gives the rpms in the order of the specs.
+
+        `arch` is rpmbuild's target ("x86_64", "i686", ...); packages that state noarch stay noarch.
+        `defines` are further rpm macros. EstateError names the first build that failed.
+        """
+        listed = [specs] if isinstance(specs, (str, Path)) else list(specs)
+        with ThreadPoolExecutor(BUILD_JOBS) as pool:
+            built = list(pool.map(lambda one: self._build(one, arch, defines or {}), listed))
+        return [rpm for rpms in built for rpm in rpms]
+
+    def _build(self, source: SpecSource, arch: Optional[str], defines: Mapping[str, str]) -> list[Path]:
+        top = self._new_build_directory()
+        if isinstance(source, Path):
+            path = source.resolve()
+        else:
+            path = top / "package.spec"
+            path.write_text(source, encoding="utf-8")
+        macros = {
+            "_topdir": str(top),
+            "_sourcedir": str(path.parent),
+            "_dbpath": str(self.build_dir / "rpmdb"),
+            "_tmppath": str(top),
+            "_buildhost": "builder.estate.example",
+            "_binary_payload": "w3.gzdio",
+            # The packages hold texts and foreign binaries: nothing to strip, compress or split off.
+            "__os_install_post": "%{nil}",
+            "debug_package": "%{nil}",
+            "_build_id_links": "none",
+            **defines,
+        }
+        command: list[Union[str, Path]] = ["rpmbuild", "-bb", "--nodeps"]
+        for name, value in macros.items():
+            command += ["--define", f"{name} {value}"]
+        if arch is not None:
+            command += ["--target", arch]
+        output = run([*command, path], cwd=top)
+        shutil.rmtree(top / "BUILD", ignore_errors=True)
+        wrote = "Wrote: "
+        return [Path(line[len(wrote) :]) for line in output.splitlines() if line.startswith(wrote)]
+
+    def _new_build_directory(self) -> Path:
+        self.build_dir.mkdir(exist_ok=True)
+        number = sum(1 for _ in self.build_dir.iterdir())
+        while True:
+            top = self.build_dir / f"{number:04d}"
+            try:
+                top.mkdir()
+                return top
+            except FileExistsError:
+                number += 1
+
+    # Repositories and configuration --------------------------------------------------------------------
+
+    def repository(
+        self,
+        id: str,  # noqa: A002 - the word that the .repo files use
+        rpms: Sequence[Path],
+        name: Optional[str] = None,
+        enabled: bool = True,
+        comps: Optional[str] = None,
+        baseurl: Optional[str] = None,
+        extra: Optional[Mapping[str, Optional[str]]] = None,
+    ) -> Path:
+        """Makes (or remakes) a repository of these rpms and its .repo file; gives its directory.
+
+        `comps` is the text of the groups file. `baseurl` defaults to the directory's file:// address.
+        `extra` are further keys of the section; a value None leaves that key out of the file.
+        """
+        directory = self.repos_dir / id
+        shutil.rmtree(directory, ignore_errors=True)
+        directory.mkdir(parents=True)
+        for rpm in rpms:
+            _link_or_copy(rpm, directory / rpm.name)
+        command: list[Union[str, Path]] = ["createrepo_c", "--quiet", "--workers", "2"]
+        if comps is not None:
+            (directory / "comps.xml").write_text(comps, encoding="utf-8")
+            command += ["--groupfile", "comps.xml"]
+        run([*command, directory])
+        keys: dict[str, Optional[str]] = {
+            "name": name if name is not None else id,
+            "baseurl": baseurl if baseurl is not None else directory.as_uri(),
+            "enabled": "1" if enabled else "0",
+            "gpgcheck": "0",
+            **(extra or {}),
+        }
+        path = self.root / "etc/yum.repos.d" / f"{id}.repo"
+        path.write_text(_section(id, keys), encoding="utf-8")
+        return directory
+
+    def write_main_config(self, **options: Optional[str]) -> Path:
+        """Writes <root>/etc/yum.conf; an option None leaves out that default."""
+        keys: dict[str, Optional[str]] = {
+            "gpgcheck": "0",
+            "keepcache": "0",
+            "obsoletes": "1",
+            **options,
+        }
+        path = self.root / "etc/yum.conf"
+        path.write_text(_section("main", keys), encoding="utf-8")
+        return path
+
+    # The managed system --------------------------------------------------------------------------------
+
+    def rpm(self, *arguments: Union[str, Path]) -> str:
+        """Runs rpm on the estate's database and gives what it printed."""
+        where = ["--root", str(self.root), "--dbpath", DB_PATH]
+        return run([*_as_root(), "rpm", *where, *arguments])
+
+    def install(self, rpms: Sequence[Path], options: Sequence[str] = ()) -> str:
+        """Installs or updates rpms in the root, scriptlets and dependency check included.
+
+        `options` go to rpm as well ("--nodeps", "--justdb", "--noscripts", ...). Gives the output, in
+        which the scriptlets' own lines stand. Without rpms nothing is done.
+        """
+        if not rpms:
+            return ""
+        return self.rpm("--upgrade", "--oldpackage", "--force-debian", *options, *rpms)
+
+    def installed(self) -> set[str]:
+        """The installed packages as name-[epoch:]version-release.arch; keys of the database left out."""
+        shape = "%{NAME}\t%|EPOCH?{%{EPOCH}:}|%{VERSION}-%{RELEASE}.%{ARCH}\n"
+        rows = (line.split("\t") for line in self.rpm("-qa", "--qf", shape).splitlines())
+        return {f"{name}-{rest}" for name, rest in rows if name != "gpg-pubkey"}
+
+
+def _section(title: str, keys: Mapping[str, Optional[str]]) -> str:
+    lines = [f"[{title}]"] + [f"{key}={value}" for key, value in keys.items() if value is not None]
+    return "\n".join(lines) + "\n"
+
+
+def _link_or_copy(source: Path, target: Path) -> None:
+    try:
+        os.link(source, target)
+    except OSError:
+        shutil.copy2(source, target)
+
+
+def _as_root() -> list[str]:
+    return [] if os.geteuid() == 0 else ["unshare", "--user", "--map-root-user"]
