@@ -66,6 +66,7 @@ function(vem_test name)
     target_compile_definitions(${name} PRIVATE
         VEM_TEST_SHARE="${VEM_SHARE_DIR}"
         VEM_TEST_SOURCE="${CMAKE_CURRENT_SOURCE_DIR}")
+    add_dependencies(${name} vem_share)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES
         LABELS "${arg_LABELS}"
