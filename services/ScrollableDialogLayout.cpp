@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "services/ScrollableDialogLayout.h"
+
+#include "widgets/HScrollArea.h"
+
+#include <QDialog>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+QLabel* layOutScrollableDialog(
+    QDialog* dialog, QStyle::StandardPixmap picture, QString const& text, QList<QPushButton*> const& buttons)
+{
+    dialog->setAttribute(Qt::WA_ShowModal);
+
+    auto* const rows = new QVBoxLayout(dialog);
+    auto* const upper = new QHBoxLayout;
+    auto* const lower = new QHBoxLayout;
+    rows->addLayout(upper);
+    rows->addLayout(lower);
+
+    auto* const pictureLabel = new QLabel(dialog);
+    pictureLabel->setPixmap(dialog->style()->standardPixmap(picture, nullptr, dialog));
+    upper->addWidget(pictureLabel);
+
+    auto* const area = new HScrollArea(dialog);
+    area->setFrameStyle(QFrame::Plain);
+    auto* const textLabel = new QLabel(text, area);
+    area->setWidget(textLabel);
+    upper->addWidget(area);
+
+    lower->addStretch();
+    for (QPushButton* const button : buttons) {
+        lower->addWidget(button);
+    }
+    lower->addStretch();
+    return textLabel;
+}
