@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "widgets/HSortFilterProxyModel.h"
+
+#include "widgets/HAbstractTableModel.h"
+
+#include <QDateTime>
+#include <QRegularExpression>
+#include <QSignalBlocker>
+
+namespace
+{
+
+enum class Order
+{
+    Less,
+    Equal,
+    Neither
+};
+
+template <class Value>
+Order compare(Value const& left, Value const& right)
+{
+    return left < right ? Order::Less : left == right ? Order::Equal : Order::Neither;
+}
+
+Order compare(QVariant const& left, QVariant const& right)
+{
+    switch (left.typeId()) {
+    case QMetaType::Int:
+        return compare(left.toInt(), right.toInt());
+    case QMetaType::UInt:
+        return compare(left.toUInt(), right.toUInt());
+    case QMetaType::LongLong:
+        return compare(left.toLongLong(), right.toLongLong());
+    case QMetaType::ULongLong:
+        return compare(left.toULongLong(), right.toULongLong());
+    case QMetaType::Double:
+        return compare(left.toDouble(), right.toDouble());
+    case QMetaType::QChar:
+        return compare(left.toChar(), right.toChar());
+    case QMetaType::QDate:
+        return compare(left.toDate(), right.toDate());
+    case QMetaType::QTime:
+        return compare(left.toTime(), right.toTime());
+    case QMetaType::QDateTime:
+        return compare(left.toDateTime(), right.toDateTime());
+    default:
+        return compare(left.toString(), right.toString());
+    }
+}
+
+} // namespace
+
+HSortFilterProxyModel::HSortFilterProxyModel(int secondarySortColumnToUse, QObject* parent)
+    : QSortFilterProxyModel(parent),
+      secondarySortColumn(secondarySortColumnToUse)
+{
+}
+
+void HSortFilterProxyModel::setSourceModel(HAbstractTableModel* model)
+{
+    QSortFilterProxyModel::setSourceModel(model);
+    sourceModel = model;
+}
+
+void HSortFilterProxyModel::filterChanged()
+{
+    rebuild();
+}
+
+void HSortFilterProxyModel::clear()
+{
+    rebuild();
+}
+
+void HSortFilterProxyModel::setFilterRegExp(QString const& pattern)
+{
+    dropMapping();
+    setFilterRegularExpression(pattern);
+    rebuild();
+}
+
+void HSortFilterProxyModel::setFilterRegExp(QRegularExpression const& expression)
+{
+    dropMapping();
+    setFilterRegularExpression(expression);
+    rebuild();
+}
+
+QRegularExpression HSortFilterProxyModel::filterRegExp() const
+{
+    return filterRegularExpression();
+}
+
+bool HSortFilterProxyModel::lessThan(QModelIndex const& left, QModelIndex const& right) const
+{
+    Order const order = compare(left.data(Qt::DisplayRole), right.data(Qt::DisplayRole));
+    if (order != Order::Equal || left.column() == secondarySortColumn) {
+        return order == Order::Less;
+    }
+    QModelIndex const secondaryRight = createSecondarySortIndex(right);
+    QModelIndex const secondaryLeft = createSecondarySortIndex(left);
+    // Without a secondary cell the next round would stand here again, and so on for ever.
+    return secondaryLeft.isValid() && lessThan(secondaryLeft, secondaryRight);
+}
+
+QModelIndex HSortFilterProxyModel::createSecondarySortIndex(QModelIndex const& index) const
+{
+    QAbstractItemModel const* const model = index.model();
+    return model ? model->index(index.row(), secondarySortColumn, QModelIndex()) : QModelIndex();
+}
+
+// The base answers a new expression by removing and inserting every run of rows by itself while the views
+// follow each step, which takes minutes on a large selected table. With no mapping there is nothing to
+// remove. The persistent indexes go first, since the base would build the mapping anew to save them. The
+// views hear nothing of this and are told by the reset that follows in rebuild().
+void HSortFilterProxyModel::dropMapping()
+{
+    if (!sourceModel) {
+        return;
+    }
+    QSignalBlocker const blocker(this);
+    beginResetModel();
+    endResetModel();
+    invalidate();
+}
+
+// The reset makes the base drop its mapping and leaves the rows to be filtered anew at the first question.
+void HSortFilterProxyModel::rebuild()
+{
+    if (sourceModel) {
+        sourceModel->forceSortColumnRediscovery();
+    }
+    sort(sortColumn(), sortOrder());
+}

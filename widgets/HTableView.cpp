@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "widgets/HTableView.h"
+
+#include "widgets/ColumnWidth.h"
+#include "widgets/HItemDelegate.h"
+#include "widgets/Sizing.h"
+
+#include <QHeaderView>
+#include <QScrollBar>
+#include <algorithm>
+
+HTableView::HTableView(
+    QStyleOptionViewItem::Position decorationPosition, int fewestRows, int mostRows, QWidget* parent)
+    : QTableView(parent),
+      position(decorationPosition),
+      minimumRows(fewestRows),
+      maximumRows(mostRows)
+{
+    setItemDelegate(new HItemDelegate(parent ? parent : this));
+    // Heights by contents would ask the delegate for each of 66,000 rows.
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+}
+
+void HTableView::initViewItemOption(QStyleOptionViewItem* option) const
+{
+    QTableView::initViewItemOption(option);
+    option->decorationPosition = position;
+    option->showDecorationSelected = false;
+    // The option's rectangle is the view's own, which must not limit the width that a cell asks for.
+    option->features.setFlag(QStyleOptionViewItem::WrapText, false);
+}
+
+int HTableView::frameOnlyAroundContentsPixels() const
+{
+    return Sizing::frameOnlyAroundContentsPixels(this);
+}
+
+QSize HTableView::sizeHint() const
+{
+    if (minimumRows != maximumRows) {
+        minimumRows = std::min(std::max(model()->rowCount(), minimumRows), maximumRows);
+        maximumRows = minimumRows;
+    }
+    int const last = model()->columnCount() - 1;
+    int const rowHeaderWidth = verticalHeader()->isHidden() ? 0 : verticalHeader()->sizeHint().width();
+    int const columnHeaderHeight =
+        horizontalHeader()->isHidden() ? 0 : horizontalHeader()->sizeHint().height();
+    return {
+        frameWidth() + rowHeaderWidth + columnViewportPosition(last) + columnWidth(last) +
+            frameOnlyAroundContentsPixels() + verticalScrollBar()->sizeHint().width() + frameWidth(),
+        frameWidth() + columnHeaderHeight + rowHeightForHint() + frameWidth()};
+}
+
+// An empty table has no row 0 to measure, and still asks for the height of its fewest rows.
+int HTableView::rowHeightForHint() const
+{
+    if (verticalHeader()->count() == 0) {
+        return verticalHeader()->defaultSectionSize() * minimumRows;
+    }
+    return rowViewportPosition(0) + rowHeight(0) * minimumRows;
+}
+
+int HTableView::sizeHintForColumn(int column) const
+{
+    if (!model() || !itemDelegate()) {
+        return -1;
+    }
+    QStyleOptionViewItem options;
+    initViewItemOption(&options);
+    ColumnWidth const width(*itemDelegate(), options);
+    return width.widest(*model(), rootIndex(), column) + (showGrid() ? 1 : 0);
+}
+
+void HTableView::sortByColumn(int column)
+{
+    if (!model()) {
+        return;
+    }
+    QHeaderView const* const header = horizontalHeader();
+    sortByColumn(
+        column, header->sortIndicatorSection() == column ? header->sortIndicatorOrder() : Qt::AscendingOrder);
+}
+
+void HTableView::sortByColumn(int column, Qt::SortOrder order)
+{
+    horizontalHeader()->setSortIndicator(column, order);
+    model()->sort(column, order);
+}
+
+void HTableView::resizeColumnsToContents()
+{
+    QTableView::resizeColumnsToContents();
+    for (QWidget* widget = this; widget; widget = widget->parentWidget()) {
+        widget->updateGeometry();
+    }
+    QWidget* const top = window();
+    top->resize(top->sizeHint().boundedTo(Sizing::screenLimit(this)).expandedTo(top->size()));
+}
+
+QList<QModelIndex> HTableView::selectedRows() const
+{
+    QList<QModelIndex> rows;
+    if (!selectionModel()) {
+        return rows;
+    }
+    QItemSelection const selection = selectionModel()->selection();
+    for (QItemSelectionRange const& range : selection) {
+        for (int row = range.top(); row <= range.bottom(); ++row) {
+            QModelIndex const index = range.model()->index(row, range.left(), range.parent());
+            if (range.model()->flags(index) & Qt::ItemIsSelectable) {
+                rows.append(index);
+            }
+        }
+    }
+    return rows;
+}
