@@ -3,15 +3,16 @@
 
 from __future__ import annotations
 
-import os
 import subprocess
 import sys
 from pathlib import Path
 
 import pytest
 
-sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "estate"))
+HERE = Path(__file__).resolve().parent
+sys.path[:0] = [str(HERE), str(HERE.parents[1] / "estate")]
 
+from dnfreport import dnf_report  # noqa: E402
 from rpmestate import Estate, EstateError, shell_spec, spec  # noqa: E402
 
 COMPS = """<?xml version="1.0" encoding="UTF-8"?>
@@ -23,40 +24,6 @@ COMPS = """<?xml version="1.0" encoding="UTF-8"?>
   </group>
 </comps>
 """
-
-# In a process of its own: libdnf keeps rpm's macros and its logs for the life of a process.
-DNF_REPORT = """
-import dnf, dnf.rpm, sys
-conf = dnf.conf.Conf()
-conf.installroot = sys.argv[1]
-conf.config_file_path = sys.argv[1] + "/etc/yum.conf"
-conf.read(conf.config_file_path)
-conf.reposdir = [sys.argv[1] + "/etc/yum.repos.d"]
-for option in ("cachedir", "logdir", "persistdir"):
-    conf.prepend_installroot(option)
-conf.substitutions["releasever"] = dnf.rpm.detect_releasever(conf.installroot) or ""
-dnf.util.ensure_dir(conf.logdir)
-base = dnf.Base(conf)
-base.read_all_repos()
-base.fill_sack()
-base.read_comps(arch_filter=True)
-query = base.sack.query()
-print("installed", sorted(str(p) for p in query.installed()))
-print("upgrades", sorted(str(p) for p in query.upgrades()))
-print("groups", [g.name for g in base.comps.groups])
-print("repos", [(r.id, r.name, r.enabled) for r in base.repos.values()])
-"""
-
-
-def dnf_report(estate: Estate, home: str) -> dict[str, str]:
-    done = subprocess.run(
-        ["/usr/bin/python3", "-c", DNF_REPORT, str(estate.root)],
-        env={**os.environ, "HOME": home},
-        check=True,
-        stdout=subprocess.PIPE,
-        text=True,
-    )
-    return dict(line.split(" ", 1) for line in done.stdout.splitlines())
 
 
 @pytest.fixture(name="estate")
@@ -76,7 +43,7 @@ def test_install_update_and_query(estate: Estate) -> None:
 def test_build_gives_rpms_in_the_order_of_specs_for_the_architecture_asked(estate: Estate) -> None:
     specs = [spec(name, arch=None) for name in ("one", "two", "three")] + [spec("four")]
     names = [path.name for path in estate.build(specs, arch="i686")]
-    assert names == ["one-1.0-1.i686.rpm", "two-1.0-1.i686.rpm", "three-1.0-1.i686.rpm", "four-1.0-1.noarch.rpm"]
+    assert names == [f"{name}-1.0-1.i686.rpm" for name in ("one", "two", "three")] + ["four-1.0-1.noarch.rpm"]
 
 
 def test_a_spec_file_finds_its_sources_beside_itself(estate: Estate, tmp_path: Path) -> None:
@@ -134,11 +101,14 @@ def test_dnf_sees_the_estate_whatever_home_is(estate: Estate, home: str) -> None
     estate.repository("testing", [new], enabled=False)
     estate.serve_home(home)
     report = dnf_report(estate, home)
-    assert report["installed"] == "['lamp-1.0-1.noarch']"
-    assert report["upgrades"] == "['lamp-1.1-1.noarch']"
-    assert report["groups"] == "['Light']"
-    repos = "[('base', 'The base', True), ('testing', 'testing', False), ('updates', 'Updates', True)]"
-    assert report["repos"] == repos
+    assert report["installed"] == ["lamp-1.0-1.noarch"]
+    assert report["upgrades"] == ["lamp-1.1-1.noarch"]
+    assert report["groups"] == {"Light": True}
+    assert report["repositories"] == {
+        "base": ["The base", True],
+        "testing": ["testing", False],
+        "updates": ["Updates", True],
+    }
 
 
 def test_plain_rpm_with_the_present_home_sees_the_same_database(estate: Estate) -> None:
@@ -149,7 +119,9 @@ def test_plain_rpm_with_the_present_home_sees_the_same_database(estate: Estate) 
     assert plain.stdout.split() == ["lamp-1.0-1.noarch"]
 
 
-def test_the_database_of_the_host_is_left_alone(estate: Estate, tmp_path: Path, monkeypatch: pytest.MonkeyPatch) -> None:
+def test_the_database_of_the_host_is_left_alone(
+    estate: Estate, tmp_path: Path, monkeypatch: pytest.MonkeyPatch
+) -> None:
     home = tmp_path / "home"
     home.mkdir()
     monkeypatch.setenv("HOME", str(home))

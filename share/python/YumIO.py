@@ -1,0 +1,140 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""The helper script: what the engine calls, on top of dnf.
+
+The engine executes this file in `__main__` and keeps one object of the class `YumIO`. The names are
+those that the engine uses. Each method may raise the one class of `yum.Errors` that its text tells and
+nothing else that a library raises; only a broken pipe reaches the engine as it is, from `apply`.
+All methods may be called on any thread, one at a time.
+"""
+
+from __future__ import annotations
+
+import os
+import sys
+from typing import Any, List, Sequence, Tuple
+
+# The engine tells no path, only this file's name; the package lies beside it in the share directory.
+for _folder in (os.path.dirname(os.path.abspath(__file__)), os.path.join(os.environ.get("VEMSHARE", "/usr/share/vem"), "python")):
+    if os.path.isdir(os.path.join(_folder, "vemyum")):
+        if _folder not in sys.path:
+            sys.path.insert(0, _folder)
+        break
+
+from vemyum import streams  # noqa: E402
+
+streams.replace_streams()
+
+import bdb  # noqa: E402,F401
+
+from vemyum import clean, host, messages, surroundings  # noqa: E402
+from vemyum.apply import Apply  # noqa: E402
+from vemyum.errors import RepoError, YumBaseError, reported_as  # noqa: E402
+from vemyum.session import Session  # noqa: E402
+
+yum = surroundings.make_yum_module()
+surroundings.load_needed_later()
+messages.install_handler()
+
+
+def usesSqlite() -> bool:
+    """Metadata is never held in sqlite form."""
+    return False
+
+
+class YumIO:
+    """One session. The lock is the process's and outlives it.
+
+    The constructor raises SystemExit when the very first configuration cannot be used, with the reason
+    in the log. Later ones leave it to `setupRepos` to tell, so that there is always an object.
+    """
+
+    _made_one = False
+
+    def __init__(self) -> None:
+        try:
+            self._session = Session(lenient=YumIO._made_one)
+        except YumBaseError as error:
+            host.errorlog(host.LEVEL_ERROR, str(error))
+            raise SystemExit(1) from error
+        YumIO._made_one = True
+        self.repos = self._session.repositories
+        self.conf = self._session.conf
+
+    def __del__(self) -> None:
+        session = self.__dict__.get("_session")
+        if session is not None:
+            session.close()
+
+    def lock(self) -> None:
+        """LockError, naming the process that holds the lock."""
+        self._session.lock()
+
+    def unlock(self) -> None:
+        """LockError."""
+        self._session.unlock()
+
+    def setupRepos(self) -> None:
+        """RepoError, naming the repository, its address and the cause."""
+        with reported_as(RepoError):
+            self._session.read_repositories()
+
+    def setupTs(self) -> None:
+        """YumBaseError. Each transaction is prepared by its own `apply`; here it only must be possible."""
+        self._session.collector
+
+    def collectUpdates(self) -> Sequence[Any]:
+        """YumBaseError."""
+        with reported_as(YumBaseError):
+            return self._session.updates()
+
+    def collectAll(self) -> Any:
+        """YumBaseError, also for an rpm database that is suddenly empty."""
+        with reported_as(YumBaseError):
+            return self._session.everything()
+
+    def setupTsGroup(self) -> None:
+        """GroupsError when there are no groups, YumBaseError."""
+        with reported_as(YumBaseError):
+            self._session.read_groups()
+
+    def collectGroupInfo(self) -> List[Any]:
+        """The groups; none where `setupTsGroup` found none."""
+        return self._session.groups()
+
+    def collectFileLists(self) -> bool:
+        """YumBaseError."""
+        with reported_as(YumBaseError):
+            self._session.load_file_lists()
+        return True
+
+    def collectOtherData(self) -> bool:
+        """YumBaseError."""
+        with reported_as(YumBaseError):
+            self._session.load_changelogs()
+        return True
+
+    def apply(self, installs: Sequence[Any], updates: Sequence[Any], removes: Sequence[Any]) -> None:
+        """Solves, lists, asks, downloads and runs. YumBaseError; OSError only for a broken pipe."""
+        with reported_as(YumBaseError):
+            Apply(self._session).run(installs, updates, removes)
+
+    def usesPresto(self) -> bool:
+        """Packages are never rebuilt from deltas."""
+        return False
+
+    def flush(self) -> None:
+        """Gives up memory and files. Only a new object can do anything afterwards."""
+        self._session.close()
+
+    def cleanHeaders(self) -> Tuple[int, List[str]]:
+        """There are no header files to remove."""
+        return (0, [])
+
+    def cleanPackages(self) -> Tuple[int, List[str]]:
+        return clean.clean(self._session.cache_directory, "packages")
+
+    def cleanMetadata(self) -> Tuple[int, List[str]]:
+        return clean.clean(self._session.cache_directory, "metadata", "dbcache")
+
+    def cleanPickles(self) -> Tuple[int, List[str]]:
+        return clean.clean(self._session.cache_directory, "dbcache")

@@ -1,0 +1,18 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""What stands behind the helper script: dnf, driven for the engine that embeds this interpreter.
+
+The engine runs `YumIO.py`, whose class `YumIO` is the face; the work is done here:
+
+    text, host, streams, messages   what goes to the engine: texts, host functions, printing, log lines
+    errors, surroundings            exceptions as the engine expects them, the modules that it looks up
+    configuration, database, lock   where things lie, and who may touch them
+    base, repositories, metadata    dnf's Base, the repositories and the progress of reading them
+    packages, headers, details      what the engine reads from a package
+    lists, groups                   what a collection hands over
+    transaction, solver, download,
+    signatures, display, apply      one apply, from the marks to the new rpm database
+    clean                           emptying the caches
+
+Every function runs on whatever thread the engine calls it on, under the interpreter lock; nothing
+depends on which thread that is.
+"""

@@ -1,0 +1,97 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""dnf's Base, with the places at which the engine wants to know more."""
+
+from __future__ import annotations
+
+import contextlib
+from typing import Any, Callable, Dict, Iterable, Optional
+
+import dnf
+import dnf.conf
+import dnf.repo
+
+from .database import point_rpm_at
+from .errors import RepoError
+from .messages import heard
+from .metadata import ReadingProgress, RepositoryProgress
+
+
+class Base(dnf.Base):
+    """One view of the system: repositories, sack, goal. For one transaction at most.
+
+    Whoever makes one closes it: a Base that is only dropped keeps its memory and its files open.
+    """
+
+    def __init__(self, conf: dnf.conf.MainConf, progress: bool = True) -> None:
+        super().__init__(conf)
+        self._report = ReadingProgress(conf.cachedir) if progress else None
+        self.before_run: Optional[Callable[[], None]] = None
+        """Called when the test transaction is over and the real one begins."""
+        self.args = ["vem"]
+        """The command line that dnf's history tells."""
+
+    def load_everything(self) -> None:
+        """Reads the enabled repositories and the rpm database.
+
+        Raises RepoError that names the repository, its address and the cause; other dnf errors and
+        OSError for the rest. The Base is of no use after a failure.
+        """
+        point_rpm_at(self.conf.installroot)
+        if self._report is not None:
+            for repo in self.repos.iter_enabled():
+                repo.set_progress_bar(RepositoryProgress(repo, self.conf.cachedir))
+        self.fill_sack()
+
+    def _add_repo_to_sack(self, repo: dnf.repo.Repo) -> None:
+        with heard() as causes:
+            try:
+                # Fetches; the call inherited below finds it done and only reads.
+                repo.load()
+                if self._report is not None:
+                    self._report.begin(repo)
+                super()._add_repo_to_sack(repo)
+            except RepoError as error:
+                if error.__context__ is not None:
+                    causes.append(str(error.__context__))
+                raise RepoError(_repository_text(repo, str(error), causes)) from error
+            except OSError as error:
+                raise RepoError(_repository_text(repo, str(error), causes)) from error
+            finally:
+                if self._report is not None:
+                    self._report.end(repo)
+
+    def _run_transaction(self, cb: Any) -> Any:
+        if self.before_run is not None:
+            self.before_run()
+        return super()._run_transaction(cb)
+
+
+def address(repo: dnf.repo.Repo) -> str:
+    """Where a repository is configured to be: its first address, metalink or mirror list."""
+    candidates = [*repo.baseurl, repo.metalink, repo.mirrorlist]
+    return next((candidate for candidate in candidates if candidate), "no address")
+
+
+def _repository_text(repo: dnf.repo.Repo, text: str, causes: Iterable[str]) -> str:
+    lines = [f"Unable to read repository {repo.id} ({address(repo)}):", text.strip()]
+    lines += [cause for cause in dict.fromkeys(causes) if cause not in text]
+    return "\n".join(lines)
+
+
+def open_base(
+    conf: dnf.conf.MainConf, enabled: Optional[Dict[str, bool]] = None, progress: bool = True
+) -> Base:
+    """A Base with the configured repositories, nothing loaded yet.
+
+    `enabled` overrides what the configuration says; ids that are not configured are passed over.
+    Raises dnf's errors and OSError; nothing stays open then.
+    """
+    with contextlib.ExitStack() as on_failure:
+        base = Base(conf, progress)
+        on_failure.callback(base.close)
+        base.read_all_repos()
+        for repo in base.repos.values():
+            if enabled is not None and repo.id in enabled:
+                (repo.enable if enabled[repo.id] else repo.disable)()
+        on_failure.pop_all()
+        return base

@@ -1,0 +1,33 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""Emptying the caches."""
+
+from __future__ import annotations
+
+from typing import List, Optional, Tuple
+
+import dnf.repo
+from dnf.cli.commands import clean as dnf_clean
+
+from . import host
+from .errors import YumBaseError, reported_as
+
+
+def clean(cache_directory: Optional[str], *kinds: str) -> Tuple[int, List[str]]:
+    """Removes the cache's files of these kinds of `dnf.repo.CACHE_FILES`.
+
+    Gives 0 and a sentence, or 1 and the reason, which is in the log as well. Raises nothing of dnf's.
+    Files of repositories that lie on this machine are no cache, and stay.
+    """
+    if cache_directory is None:
+        return (1, ["The configuration cannot be read"])
+    patterns = [dnf.repo.CACHE_FILES[kind] for kind in kinds]
+    try:
+        with reported_as(YumBaseError, "Unable to clean"):
+            files = list(dnf_clean._filter(list(dnf_clean._tree(cache_directory)), patterns))
+            count = dnf_clean._clean(cache_directory, files)
+    except YumBaseError as error:
+        host.errorlog(host.LEVEL_ERROR, str(error))
+        return (1, [str(error)])
+    text = f"{count} {'file' if count == 1 else 'files'} removed"
+    host.log(host.LEVEL_NOTICE, text)
+    return (0, [text])

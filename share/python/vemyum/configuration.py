@@ -1,0 +1,96 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""The configuration: which root is managed, and dnf's settings for it.
+
+VEMROOT names the root; every path of the configuration lies below it. Unset, the root is "/". The
+main file, the repository directories and the cache are where the configuration editor takes them
+to be, so that both speak of the same files.
+"""
+
+from __future__ import annotations
+
+import os
+from typing import Dict
+
+import dnf.conf
+import dnf.conf.config
+import dnf.rpm
+import dnf.util
+import libdnf.conf
+
+from .database import point_rpm_at
+
+MAIN_FILES = ("/etc/yum/yum.conf", "/etc/yum.conf")
+REPOSITORY_DIRECTORIES = ("/etc/yum/repos.d", "/etc/yum.repos.d")
+CACHE_DIRECTORY = "/var/cache/yum"
+LOG_DIRECTORY = "/var/log"
+
+
+def managed_root() -> str:
+    """The root that is managed: an absolute path without a slash at its end, or "/"."""
+    return os.path.abspath(os.environ.get("VEMROOT") or "/")
+
+
+def below(root: str, path: str) -> str:
+    """`path` of the managed system as a path of the process."""
+    return path if root == "/" else root + path
+
+
+def main_file(root: str) -> str:
+    """The main configuration file below the root; the last candidate where there is none."""
+    for candidate in MAIN_FILES[:-1]:
+        if os.path.exists(below(root, candidate)):
+            return below(root, candidate)
+    return below(root, MAIN_FILES[-1])
+
+
+def read_configuration() -> dnf.conf.MainConf:
+    """Reads the main file of the managed root.
+
+    Makes the log and cache directories where they are missing. Raises dnf.exceptions.ConfigError for
+    a file that cannot be understood, dnf.exceptions.Error for a root that cannot be used, OSError.
+    """
+    root = managed_root()
+    conf = dnf.conf.Conf()
+    conf.installroot = root
+    _set_defaults(conf, root)
+    conf.read(main_file(root), dnf.conf.config.PRIO_MAINCONFIG)
+    point_rpm_at(root)
+    conf.substitutions.update_from_etc(root, varsdir=conf.varsdir)
+    if "releasever" not in conf.substitutions:
+        conf.substitutions["releasever"] = dnf.rpm.detect_releasever(root) or ""
+    _put_below_root(conf, root)
+    conf.exit_on_lock = True
+    # The rebuild of delta packages waits for any child of the process, and so takes the exit codes of
+    # children that are not its own.
+    conf.deltarpm = False
+    for directory in (conf.logdir, conf.cachedir):
+        dnf.util.ensure_dir(directory)
+    return conf
+
+
+def _set_defaults(conf: dnf.conf.MainConf, root: str) -> None:
+    defaults = {"reposdir": list(REPOSITORY_DIRECTORIES)}
+    if dnf.util.am_i_root() or root != "/":
+        defaults.update(cachedir=CACHE_DIRECTORY, logdir=LOG_DIRECTORY)
+    for name, value in defaults.items():
+        conf._set_value(name, value, dnf.conf.config.PRIO_DEFAULT)
+    if conf._has_option("optional_metadata_types"):
+        # Later versions of dnf load file lists only when asked.
+        conf._set_value("optional_metadata_types", ["filelists"], dnf.conf.config.PRIO_DEFAULT)
+
+
+def _put_below_root(conf: dnf.conf.MainConf, root: str) -> None:
+    for name in ("cachedir", "logdir", "persistdir"):
+        path = libdnf.conf.ConfigParser.substitute(conf._get_value(name), conf.substitutions)
+        conf._set_value(name, below(root, path))
+    directories = [
+        below(root, libdnf.conf.ConfigParser.substitute(path, conf.substitutions)) for path in conf.reposdir
+    ]
+    conf._set_value("reposdir", directories)
+
+
+class Configuration:
+    """The engine's view, `YumIO.conf`: `yumvar` maps the names of yum's variables to their values."""
+
+    def __init__(self, substitutions: Dict[str, str]) -> None:
+        self.yumvar = dict(substitutions)

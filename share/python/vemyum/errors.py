@@ -1,0 +1,62 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""Exceptions as the engine expects them: `yum.Errors`' classes with complete texts.
+
+The classes are dnf's own, so that an exception of dnf which passes through is caught all the same.
+"""
+
+from __future__ import annotations
+
+import os
+from contextlib import contextmanager
+from typing import Iterator, Type
+
+import dnf.exceptions
+import hawkey
+import libdnf.error
+import rpm
+
+YumBaseError = dnf.exceptions.Error
+RepoError = dnf.exceptions.RepoError
+LockError = dnf.exceptions.LockError
+GroupsError = dnf.exceptions.CompsError
+
+_LIBRARY_ERRORS = (
+    dnf.exceptions.Error,
+    hawkey.Exception,
+    libdnf.error.Error,
+    rpm.error,
+    # libdnf's C++ exceptions (its databases, the configuration's parsers) arrive as RuntimeError.
+    RuntimeError,
+)
+
+
+def os_error_text(error: OSError) -> str:
+    """Names the path (both, where two are concerned) and the cause."""
+    cause = error.strerror or (os.strerror(error.errno) if error.errno else str(error))
+    paths = [os.fsdecode(path) for path in (error.filename, error.filename2) if isinstance(path, (str, bytes))]
+    if not paths:
+        return str(error) or cause
+    return f"{' -> '.join(paths)}: {cause}"
+
+
+@contextmanager
+def reported_as(kind: Type[dnf.exceptions.Error], doing: str = "") -> Iterator[None]:
+    """Lets the block fail with `kind` only, whatever library failed; `doing` starts the text.
+
+    BrokenPipeError passes: the engine has words of its own for it. So do exceptions that no library
+    raises (faults of this package), which the engine shows as internal errors.
+    """
+    try:
+        yield
+    except BrokenPipeError:
+        raise
+    except kind:
+        raise
+    except OSError as error:
+        raise kind(_text(doing, os_error_text(error))) from error
+    except _LIBRARY_ERRORS as error:
+        raise kind(_text(doing, str(error))) from error
+
+
+def _text(doing: str, cause: str) -> str:
+    return f"{doing}: {cause}" if doing else cause

@@ -1,0 +1,99 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""The engine's module `yumIOC`, with arguments that its formats take.
+
+Nothing here raises for odd texts or numbers. Errors of the host itself (a refused argument) come
+through as they are. All functions run on the caller's thread.
+"""
+
+from __future__ import annotations
+
+from typing import Any, Iterable, Optional
+
+import yumIOC  # type: ignore[import-not-found]
+
+from .text import valid, whole
+
+LEVEL_ERROR = 0
+LEVEL_NOTICE = 1
+LEVEL_INFO = 2
+LEVEL_QUIET = 3
+"""From this level on an error line stays out of the engine's error dialogs."""
+LEVEL_DEBUG = 4
+LEVEL_TRACE = 7
+
+
+def stdout_write(text: str) -> None:
+    yumIOC.stdoutWrite(valid(text))
+
+
+def stderr_write(text: str) -> None:
+    yumIOC.stderrWrite(valid(text))
+
+
+def log(level: int, text: str) -> None:
+    yumIOC.log(level, valid(text))
+
+
+def errorlog(level: int, text: str) -> None:
+    yumIOC.errorlog(level, valid(text))
+
+
+def collect_progress(value: Any, total: Any, name: Optional[str]) -> None:
+    yumIOC.collectProgress(whole(value), whole(total), None if name is None else valid(name))
+
+
+def collect_meter_start(path: str, size: Optional[int]) -> None:
+    yumIOC.collectGrabMeterStart(valid(path), "", "", None if size is None else whole(size), None)
+
+
+def collect_meter_update(done: Any) -> None:
+    yumIOC.collectGrabMeterUpdate(whole(done))
+
+
+def collect_meter_end(done: Any) -> None:
+    yumIOC.collectGrabMeterEnd(whole(done))
+
+
+def apply_meter_start(name: str, size: Any) -> None:
+    yumIOC.applyGrabMeterStart(valid(name), None, None, whole(size), None)
+
+
+def apply_meter_update(done: Any) -> None:
+    yumIOC.applyGrabMeterUpdate(whole(done))
+
+
+def apply_meter_end(done: Any) -> None:
+    yumIOC.applyGrabMeterEnd(whole(done))
+
+
+def solver_check() -> None:
+    yumIOC.dsTsCheck()
+
+
+def solver_restart() -> None:
+    yumIOC.dsRestartLoop()
+
+
+def confirmed() -> bool:
+    """Asks the user; blocks until the answer is there."""
+    return bool(yumIOC.userconfirm())
+
+
+def report_download_size(packages: Iterable[Any]) -> None:
+    yumIOC.reportDownloadSize(packages)
+
+
+def list_transaction(holder: Any) -> None:
+    yumIOC.listTransaction(holder)
+
+
+def transaction_init(real: bool) -> None:
+    yumIOC.tsInitCallback(1 if real else 0)
+
+
+def transaction_event(package: Any, code: int, done: Any, total: Any, ordinal: int, count: int) -> None:
+    yumIOC.tsEvent(package, code, whole(done), whole(total), ordinal, count)
+
+
+def post_transaction_output(holder: Any) -> None:
+    yumIOC.postTransactionOutput(holder)

@@ -1,0 +1,77 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""dnf's log messages: into the engine's log, and at hand for the texts of exceptions.
+
+dnf puts the causes of many failures (curl's words, rpm's lines) only into its log.
+"""
+
+from __future__ import annotations
+
+import logging
+from contextlib import contextmanager
+from typing import Iterator
+
+import dnf.logging
+
+from . import host
+
+_RPM_LOGGER = "dnf.rpm"
+
+
+class HostHandler(logging.Handler):
+    """Forwards records to the host functions `log` and `errorlog`."""
+
+    def emit(self, record: logging.LogRecord) -> None:
+        try:
+            text = record.getMessage()
+        except (TypeError, ValueError):
+            text = str(record.msg)
+        if record.name == _RPM_LOGGER and record.levelno >= logging.INFO:
+            # Scriptlet output comes through the transaction's display, and what rpm says against a
+            # package stands in the exception: once is enough.
+            if record.levelno > logging.INFO:
+                host.errorlog(host.LEVEL_QUIET, text)
+        elif record.levelno >= logging.ERROR:
+            host.errorlog(host.LEVEL_ERROR, text)
+        else:
+            host.log(_level(record.levelno), text)
+
+
+def _level(levelno: int) -> int:
+    for threshold, level in (
+        (logging.WARNING, host.LEVEL_NOTICE),
+        (logging.INFO, host.LEVEL_INFO),
+        (logging.DEBUG, host.LEVEL_DEBUG),
+    ):
+        if levelno >= threshold:
+            return level
+    return host.LEVEL_TRACE
+
+
+class _Hearing(logging.Handler):
+    def __init__(self) -> None:
+        super().__init__(logging.WARNING)
+        self.lines: list[str] = []
+
+    def emit(self, record: logging.LogRecord) -> None:
+        self.lines += [line.strip() for line in record.getMessage().splitlines() if line.strip()]
+
+
+@contextmanager
+def heard() -> Iterator[list[str]]:
+    """Collects the lines of dnf's warnings and errors while the block runs."""
+    hearing = _Hearing()
+    logger = logging.getLogger("dnf")
+    logger.addHandler(hearing)
+    try:
+        yield hearing.lines
+    finally:
+        logger.removeHandler(hearing)
+
+
+def install_handler() -> None:
+    """Makes the `dnf` logger talk to the engine; a second call changes nothing."""
+    logger = logging.getLogger("dnf")
+    logger.setLevel(dnf.logging.ALL)
+    logger.propagate = False
+    if not any(isinstance(handler, HostHandler) for handler in logger.handlers):
+        logger.addHandler(HostHandler())

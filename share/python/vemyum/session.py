@@ -1,0 +1,161 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""One YumIO object's work: from the configuration to the lists that the table shows.
+
+A session is made new for every collection and closed when the engine is done with it.
+"""
+
+from __future__ import annotations
+
+import gc
+from typing import Any, List, Optional, Sequence
+
+import dnf.comps
+import dnf.conf
+
+from . import host
+from .base import Base, open_base
+from .configuration import Configuration, main_file, managed_root, read_configuration
+from .details import PackageDetails
+from .errors import RepoError, YumBaseError, reported_as
+from .groups import Group, groups_of, read_groups
+from .lists import Collector, PackageLists
+from .lock import LOCK
+from .metadata import report_reading
+from .repositories import Repositories, UnreadableRepositories
+
+_NOT_READ = "The repositories are not read"
+
+
+class Session:
+    """The configuration is read by the constructor, everything else by the methods.
+
+    The constructor raises YumBaseError for a configuration that cannot be used, unless `lenient`: then
+    `read_repositories` raises it, which is how the engine can show it.
+    """
+
+    _ever_made = False
+
+    def __init__(self, lenient: bool) -> None:
+        self._conf: Optional[dnf.conf.MainConf] = None
+        self._base: Optional[Base] = None
+        self._details: Optional[PackageDetails] = None
+        self._collector: Optional[Collector] = None
+        self._comps: Optional[dnf.comps.Comps] = None
+        self._fault: Optional[YumBaseError] = None
+        try:
+            with reported_as(YumBaseError, "Unable to read the configuration"):
+                self._conf = read_configuration()
+                self._base = open_base(self._conf)
+                self.repositories = Repositories(self._base.repos.values())
+        except YumBaseError as error:
+            self.close()
+            if not lenient:
+                raise
+            self._fault = error
+            self.repositories = UnreadableRepositories(main_file(managed_root()))
+        self.conf = Configuration(self._conf.substitutions if self._conf is not None else {})
+
+    # Lock ------------------------------------------------------------------------------------------------
+
+    def lock(self) -> None:
+        if self._conf is not None:
+            LOCK.acquire(self._conf)
+
+    def unlock(self) -> None:
+        LOCK.release()
+
+    # Collection ------------------------------------------------------------------------------------------
+
+    def read_repositories(self) -> None:
+        """Reads all enabled repositories and the rpm database. RepoError, whatever fails."""
+        if self._fault is not None:
+            raise RepoError(str(self._fault))
+        if self._base is None or self._conf is None or self._collector is not None:
+            raise RepoError("The repositories can be read once only")
+        # Tens of thousands of objects are made from here on, and none of them is garbage.
+        gc.disable()
+        try:
+            for repo in self._base.repos.values():
+                (repo.enable if self.repositories.repos[repo.id].enabled else repo.disable)()
+            with reported_as(RepoError):
+                self._base.load_everything()
+        except BaseException:
+            self.end_bulk()
+            raise
+        self._details = PackageDetails(self._base)
+        self._collector = Collector(self._base, self._details)
+
+    def end_bulk(self) -> None:
+        """Lets Python's garbage collector work again."""
+        gc.enable()
+
+    def updates(self) -> Sequence[Any]:
+        return self.collector.updates()
+
+    def everything(self) -> PackageLists:
+        return self.collector.everything()
+
+    def read_groups(self) -> None:
+        """GroupsError when there are none."""
+        self._comps = None
+        self._comps = read_groups(self.base)
+
+    def groups(self) -> List[Group]:
+        self.end_bulk()
+        return groups_of(self._comps, self.collector.installed_names)
+
+    # Extra data ------------------------------------------------------------------------------------------
+
+    def load_file_lists(self) -> None:
+        """They came with the repositories; only the progress of it is still owed."""
+        report_reading(list(self.base.repos.iter_enabled()))
+
+    def load_changelogs(self) -> None:
+        if self._details is None or self._conf is None:
+            raise YumBaseError(_NOT_READ)
+        self._details.load_changelogs(self._conf, self.repositories.states())
+
+    # What an apply needs ---------------------------------------------------------------------------------
+
+    @property
+    def base(self) -> Base:
+        """The Base on which the table's packages rest. YumBaseError before the repositories are read."""
+        if self._base is None or self._collector is None:
+            raise YumBaseError(_NOT_READ)
+        return self._base
+
+    @property
+    def collector(self) -> Collector:
+        if self._collector is None:
+            raise YumBaseError(_NOT_READ)
+        return self._collector
+
+    def new_base(self) -> Base:
+        """A second Base on the same configuration and repositories, nothing loaded yet."""
+        if self._conf is None:
+            raise YumBaseError(_NOT_READ)
+        return open_base(self._conf, self.repositories.states(), progress=False)
+
+    @property
+    def cache_directory(self) -> Optional[str]:
+        return None if self._conf is None else self._conf.cachedir
+
+    # End -------------------------------------------------------------------------------------------------
+
+    def close(self) -> None:
+        """Gives up memory and files; the lock stays. Packages still tell what their sack knows.
+
+        Never raises: there is nobody left to tell. A second call does nothing.
+        """
+        self.end_bulk()
+        details, self._details = self._details, None
+        base, self._base = self._base, None
+        self._collector = None
+        self._comps = None
+        for closable in (details, base):
+            if closable is not None:
+                try:
+                    with reported_as(YumBaseError):
+                        closable.close()
+                except YumBaseError as error:
+                    host.errorlog(host.LEVEL_NOTICE, str(error))

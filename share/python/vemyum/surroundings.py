@@ -1,0 +1,72 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""The modules that the engine looks up, and the loading of everything that will be needed later."""
+
+from __future__ import annotations
+
+import builtins
+import importlib
+import sys
+import types
+
+import dnf.const
+
+from . import errors
+
+_NEEDED_LATER = (
+    "bdb",
+    "datetime",
+    "encodings.ascii",
+    "encodings.idna",
+    "encodings.latin_1",
+    "encodings.unicode_escape",
+    "encodings.utf_16",
+    "encodings.utf_8",
+    "encodings.utf_8_sig",
+    "linecache",
+    "locale",
+    "stringprep",
+    "tempfile",
+    "tokenize",
+    "traceback",
+    "unicodedata",
+    "_strptime",
+    "dnf.cli.commands.clean",
+    "dnf.crypto",
+    "dnf.db.group",
+    "dnf.db.history",
+    "dnf.drpm",
+    "dnf.module.module_base",
+    "dnf.persistor",
+    "dnf.rpm.miscutils",
+    "dnf.rpm.transaction",
+    "dnf.yum.misc",
+    "dnf.yum.rpmtrans",
+    "libdnf.transaction",
+)
+
+
+def make_yum_module() -> types.ModuleType:
+    """The module `yum` with its submodule `Errors`, put into sys.modules; `exceptions` beside it."""
+    yum = types.ModuleType("yum", "The package library's version and exceptions, under yum's names.")
+    yum.__dict__["__version__"] = dnf.const.VERSION
+    yum_errors = types.ModuleType("yum.Errors", "The exceptions that the engine expects.")
+    for name in ("YumBaseError", "RepoError", "LockError", "GroupsError"):
+        setattr(yum_errors, name, getattr(errors, name))
+    setattr(yum, "Errors", yum_errors)
+    sys.modules["yum"] = yum
+    sys.modules["yum.Errors"] = yum_errors
+    sys.modules["exceptions"] = builtins
+    return yum
+
+
+def load_needed_later() -> None:
+    """Imports what is otherwise imported at first use.
+
+    While rpm works on another root it changes the root directory of the whole process, and nothing can
+    be imported then. Modules that this system lacks are passed over.
+    """
+    for name in _NEEDED_LATER:
+        try:
+            importlib.import_module(name)
+        except ImportError:
+            continue

@@ -1,0 +1,74 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""What dnf itself says about an estate, independent of the program's own helper script."""
+
+from __future__ import annotations
+
+import json
+import os
+import subprocess
+from typing import Any, Optional, Sequence
+
+from rpmestate import Estate
+
+# In a process of its own: libdnf keeps rpm's macros and its logs for the life of a process.
+PROGRAM = """
+import json, sys
+import dnf, dnf.rpm
+root, wishes = sys.argv[1], sys.argv[2:]
+conf = dnf.conf.Conf()
+conf.installroot = root
+conf.config_file_path = root + "/etc/yum.conf"
+conf.read(conf.config_file_path)
+conf.reposdir = [root + "/etc/yum.repos.d"]
+for option in ("cachedir", "logdir", "persistdir"):
+    conf.prepend_installroot(option)
+conf.substitutions["releasever"] = dnf.rpm.detect_releasever(root) or ""
+dnf.util.ensure_dir(conf.logdir)
+base = dnf.Base(conf)
+base.read_all_repos()
+base.fill_sack()
+base.read_comps(arch_filter=True)
+query = base.sack.query()
+installed = query.installed()
+names = {package.name for package in installed}
+available = query.available().filter(latest_per_arch=True, arch=base.sack.list_arches())
+text = lambda packages: sorted(str(package) for package in packages)
+report = {
+    "installed": text(installed),
+    "upgrades": text(query.upgrades().latest()),
+    "obsoleters": text(query.available().filter(obsoletes=installed)),
+    "available": text(package for package in available if package.name not in names),
+    "arches": sorted({package.arch for package in query}),
+    "suites": sorted({package.name for package in query if package.group == "Suite"}),
+    "groups": {group.name: group.visible for group in base.comps.groups},
+    "repositories": {repo.id: [repo.name, repo.enabled] for repo in base.repos.values()},
+    "packagers": sorted({package.packager for package in query if package.packager}),
+    "sizes": {package.name: package.size for package in installed},
+}
+if wishes:
+    for wish in wishes:
+        base.install(wish)
+    try:
+        base.resolve()
+        report["resolved"] = text(base.transaction.install_set)
+    except dnf.exceptions.DepsolveError as error:
+        report["problem"] = str(error)
+print(json.dumps(report))
+"""
+
+
+def dnf_report(estate: Estate, home: Optional[str] = None, install: Sequence[str] = ()) -> dict[str, Any]:
+    """Lists of the estate as dnf sees them under a HOME (default: the present one).
+
+    With names to `install`, "resolved" is what would go in, or "problem" says why it can't.
+    """
+    environment = dict(os.environ) if home is None else {**os.environ, "HOME": home}
+    done = subprocess.run(
+        ["/usr/bin/python3", "-c", PROGRAM, str(estate.root), *install],
+        env=environment,
+        check=True,
+        stdout=subprocess.PIPE,
+        encoding="utf-8",
+    )
+    report: dict[str, Any] = json.loads(done.stdout)
+    return report
