@@ -1,0 +1,279 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+// The engine's life: construction, the start of the interpreter and the helper script, the way one job runs
+// on a worker, the reset between collections, and the end. Also access to the rows and the log.
+#include "bridge/PythonApi.h"
+
+#include "engine/YumIO.h"
+
+#include "base/Application.h"
+#include "base/Share.h"
+#include "bridge/YumIOC.h"
+#include "engine/WorkThreads.h"
+#include "services/YumIODialogs.h"
+
+#include <QEventLoop>
+#include <QFile>
+#include <csignal>
+#include <cstdio>
+#include <memory>
+#include <utility>
+
+YumIO::EntryKey::EntryKey(bool isGroup, QString keyName)
+    : group(isGroup),
+      name(std::move(keyName))
+{
+}
+
+size_t qHash(YumIO::EntryKey const& key, size_t seed) noexcept
+{
+    return static_cast<unsigned int>(qHash(key.name, seed)) * 2U + (key.group ? 1U : 0U);
+}
+
+YumIO::YumIO() = default;
+
+YumIO::~YumIO()
+{
+    {
+        PyGILStateWrapper const lock(initialized);
+        if (initialized) {
+            py("import sys\nsys.stdout = sys.__stdout__\nsys.stderr = sys.__stderr__\n");
+        }
+        if (locked) {
+            PyObject* const lockError = pyLookup("yum.Errors.LockError");
+            pyExceptStart();
+            pyExceptExpect(lockError);
+            PyRef const result = pyMethodCall(yumIO.get(), "unlock", "()");
+            if (pyExceptMatches(result.get(), lockError)) {
+                pythonException(tr("Unable to release yum lock"));
+            }
+            pyExceptClear();
+        }
+        dropEntries();
+        repos.reset();
+        yumIO.reset();
+        pyYumIOClass.reset();
+    }
+    delete ownDialogs;
+}
+
+void YumIO::setup(QWidget* dialogParent, HProgressBar* total, HProgressBar* item)
+{
+    delete ownDialogs;
+    ownDialogs = new YumIODialogs(dialogParent);
+    dialogs = ownDialogs;
+    parent = dialogParent;
+    totalBar = total;
+    itemBar = item;
+}
+
+bool YumIO::initialize()
+{
+    Python::initialize();
+    PyGILStateWrapper const lock(initialized);
+    if (yumIO) {
+        return true;
+    }
+    auto const fail = [this](char const* report) {
+        if (initialized && PyErr_Occurred()) {
+            handleException();
+        }
+        error(report);
+        return false;
+    };
+    if (!initialized || !main_dict) {
+        return false;
+    }
+    YumIOC::initialize(this);
+
+    PyRef const argv = PyRef::steal(Py_BuildValue("[s,s]", program, "info"));
+    pyAssign("sys", "argv", argv.get());
+
+    PyRef const rpm = PyRef::steal(PyImport_ImportModule("rpm"));
+    if (!rpm) {
+        return fail("Internal error: cannot find python rpm module");
+    }
+    rpmDict = PyModule_GetDict(rpm.get());
+    if (!rpmDict) {
+        return fail("Internal error: cannot find python rpm dict");
+    }
+    setEnablePythonSIGINTHandler(false);
+
+    QByteArray const path = QFile::encodeName(Share::absolute(QStringLiteral("python/YumIO.py")));
+    std::unique_ptr<std::FILE, int (*)(std::FILE*)> script(std::fopen(path.constData(), "re"), &std::fclose);
+    if (!script) {
+        return fail("Internal error: unable to open YumIO.py");
+    }
+    // The script finds the modules beside it by its own path, which running an open file doesn't tell.
+    PyRef const file = PyRef::steal(PyUnicode_DecodeFSDefault(path.constData()));
+    if (file) {
+        pyAssignGlobal("__file__", file.get());
+    }
+    if (PyRun_SimpleFileExFlags(script.get(), "YumIO.py", 0, nullptr) == -1) {
+        return fail("Internal error: unable to execute YumIO.py");
+    }
+    script.reset();
+
+    pyYumIOClass = PyRef::borrow(PyDict_GetItemString(main_dict, "YumIO"));
+    if (!pyYumIOClass) {
+        return fail("Internal error: cannot find python YumIO");
+    }
+    PyObject* const systemExit = pyLookup("exceptions.SystemExit");
+    pyExceptStart();
+    pyExceptExpect(systemExit);
+    PyRef const none = PyRef::steal(PyTuple_New(0));
+    yumIO = PyRef::steal(PyObject_Call(pyYumIOClass.get(), none.get(), nullptr));
+    if (pyExceptMatches(yumIO.get(), systemExit)) {
+        pythonException(tr("Unable to initialize"));
+        PyErr_Clear();
+        return false;
+    }
+    if (!yumIO) {
+        return fail("Internal error: cannot create python yumIO");
+    }
+    return true;
+}
+
+void YumIO::clear()
+{
+    PyGILStateWrapper const lock(initialized);
+    if (!initialized) {
+        return;
+    }
+    pyMethodCall(yumIO.get(), "flush", "()");
+    dropEntries();
+    repos.reset();
+    yumIO.reset();
+    PyRef const none = PyRef::steal(PyTuple_New(0));
+    yumIO = PyRef::steal(PyObject_Call(pyYumIOClass.get(), none.get(), nullptr));
+    if (!yumIO && PyErr_Occurred()) {
+        handleException();
+        PyErr_Clear();
+    }
+}
+
+void YumIO::dropEntries()
+{
+    // After a failed collection the entries stand in the hash alone.
+    if (entries.isEmpty()) {
+        qDeleteAll(entryHash);
+    }
+    qDeleteAll(entries);
+    entries.clear();
+    entryHash.clear();
+}
+
+void YumIO::execWorkThread(QEventLoop& loop, QThread& thread)
+{
+    blocker.prepare();
+    thread.start(QThread::HighPriority);
+
+    // Only now, so that the worker has started with SIGCHLD open: from here on it alone can receive the
+    // signals of the children that a transaction forks.
+    sigset_t childSignal;
+    sigset_t oldMask;
+    sigemptyset(&childSignal);
+    sigaddset(&childSignal, SIGCHLD);
+    pthread_sigmask(SIG_BLOCK, &childSignal, &oldMask);
+    blocker.release();
+
+    loop.exec();
+    // Once the last window is closed, event loops end at once; but the worker needs this thread for its
+    // dialogs and signals until its job is done.
+    connect(&thread, &QThread::finished, &loop, &QEventLoop::quit);
+    while (!thread.isFinished()) {
+        loop.processEvents(QEventLoop::WaitForMoreEvents);
+    }
+    thread.wait();
+    loop.processEvents(QEventLoop::ExcludeUserInputEvents);
+    {
+        // Python sets signal handlers from its main thread only.
+        PyGILStateWrapper const lock(initialized);
+        if (initialized) {
+            setEnablePythonSIGINTHandler(false);
+        }
+    }
+    pthread_sigmask(SIG_SETMASK, &oldMask, nullptr);
+}
+
+bool YumIO::collect(QHash<QString, bool> const& repoStates)
+{
+    QEventLoop loop;
+    CollectThread thread(this, loop, repoStates);
+    execWorkThread(loop, thread);
+    return thread.result;
+}
+
+bool YumIO::collectFileLists()
+{
+    if (fileListsCollected) {
+        return true;
+    }
+    QEventLoop loop;
+    CollectFileListsThread thread(this, loop);
+    execWorkThread(loop, thread);
+    return thread.result;
+}
+
+bool YumIO::collectOtherData()
+{
+    if (otherDataCollected) {
+        return true;
+    }
+    QEventLoop loop;
+    CollectOtherDataThread thread(this, loop);
+    execWorkThread(loop, thread);
+    return thread.result;
+}
+
+bool YumIO::apply()
+{
+    QEventLoop loop;
+    ApplyThread thread(this, loop);
+    execWorkThread(loop, thread);
+    return thread.result;
+}
+
+QList<Package::Entry*>::const_iterator YumIO::begin() const
+{
+    return entries.constBegin();
+}
+
+QList<Package::Entry*>::const_iterator YumIO::end() const
+{
+    return entries.constEnd();
+}
+
+int YumIO::count() const
+{
+    return static_cast<int>(entries.size());
+}
+
+Package::Entry* YumIO::operator[](int row) const
+{
+    return entries.at(row);
+}
+
+Package::Entry* YumIO::findPackage(QString const& name) const
+{
+    return entryHash.value(EntryKey(false, name), nullptr);
+}
+
+Package::Entry* YumIO::findGroup(QString const& name) const
+{
+    return entryHash.value(EntryKey(true, name), nullptr);
+}
+
+void YumIO::log(Log::Kind kind, unsigned int level, QString const& text)
+{
+    logEntries.add(kind, level, text);
+}
+
+void YumIO::writeStdout(QString const& text)
+{
+    logEntries.addStream(text, Log::Output, 0, stdoutBuffer);
+}
+
+void YumIO::writeStderr(QString const& text)
+{
+    logEntries.addStream(text, Log::Error, 0, stderrBuffer);
+}

@@ -1,0 +1,400 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "bridge/PyRef.h"
+#include "bridge/Python.h"
+#include "bridge/YumIOHost.h"
+#include "engine/Package.h"
+#include "services/CaptureSink.h"
+#include "services/Log.h"
+
+#include <QHash>
+#include <QMutex>
+#include <QObject>
+#include <QSet>
+#include <QStringList>
+
+class HProgressBar;
+class Progress;
+class QEventLoop;
+class QThread;
+class QWidget;
+class YumIOCapturers;
+class YumIODialogs;
+
+/// The engine: the one object that talks to the package library, through the Python object that the helper
+/// script defines. The main window owns the only instance and calls it on the GUI thread. Long work runs as
+/// a job on a worker thread while the GUI thread spins a local event loop (`execWorkThread`); at most one
+/// job runs at a time, which the caller sees to. The `...Real` operations and everything that the script
+/// calls back run on the worker, with the interpreter lock held.
+///
+/// Nothing is thrown. A failure is reported (log and dialog) and answered by false, null or an empty text.
+class YumIO : public QObject, protected Python, public YumIOHost, public CaptureSink
+{
+    Q_OBJECT
+
+public:
+    /// The key of an entry: a group and a package of one name are different things.
+    struct EntryKey
+    {
+        EntryKey(bool isGroup, QString keyName);
+        bool operator==(EntryKey const& other) const = default;
+
+        bool group;
+        QString name;
+    };
+    using EntryHash = QHash<EntryKey, Package::Entry*>;
+
+    /// The step of loading one repository that a progress report belongs to.
+    enum RepoAct
+    {
+        ActMirrorList,
+        ActRepomd,
+        ActDownload,
+        ActConvert,
+        ActRead,
+        ActNone
+    };
+
+    /// Builds the members; no Python work is done before `initialize`.
+    YumIO();
+    /// Gives back the lock, releases every Python object and ends the interpreter. GUI thread.
+    ~YumIO() override;
+
+    /// Says where dialogs and progress are shown; must come before anything can report. Nothing is owned.
+    void setup(QWidget* dialogParent, HProgressBar* total, HProgressBar* item);
+
+    /// Starts Python, runs the helper script and builds its `YumIO` object. True when that object exists
+    /// (again true at a second call, which does nothing); false after a report. GUI thread.
+    bool initialize();
+
+    /// Drops all entries and replaces the script's object, so that the next collection starts afresh.
+    void clear();
+
+    /// Job: fills the list of entries. `repos` maps repository ids to whether this session uses them.
+    /// False after a report; the list is then empty.
+    bool collect(QHash<QString, bool> const& repos);
+    /// Job: loads file lists, or change logs, of the repositories' packages; true at once when that has
+    /// been done in this collection.
+    bool collectFileLists();
+    bool collectOtherData();
+    /// Job: applies all marks in one transaction. True when the user confirmed and the script's `apply`
+    /// ended without an expected exception; the caller must then rebuild. False: nothing to rebuild, marks
+    /// and table stay as they are.
+    bool apply();
+
+    /// Empties a cache of the package library. True when the script reports success. GUI thread.
+    bool cleanHeaders();
+    bool cleanPackages();
+    bool cleanXmlMetadata();
+    bool cleanPickledCache();
+    bool cleanAll();
+
+    // The rows of the table. The index is not checked.
+    QList<Package::Entry*>::const_iterator begin() const;
+    QList<Package::Entry*>::const_iterator end() const;
+    int count() const;
+    Package::Entry* operator[](int row) const;
+
+    // What can be told of an entry. These read its fields and are free of Python.
+    QString getName(Package::Entry const& entry) const;
+    QString getVerRel(Package::Entry const& entry) const;
+    QString getRepo(Package::Entry const& entry) const;
+    QString getArch(Package::Entry const& entry) const;
+    QString getSize(Package::Entry const& entry) const;
+    QString getSummary(Package::Entry const& entry) const;
+    QString getBuildTime(Package::Entry const& entry) const;
+    QString getState(Package::Entry const& entry) const;
+    QString getKind(Package::Entry const& entry) const;
+
+    // These ask Python anew at each call, on the calling thread; what can't be read is empty.
+    QString getDescription(Package::Entry const& entry);
+    QString getGroup(Package::Entry const& entry);
+    QString getVendor(Package::Entry const& entry);
+    QString getBuildHost(Package::Entry const& entry);
+    QString getBinaryRpm(Package::Entry const& entry);
+    QString getSourceRpm(Package::Entry const& entry);
+    QString getLicense(Package::Entry const& entry);
+    QString getPackager(Package::Entry const& entry);
+    QString getUrl(Package::Entry const& entry);
+    QString getInstallTime(Package::Entry const& entry);
+    QString getRelocations(Package::Entry const& entry);
+    QString getProvides(Package::Entry const& entry);
+    QString getRequires(Package::Entry const& entry);
+    QString getConflicts(Package::Entry const& entry);
+    QString getObsoletes(Package::Entry const& entry);
+    /// These two may run a job of their own, for a package that isn't installed.
+    QString getFiles(Package::Entry const& entry);
+    QString getChangeLog(Package::Entry const& entry);
+
+    // What a group holds: names, sorted, one a line.
+    QString getRequiredGroups(Package::Entry const& group);
+    QString getDefaultMetaPkgs(Package::Entry const& group);
+    QString getOptionalMetaPkgs(Package::Entry const& group);
+    QString getMandatoryPkgs(Package::Entry const& group);
+    QString getDefaultPkgs(Package::Entry const& group);
+    QString getOptionalPkgs(Package::Entry const& group);
+    QString getConditionalPkgs(Package::Entry const& group);
+
+    /// The package library's version as it names itself; empty when it doesn't. Needs the interpreter lock
+    /// at the first call.
+    QString yumVersionStr();
+    /// major * 10000 + minor * 100 + patch; 0 without a version.
+    long yumVersion();
+    bool hasDistribGroups(); ///< each group is an object of its own: 2.5.0 and later
+    bool hasTransTest();     ///< a separate test transaction reports progress: before 3.2.3
+    bool hasPickledCache();  ///< there are pickled caches to clean: before 2.9.2
+    bool usesSqlite();
+    bool usesPresto();
+
+    /// A size in bytes for people: "5.0b", "1.0Kb".
+    static QString bytesFormat(unsigned long long bytes);
+    /// Seconds since 1970 as "Thu Jan 01 1970".
+    static QString dateFormat(long long time);
+    /// Seconds since 1970 in the 24 characters of ctime(3), local time.
+    static QString timeFormat(long long time);
+
+    /// Files `text` in the log, a record a line. Any thread.
+    void log(Log::Kind kind, unsigned int level, QString const& text);
+    void writeStdout(QString const& text) override;
+    void writeStderr(QString const& text) override;
+
+    /// Log the text and show it in a box; the calling thread waits for the user.
+    void error(QString const& text) override;
+    void warning(QString const& text);
+    void error(char const* message) override;
+    void warning(char const* message) override;
+
+    Log::EntryList logEntries;       ///< everything that was said since the program's start
+    bool fileListsCollected = false; ///< the file lists of the repositories are loaded
+    bool otherDataCollected = false; ///< the same for change logs
+
+Q_SIGNALS:
+    /// A job has loaded file lists or change logs. Emitted on the worker.
+    void collectedExtraData();
+
+protected:
+    /// The start gate of a worker: nothing of a transaction may begin before the GUI thread has blocked
+    /// SIGCHLD.
+    class Blocker
+    {
+    public:
+        void prepare() { mutex.lock(); }
+        void release() { mutex.unlock(); }
+        void block()
+        {
+            mutex.lock();
+            mutex.unlock();
+        }
+
+    private:
+        QMutex mutex;
+    };
+
+    /// What lives for one apply; a new apply starts from a new value.
+    struct ApplyRun
+    {
+        QString transactionText;                ///< the text of the confirmation dialog
+        bool applyConfirmed = false;            ///< the user accepted; also the apply's result
+        unsigned long long actsDone = 0;        ///< position in the present item's acts
+        QSet<QString> updateNames;              ///< packages that this transaction updates
+        unsigned int nPkgs = 0;                 ///< weight of the packages known to be in the transaction
+        unsigned int nHdrs = 0;                 ///< how many of them need their header downloaded
+        unsigned long long totalBytes = 0;      ///< sizes of what goes in
+        unsigned long long downloadBytes = 0;   ///< the part of totalBytes that isn't on disk yet
+        unsigned long long transactionActs = 0; ///< work units of the rpm transaction
+        unsigned long long lastEventPkg = 0;    ///< ordinal of the package last seen by tsEvent
+        bool deltaRebuild = false;              ///< the delta rebuild has begun
+        unsigned int pkgActs = 0;               ///< acts of one solver pass
+        unsigned int totalPkgActs = 0;          ///< acts of all solver passes so far
+        unsigned int downloadActs = 0;          ///< progress steps given to the download phase
+    };
+
+    /// The seven lists of a transaction and the two objects that hold them.
+    struct TransactionLists
+    {
+        PyRef tsInfo, lists;
+        PyRef updated, installed, removed, obsoleted, depupdated, depinstalled, depremoved;
+    };
+
+    friend class CollectThread;
+    friend class CollectFileListsThread;
+    friend class CollectOtherDataThread;
+    friend class ApplyThread;
+
+    // Jobs.
+    void execWorkThread(QEventLoop& loop, QThread& thread);
+    bool collectReal(QHash<QString, bool> const& repoStates);
+    bool collectFileListsReal();
+    bool collectOtherDataReal();
+    bool applyReal();
+
+    // Collection.
+    bool takeLock();
+    bool readRepositories(QHash<QString, bool> const& repoStates);
+    bool collectPackages();
+    bool collectGroupData();
+    void useRepos(PyObject* reposObject, QHash<QString, bool> const& repoStates);
+    QStringList collectRepos(PyObject* reposDict);
+    bool collectField(EntryHash& hash, PyObject* object, char const* field, Package::State state);
+    bool collectSet(EntryHash& hash, PyObject* iterable, Package::State state);
+    bool collectPkg(Package::Entry*& slot, Package::State state, PyRef package);
+    bool collectGroups(EntryHash& hash, PyObject* groupResult);
+    bool collectGroup(Package::Entry*& slot, PyObject* groupObject, QString const& name);
+    void dropEntries();
+    /// The entry of the package of this name; null when the table has none.
+    Package::Entry* findPackage(QString const& name) const;
+    Package::Entry* findGroup(QString const& name) const;
+
+    // Loading of repositories.
+    void collectProgress(QString const& name, bool newAct, RepoAct act, long long value, long long total);
+
+    // Extra data and details.
+    bool collectExtraDataReal(
+        bool YumIO::*collected, QString const& heading, QString const& contents, QString const& total,
+        char const* method, QString const& failure);
+    QString getPrco(PyObject* pkg, char const* hdrPrefix, char const* prcoKey);
+    QString headerCapabilities(PyObject* pkg, QByteArray const& prefix);
+    QString capabilityLine(PyObject* item);
+    QString getRpmTime(PyObject* pkg, char const* tag);
+    QString getRpmList(PyObject* pkg, char const* tag);
+    PyRef getRpmHdrValue(PyObject* pkg, char const* tag);
+    static QString makeSorted(QStringList& list);
+    static QString makeSortedUniq(QStringList& list);
+
+    // Groups. The lists answer sequences of names, null after a report.
+    QString getGroupGrps(Package::Entry const& group, char const* key);
+    QString getGroupPkgs(Package::Entry const& group, char const* oldKey, char const* newKey);
+    PyRef getGroupItem_22(Package::Entry const& group, char const* key);
+    PyRef getGroupItem_25(Package::Entry const& group, char const* key);
+    /// The items of a sequence, or the keys of a dictionary, as texts.
+    QStringList namesOf(PyObject* container);
+    bool upToDateGroup(Package::Entry const& group);
+    bool upToDateGroupGrps(Package::Entry const& group, char const* key);
+    bool upToDateGroupPkgs(Package::Entry const& group, char const* oldKey, char const* newKey);
+    PyRef joinPackageKeys(
+        Package::Entry const& group, QList<char const*> const& attributes, char const* lacking,
+        char const* improper);
+    PyRef requiredPkgs(Package::Entry const* group);
+    PyRef pkgTree(Package::Entry const* group);
+    PyRef allPkgs(Package::Entry const* group);
+
+    bool cleanCache(char const* method);
+
+    // Marks on groups become marks on packages; false stops the apply.
+    bool applyGroups();
+    static QString actionName(Package::Action action);
+    bool applyGrpUpdate(Package::Entry const* group);
+    bool applyGrpInstall(Package::Entry const* group);
+    bool applyGrpRemove(Package::Entry const* group);
+    bool applyGrpConflict(Package::Entry const* group, Package::Entry* entry);
+    void applyGrpLog(Package::Entry const* group, Package::Entry const* entry);
+    void applyGrpLogWas(Package::Entry const* group, Package::Entry const* entry);
+    void applyGrpLogNot(
+        Package::Entry const* group, Package::Entry const* entry, Package::Action action,
+        QString const& reason);
+
+    // Apply.
+    bool splitMarks(PyObject* installs, PyObject* updates, PyObject* removes);
+    bool addUpdatePair(Package::Entry const& entry, PyObject* updates);
+    void prepareTransactionProgress();
+    void dsTsInfo(QString const& line);
+    void dsTsNewPkg(QString const& name, unsigned int weight, bool withHeader);
+    void updateSolverActs();
+    bool makeLists(PyObject* holder, TransactionLists& result);
+    bool displayTransactionPkgs(QString const& label, PyObject* members);
+    bool displayTransactionPkgsRepo(QString const& label, PyObject* members);
+    bool displayTransactionPkgsObs(QString const& label, PyObject* members);
+    PyRef findRelation(PyObject* relatedto, char const* relation);
+    void noteTransactionPkgs(Package::Action action, PyObject* members);
+    QString pkgtupFormat(PyObject* pkgtup);
+    QString pkgtupRepoFormat(PyObject* pkgtup, QString const& repo);
+    void startPuttingIn(QString const& name, bool update, long long total);
+    void startTakingOut(QString const& name, bool update, long long total);
+    QString getLocalPkg(PyObject* pkg);
+    QString getLocalHdr(PyObject* pkg);
+    Package::Kind getPkgKind(PyObject* pkg);
+
+    // Conversions of Python values. Those ending in Dec take over the reference.
+    QString pyString(PyObject* object);
+    QString pyStringDec(PyRef object);
+    QString pyStringX(PyObject* object);
+    QString pyStringXDec(PyRef object);
+    QString pyMappingString(PyObject* map, char const* key);
+    long long pyTime(PyObject* object);
+    long long pyTimeDec(PyRef object);
+    PyObject* pyDictGetItem(PyObject* dict, QString const& key);
+    PyRef pyAttribute(PyObject* object, char const* name);
+    /// A text that a callback got: str, bytes and (where `none` allows it) None; else the report, and empty.
+    QString pyProgressText(PyObject* object, bool noneIsEmpty, char const* report);
+    QString simpleString(PyObject* pkg, char const* key);
+    unsigned long long sizeOf(PyObject* pkg);
+    long long buildTimeOf(PyObject* pkg);
+
+    // Reports of expected Python exceptions, with the error lines logged since the call began.
+    void pythonException(QString const& text);
+    void pythonExceptionV(QString const& text);
+    void reportException(QString const& value, QString const& text);
+    void pyExceptExpect(PyObject* type) override;
+    void pyExceptClear() override;
+    void exceptionExpected() override;
+    QByteArray lastReport() const override;
+
+    // Functions of the host module, called by the helper script.
+    PyObject* stdoutWrite(PyObject* self, PyObject* args) override;
+    PyObject* stderrWrite(PyObject* self, PyObject* args) override;
+    PyObject* log(PyObject* self, PyObject* args) override;
+    PyObject* errorlog(PyObject* self, PyObject* args) override;
+    PyObject* collectProgress(PyObject* self, PyObject* args) override;
+    PyObject* collectGrabMeterStart(PyObject* self, PyObject* args) override;
+    PyObject* collectGrabMeterUpdate(PyObject* self, PyObject* args) override;
+    PyObject* collectGrabMeterEnd(PyObject* self, PyObject* args) override;
+    PyObject* applyGrabMeterStart(PyObject* self, PyObject* args) override;
+    PyObject* applyGrabMeterUpdate(PyObject* self, PyObject* args) override;
+    PyObject* applyGrabMeterEnd(PyObject* self, PyObject* args) override;
+    PyObject* dsTsCheck(PyObject* self, PyObject* args) override;
+    PyObject* dsRestartLoop(PyObject* self, PyObject* args) override;
+    PyObject* userconfirm(PyObject* self, PyObject* args) override;
+    PyObject* reportDownloadSize(PyObject* self, PyObject* args) override;
+    PyObject* listTransaction(PyObject* self, PyObject* args) override;
+    PyObject* tsInitCallback(PyObject* self, PyObject* args) override;
+    PyObject* tsCallback(PyObject* self, PyObject* args) override;
+    PyObject* tsEvent(PyObject* self, PyObject* args) override;
+    PyObject* postTransactionOutput(PyObject* self, PyObject* args) override;
+
+    Package::EntryList entries;
+    EntryHash entryHash;                 ///< the same entries by key; while collecting, the only holder
+    qsizetype logMark = -1;              ///< first log line of the guarded call in progress; -1: none
+    QWidget* parent = nullptr;           ///< parent of every dialog
+    YumIODialogs* dialogs = nullptr;     ///< the dialog front in force
+    YumIOCapturers* capturers = nullptr; ///< the capture of descriptors 1 and 2; null outside an apply
+    PyObject* rpmDict = nullptr;         ///< dictionary of the module rpm, borrowed
+    PyRef pyYumIOClass;                  ///< the helper script's class
+    PyRef yumIO;                         ///< its one instance; set means "initialized"
+    PyRef repos;                         ///< the dictionary yumIO.repos.repos
+    bool locked = false;                 ///< this process holds the package library's lock
+    bool yumVersionKnown = false;
+    QString yumVersionText;
+    bool sqliteKnown = false, sqlite = false;
+    bool prestoKnown = false, presto = false;
+    QString stdoutBuffer, stderrBuffer; ///< the unfinished last line of each stream
+    Log::Kind stderrKind = Log::Error;
+    unsigned int stderrLevel = 0;
+    HProgressBar* totalBar = nullptr;
+    HProgressBar* itemBar = nullptr;
+    Progress* progress = nullptr;     ///< of the job in progress; null between jobs
+    QStringList repoNames;            ///< ids of the enabled repositories
+    QString repoContents;             ///< what is being loaded from the repositories, in words
+    int repoAct = 0;                  ///< position among the acts of loading
+    long long repoActTotal = 0;       ///< total of the act last started
+    QString repoActName;              ///< name of the act last started
+    QSet<QString> groupsBeingChecked; ///< groups on the way down to the one whose state is asked
+    ApplyRun run;
+    Blocker blocker;
+
+private:
+    YumIODialogs* ownDialogs = nullptr; ///< the front for use outside jobs
+    QString lastReportText;             ///< words of the last report, for the exception of a host function
+};
+
+size_t qHash(YumIO::EntryKey const& key, size_t seed = 0) noexcept;

@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+// Apply: the user's marks become three lists for one call of the helper script, during which everything
+// else is called back: solving, listing, the question to the user, downloads and the transaction.
+#include "bridge/PythonApi.h"
+
+#include "engine/YumIO.h"
+
+#include "services/Progress.h"
+#include "services/ProgressUser.h"
+#include "services/YumIOCapturersUser.h"
+#include "services/YumIODialogs.h"
+#include "services/YumIODialogsUser.h"
+
+#include <QDialog>
+#include <QFile>
+
+namespace
+{
+
+// Steps of the first run of the bars: preparing, then solving with its header downloads.
+constexpr Steps preparingSteps = 100;
+constexpr Steps solverSteps = 9900;
+/// A header weighs as much as ten packages of one solver pass.
+constexpr unsigned int actsPerHeader = 10;
+
+// Steps of the second run.
+constexpr unsigned long long downloadSteps = 24000;
+constexpr Steps deltaSteps = 2000;
+constexpr Steps testSteps = 2000;
+/// Preparing 100, getting ready 1000, the transaction 8000.
+constexpr Steps transactionSteps = 9100;
+
+} // namespace
+
+bool YumIO::applyReal()
+{
+    blocker.block();
+    ProgressUser const progressUser(progress, totalBar, itemBar);
+    YumIODialogsUser const dialogsUser(dialogs, parent);
+    log(Log::Action, 0, tr("Applying"));
+    PyGILStateWrapper const lock(true);
+    progress->startTotal(tr("Checking Dependencies: Total Progress"), preparingSteps + solverSteps);
+    progress->startItem(tr("Preparing"), preparingSteps, 1);
+
+    run = ApplyRun();
+    PyRef const installs = PyRef::steal(PyList_New(0));
+    PyRef const updates = PyRef::steal(PyList_New(0));
+    PyRef const removes = PyRef::steal(PyList_New(0));
+    for (Package::Entry* const entry : std::as_const(entries)) {
+        entry->applyAction = entry->action;
+        entry->applyCause = entry;
+    }
+    if (!applyGroups() || !splitMarks(installs.get(), updates.get(), removes.get())) {
+        return false;
+    }
+    run.pkgActs = run.nPkgs;
+    run.totalPkgActs = run.pkgActs;
+    progress->setupItemActs(solverSteps, run.totalPkgActs + run.nHdrs * actsPerHeader);
+
+    {
+        YumIOCapturersUser const capturersUser(capturers, this);
+        PyObject* const baseError = pyLookup("yum.Errors.YumBaseError");
+        pyExceptStart();
+        pyExceptExpect(baseError);
+        pyExceptExpect(PyExc_IOError);
+        PyRef const result =
+            pyMethodCall(yumIO.get(), "apply", "(O,O,O)", installs.get(), updates.get(), removes.get());
+        if (pyExceptMatches(result.get(), baseError)) {
+            pythonExceptionV(tr("Error applying changes"));
+            return false;
+        }
+        if (pyExceptMatches(result.get(), PyExc_IOError)) {
+            pythonException(tr("Error applying changes: Exiting on Broken Pipe"));
+            PyErr_Clear();
+            return false;
+        }
+        pyExceptClear();
+    }
+    pyMethodCall(yumIO.get(), "flush", "()");
+    progress->reset();
+    run.updateNames.clear();
+    return run.applyConfirmed;
+}
+
+bool YumIO::splitMarks(PyObject* installs, PyObject* updates, PyObject* removes)
+{
+    auto const append = [this](PyObject* list, Package::Entry const& entry, QString const& report) {
+        if (!entry.pyObject || PyList_Append(list, entry.pyObject.get()) != 0) {
+            PyErr_Clear();
+            error(report);
+        }
+    };
+    auto const countHeader = [this](Package::Entry const& entry) {
+        if (!QFile::exists(getLocalHdr(entry.pyObject.get()))) {
+            ++run.nHdrs;
+        }
+    };
+    for (Package::Entry* const entry : std::as_const(entries)) {
+        if (entry->kind == Package::Group) {
+            continue;
+        }
+        switch (entry->applyAction) {
+        case Package::Remove:
+            append(
+                removes, entry->installed ? *entry->installed : *entry,
+                tr("Unable to add package %1 to removes list").arg(entry->name));
+            ++run.nPkgs;
+            break;
+        case Package::Install:
+            append(installs, *entry, tr("Unable to add package %1 to installs list").arg(entry->name));
+            ++run.nPkgs;
+            countHeader(*entry);
+            break;
+        case Package::Update:
+            if (!addUpdatePair(*entry, updates)) {
+                return false;
+            }
+            run.nPkgs += 2;
+            countHeader(*entry);
+            break;
+        case Package::None:
+            break;
+        }
+    }
+    return true;
+}
+
+bool YumIO::addUpdatePair(Package::Entry const& entry, PyObject* updates)
+{
+    if (!entry.installed) {
+        error(tr("Unable to find installed version for package update %1").arg(entry.name));
+        return false;
+    }
+    PyRef const pair = PyRef::steal(PyList_New(0));
+    auto const append = [this, &entry](PyObject* list, PyObject* object, QString const& report) {
+        if (!object || PyList_Append(list, object) != 0) {
+            PyErr_Clear();
+            error(report.arg(entry.name));
+        }
+    };
+    append(pair.get(), entry.pyObject.get(), tr("Unable to add new package to pair for updated package %1"));
+    append(
+        pair.get(), entry.installed->pyObject.get(),
+        tr("Unable to add old package to pair for updated package %1"));
+    append(updates, pair.get(), tr("Unable to add package %1 to updates list"));
+    return true;
+}
+
+PyObject* YumIO::userconfirm(PyObject*, PyObject*)
+{
+    if (!progress || !dialogs) {
+        return PyLong_FromLong(0);
+    }
+    progress->endItemActs();
+    progress->reset();
+    run.applyConfirmed = dialogs->confirm(tr("Apply"), run.transactionText) == QDialog::Accepted;
+    log(Log::Action, 0, run.applyConfirmed ? tr("Applying: OK") : tr("Not Applying: Canceled"));
+    if (run.applyConfirmed) {
+        prepareTransactionProgress();
+    }
+    return PyLong_FromLong(run.applyConfirmed ? 1 : 0);
+}
+
+void YumIO::prepareTransactionProgress()
+{
+    run.downloadActs = run.totalBytes == 0
+                           ? 0
+                           : static_cast<unsigned int>(run.downloadBytes * downloadSteps / run.totalBytes);
+    Steps const total = run.downloadActs + (usesPresto() ? deltaSteps : 0) +
+                        (hasTransTest() ? testSteps : 0) + transactionSteps;
+    progress->startTotal(tr("Running Transaction: Total Progress"), total);
+    progress->startItem(tr("Preparing"), preparingSteps, 1);
+    progress->setupItemActs(run.downloadActs, run.downloadBytes);
+}

@@ -1,0 +1,373 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+// Collection: the job that fills the table. It takes the lock, has the repositories read, and merges
+// updatable, installed and available packages and groups into one entry per name.
+#include "bridge/PythonApi.h"
+
+#include "engine/YumIO.h"
+
+#include "services/Progress.h"
+#include "services/ProgressUser.h"
+#include "services/YumIODialogs.h"
+#include "services/YumIODialogsUser.h"
+
+#include <memory>
+#include <utility>
+
+namespace
+{
+
+// Steps of the total bar. Only the reading of repositories moves the bars inside an item.
+constexpr Steps preparingSteps = 100;
+constexpr Steps setupSteps = 900;
+constexpr Steps repositorySteps = 14000;
+constexpr Steps updatesSteps = 4000;
+constexpr Steps packagesSteps = 4000;
+constexpr Steps groupsSteps = 1000;
+constexpr Steps collectionSteps =
+    preparingSteps + setupSteps + repositorySteps + updatesSteps + packagesSteps + groupsSteps;
+constexpr Steps actsPerRepository = 5;
+
+} // namespace
+
+bool YumIO::collectReal(QHash<QString, bool> const& repoStates)
+{
+    ProgressUser const progressUser(progress, totalBar, itemBar);
+    YumIODialogsUser const dialogsUser(dialogs, parent);
+    log(Log::Action, 0, tr("Initialization"));
+    PyGILStateWrapper const lock(true);
+    fileListsCollected = false;
+    otherDataCollected = false;
+    progress->startTotal(tr("Initializing: Total Progress"), collectionSteps);
+    progress->startItem(tr("Preparing"), preparingSteps, 1);
+
+    bool const collected =
+        takeLock() && readRepositories(repoStates) && collectPackages() && collectGroupData();
+    if (collected) {
+        entries.reserve(entryHash.size());
+        for (Package::Entry* const entry : std::as_const(entryHash)) {
+            entries.append(entry);
+        }
+    }
+    // An expected exception that was reported without being fetched must not meet the next call.
+    PyErr_Clear();
+    return collected;
+}
+
+bool YumIO::takeLock()
+{
+    if (locked) {
+        return true;
+    }
+    PyObject* const lockError = pyLookup("yum.Errors.LockError");
+    pyExceptStart();
+    pyExceptExpect(lockError);
+    PyRef const result = pyMethodCall(yumIO.get(), "lock", "()");
+    if (pyExceptMatches(result.get(), lockError)) {
+        pythonException(tr("Unable to obtain yum lock"));
+        return false;
+    }
+    pyExceptClear();
+    // Whatever else went wrong has been reported; without an answer there is no lock to rely on.
+    locked = bool(result);
+    return locked;
+}
+
+bool YumIO::readRepositories(QHash<QString, bool> const& repoStates)
+{
+    PyRef const reposObject = pyAttribute(yumIO.get(), "repos");
+    repos = pyAttribute(reposObject.get(), "repos");
+    if (!repos) {
+        error("Internal error: yumIO.repos.repos not evaluable");
+        return false;
+    }
+    if (!PyDict_Check(repos.get())) {
+        error("Internal error: yumIO.repos.repos not a dictionary");
+        return false;
+    }
+    useRepos(reposObject.get(), repoStates);
+    repoNames = collectRepos(repos.get());
+    repoContents = tr("contents");
+    repoAct = 0;
+    if (PyDict_Size(repos.get()) == 0) {
+        error(tr(
+            "No repositories are configured.\nUnder the Repositories menu, Edit Configuration can be used to "
+            "configure repositories."));
+        return false;
+    }
+    if (repoNames.isEmpty()) {
+        error(
+            tr("No repositories are enabled.\nUnder the Repositories menu, Edit Configuration can be used to "
+               "configure repositories."));
+        return false;
+    }
+
+    progress->startItem(tr("Reading repositories"), setupSteps, 1);
+    progress->setupItemActs(repositorySteps, actsPerRepository * static_cast<Steps>(repoNames.size()));
+    PyObject* const repoError = pyLookup("yum.Errors.RepoError");
+    PyObject* const debuggerQuit = pyLookup("bdb.BdbQuit");
+    pyExceptStart();
+    pyExceptExpect(repoError);
+    pyExceptExpect(debuggerQuit);
+    PyRef const result = pyMethodCall(yumIO.get(), "setupRepos", "()");
+    progress->endItemActs();
+    if (pyExceptMatches(result.get(), repoError) || pyExceptMatches(result.get(), debuggerQuit)) {
+        pythonExceptionV(tr("Unable to initialize"));
+        return false;
+    }
+    pyExceptClear();
+    return true;
+}
+
+bool YumIO::collectPackages()
+{
+    PyObject* const baseError = pyLookup("yum.Errors.YumBaseError");
+    PyObject* const debuggerQuit = pyLookup("bdb.BdbQuit");
+    // A guarded call of a method of the script's object: false after the report of an expected exception.
+    auto const call = [&](char const* method, QString const& report, PyRef& result) {
+        pyExceptStart();
+        pyExceptExpect(baseError);
+        pyExceptExpect(debuggerQuit);
+        result = pyMethodCall(yumIO.get(), method, "()");
+        if (pyExceptMatches(result.get(), baseError) || pyExceptMatches(result.get(), debuggerQuit)) {
+            pythonExceptionV(report);
+            return false;
+        }
+        pyExceptClear();
+        return true;
+    };
+
+    PyRef result;
+    progress->startItem(tr("Collecting updatable packages"), updatesSteps, 1);
+    if (!call("setupTs", tr("Unable to setup transaction"), result) ||
+        !call("collectUpdates", tr("Unable to collect updatable packages"), result)) {
+        return false;
+    }
+    if (!result) {
+        error("Internal error: execution of yumIO.collectUpdates failed");
+        return false;
+    }
+    if (!collectSet(entryHash, result.get(), Package::OutOfDate)) {
+        return false;
+    }
+
+    progress->startItem(tr("Collecting installed and available packages"), packagesSteps, 1);
+    if (!call("collectAll", tr("Unable to collect installed and available packages"), result)) {
+        return false;
+    }
+    if (!result) {
+        error("Internal error: execution of yumIO.collectAll failed");
+        return false;
+    }
+    return collectField(entryHash, result.get(), "installed", Package::UpToDate) &&
+           collectField(entryHash, result.get(), "available", Package::Available);
+}
+
+bool YumIO::collectGroupData()
+{
+    progress->startItem(tr("Collecting groups"), groupsSteps, 1);
+    PyObject* const groupsError = pyLookup("yum.Errors.GroupsError");
+    PyObject* const baseError = pyLookup("yum.Errors.YumBaseError");
+    PyObject* const debuggerQuit = pyLookup("bdb.BdbQuit");
+    pyExceptStart();
+    pyExceptExpect(groupsError);
+    pyExceptExpect(baseError);
+    pyExceptExpect(debuggerQuit);
+    PyRef const setup = pyMethodCall(yumIO.get(), "setupTsGroup", "()");
+    if (pyExceptMatches(setup.get(), groupsError) || pyExceptMatches(setup.get(), debuggerQuit)) {
+        PyRef const value = pyExceptValuef();
+        if (!value || !pyString(value.get()).contains(QLatin1String("No Groups Available"))) {
+            error("Internal error: execution of yumIO.setupTsGroup failed");
+            return false;
+        }
+    } else if (pyExceptMatches(setup.get(), baseError)) {
+        pythonExceptionV(tr("Unable to collect groups"));
+        return false;
+    }
+    pyExceptClear();
+
+    PyRef const groups = pyMethodCall(yumIO.get(), "collectGroupInfo", "()");
+    if (!groups) {
+        error("Internal error: execution of yumIO.collectGroupInfo failed");
+        return false;
+    }
+    return collectGroups(entryHash, groups.get());
+}
+
+void YumIO::useRepos(PyObject* reposObject, QHash<QString, bool> const& repoStates)
+{
+    PyObject* const repoError = pyLookup("yum.Errors.RepoError");
+    for (auto state = repoStates.constBegin(); state != repoStates.constEnd(); ++state) {
+        if (!pyDictGetItem(repos.get(), state.key())) {
+            continue;
+        }
+        pyExceptStart();
+        pyExceptExpect(repoError);
+        PyRef const result = pyMethodCall(
+            reposObject, state.value() ? "enableRepo" : "disableRepo", "(s)",
+            state.key().toUtf8().constData());
+        if (pyExceptMatches(result.get(), repoError)) {
+            PyRef const value = pyExceptValuef();
+            warning(tr("unable to setup repository %1:\n%2")
+                        .arg(state.key(), value ? pyString(value.get()) : QString()));
+        }
+        pyExceptClear();
+    }
+}
+
+QStringList YumIO::collectRepos(PyObject* reposDict)
+{
+    QStringList names;
+    PyObject* id = nullptr;
+    PyObject* repo = nullptr;
+    Py_ssize_t position = 0;
+    while (PyDict_Next(reposDict, &position, &id, &repo)) {
+        PyRef const enabled = pyAttribute(repo, "enabled");
+        if (enabled && PyLong_Check(enabled.get()) && PyObject_IsTrue(enabled.get()) == 1) {
+            names.append(pyString(id));
+        }
+    }
+    return names;
+}
+
+bool YumIO::collectField(EntryHash& hash, PyObject* object, char const* field, Package::State state)
+{
+    PyRef const packages = pyAttribute(object, field);
+    if (!packages) {
+        error(tr("Internal error: yumIO.collectAll.%1 not found").arg(QString::fromUtf8(field)));
+        return false;
+    }
+    return collectSet(hash, packages.get(), state);
+}
+
+bool YumIO::collectSet(EntryHash& hash, PyObject* iterable, Package::State state)
+{
+    PyRef const iterator = PyRef::steal(PyObject_GetIter(iterable));
+    if (!iterator) {
+        handleException();
+        return false;
+    }
+    while (PyRef package = PyRef::steal(PyIter_Next(iterator.get()))) {
+        Package::Entry*& slot = hash[EntryKey(false, pyStringDec(pyAttribute(package.get(), "name")))];
+        if (!slot) {
+            collectPkg(slot, state, std::move(package));
+        } else if (slot->state == Package::OutOfDate && state == Package::UpToDate) {
+            Package::Entry* last = slot;
+            while (last->installed) {
+                last = last->installed;
+            }
+            collectPkg(last->installed, state, std::move(package));
+        }
+    }
+    if (PyErr_Occurred()) {
+        handleException();
+        PyErr_Clear();
+        return false;
+    }
+    return true;
+}
+
+bool YumIO::collectPkg(Package::Entry*& slot, Package::State state, PyRef package)
+{
+    slot = std::make_unique<Package::Entry>().release();
+    Package::Entry& entry = *slot;
+    PyObject* const pkg = package.get();
+    entry.action = Package::None;
+    entry.state = state;
+    entry.kind = getPkgKind(pkg);
+    entry.name = pyStringDec(pyAttribute(pkg, "name"));
+    entry.verRel = pyStringDec(pyMethodCall(pkg, "printVer", "()"));
+    entry.repo = simpleString(pkg, "repoid");
+    entry.arch = pyStringDec(pyAttribute(pkg, "arch"));
+    entry.size = sizeOf(pkg);
+    entry.sizeText = bytesFormat(entry.size);
+    entry.summary = simpleString(pkg, "summary");
+    entry.buildTime = buildTimeOf(pkg);
+    entry.buildTimeText = timeFormat(entry.buildTime);
+    entry.pyObject = std::move(package);
+    return true;
+}
+
+bool YumIO::collectGroups(EntryHash& hash, PyObject* groupResult)
+{
+    bool const distribGroups = hasDistribGroups();
+    PyRef visible;
+    if (!distribGroups) {
+        visible = pyAttribute(groupResult, "visible_groups");
+        if (!visible) {
+            error("Internal error: groupInfo.visible_groups not evaluable");
+            return false;
+        }
+    }
+    PyRef const iterator = PyRef::steal(PyObject_GetIter(distribGroups ? groupResult : visible.get()));
+    if (!iterator) {
+        handleException();
+        return false;
+    }
+    while (PyRef const item = PyRef::steal(PyIter_Next(iterator.get()))) {
+        QString name;
+        if (distribGroups) {
+            PyRef const userVisible = pyAttribute(item.get(), "user_visible");
+            if (!userVisible || PyObject_IsTrue(userVisible.get()) != 1) {
+                PyErr_Clear();
+                continue;
+            }
+            PyRef const groupName = pyAttribute(item.get(), "name");
+            if (!groupName) {
+                error("Internal error: group without name");
+                return false;
+            }
+            name = pyString(groupName.get());
+        } else {
+            name = pyString(item.get());
+        }
+        EntryKey const key(true, name);
+        if (hash.contains(key)) {
+            continue;
+        }
+        Package::Entry* group = nullptr;
+        if (!collectGroup(group, distribGroups ? item.get() : groupResult, name)) {
+            return false;
+        }
+        hash.insert(key, group);
+    }
+    if (PyErr_Occurred()) {
+        handleException();
+        PyErr_Clear();
+        return false;
+    }
+    return true;
+}
+
+bool YumIO::collectGroup(Package::Entry*& slot, PyObject* groupObject, QString const& name)
+{
+    PyRef installed;
+    if (hasDistribGroups()) {
+        installed = pyAttribute(groupObject, "installed");
+        if (!installed) {
+            error("Internal error: cannot find group's installed flag");
+            return false;
+        }
+    } else {
+        PyRef const flags = pyAttribute(groupObject, "group_installed");
+        installed = PyRef::borrow(pyDictGetItem(flags.get(), name));
+        if (!installed) {
+            error("Internal error: cannot find groupInfo.group_installed['%s']");
+            return false;
+        }
+    }
+    slot = std::make_unique<Package::Entry>().release();
+    slot->action = Package::None;
+    slot->state = PyObject_IsTrue(installed.get()) == 1 ? Package::UpToDate : Package::Available;
+    slot->kind = Package::Group;
+    slot->name = name;
+    slot->pyObject = PyRef::borrow(groupObject);
+    if (slot->state == Package::UpToDate && !upToDateGroup(*slot)) {
+        slot->state = Package::OutOfDate;
+    }
+    return true;
+}
+
+Package::Kind YumIO::getPkgKind(PyObject* pkg)
+{
+    return simpleString(pkg, "group") == QLatin1String("Suite") ? Package::Suite : Package::Ordinary;
+}

@@ -1,0 +1,331 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+// Conversions: what the package library hands over changed its type from one release to the next, and the
+// differences end here. Also the program's only formats of sizes and times, and the version tests.
+#include "bridge/PythonApi.h"
+
+#include "engine/YumIO.h"
+
+#include <QRegularExpression>
+#include <array>
+#include <cerrno>
+#include <cstdlib>
+#include <ctime>
+#include <limits>
+#include <utility>
+
+namespace
+{
+
+bool isText(PyObject* object)
+{
+    return PyUnicode_Check(object) || PyBytes_Check(object);
+}
+
+/// The digits at the start of `text` as strtoull reads them, with errno as it leaves it.
+unsigned long long parseNumber(QString const& text)
+{
+    QByteArray const digits = text.toLatin1();
+    errno = 0;
+    return std::strtoull(digits.constData(), nullptr, 10);
+}
+
+/// An int as 64 bits. One out of range is cut to the nearest end, and leaves no exception behind.
+long long integerOf(PyObject* object)
+{
+    int overflow = 0;
+    long long const value = PyLong_AsLongLongAndOverflow(object, &overflow);
+    if (overflow) {
+        return overflow > 0 ? std::numeric_limits<long long>::max() : std::numeric_limits<long long>::min();
+    }
+    return value;
+}
+
+} // namespace
+
+QString YumIO::pyString(PyObject* object)
+{
+    if (!object) {
+        error("Internal error: pyString passed NULL python object\n");
+        return QString();
+    }
+    if (PyUnicode_Check(object)) {
+        Py_ssize_t length = 0;
+        if (char const* const text = PyUnicode_AsUTF8AndSize(object, &length)) {
+            return QString::fromUtf8(text, length);
+        }
+        // Lone surrogates stand for bytes that were no UTF-8; they become replacement characters.
+        PyErr_Clear();
+        PyRef const bytes = PyRef::steal(PyUnicode_AsEncodedString(object, "utf-8", "surrogateescape"));
+        if (bytes) {
+            return QString::fromUtf8(PyBytes_AS_STRING(bytes.get()), PyBytes_GET_SIZE(bytes.get()));
+        }
+        PyErr_Clear();
+        PyRef const replaced = PyRef::steal(PyUnicode_AsEncodedString(object, "utf-8", "replace"));
+        if (replaced) {
+            return QString::fromUtf8(PyBytes_AS_STRING(replaced.get()), PyBytes_GET_SIZE(replaced.get()));
+        }
+        handleException();
+        return QString();
+    }
+    if (PyBytes_Check(object)) {
+        return QString::fromUtf8(PyBytes_AS_STRING(object), PyBytes_GET_SIZE(object));
+    }
+    if (object != Py_None) {
+        warning("Internal error: YumIO::pyString did not understand type");
+    }
+    return QString();
+}
+
+QString YumIO::pyStringDec(PyRef object)
+{
+    return pyString(object.get());
+}
+
+QString YumIO::pyStringX(PyObject* object)
+{
+    if (object && isText(object)) {
+        return pyString(object);
+    }
+    if (object && PyList_Check(object)) {
+        if (PyList_GET_SIZE(object) != 0) {
+            warning("Internal error: YumIO::pyStringX did not understand non-empty list");
+        }
+        return QString();
+    }
+    warning("Internal error: YumIO::pyStringX did not understand type");
+    return QString();
+}
+
+QString YumIO::pyStringXDec(PyRef object)
+{
+    return pyStringX(object.get());
+}
+
+QString YumIO::pyMappingString(PyObject* map, char const* key)
+{
+    PyRef item = PyRef::steal(PyMapping_GetItemString(map, key));
+    if (!item) {
+        handleException();
+        return QString();
+    }
+    return pyStringDec(std::move(item));
+}
+
+long long YumIO::pyTime(PyObject* object)
+{
+    if (object && PyLong_Check(object)) {
+        return integerOf(object);
+    }
+    if (object && isText(object)) {
+        QString const text = pyString(object);
+        unsigned long long const time = parseNumber(text);
+        if (errno) {
+            warning(tr("Internal error: time not understood: %1").arg(text));
+        }
+        return static_cast<long long>(time);
+    }
+    warning("Internal error: time not understood");
+    return 0;
+}
+
+long long YumIO::pyTimeDec(PyRef object)
+{
+    return pyTime(object.get());
+}
+
+PyObject* YumIO::pyDictGetItem(PyObject* dict, QString const& key)
+{
+    if (!dict || !PyDict_Check(dict)) {
+        return nullptr;
+    }
+    return PyDict_GetItemString(dict, key.toUtf8().constData());
+}
+
+PyRef YumIO::pyAttribute(PyObject* object, char const* name)
+{
+    PyRef value = PyRef::steal(object ? PyObject_GetAttrString(object, name) : nullptr);
+    if (!value) {
+        PyErr_Clear();
+    }
+    return value;
+}
+
+QString YumIO::simpleString(PyObject* pkg, char const* key)
+{
+    PyGILStateWrapper const lock(true);
+    pyExceptStart();
+    pyExceptExpect(PyExc_KeyError);
+    PyRef value = pyMethodCall(pkg, "returnSimple", "(s)", key);
+    pyExceptClear();
+    if (!value || value.get() == Py_None) {
+        return QString();
+    }
+    QString text = pyStringXDec(std::move(value));
+    while (text.endsWith(QLatin1Char('\n'))) {
+        text.chop(1);
+    }
+    return text;
+}
+
+unsigned long long YumIO::sizeOf(PyObject* pkg)
+{
+    auto const number = [this](PyObject* object, unsigned long long& size) {
+        if (PyLong_Check(object)) {
+            size = static_cast<unsigned long long>(integerOf(object));
+            return true;
+        }
+        if (isText(object)) {
+            QString const text = pyString(object);
+            size = parseNumber(text);
+            if (errno) {
+                warning(tr("Internal error: package size not understood: %1").arg(text));
+            }
+            return true;
+        }
+        return false;
+    };
+
+    unsigned long long size = 0;
+    PyRef const attribute = pyAttribute(pkg, "size");
+    if (attribute && number(attribute.get(), size)) {
+        return size;
+    }
+    if (attribute && PyCallable_Check(attribute.get())) {
+        PyRef const result = pyMethodCall(pkg, "size", "()");
+        if (!result || !number(result.get(), size)) {
+            warning("Internal error: package size result not understood");
+        }
+        return size;
+    }
+    warning("Internal error: package size not understood");
+    return 0;
+}
+
+long long YumIO::buildTimeOf(PyObject* pkg)
+{
+    return pyTimeDec(pyMethodCall(pkg, "returnSimple", "(s)", "buildtime"));
+}
+
+QString YumIO::bytesFormat(unsigned long long bytes)
+{
+    struct Unit
+    {
+        unsigned int power; ///< the divisor is 2 to this power; the unit begins at 1000 of the one below
+        char const* name;
+    };
+    static constexpr std::array<Unit, 6> units{
+        {{60, QT_TR_NOOP("Eb")},
+         {50, QT_TR_NOOP("Pb")},
+         {40, QT_TR_NOOP("Tb")},
+         {30, QT_TR_NOOP("Gb")},
+         {20, QT_TR_NOOP("Mb")},
+         {10, QT_TR_NOOP("Kb")}}};
+
+    double value = static_cast<double>(bytes);
+    char const* name = QT_TR_NOOP("b");
+    for (Unit const& unit : units) {
+        if (bytes >= 1000ULL << (unit.power - 10)) {
+            value /= static_cast<double>(1ULL << unit.power);
+            name = unit.name;
+            break;
+        }
+    }
+    bool const oneDecimal = value > 0.0 && value < 9.95;
+    return QString::number(value, 'f', oneDecimal ? 1 : 0) + tr(name);
+}
+
+QString YumIO::timeFormat(long long time)
+{
+    std::time_t const seconds = static_cast<std::time_t>(time);
+    // ctime_r needs 26 bytes for years of four digits; longer years take more.
+    std::array<char, 128> buffer{};
+    if (!ctime_r(&seconds, buffer.data())) {
+        return QString();
+    }
+    QString text = QString::fromLatin1(buffer.data());
+    text.chop(1);
+    return text;
+}
+
+QString YumIO::dateFormat(long long time)
+{
+    // "Thu Jan  1 00:00:00 1970" without the nine characters of the time.
+    return timeFormat(time).remove(11, 9);
+}
+
+QString YumIO::yumVersionStr()
+{
+    if (!yumVersionKnown) {
+        PyGILStateWrapper const lock(true);
+        yumVersionKnown = true;
+        PyObject* version = pyValue("yum", "__version__");
+        if (!version) {
+            version = pyValue("cli", "__version__");
+        }
+        if (version) {
+            yumVersionText = pyString(version);
+        }
+    }
+    return yumVersionText;
+}
+
+long YumIO::yumVersion()
+{
+    QString const version = yumVersionStr();
+    QStringList const parts = version.split(QLatin1Char('.'));
+    static constexpr std::array<long, 3> multipliers{10000, 100, 1};
+    long number = 0;
+    bool understood = true;
+    for (qsizetype at = 0; at < parts.size() && at < qsizetype(multipliers.size()); ++at) {
+        number += static_cast<long>(parseNumber(parts.at(at))) * multipliers.at(std::size_t(at));
+        understood = understood && !errno;
+    }
+    if (!understood) {
+        warning(tr("Internal error: yum version not understood: %1").arg(version));
+    }
+    return number;
+}
+
+bool YumIO::hasDistribGroups()
+{
+    return yumVersion() >= 20500;
+}
+
+bool YumIO::hasTransTest()
+{
+    return yumVersion() < 30203;
+}
+
+bool YumIO::hasPickledCache()
+{
+    return yumVersion() < 20902;
+}
+
+bool YumIO::usesSqlite()
+{
+    if (!sqliteKnown) {
+        // May be asked in the middle of a guarded call, whose report is to keep its log lines.
+        qsizetype const mark = logMark;
+        pyExceptStart();
+        PyRef const answer = pyCall("usesSqlite", "()");
+        pyExceptClear();
+        logMark = mark;
+        sqlite = answer.get() == Py_True;
+        sqliteKnown = true;
+    }
+    return sqlite;
+}
+
+bool YumIO::usesPresto()
+{
+    if (!prestoKnown) {
+        qsizetype const mark = logMark;
+        pyExceptStart();
+        PyRef const answer = pyMethodCall(yumIO.get(), "usesPresto", "()");
+        pyExceptClear();
+        logMark = mark;
+        presto = answer.get() == Py_True;
+        prestoKnown = true;
+    }
+    return presto;
+}

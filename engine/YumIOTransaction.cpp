@@ -1,0 +1,299 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+// The running transaction: download meter, rpm's callback codes and the library's transaction events move
+// the second run of the bars and name each step in the log.
+#include "bridge/PythonApi.h"
+
+#include "engine/YumIO.h"
+
+#include "engine/BuffetUrl.h"
+#include "engine/TransactionWeight.h"
+#include "services/Progress.h"
+
+namespace
+{
+
+constexpr Steps deltaSteps = 2000;
+constexpr Steps getReadySteps = 1000;
+constexpr Steps testSteps = 1000;
+constexpr Steps runSteps = 8000;
+/// The test is worth this part of the transaction's work.
+constexpr unsigned long long testShare = 20;
+constexpr unsigned int actsPerHeader = 10;
+
+// Bits of rpm's rpmCallbackType.
+constexpr long instProgress = 0x001;
+constexpr long instStart = 0x002;
+constexpr long instOpenFile = 0x004;
+constexpr long instCloseFile = 0x008;
+constexpr long transProgress = 0x010;
+constexpr long transStart = 0x020;
+constexpr long transStop = 0x040;
+constexpr long uninstProgress = 0x080;
+constexpr long uninstStart = 0x100;
+constexpr long uninstStop = 0x200;
+constexpr long understoodCallbacks = instProgress | instStart | instOpenFile | instCloseFile | transProgress |
+                                     transStart | transStop | uninstProgress | uninstStart | uninstStop;
+
+// The yum library's transaction codes (yum.constants).
+constexpr long tsUpdate = 10;
+constexpr long tsInstall = 20;
+constexpr long tsTrueInstall = 30;
+constexpr long tsErase = 40;
+constexpr long tsObsoleted = 50;
+constexpr long tsObsoleting = 60;
+constexpr long tsAvailable = 70;
+constexpr long tsUpdated = 90;
+
+} // namespace
+
+PyObject* YumIO::applyGrabMeterStart(PyObject*, PyObject* args)
+{
+    PyObject* nameObject = nullptr;
+    PyObject* ignoredUrl = nullptr;
+    PyObject* ignoredBase = nullptr;
+    long long size = 0;
+    PyObject* textObject = nullptr;
+    if (!PyArg_ParseTuple(args, "OOOLO", &nameObject, &ignoredUrl, &ignoredBase, &size, &textObject)) {
+        return nullptr;
+    }
+    if (!progress) {
+        Py_RETURN_NONE;
+    }
+    QString const text = pyProgressText(textObject, true, "Internal error: unexpected progress text");
+    if (text == QLatin1String("<delta rebuild>")) {
+        progress->endItemActs();
+        run.deltaRebuild = true;
+        progress->startItem(tr("Finishing RPM rebuild from deltas"), deltaSteps, static_cast<Steps>(size));
+        Py_RETURN_NONE;
+    }
+    QString name = pyProgressText(nameObject, false, "Internal error: unexpected progress name");
+    name.remove(0, name.lastIndexOf(QLatin1Char('/')) + 1);
+    removeBuffetCredentials(name);
+    if (name.endsWith(QLatin1String(".rpm")) || name.endsWith(QLatin1String(".hdr"))) {
+        name.chop(4);
+    }
+    QString shown;
+    if (run.applyConfirmed) {
+        shown = tr("Downloading %1").arg(name);
+        run.actsDone += weightOfSize(static_cast<unsigned long long>(qMax(size, 0LL)));
+    } else {
+        // Before the user's answer only headers are fetched, while solving.
+        shown = tr("Downloading %1 header").arg(name);
+        run.actsDone += actsPerHeader;
+    }
+    progress->startItemAct(shown, static_cast<Steps>(size), run.actsDone);
+    Py_RETURN_NONE;
+}
+
+PyObject* YumIO::applyGrabMeterUpdate(PyObject*, PyObject* args)
+{
+    long long bytes = 0;
+    if (!PyArg_ParseTuple(args, "L", &bytes)) {
+        return nullptr;
+    }
+    if (progress) {
+        progress->setItemValue(static_cast<Steps>(bytes));
+    }
+    Py_RETURN_NONE;
+}
+
+PyObject* YumIO::applyGrabMeterEnd(PyObject*, PyObject* args)
+{
+    long long ignored = 0;
+    if (!PyArg_ParseTuple(args, "L", &ignored)) {
+        return nullptr;
+    }
+    Py_RETURN_NONE;
+}
+
+PyObject* YumIO::tsInitCallback(PyObject*, PyObject* args)
+{
+    long real = 0;
+    if (!PyArg_ParseTuple(args, "l", &real)) {
+        return nullptr;
+    }
+    if (!progress) {
+        Py_RETURN_NONE;
+    }
+    run.actsDone = 0;
+    Steps const testActs = run.transactionActs / testShare;
+    if (real) {
+        if (hasTransTest()) {
+            progress->endItemActs();
+        }
+        progress->startItem(tr("Preparing to Run Transaction"), getReadySteps, 1);
+        progress->setupItemActs(runSteps, run.transactionActs + testActs);
+        Py_RETURN_NONE;
+    }
+    if (!run.deltaRebuild) {
+        progress->endItemActs();
+        if (usesPresto()) {
+            // The steps that were set aside for a rebuild which never came are spent at a stroke.
+            progress->startItem(tr("Finishing RPM rebuild from deltas"), deltaSteps, 1);
+            progress->setItemValue(1);
+        }
+    }
+    if (hasTransTest()) {
+        progress->startItem(tr("Preparing to Test Transaction"), getReadySteps, 1);
+        progress->setupItemActs(testSteps, testActs);
+    }
+    Py_RETURN_NONE;
+}
+
+void YumIO::startPuttingIn(QString const& name, bool update, long long total)
+{
+    QString const text = update ? tr("Updating %1").arg(name) : tr("Installing %1").arg(name);
+    if (Package::Entry const* const entry = findPackage(name)) {
+        run.actsDone += weightOfInstalling(entry->size);
+    }
+    log(Log::Info, 1, text);
+    progress->startItemAct(text, static_cast<Steps>(total), run.actsDone);
+}
+
+void YumIO::startTakingOut(QString const& name, bool update, long long total)
+{
+    QString const text = update ? tr("Completing update for: %1").arg(name) : tr("Removing %1").arg(name);
+    if (Package::Entry const* const entry = findPackage(name)) {
+        if (!update) {
+            run.actsDone += weightOfSize(entry->size);
+        } else if (entry->installed) {
+            run.actsDone += weightOfCleanup(entry->installed->size);
+        }
+    }
+    progress->startItemAct(text, static_cast<Steps>(total), run.actsDone);
+}
+
+PyObject* YumIO::tsCallback(PyObject*, PyObject* args)
+{
+    long what = 0;
+    long long amount = 0;
+    long long total = 0;
+    PyObject* key = nullptr;
+    PyObject* ignored = nullptr;
+    if (!PyArg_ParseTuple(args, "lLLOO", &what, &amount, &total, &key, &ignored)) {
+        return nullptr;
+    }
+    if (!progress) {
+        Py_RETURN_NONE;
+    }
+    if (what & transStart) {
+        run.actsDone += run.transactionActs / testShare;
+        progress->startItemAct(tr("Transaction Test"), static_cast<Steps>(total), run.actsDone);
+    }
+    if (what & transProgress) {
+        progress->setItemValue(static_cast<Steps>(amount));
+    }
+    if (what & transStop) {
+        progress->setItemValue(static_cast<Steps>(total));
+    }
+    if (what & instStart) {
+        PyRef const header = PyRef::steal(PySequence_GetItem(key, 0));
+        if (!header) {
+            return nullptr;
+        }
+        PyRef nameObject = PyRef::steal(PyMapping_GetItemString(header.get(), "name"));
+        if (!nameObject) {
+            return nullptr;
+        }
+        QString const name = pyStringDec(std::move(nameObject));
+        startPuttingIn(name, run.updateNames.contains(name), total);
+    }
+    if (what & instProgress) {
+        progress->setItemValue(static_cast<Steps>(amount));
+    }
+    if (what & uninstStart) {
+        QString const name = pyString(key);
+        startTakingOut(name, run.updateNames.contains(name), total);
+    }
+    if (what & uninstProgress) {
+        progress->setItemValue(static_cast<Steps>(amount));
+    }
+    if (what & uninstStop) {
+        progress->setItemValue(static_cast<Steps>(total));
+    }
+    if (!(what & understoodCallbacks)) {
+        warning(tr("Internal error: YumIO::tsCallback what=%1 not understood; ignoring").arg(what));
+    }
+    Py_RETURN_NONE;
+}
+
+PyObject* YumIO::tsEvent(PyObject*, PyObject* args)
+{
+    PyObject* package = nullptr;
+    long action = 0;
+    long long elementValue = 0;
+    long long elementTotal = 0;
+    long ordinal = 0;
+    long ignored = 0;
+    if (!PyArg_ParseTuple(
+            args, "OlLLll", &package, &action, &elementValue, &elementTotal, &ordinal, &ignored)) {
+        return nullptr;
+    }
+    if (!progress) {
+        Py_RETURN_NONE;
+    }
+    // Reported for every chunk of every file: a package is new when its ordinal is.
+    bool const isNew = static_cast<unsigned long long>(ordinal) != run.lastEventPkg;
+    switch (action) {
+    case tsUpdate:
+    case tsObsoleting:
+    case tsInstall:
+    case tsTrueInstall:
+        if (isNew) {
+            startPuttingIn(
+                pyStringDec(pyAttribute(package, "name")), action == tsUpdate || action == tsObsoleting,
+                elementTotal);
+        }
+        break;
+    case tsErase:
+    case tsUpdated:
+    case tsObsoleted:
+        if (isNew) {
+            startTakingOut(pyString(package), action != tsErase, elementTotal);
+        }
+        break;
+    case tsAvailable:
+        Py_RETURN_NONE;
+    default:
+        warning(tr("Internal error: YumIO::tsEvent action=%1 not understood; ignoring").arg(action));
+        Py_RETURN_NONE;
+    }
+    run.lastEventPkg = static_cast<unsigned long long>(ordinal);
+    progress->setItemValue(static_cast<Steps>(elementValue));
+    Py_RETURN_NONE;
+}
+
+PyObject* YumIO::postTransactionOutput(PyObject*, PyObject* args)
+{
+    PyObject* holder = nullptr;
+    if (!PyArg_ParseTuple(args, "O", &holder)) {
+        return nullptr;
+    }
+    if (progress) {
+        progress->endItemActs();
+    }
+    TransactionLists lists;
+    if (!makeLists(holder, lists)) {
+        return nullptr;
+    }
+    bool const shown = displayTransactionPkgs(tr("Removed"), lists.removed.get()) &&
+                       displayTransactionPkgs(tr("Dependency Removed"), lists.depremoved.get()) &&
+                       displayTransactionPkgs(tr("Installed"), lists.installed.get()) &&
+                       displayTransactionPkgs(tr("Dependency Installed"), lists.depinstalled.get()) &&
+                       displayTransactionPkgs(tr("Updated"), lists.updated.get()) &&
+                       displayTransactionPkgs(tr("Dependency Updated"), lists.depupdated.get()) &&
+                       displayTransactionPkgs(tr("Obsoleted"), lists.obsoleted.get());
+    return shown ? PyUnicode_FromString("") : nullptr;
+}
+
+QString YumIO::getLocalPkg(PyObject* pkg)
+{
+    PyRef const path = pyMethodCall(pkg, "localPkg", "()");
+    return path && path.get() != Py_None ? pyString(path.get()) : QString();
+}
+
+QString YumIO::getLocalHdr(PyObject* pkg)
+{
+    PyRef const path = pyMethodCall(pkg, "localHdr", "()");
+    return path && path.get() != Py_None ? pyString(path.get()) : QString();
+}

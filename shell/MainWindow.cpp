@@ -1,0 +1,360 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+// The main window's slots: start-up, rebuilds of the table, filter line, enabling of the controls, help.
+#include "shell/MainWindow.h"
+
+#include "bridge/Python.h"
+#include "engine/YumIO.h"
+#include "packagetable/PackageTableModel.h"
+#include "packagetable/PackageTableView.h"
+#include "repo/YumConfIO.h"
+#include "services/LogWindow.h"
+#include "widgets/HMenu.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QEventLoop>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
+#include <algorithm>
+#include <cstdio>
+#include <utility>
+
+MainWindow::~MainWindow()
+{
+    delete logWindow;
+    // The table reads the engine's rows, so it goes first.
+    delete tableArea;
+    delete yumIO;
+}
+
+void MainWindow::setVisible(bool visible)
+{
+    QMainWindow::setVisible(visible);
+    if (visible) {
+        QTimer::singleShot(0, this, &MainWindow::initialize);
+    }
+}
+
+void MainWindow::initialize()
+{
+    yumConfIO = new YumConfIO(yumRepoEnabledList, reposEnabled);
+    yumConfIO->setParent(this);
+    connect(yumConfIO, &YumConfIO::changed, this, &MainWindow::yumConfIOChanged);
+    model->setYumConfIO(yumConfIO);
+    if (logFlag) {
+        displayLog();
+    }
+    if (!yumIO->initialize()) {
+        quit();
+        return;
+    }
+    if (repoEditorFlag) {
+        model->reset();
+        setReady(true);
+        editRepositories(true);
+        return;
+    }
+    readConfiguration();
+    yumIO->collect(reposEnabled);
+    model->reset();
+    showTable();
+    setReady(true);
+    if (qEnvironmentVariableIsSet("VEM_BENCH")) {
+        // The end of what a start-up benchmark measures.
+        std::fprintf(stderr, "vem: ready %d rows\n", yumIO->count());
+        quit();
+    }
+}
+
+void MainWindow::readConfiguration()
+{
+    yumConfIO->read(this);
+}
+
+void MainWindow::showTable()
+{
+    tableArea->setVisible(true);
+    view->resizeColumnsToContents();
+}
+
+void MainWindow::setReady(bool ready)
+{
+    Python::PyGILStateWrapper const lock(ready);
+    programMenu->setEnabled(ready);
+    quitAction->setEnabled(ready);
+    repositoriesMenu->setEnabled(ready);
+    editRepositoriesAction->setEnabled(ready);
+    cacheMenu->setEnabled(ready);
+    cleanHeadersAction->setEnabled(ready);
+    cleanPackagesAction->setEnabled(ready);
+    cleanXmlMetadataAction->setEnabled(ready);
+    cleanPickledCacheAction->setEnabled(ready && yumIO->hasPickledCache());
+    cleanAllAction->setEnabled(ready);
+    tableArea->setEnabled(ready);
+    if (ready) {
+        QApplication::restoreOverrideCursor();
+    } else {
+        QApplication::setOverrideCursor(Qt::BusyCursor);
+    }
+    QEventLoop().processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+template <typename Step>
+void MainWindow::whileBusy(Step const& step)
+{
+    setReady(false);
+    step();
+    setReady(true);
+}
+
+void MainWindow::rebuild()
+{
+    yumIO->clear();
+    yumIO->collect(reposEnabled);
+    model->reset();
+}
+
+void MainWindow::resize()
+{
+    view->resizeColumnsToContents();
+}
+
+void MainWindow::refresh()
+{
+    whileBusy([this] { rebuild(); });
+}
+
+void MainWindow::reposChanged()
+{
+    whileBusy([this] {
+        readConfiguration();
+        rebuild();
+        if (tableArea->isHidden()) {
+            showTable();
+        }
+    });
+}
+
+void MainWindow::yumConfIOChanged()
+{
+    QString const directory = yumConfIO->cachedir;
+    cleanHeadersAction->setToolTip(tr("Clean RPM package headers cached locally in %1").arg(directory));
+    cleanPackagesAction->setToolTip(
+        tr("Clean RPM packages cached locally in %1\n(useful for recovering disk space)").arg(directory));
+    cleanXmlMetadataAction->setToolTip(tr("Clean XML metadata cached locally in %1\n(useful along with Clean "
+                                          "Pickled Data for\n forcing download "
+                                          "of new available package lists)")
+                                           .arg(directory));
+    cleanPickledCacheAction->setToolTip(tr("Clean pickled data cached locally in %1\n(useful along with "
+                                           "Clean XML Metadata for\n forcing download "
+                                           "of new available package lists)")
+                                            .arg(directory));
+    cleanAllAction->setToolTip(tr("Clean all data cached locally in %1").arg(directory));
+}
+
+void MainWindow::quit()
+{
+    // The application ends with its last visible window.
+    if (logWindow && logWindow->isVisible()) {
+        logWindow->hide();
+    }
+    close();
+    // The table reads the engine's rows, so it goes first.
+    delete std::exchange(tableArea, nullptr);
+    delete std::exchange(yumIO, nullptr);
+}
+
+void MainWindow::displayLog()
+{
+    if (!logWindow) {
+        logWindow = new Log::Window(yumIO->logEntries, this);
+    }
+    logWindow->show();
+}
+
+void MainWindow::editRepositories(bool forceReposChanged)
+{
+    // There is no editor to leave yet, so what its end would bring about follows at once.
+    if (forceReposChanged) {
+        reposChanged();
+    }
+}
+
+void MainWindow::cleanHeaders()
+{
+    whileBusy([this] {
+        yumIO->cleanHeaders();
+        rebuild();
+    });
+}
+
+void MainWindow::cleanPackages()
+{
+    whileBusy([this] { yumIO->cleanPackages(); });
+}
+
+void MainWindow::cleanXmlMetadata()
+{
+    whileBusy([this] {
+        yumIO->cleanXmlMetadata();
+        rebuild();
+    });
+}
+
+void MainWindow::cleanPickledCache()
+{
+    whileBusy([this] {
+        yumIO->cleanPickledCache();
+        rebuild();
+    });
+}
+
+void MainWindow::cleanAll()
+{
+    whileBusy([this] {
+        yumIO->cleanAll();
+        rebuild();
+    });
+}
+
+void MainWindow::manualHtml() {}
+
+void MainWindow::manualPdf() {}
+
+void MainWindow::about()
+{
+    QMessageBox::about(
+        this, tr("About"),
+        tr("<h3>VEM %1</h3><hr><p>VEM, Verified Estate Manager, is a graphical user interface which allows a "
+           "user "
+           "to make modifications to the installed rpm packages on a "
+           "system.</p><p>Capabilities:<p><ul><li>Install "
+           "new packages or update existing packages by downloading them from a yum package "
+           "repository</li><li>Remove existing packages.</li><li>Configure sets of repositories from which "
+           "to "
+           "obtain new and updated packages.</li><li>Examine installed packages or packages available for "
+           "installation or update</li><li>Install, update, or remove groups of packages</li><li>Install or "
+           "update "
+           "suites of packages</li></ul><p>Web page: <a "
+           "href=\"https://vem.example.org/\">https://vem.example.org/</a></p>")
+            .arg(QStringLiteral("1.7.2")));
+}
+
+bool MainWindow::isSearching() const
+{
+    return modeCombo->currentIndex() == 1;
+}
+
+void MainWindow::filtersearch()
+{
+    auto const step = [this] {
+        prepareFilterSearch();
+        view->filtersearch(regExpEdit->text());
+    };
+    isSearching() ? whileBusy(step) : step();
+}
+
+void MainWindow::prepareFilterSearch()
+{
+    QString const text = regExpEdit->text();
+    if (text.isEmpty() || text == QLatin1String(".*") || !isSearching()) {
+        return;
+    }
+    // No row is tested while the engine works.
+    view->setFilter(false);
+    yumIO->collectFileLists();
+    yumIO->collectOtherData();
+    view->setFilter(true);
+}
+
+void MainWindow::currentChanged(int current, int)
+{
+    describeButton->setEnabled(current != -1);
+}
+
+void MainWindow::stateChanged(int row)
+{
+    auto const isMarked = [](Package::Entry const* entry) { return entry->action != Package::None; };
+    if (row != -1 && isMarked((*yumIO)[row])) {
+        applyButton->setEnabled(true);
+        return;
+    }
+    applyButton->setEnabled(std::any_of(yumIO->begin(), yumIO->end(), isMarked));
+}
+
+void MainWindow::modeChanged(int mode)
+{
+    bool const search = mode == 1;
+    filterButton->setText(search ? tr("Search") : tr("Filter"));
+    regExpEdit->setToolTip(
+        search ? tr("Regular expression to compare to all fields of a package")
+               : tr("Regular expression filter matching textual fields visible in the table"));
+    filterButton->setToolTip(
+        search ? tr("Perform the search for the regular expression specified to the left")
+               : tr("Apply the filter specified to the left"));
+    auto const step = [this, mode] {
+        prepareFilterSearch();
+        view->setMode(static_cast<PackageTable::Mode>(mode));
+    };
+    search ? whileBusy(step) : step();
+}
+
+void MainWindow::collectedExtraData()
+{
+    QString text = tr("Specify the method for using a regular expression to select packages in the "
+                      "table:\n\tFilter uses the "
+                      "textual fields visible in the table, as if they were separated by spaces.\n\tSearch "
+                      "uses all fields in "
+                      "packages, including list of Files, Change Log, Requires, etc.,\n\tindependently.  It "
+                      "is considerably "
+                      "slower.");
+    if (!yumIO->fileListsCollected || !yumIO->otherDataCollected) {
+        text = tr("%1 (Must load extra data.)").arg(text);
+    }
+    modeCombo->setToolTip(text);
+}
+
+void MainWindow::stateFilterChanged(int index)
+{
+    auto const step = [this, index] {
+        view->stateFilterChanged(static_cast<PackageTable::StateFilter>(index));
+    };
+    isSearching() ? whileBusy(step) : step();
+}
+
+void MainWindow::groupsFilterChanged(int state)
+{
+    auto const step = [this, state] { view->groupsFilterChanged(state != 0); };
+    isSearching() ? whileBusy(step) : step();
+}
+
+void MainWindow::setSelected()
+{
+    model->setSelected(view->selectedRows());
+    stateChanged(-1);
+}
+
+void MainWindow::setUpdateAll()
+{
+    model->setUpdateAll();
+    stateChanged(-1);
+}
+
+void MainWindow::clearActions()
+{
+    model->clearActions();
+    stateChanged(-1);
+}
+
+void MainWindow::apply()
+{
+    whileBusy([this] {
+        if (yumIO->apply()) {
+            readConfiguration();
+            rebuild();
+        }
+    });
+}

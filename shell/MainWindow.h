@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "repo/YumRepoEnabled.h"
+
+#include <QHash>
+#include <QIcon>
+#include <QList>
+#include <QMainWindow>
+
+class HMenu;
+class QAction;
+class QCheckBox;
+class QComboBox;
+class QHBoxLayout;
+class QLineEdit;
+class QPushButton;
+class YumConfIO;
+class YumIO;
+
+namespace Log
+{
+class Window;
+}
+
+namespace PackageTable
+{
+class Model;
+class View;
+} // namespace PackageTable
+
+/// The program's one top-level window. Its constructor builds the whole widget tree and the engine object;
+/// `show` arms the start-up, which runs from the event loop. Its slots are the program's control flow on the
+/// GUI thread: short fixed sequences of calls of engine, model and view, between `setReady(false)` and
+/// `setReady(true)`. It holds no package logic.
+class MainWindow final : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit MainWindow(QWidget* parent);
+    ~MainWindow() override;
+
+    void setVisible(bool visible) override;
+    /// The contents' hint, at least 768 pixels wide.
+    [[nodiscard]] QSize sizeHint() const override;
+
+    // Start-up flags, written between construction and `show`; nothing in the constructor reads them.
+    bool repoEditorFlag = false;              ///< begin with the repository configuration editor
+    bool logFlag = false;                     ///< begin with the log window
+    QList<YumRepoEnabled> yumRepoEnabledList; ///< requests of the command line, in its order
+
+public Q_SLOTS:
+    void resize();
+    void refresh();
+    void reposChanged();
+    void initialize();
+    void yumConfIOChanged();
+    void quit();
+    void displayLog();
+    void editRepositories(bool forceReposChanged = false);
+    void cleanHeaders();
+    void cleanPackages();
+    void cleanXmlMetadata();
+    void cleanPickledCache();
+    void cleanAll();
+    void manualHtml();
+    void manualPdf();
+    void about();
+    void filtersearch();
+    void currentChanged(int current, int previous);
+    void stateChanged(int row = -1);
+    void modeChanged(int mode);
+    void collectedExtraData();
+    void stateFilterChanged(int index);
+    void groupsFilterChanged(int state);
+    void setSelected();
+    void setUpdateAll();
+    void clearActions();
+    void apply();
+
+private:
+    void createMenuBar();
+    void createMainArea();
+    QHBoxLayout* createFilterRow();
+    QHBoxLayout* createButtonRow();
+    /// Switches between busy and idle. Calls must pair, since each busy one pushes a cursor.
+    void setReady(bool ready);
+    /// Loads the extra data that a search for the present expression needs.
+    void prepareFilterSearch();
+    void rebuild();
+    void showTable();
+    /// Reads the configuration, which seeds `reposEnabled`. What can't be read has been reported.
+    void readConfiguration();
+    /// Search is slow enough to want the busy state; Filter isn't.
+    [[nodiscard]] bool isSearching() const;
+    template <typename Step>
+    void whileBusy(Step const& step);
+
+    QIcon updateIcon;
+    QIcon clearIcon;
+    QIcon applyIcon;
+    QHash<QString, bool> reposEnabled; ///< repository id to whether this session uses it
+    YumIO* yumIO = nullptr;
+    YumConfIO* yumConfIO = nullptr; ///< child of this window; null until initialize()
+    HMenu* programMenu = nullptr;
+    QAction* quitAction = nullptr;
+    HMenu* repositoriesMenu = nullptr;
+    QAction* editRepositoriesAction = nullptr;
+    HMenu* cacheMenu = nullptr;
+    QAction* cleanHeadersAction = nullptr;
+    QAction* cleanPackagesAction = nullptr;
+    QAction* cleanXmlMetadataAction = nullptr;
+    QAction* cleanPickledCacheAction = nullptr;
+    QAction* cleanAllAction = nullptr;
+    QWidget* tableArea = nullptr; ///< hidden until the first collection is done
+    QComboBox* modeCombo = nullptr;
+    QLineEdit* regExpEdit = nullptr;
+    QPushButton* filterButton = nullptr;
+    QComboBox* stateFilterCombo = nullptr;
+    QCheckBox* includeGroupsBox = nullptr;
+    PackageTable::Model* model = nullptr;
+    PackageTable::View* view = nullptr;
+    QPushButton* describeButton = nullptr;
+    QPushButton* applyButton = nullptr;
+    Log::Window* logWindow = nullptr; ///< null until first used; top-level, deleted with this window
+};

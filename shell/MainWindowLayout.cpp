@@ -1,0 +1,196 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+// The main window's widget tree: menus, filter row, table, button row and progress bars.
+#include "shell/MainWindow.h"
+
+#include "base/Share.h"
+#include "engine/YumIO.h"
+#include "packagetable/PackageTableModel.h"
+#include "packagetable/PackageTableView.h"
+#include "services/HProgressBar.h"
+#include "widgets/HMenu.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <sys/utsname.h>
+
+MainWindow::MainWindow(QWidget* parentWidget)
+    : QMainWindow(parentWidget),
+      updateIcon(Share::icon(QStringLiteral("icons/update.png"))),
+      applyIcon(Share::icon(QStringLiteral("icons/check.png")))
+{
+    utsname machine{};
+    uname(&machine);
+    setWindowTitle(tr("VEM - %1").arg(QString::fromLocal8Bit(machine.nodename)));
+    createMenuBar();
+    createMainArea();
+}
+
+QSize MainWindow::sizeHint() const
+{
+    return QMainWindow::sizeHint().expandedTo(QSize(768, 0));
+}
+
+void MainWindow::createMenuBar()
+{
+    auto* const bar = new QMenuBar(this);
+    setMenuBar(bar);
+    auto const addMenu = [bar](QString const& title) {
+        auto* const menu = new HMenu(title, bar);
+        bar->addMenu(menu);
+        return menu;
+    };
+    auto const addEntry = [this](HMenu* menu, QString const& text, auto slot) {
+        QAction* const action = menu->addAction(text);
+        connect(action, &QAction::triggered, this, slot);
+        return action;
+    };
+
+    programMenu = addMenu(tr("&Program"));
+    quitAction = addEntry(programMenu, tr("&Quit"), &MainWindow::quit);
+    quitAction->setShortcut(QKeySequence(tr("Ctrl+Q")));
+
+    HMenu* const windowsMenu = addMenu(tr("&Windows"));
+    addEntry(windowsMenu, tr("&Log"), &MainWindow::displayLog)->setShortcut(QKeySequence(tr("Ctrl+L")));
+
+    repositoriesMenu = addMenu(tr("&Repositories"));
+    editRepositoriesAction =
+        addEntry(repositoriesMenu, tr("&Edit Configuration"), [this] { editRepositories(); });
+    editRepositoriesAction->setShortcut(QKeySequence(tr("Ctrl+E")));
+
+    cacheMenu = addMenu(tr("&Cache"));
+    cleanHeadersAction = addEntry(cacheMenu, tr("Clean Headers"), &MainWindow::cleanHeaders);
+    cleanPackagesAction = addEntry(cacheMenu, tr("Clean Packages"), &MainWindow::cleanPackages);
+    cleanXmlMetadataAction = addEntry(cacheMenu, tr("Clean XML Metadata"), &MainWindow::cleanXmlMetadata);
+    cleanPickledCacheAction = addEntry(cacheMenu, tr("Clean Pickled Data"), &MainWindow::cleanPickledCache);
+    cacheMenu->addSeparator();
+    cleanAllAction = addEntry(cacheMenu, tr("Clean All"), &MainWindow::cleanAll);
+
+    HMenu* const helpMenu = addMenu(tr("&Help"));
+    addEntry(helpMenu, tr("Manual (html)"), &MainWindow::manualHtml)->setShortcut(QKeySequence(tr("F1")));
+    addEntry(helpMenu, tr("Manual (PDF)"), &MainWindow::manualPdf);
+    helpMenu->addSeparator();
+    addEntry(helpMenu, tr("&About"), &MainWindow::about);
+}
+
+QHBoxLayout* MainWindow::createFilterRow()
+{
+    modeCombo = new QComboBox(tableArea);
+    modeCombo->addItem(tr("Filter"), 0);
+    modeCombo->addItem(tr("Search"), 1);
+    modeCombo->setAccessibleName(tr("Filter or Search"));
+    connect(modeCombo, &QComboBox::currentIndexChanged, this, &MainWindow::modeChanged);
+
+    regExpEdit = new QLineEdit(QStringLiteral(".*"), tableArea);
+    regExpEdit->setAccessibleName(tr("Regular expression"));
+    connect(regExpEdit, &QLineEdit::returnPressed, this, &MainWindow::filtersearch);
+
+    filterButton = new QPushButton(tableArea);
+    filterButton->setDefault(true);
+    connect(filterButton, &QPushButton::clicked, this, &MainWindow::filtersearch);
+
+    stateFilterCombo = new QComboBox(tableArea);
+    stateFilterCombo->addItem(tr("View Updatable"), 0);
+    stateFilterCombo->addItem(tr("View Installable"), 1);
+    stateFilterCombo->addItem(tr("View Removable"), 2);
+    stateFilterCombo->addItem(tr("View All"), 3);
+    stateFilterCombo->setToolTip(tr("Filter for those packages which are eligible for updating,\n"
+                                    "for installing, or for removing; or show all packages"));
+    stateFilterCombo->setAccessibleName(tr("View"));
+    connect(stateFilterCombo, &QComboBox::currentIndexChanged, this, &MainWindow::stateFilterChanged);
+
+    includeGroupsBox = new QCheckBox(tr("Include Groups"), tableArea);
+    includeGroupsBox->setToolTip(tr("Whether or not filter should include package groups"));
+    connect(includeGroupsBox, &QCheckBox::stateChanged, this, &MainWindow::groupsFilterChanged);
+
+    auto* const row = new QHBoxLayout;
+    row->addWidget(modeCombo);
+    row->addWidget(regExpEdit);
+    row->addWidget(filterButton);
+    row->addWidget(stateFilterCombo);
+    row->addWidget(includeGroupsBox);
+    return row;
+}
+
+QHBoxLayout* MainWindow::createButtonRow()
+{
+    auto* const row = new QHBoxLayout;
+    auto const addButton = [&](QString const& text, QIcon const& icon, QString const& tip, auto slot) {
+        auto* const button = new QPushButton(icon, text, tableArea);
+        button->setToolTip(tip);
+        connect(button, &QPushButton::clicked, this, slot);
+        row->addWidget(button);
+        return button;
+    };
+    describeButton = addButton(
+        tr("&Describe"), QIcon(),
+        tr("Pop up a window with a detailed description of the currently selected package"),
+        [this] { view->describe(); });
+    describeButton->setEnabled(false);
+    row->addStretch(1);
+    addButton(
+        tr("Re&size"), QIcon(), tr("Resize the columns and window to optimal values"), &MainWindow::resize);
+    addButton(
+        tr("Re&fresh"), QIcon(),
+        tr("Refresh the list of installed packages and packages available for update.\n"
+           "Use this to check for new updates in repositories, or if any packages were installed manually."),
+        &MainWindow::refresh);
+    addButton(
+        tr("Set &Install/Update of Selected"), QIcon(),
+        tr("Sets the Action for all selected packages which are Not Installed to Install, and\n"
+           "sets the Action for all selected packages which are Installed but Out-of-date to Update.\n"
+           "Does not Apply Actions automatically."),
+        &MainWindow::setSelected);
+    addButton(
+        tr("Set &Update of All Out-of-Date"), updateIcon,
+        tr("Sets the Action for all packages which are Installed but Out-of-date to Update.\n"
+           "Does not Apply Actions automatically."),
+        &MainWindow::setUpdateAll);
+    addButton(
+        tr("&Clear Actions"), clearIcon, tr("Clears all specified Actions (Updates, Installs, and Removals)"),
+        &MainWindow::clearActions);
+    applyButton = addButton(
+        tr("&Apply Actions"), applyIcon,
+        tr("Applies the specified Actions (Updates, Installs, and Removals)"), &MainWindow::apply);
+    applyButton->setEnabled(false);
+    return row;
+}
+
+void MainWindow::createMainArea()
+{
+    auto* const central = new QWidget(this);
+    auto* const outer = new QVBoxLayout(central);
+    tableArea = new QWidget(central);
+    outer->addWidget(tableArea);
+    auto* const inner = new QVBoxLayout(tableArea);
+    inner->addLayout(createFilterRow());
+
+    yumIO = new YumIO;
+    connect(yumIO, &YumIO::collectedExtraData, this, &MainWindow::collectedExtraData);
+    model = new PackageTable::Model(yumIO, tableArea);
+    view = new PackageTable::View(model, PackageTable::Updatable, false, yumIO, tableArea);
+    connect(
+        view, qOverload<int, int>(&PackageTable::View::currentChanged), this, &MainWindow::currentChanged);
+    connect(view, &PackageTable::View::stateChanged, this, &MainWindow::stateChanged);
+    inner->addWidget(view);
+    inner->addLayout(createButtonRow());
+
+    // Until the first collection is done the bars are all that the user sees.
+    tableArea->setVisible(false);
+    auto* const itemBar = new HProgressBar(central);
+    itemBar->setAccessibleName(tr("Item Progress"));
+    auto* const totalBar = new HProgressBar(central);
+    totalBar->setAccessibleName(tr("Total Progress"));
+    outer->addWidget(itemBar);
+    outer->addWidget(totalBar);
+    yumIO->setup(this, totalBar, itemBar);
+    setCentralWidget(central);
+    collectedExtraData();
+    modeChanged(0);
+    setReady(false);
+}
