@@ -84,9 +84,10 @@ def spec(
 ) -> str:
     """Text of a spec file for one package.
 
-    `files` maps absolute paths to texts, put there literally, each ended by a line feed. `scriptlets` maps a section heading without
-    "%", such as "post" or "pre -p <lua>", to its body; double a "%" that rpmbuild shall not expand. `tags` are further preamble lines. `arch` None
-    leaves the architecture to the build (`Estate.build`'s argument or the host's).
+    `files` maps absolute paths to texts, put there literally, each ended by a line feed. `scriptlets` maps
+    a section heading without "%", such as "post" or "pre -p <lua>", to its body; double a "%" that rpmbuild
+    shall not expand. `tags` are further preamble lines. `arch` None leaves the architecture to the build
+    (`Estate.build`'s argument or the host's).
     """
     preamble = {"Name": name, "Epoch": epoch, "Version": version, "Release": release}
     preamble["Summary"] = summary or f"The {name} package"
@@ -196,9 +197,17 @@ class Estate:
         `defines` are further rpm macros. EstateError names the first build that failed.
         """
         listed = [specs] if isinstance(specs, (str, Path)) else list(specs)
+        return [rpm for rpms in self.build_each(listed, arch, defines) for rpm in rpms]
+
+    def build_each(
+        self,
+        specs: Sequence[SpecSource],
+        arch: Optional[str] = None,
+        defines: Optional[Mapping[str, str]] = None,
+    ) -> list[list[Path]]:
+        """Like `build`, but keeps the rpms of each spec together."""
         with ThreadPoolExecutor(BUILD_JOBS) as pool:
-            built = list(pool.map(lambda one: self._build(one, arch, defines or {}), listed))
-        return [rpm for rpms in built for rpm in rpms]
+            return list(pool.map(lambda one: self._build(one, arch, defines or {}), specs))
 
     def _build(self, source: SpecSource, arch: Optional[str], defines: Mapping[str, str]) -> list[Path]:
         top = self._new_build_directory()
