@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+// The configuration's object: where its files are, how its faults are told, what the command line does
+// to the session flags. The reading of the files stands in YumConfIORead.cpp.
+#include "repo/YumConfIO.h"
+
+#include <QMessageBox>
+
+#include <cerrno>
+#include <cstring>
+
+#include <sys/stat.h>
+
+YumConfIO::YumConfIO(QList<YumRepoEnabled> const& requests, QHash<QString, bool>& sessionFlags)
+    : usedOptions(requests),
+      reposEnabled(sessionFlags)
+{
+}
+
+char const* YumConfIO::fileName()
+{
+    static constexpr char const* preferred = "/etc/yum/yum.conf";
+    static constexpr char const* fallback = "/etc/yum.conf";
+
+    struct stat status;
+    return stat(diskName(QString::fromLatin1(preferred)).constData(), &status) == 0 ? preferred : fallback;
+}
+
+QByteArray YumConfIO::diskName(QString const& path)
+{
+    QByteArray const root = qgetenv("VEMROOT");
+    QByteArray const name = path.toLatin1();
+    if (root.isEmpty())
+        return name;
+    return name.startsWith('/') ? root + name : root + '/' + name;
+}
+
+void YumConfIO::applyUsedOptions(Repo::Entry const& entry)
+{
+    for (YumRepoEnabled const& request : usedOptions) {
+        if (request.matches(entry.id))
+            reposEnabled[entry.id] = request.enabled;
+    }
+}
+
+void YumConfIO::error(QString const& message)
+{
+    int const cause = errno;
+    // Composed apart from the message, which may hold anything that a file or its name holds.
+    QString const suffix =
+        tr("; errno = %1 (%2).").arg(QString::number(cause), QString::fromLocal8Bit(std::strerror(cause)));
+
+    QMessageBox box(
+        QMessageBox::Critical, tr("VEM Repository Editor Error"), message + suffix, QMessageBox::Ok, parent);
+    // A line of a file is never markup.
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}

@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "repo/RepoEntry.h"
+#include "repo/YumRepoEnabled.h"
+
+#include <QByteArray>
+#include <QHash>
+#include <QList>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+#include <cstdio>
+
+class QWidget;
+
+/// The package library's configuration in memory: the main file, then every ".repo" file of every repository
+/// directory. The few options that the system understands are taken apart; everything else is held as text,
+/// line by line, so that a write gives the user's files back with their contents kept.
+///
+/// Owned by the main window, on the GUI thread, which its file work blocks.
+///
+/// Files are bytes: each byte is one character of the same value (Latin-1) here and goes back out as the
+/// same byte, in texts and in paths alike. When the environment variable VEMROOT is set, the files are those
+/// below that directory; paths keep their text everywhere but at the disk.
+class YumConfIO final : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Keeps references to both: `usedOptions` holds the requests of the command line, `reposEnabled` the
+    /// session flags by repository identifier. They have to outlive this object.
+    YumConfIO(QList<YumRepoEnabled> const& usedOptions, QHash<QString, bool>& reposEnabled);
+
+    /// Reads everything anew; unwritten changes of `repos` are lost. True when all was read, and `changed()`
+    /// has been emitted. When false the user has seen a message box over `window`, and the members hold the
+    /// defaults and what was read up to the fault.
+    bool read(QWidget* window);
+
+    /// The path of the main file: "/etc/yum/yum.conf" when it exists, else "/etc/yum.conf", whether that
+    /// exists or not. Looked up at each call.
+    [[nodiscard]] static char const* fileName();
+
+    QString cachedir;          ///< the package library's cache directory
+    QStringList reposdirs;     ///< the repository directories, in order
+    bool mainEnabled = true;   ///< what Repo::Default means for a repository's `enabled`
+    bool mainGpgcheck = false; ///< what Repo::Default means for a repository's `gpgcheck`
+    QList<Repo::Entry> repos;  ///< all repositories of all files, in reading order; the editor works on it
+    QList<YumRepoEnabled> const& usedOptions; ///< the command line's requests, in its order
+    /// Identifier to whether the repository is used in this session. Nothing empties it: a flag, once set,
+    /// stays across reads for as long as the program runs.
+    QHash<QString, bool>& reposEnabled;
+    QString mainOptions; ///< the main section's text, a line feed after each logical line
+
+Q_SIGNALS:
+    /// A read has wholly succeeded.
+    void changed();
+
+private:
+    /// What reading a line can come to.
+    enum ReadResult
+    {
+        Line = 0,
+        EndOfFile = 1,
+        ReadError = 2
+    };
+
+    bool readDirectory(QString const& directory);
+    bool readDirectoryFile(QString const& path);
+    bool readConfFile(std::FILE* stream);
+    bool readRepoFile(std::FILE* stream, QString const& file);
+    ReadResult readLogicalLine(std::FILE* stream, QString const& file, QString& line);
+    ReadResult readLine(std::FILE* stream, QString const& file, QString& line);
+    void unreadLine(QString const& line);
+    static bool isOption(QString const& line, QString const& option, QString& value);
+    void readRepoOption(QString const& line, bool isNew, Repo::Entry& entry);
+    void finishEntry(Repo::Entry& entry, bool isNew);
+    static void cleanupRead(Repo::Entry& entry);
+    void applyUsedOptions(Repo::Entry const& entry);
+
+    /// Shows `message` with errno behind it, in a critical box over `parent`.
+    void error(QString const& message);
+
+    /// The name of `path` for system calls: its bytes, below VEMROOT when that is set.
+    [[nodiscard]] static QByteArray diskName(QString const& path);
+
+    QWidget* parent = nullptr;  ///< under the message boxes; not owned, set by each read
+    QList<QString> unreadLines; ///< physical lines read ahead, to be read again before the file goes on
+};
