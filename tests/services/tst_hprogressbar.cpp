@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "services/HProgressBar.h"
+
+#include <QTest>
+
+class TestHProgressBar final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        bar.reset();
+        bar.setRange(0, 200);
+    }
+
+    void withoutActivityShowsThePercentage()
+    {
+        bar.setValue(50);
+        QCOMPARE(bar.text(), QStringLiteral("25%"));
+    }
+
+    void activityStandsInFrontOfThePercentage()
+    {
+        bar.setValue(50);
+        bar.setActivity(QStringLiteral("Downloading"));
+        QCOMPARE(bar.text(), QStringLiteral("Downloading (25%)"));
+    }
+
+    void activityWithAPlaceMarkerShowsAsItIs()
+    {
+        bar.setValue(50);
+        bar.setActivity(QStringLiteral("50%2 %1"));
+        QCOMPARE(bar.text(), QStringLiteral("50%2 %1 (25%)"));
+    }
+
+    void barThatIsNotCountingShowsTheActivityAlone()
+    {
+        bar.setActivity(QStringLiteral("Waiting"));
+        QCOMPARE(bar.text(), QStringLiteral("Waiting"));
+    }
+
+    void resetLeavesOnlyThePercentage()
+    {
+        bar.setActivity(QStringLiteral("Downloading"));
+        bar.setValue(50);
+        bar.reset();
+        QCOMPARE(bar.text(), QString());
+        bar.setValue(50);
+        QCOMPARE(bar.text(), QStringLiteral("25%"));
+    }
+
+private:
+    HProgressBar bar;
+};
+
+QTEST_MAIN(TestHProgressBar)
+#include "tst_hprogressbar.moc"
