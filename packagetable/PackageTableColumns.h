@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "engine/Package.h"
+
+#include <QString>
+
+namespace PackageTable
+{
+
+/// The columns of the table, in their order in the model.
+enum Column
+{
+    ActionColumn,
+    StateColumn,
+    KindColumn,
+    NameColumn,
+    VersionColumn,
+    RepositoryColumn,
+    ArchitectureColumn,
+    SizeColumn,
+    BuildTimeColumn,
+    ColumnCount,
+};
+
+/// The text that `column` shows for `entry`. `column` is one from NameColumn to BuildTimeColumn.
+[[nodiscard]] QString const& columnText(Package::Entry const& entry, int column);
+
+/// Whether `column` sorts by a number, and not by its text.
+[[nodiscard]] bool isNumericColumn(int column);
+
+/// The number by which `column` sorts; 0 for a column that sorts by its text. Sizes and build times keep
+/// their low 32 bits only, as a signed number.
+[[nodiscard]] int columnNumber(Package::Entry const& entry, int column);
+
+} // namespace PackageTable

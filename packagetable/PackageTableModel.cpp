@@ -1,0 +1,359 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "packagetable/PackageTableModel.h"
+
+#include "base/Share.h"
+#include "engine/YumIO.h"
+#include "packagetable/PackageTableColumns.h"
+#include "widgets/Colors.h"
+
+#include <array>
+
+namespace PackageTable
+{
+
+namespace
+{
+
+struct ColumnHeader
+{
+    char const* title;
+    char const* toolTip;
+};
+
+constexpr std::array<ColumnHeader, ColumnCount> columnHeaders{{
+    {QT_TRANSLATE_NOOP("PackageTable::Model", "Action"),
+     QT_TRANSLATE_NOOP(
+         "PackageTable::Model", "Action to be performed on the package, if any: Update, Install, Remove")},
+    {QT_TRANSLATE_NOOP("PackageTable::Model", "State"),
+     QT_TRANSLATE_NOOP(
+         "PackageTable::Model", "Indicates whether the package is Installed or not and, if installed, "
+                                "whether it is Up-to-date or not")},
+    {QT_TRANSLATE_NOOP("PackageTable::Model", "Kind"),
+     QT_TRANSLATE_NOOP(
+         "PackageTable::Model",
+         "Whether the package is an ordinary package, a suite of packages, or a group of packages")},
+    {QT_TRANSLATE_NOOP("PackageTable::Model", "Name"),
+     QT_TRANSLATE_NOOP("PackageTable::Model", "Name of the package")},
+    {QT_TRANSLATE_NOOP("PackageTable::Model", "Version"),
+     QT_TRANSLATE_NOOP(
+         "PackageTable::Model", "Version and release of the package as version-release;\n"
+                                "If the Epoch is non-zero, includes it as epoch:version-release")},
+    {QT_TRANSLATE_NOOP("PackageTable::Model", "Repository"),
+     QT_TRANSLATE_NOOP(
+         "PackageTable::Model", "Repository from which the most recent version of the package is available")},
+    {QT_TRANSLATE_NOOP("PackageTable::Model", "Architecture"),
+     QT_TRANSLATE_NOOP(
+         "PackageTable::Model",
+         "Architecture for which the package is applicable, or \"noarch\" for general-purpose packages")},
+    {QT_TRANSLATE_NOOP("PackageTable::Model", "Size"),
+     QT_TRANSLATE_NOOP("PackageTable::Model", "Size of the package")},
+    {QT_TRANSLATE_NOOP("PackageTable::Model", "Build Time"),
+     QT_TRANSLATE_NOOP("PackageTable::Model", "Date and time at which the package was created")},
+}};
+
+Package::Action nextAction(Package::State state, Package::Action present)
+{
+    switch (state) {
+    case Package::OutOfDate:
+        if (present == Package::None) {
+            return Package::Update;
+        }
+        return present == Package::Update ? Package::Remove : Package::None;
+    case Package::Available:
+        return present == Package::None ? Package::Install : Package::None;
+    case Package::UpToDate:
+        return present == Package::None ? Package::Remove : Package::None;
+    }
+    return Package::None;
+}
+
+} // namespace
+
+Model::Model(YumIO* engine, QObject* parent)
+    : HAbstractTableModel(parent),
+      yumIO(engine),
+      outOfDateIcon(Share::icon(QStringLiteral("icons/out-of-date.png"))),
+      upToDateIcon(Share::icon(QStringLiteral("icons/up-to-date.png"))),
+      noneBoxIcon(Share::icon(QStringLiteral("icons/noneBox.png"))),
+      updateBoxIcon(Share::icon(QStringLiteral("icons/updateBox.png"))),
+      installBoxIcon(Share::icon(QStringLiteral("icons/installBox.png"))),
+      removeBoxIcon(Share::icon(QStringLiteral("icons/removeBox.png"))),
+      suiteIcon(Share::icon(QStringLiteral("icons/suite.png"))),
+      groupIcon(Share::icon(QStringLiteral("icons/group.png"))),
+      packageIcon(Share::icon(QStringLiteral("icons/package.png"))),
+      outOfDateColors{QColor(Colors::error()), QColor(Colors::errorDisabled())},
+      availableColors{QColor(Colors::minor()), QColor(Colors::minorDisabled())}
+{
+}
+
+void Model::setYumConfIO(YumConfIO* configuration)
+{
+    yumConfIO = configuration;
+}
+
+int Model::rowCount(QModelIndex const&) const
+{
+    return yumIO->count();
+}
+
+int Model::columnCount(QModelIndex const&) const
+{
+    return ColumnCount;
+}
+
+Package::Entry* Model::entryAt(QModelIndex const& index) const
+{
+    if (!index.isValid() || index.row() >= yumIO->count()) {
+        return nullptr;
+    }
+    return (*yumIO)[index.row()];
+}
+
+QVariant Model::data(QModelIndex const& index, int role) const
+{
+    int const column = index.column();
+    Package::Entry* const entry = entryAt(index);
+    if (!entry || column >= ColumnCount) {
+        return {};
+    }
+
+    switch (role) {
+    case Qt::DisplayRole:
+        return column < NameColumn ? QVariant() : QVariant(columnText(*entry, column));
+    case Qt::DecorationRole:
+        return decoration(*entry, column);
+    case Qt::ToolTipRole:
+        return toolTip(*entry, column);
+    case Qt::ForegroundRole:
+        return column < KindColumn ? QVariant() : foreground(*entry);
+    case Qt::UserRole:
+        return rawValue(entry, column);
+    default:
+        return {};
+    }
+}
+
+QVariant Model::decoration(Package::Entry const& entry, int column) const
+{
+    switch (column) {
+    case ActionColumn:
+        switch (entry.action) {
+        case Package::Update:
+            return updateBoxIcon;
+        case Package::Install:
+            return installBoxIcon;
+        case Package::Remove:
+            return removeBoxIcon;
+        case Package::None:
+            return noneBoxIcon;
+        }
+        break;
+    case StateColumn:
+        switch (entry.state) {
+        case Package::OutOfDate:
+            return outOfDateIcon;
+        case Package::UpToDate:
+            return upToDateIcon;
+        case Package::Available:
+            break;
+        }
+        break;
+    case KindColumn:
+        switch (entry.kind) {
+        case Package::Suite:
+            return suiteIcon;
+        case Package::Group:
+            return groupIcon;
+        case Package::Ordinary:
+            return packageIcon;
+        }
+        break;
+    default:
+        break;
+    }
+    return {};
+}
+
+QVariant Model::toolTip(Package::Entry const& entry, int column)
+{
+    switch (column) {
+    case ActionColumn:
+        switch (entry.action) {
+        case Package::Update:
+            return tr("Update package");
+        case Package::Install:
+            return tr("Install package");
+        case Package::Remove:
+            return tr("Remove package");
+        case Package::None:
+            break;
+        }
+        break;
+    case StateColumn:
+        switch (entry.state) {
+        case Package::OutOfDate:
+            return tr("Package is available to update an out-of-date version");
+        case Package::Available:
+            return tr("Package is available for installation");
+        case Package::UpToDate:
+            return tr("Package is installed and up-to-date");
+        }
+        break;
+    case KindColumn:
+        switch (entry.kind) {
+        case Package::Suite:
+            return tr("Suite of packages");
+        case Package::Group:
+            return tr("Group of packages");
+        case Package::Ordinary:
+            return tr("Ordinary package");
+        }
+        break;
+    case VersionColumn:
+        if (entry.state == Package::OutOfDate) {
+            QString versions;
+            for (Package::Entry const* link = &entry; link; link = link->installed) {
+                if (link->state == Package::OutOfDate || link->state == Package::Available) {
+                    versions += tr("Available: %1\n").arg(link->verRel);
+                } else if (link->state == Package::UpToDate) {
+                    versions += tr("Installed: %1\n").arg(link->verRel);
+                }
+            }
+            return versions;
+        }
+        break;
+    default:
+        break;
+    }
+    return {};
+}
+
+QVariant Model::foreground(Package::Entry const& entry) const
+{
+    StateColors const* colors = &upToDateColors;
+    if (entry.state == Package::OutOfDate) {
+        colors = &outOfDateColors;
+    } else if (entry.state == Package::Available) {
+        colors = &availableColors;
+    }
+    QColor const& color = enabled ? colors->enabled : colors->disabled;
+    // The delegate would draw an invalid colour as black, also on a dark or disabled table; with no
+    // value at all it takes the palette's text colour.
+    return color.isValid() ? QVariant(color) : QVariant();
+}
+
+QVariant Model::rawValue(Package::Entry* entry, int column)
+{
+    switch (column) {
+    case ActionColumn:
+    case StateColumn:
+    case KindColumn:
+        return columnNumber(*entry, column);
+    case SizeColumn:
+        return entry->size;
+    case BuildTimeColumn:
+        return entry->buildTime;
+    default:
+        return QVariant::fromValue(entry);
+    }
+}
+
+QVariant Model::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || section < 0 || section >= ColumnCount) {
+        return {};
+    }
+    ColumnHeader const& header = columnHeaders[static_cast<size_t>(section)];
+    switch (role) {
+    case Qt::DisplayRole:
+        return tr(header.title);
+    case Qt::ToolTipRole:
+        return tr(header.toolTip);
+    default:
+        return {};
+    }
+}
+
+Package::State Model::getState(int row) const
+{
+    return row >= 0 && row < yumIO->count() ? (*yumIO)[row]->state : Package::UpToDate;
+}
+
+void Model::setAction(QModelIndex const& index, Package::Action action)
+{
+    Package::Entry* const entry = entryAt(index);
+    if (entry && index.column() < ColumnCount) {
+        entry->action = action;
+    }
+}
+
+void Model::toggleAction(QModelIndex const& index)
+{
+    if (Package::Entry* const entry = entryAt(index)) {
+        mark(index.row(), *entry, nextAction(entry->state, entry->action));
+    }
+}
+
+void Model::mark(int row, Package::Entry& entry, Package::Action action)
+{
+    entry.action = action;
+    QModelIndex const changed = createIndex(row, ActionColumn);
+    Q_EMIT dataChanged(changed, changed);
+}
+
+void Model::reset()
+{
+    forceSortColumnRediscovery();
+}
+
+void Model::describe(QModelIndex const&, QWidget*)
+{
+    // The description dialog is not part of this version.
+}
+
+void Model::browse(QModelIndex const&, QWidget*)
+{
+    // Repository browsing is not part of this version.
+}
+
+void Model::setEnabled(bool enable)
+{
+    enabled = enable;
+}
+
+void Model::setSelected(QList<QModelIndex> const& rows)
+{
+    for (QModelIndex const& index : rows) {
+        Package::Entry* const entry = entryAt(index);
+        if (!entry) {
+            continue;
+        }
+        if (entry->state == Package::OutOfDate) {
+            mark(index.row(), *entry, Package::Update);
+        } else if (entry->state == Package::Available) {
+            mark(index.row(), *entry, Package::Install);
+        }
+    }
+}
+
+void Model::setUpdateAll()
+{
+    for (int row = 0; row < yumIO->count(); ++row) {
+        Package::Entry& entry = *(*yumIO)[row];
+        if (entry.state == Package::OutOfDate) {
+            mark(row, entry, Package::Update);
+        }
+    }
+}
+
+void Model::clearActions()
+{
+    for (int row = 0; row < yumIO->count(); ++row) {
+        Package::Entry& entry = *(*yumIO)[row];
+        if (entry.action != Package::None) {
+            mark(row, entry, Package::None);
+        }
+    }
+}
+
+} // namespace PackageTable

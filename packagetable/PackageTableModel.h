@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "engine/Package.h"
+#include "widgets/HAbstractTableModel.h"
+
+#include <QColor>
+#include <QIcon>
+#include <QList>
+
+class QWidget;
+class YumConfIO;
+class YumIO;
+
+namespace PackageTable
+{
+
+/// The engine's list of packages, groups and suites as a table of nine columns, and the place where a
+/// user's marks land. It holds no rows of its own: row n is the n-th entry of the engine, read when it is
+/// asked for. Owned by the main window; GUI thread only. The engine's list must not be rebuilt while the
+/// table can paint, and `reset` must follow each rebuild.
+///
+/// All indexes are in this model's own terms. An index that is invalid or whose row has vanished is
+/// harmless everywhere: nothing happens.
+class Model : public HAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    /// `yumIO` is not owned and must outlive the model.
+    Model(YumIO* yumIO, QObject* parent);
+
+    /// Hands on the configuration that descriptions and repository browsing use; not owned. Comes before
+    /// the first `describe` or `browse`.
+    void setYumConfIO(YumConfIO* yumConfIO);
+
+    int rowCount(QModelIndex const& parent = QModelIndex()) const override;
+    int columnCount(QModelIndex const& parent = QModelIndex()) const override;
+    QVariant data(QModelIndex const& index, int role = Qt::DisplayRole) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
+
+    /// The state of the entry of that row; `UpToDate` when there is no such row.
+    [[nodiscard]] Package::State getState(int row) const;
+
+    /// Marks the entry of the index's row. Emits nothing: the caller sees to the repaint.
+    void setAction(QModelIndex const& index, Package::Action action);
+    /// What a click in the Action cell does: goes on to the next action that fits the entry's state.
+    void toggleAction(QModelIndex const& index);
+
+    /// To be called whenever the engine's list has been rebuilt.
+    void reset();
+
+    /// Shows the description of the entry as a modal dialog over `parent`.
+    void describe(QModelIndex const& index, QWidget* parent);
+    /// Shows the repository of the entry in the user's browser; `parent` is the parent of error messages.
+    void browse(QModelIndex const& index, QWidget* parent);
+
+    /// Chooses the colours of an enabled or disabled table. Emits nothing: the next repaint takes them up.
+    void setEnabled(bool enabled);
+
+public Q_SLOTS:
+    /// Marks each row of the list that can be updated or installed for just that, whatever its mark was;
+    /// rows that are up to date keep theirs.
+    void setSelected(QList<QModelIndex> const& rows);
+    /// Marks everything that can be updated, shown or not, for update.
+    void setUpdateAll();
+    /// Takes away all marks.
+    void clearActions();
+
+private:
+    struct StateColors
+    {
+        QColor enabled, disabled;
+    };
+
+    /// The entry of that row; null when there is none.
+    Package::Entry* entryAt(QModelIndex const& index) const;
+    void mark(int row, Package::Entry& entry, Package::Action action);
+    QVariant decoration(Package::Entry const& entry, int column) const;
+    QVariant foreground(Package::Entry const& entry) const;
+    static QVariant toolTip(Package::Entry const& entry, int column);
+    static QVariant rawValue(Package::Entry* entry, int column);
+
+    YumIO* yumIO;
+    YumConfIO* yumConfIO = nullptr;
+    bool enabled = true;
+    QIcon outOfDateIcon, upToDateIcon;
+    QIcon noneBoxIcon, updateBoxIcon, installBoxIcon, removeBoxIcon;
+    QIcon suiteIcon, groupIcon, packageIcon;
+    StateColors outOfDateColors, upToDateColors, availableColors;
+};
+
+} // namespace PackageTable

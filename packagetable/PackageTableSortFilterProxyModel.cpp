@@ -1,0 +1,233 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "packagetable/PackageTableSortFilterProxyModel.h"
+
+#include "engine/YumIO.h"
+#include "packagetable/PackageTableColumns.h"
+#include "widgets/HAbstractTableModel.h"
+
+#include <QRegularExpression>
+#include <algorithm>
+#include <array>
+
+namespace PackageTable
+{
+
+namespace
+{
+
+using Field = QString (*)(YumIO&, Package::Entry const&);
+
+template <auto Accessor>
+QString field(YumIO& yumIO, Package::Entry const& entry)
+{
+    return (yumIO.*Accessor)(entry);
+}
+
+// What Search looks at, the dearest last: most fields come through the interpreter, the last two of a
+// package need extra data.
+constexpr std::array<Field, 8> groupFields{
+    field<&YumIO::getName>,
+    field<&YumIO::getRequiredGroups>,
+    field<&YumIO::getDefaultMetaPkgs>,
+    field<&YumIO::getOptionalMetaPkgs>,
+    field<&YumIO::getMandatoryPkgs>,
+    field<&YumIO::getDefaultPkgs>,
+    field<&YumIO::getOptionalPkgs>,
+    field<&YumIO::getConditionalPkgs>,
+};
+
+constexpr std::array<Field, 23> packageFields{
+    field<&YumIO::getName>,        field<&YumIO::getVerRel>,      field<&YumIO::getRepo>,
+    field<&YumIO::getArch>,        field<&YumIO::getSize>,        field<&YumIO::getSummary>,
+    field<&YumIO::getDescription>, field<&YumIO::getGroup>,       field<&YumIO::getVendor>,
+    field<&YumIO::getBuildTime>,   field<&YumIO::getInstallTime>, field<&YumIO::getBinaryRpm>,
+    field<&YumIO::getSourceRpm>,   field<&YumIO::getLicense>,     field<&YumIO::getPackager>,
+    field<&YumIO::getUrl>,         field<&YumIO::getRelocations>, field<&YumIO::getProvides>,
+    field<&YumIO::getRequires>,    field<&YumIO::getConflicts>,   field<&YumIO::getObsoletes>,
+    field<&YumIO::getFiles>,       field<&YumIO::getChangeLog>,
+};
+
+} // namespace
+
+SortFilterProxyModel::SortFilterProxyModel(
+    StateFilter initialStateFilter, bool showGroups, YumIO* engine, QObject* parent)
+    : HSortFilterProxyModel(NameColumn, parent),
+      stateFilter(initialStateFilter),
+      groups(showGroups),
+      yumIO(engine)
+{
+    // A row whose mark changes stays where it is, also in a table that is sorted by Action: it would
+    // leave the mouse between two clicks, and marking all of 66,000 rows would move each by itself.
+    setDynamicSortFilter(false);
+}
+
+void SortFilterProxyModel::setMode(Mode newMode)
+{
+    if (newMode != mode) {
+        mode = newMode;
+        forgetVerdicts();
+    }
+}
+
+void SortFilterProxyModel::setStateFilter(StateFilter newStateFilter)
+{
+    if (newStateFilter != stateFilter) {
+        stateFilter = newStateFilter;
+        forgetVerdicts();
+    }
+}
+
+void SortFilterProxyModel::setGroupsFilter(bool showGroups)
+{
+    if (showGroups != groups) {
+        groups = showGroups;
+        forgetVerdicts();
+    }
+}
+
+void SortFilterProxyModel::forgetVerdicts()
+{
+    acceptCache.clear();
+    clear();
+}
+
+void SortFilterProxyModel::setFilter(bool enable)
+{
+    if (enable != filter) {
+        filter = enable;
+        clear();
+    }
+}
+
+bool SortFilterProxyModel::getFilter() const
+{
+    return filter;
+}
+
+void SortFilterProxyModel::setFilterRegExp(QString const& pattern)
+{
+    QLatin1String const anything(".*");
+    QString text = pattern;
+    while (text.startsWith(anything)) {
+        text.remove(0, anything.size());
+    }
+    while (text.endsWith(anything)) {
+        text.chop(anything.size());
+    }
+    regex.compile(text.toUtf8());
+
+    QRegularExpression const expression(text);
+    if (expression != filterRegExp()) {
+        acceptCache.clear();
+    }
+    HSortFilterProxyModel::setFilterRegExp(expression);
+
+    // Whatever a search costs is paid here, where the caller shows that the program is busy, and not
+    // while the user scrolls.
+    int const rows = yumIO->count();
+    for (int row = 0; row < rows; ++row) {
+        static_cast<void>(filterAcceptsRow(row, QModelIndex()));
+    }
+}
+
+Package::Entry* SortFilterProxyModel::entryAt(int sourceRow) const
+{
+    return sourceRow >= 0 && sourceRow < yumIO->count() ? (*yumIO)[sourceRow] : nullptr;
+}
+
+bool SortFilterProxyModel::filterAcceptsRow(int sourceRow, QModelIndex const& sourceParent) const
+{
+    if (!filter) {
+        return true;
+    }
+    Package::Entry* const entry = entryAt(sourceRow);
+    if (!entry) {
+        return false;
+    }
+    auto const known = acceptCache.constFind(entry);
+    if (known != acceptCache.constEnd() && known->serial == entry->serial) {
+        return known->accepted;
+    }
+    bool const accepted = acceptRow(entry, sourceRow, sourceParent);
+    acceptCache.insert(entry, {entry->serial, accepted});
+    return accepted;
+}
+
+bool SortFilterProxyModel::matches(QString const& text) const
+{
+    return regex.matches(text.toUtf8());
+}
+
+bool SortFilterProxyModel::acceptRow(Package::Entry* entry, int, QModelIndex const&) const
+{
+    if (!entry || !passesState(entry->state) || (!groups && entry->kind == Package::Group)) {
+        return false;
+    }
+    if (filterRegExp().pattern().isEmpty()) {
+        return true;
+    }
+    return mode == Search ? matchesAnyField(*entry) : matchesShownTexts(*entry);
+}
+
+bool SortFilterProxyModel::passesState(Package::State state) const
+{
+    switch (stateFilter) {
+    case Updatable:
+        return state == Package::OutOfDate;
+    case Installable:
+        return state == Package::Available;
+    case Removable:
+        return state != Package::Available;
+    case All:
+        break;
+    }
+    return true;
+}
+
+bool SortFilterProxyModel::matchesShownTexts(Package::Entry const& entry) const
+{
+    // The texts as if they were separated by blanks, so that an expression can span two columns.
+    QString texts;
+    texts.reserve(160);
+    for (int column = NameColumn; column < ColumnCount; ++column) {
+        if (!texts.isEmpty()) {
+            texts += QLatin1Char(' ');
+        }
+        texts += columnText(entry, column);
+    }
+    return matches(texts);
+}
+
+bool SortFilterProxyModel::matchesAnyField(Package::Entry const& entry) const
+{
+    auto const matchesField = [&](Field field) { return matches(field(*yumIO, entry)); };
+    return entry.kind == Package::Group ? std::ranges::any_of(groupFields, matchesField)
+                                        : std::ranges::any_of(packageFields, matchesField);
+}
+
+// What the cells' values would give, read from the records: sorting 66,000 rows asks a million times.
+bool SortFilterProxyModel::lessThan(QModelIndex const& left, QModelIndex const& right) const
+{
+    Package::Entry const* const leftEntry = left.isValid() ? entryAt(left.row()) : nullptr;
+    Package::Entry const* const rightEntry = right.isValid() ? entryAt(right.row()) : nullptr;
+    if (!leftEntry || !rightEntry) {
+        return !isNumericColumn(left.column()) && HSortFilterProxyModel::lessThan(left, right);
+    }
+
+    if (isNumericColumn(left.column())) {
+        int const leftNumber = columnNumber(*leftEntry, left.column());
+        int const rightNumber = columnNumber(*rightEntry, right.column());
+        return leftNumber != rightNumber ? leftNumber < rightNumber : leftEntry->name < rightEntry->name;
+    }
+
+    int const order = columnText(*leftEntry, left.column()).compare(columnText(*rightEntry, right.column()));
+    return order != 0 ? order < 0 : leftEntry->name < rightEntry->name;
+}
+
+QVariant SortFilterProxyModel::data(QModelIndex const& index, int role) const
+{
+    bool const spoken = role == Qt::AccessibleTextRole && index.column() < NameColumn;
+    return HSortFilterProxyModel::data(index, spoken ? static_cast<int>(Qt::ToolTipRole) : role);
+}
+
+} // namespace PackageTable

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "engine/Package.h"
+#include "packagetable/PackageTable.h"
+#include "packagetable/PosixRegex.h"
+#include "widgets/HSortFilterProxyModel.h"
+
+#include <QHash>
+
+class YumIO;
+
+namespace PackageTable
+{
+
+/// Decides which rows of the package table show and in what order. Three conditions combine: the state
+/// filter, the groups flag, and a POSIX extended regular expression that is tried on the row as Mode says.
+/// Its source is a PackageTable::Model over the same engine. Created by the view; GUI thread only. In mode
+/// Search, testing a row takes the interpreter lock.
+///
+/// Each operation that changes what shows resets the table, so that selection and current index are gone,
+/// and sorts it as before. None of them touches the marks.
+class SortFilterProxyModel final : public HSortFilterProxyModel
+{
+    Q_OBJECT
+
+public:
+    /// `yumIO` is not owned and must outlive the proxy.
+    SortFilterProxyModel(StateFilter stateFilter, bool groups, YumIO* yumIO, QObject* parent);
+
+    /// The present expression stays and is tried anew in the other way.
+    void setMode(Mode mode);
+    void setStateFilter(StateFilter stateFilter);
+    /// Whether rows of the kind Group may show.
+    void setGroupsFilter(bool groups);
+
+    /// False switches all filtering off: every row shows. Rows keep their verdicts meanwhile.
+    void setFilter(bool filter);
+    [[nodiscard]] bool getFilter() const;
+
+    /// Takes an expression; ".*" at either end is redundant and dropped. One that doesn't compile matches
+    /// everything. When the call returns, each row has been tested.
+    void setFilterRegExp(QString const& pattern);
+
+    [[nodiscard]] bool filterAcceptsRow(int sourceRow, QModelIndex const& sourceParent) const override;
+    /// Whether the expression matches somewhere in the text.
+    [[nodiscard]] bool matches(QString const& text) const;
+    /// Tests the entry of that row against the three conditions, whatever verdict stands from before.
+    [[nodiscard]] bool acceptRow(Package::Entry* entry, int sourceRow, QModelIndex const& sourceParent) const;
+
+    [[nodiscard]] bool lessThan(QModelIndex const& left, QModelIndex const& right) const override;
+
+    /// For cells that show nothing but a picture, the words of their tool tip stand for it to a screen
+    /// reader.
+    [[nodiscard]] QVariant data(QModelIndex const& index, int role = Qt::DisplayRole) const override;
+
+private:
+    /// Entries come and go with each rebuild of the engine's list and their addresses are used again: a
+    /// verdict holds only for the entry of the same serial.
+    struct Verdict
+    {
+        quint64 serial;
+        bool accepted;
+    };
+
+    Package::Entry* entryAt(int sourceRow) const;
+    bool passesState(Package::State state) const;
+    bool matchesShownTexts(Package::Entry const& entry) const;
+    bool matchesAnyField(Package::Entry const& entry) const;
+    void forgetVerdicts();
+
+    Mode mode = Filter;
+    bool filter = true;
+    StateFilter stateFilter;
+    bool groups;
+    YumIO* yumIO;
+    mutable QHash<Package::Entry const*, Verdict> acceptCache;
+    PosixRegex regex;
+};
+
+} // namespace PackageTable

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "packagetable/PackageTable.h"
+#include "widgets/HTableView.h"
+
+#include <memory>
+
+class YumIO;
+
+namespace PackageTable
+{
+
+class ActionContextMenu;
+class Model;
+class OtherContextMenu;
+class SortFilterProxyModel;
+
+/// The table of packages that the user sees. It turns a click in the Action column into a change of the
+/// row's mark and offers two context menus. Columns can be sorted by a click on their header and moved.
+/// Owned by its parent widget; GUI thread. All row numbers and indexes that it hands out are the model's.
+class View final : public HTableView
+{
+    Q_OBJECT
+
+public:
+    /// Neither the model nor the engine is owned; both must outlive the view. `stateFilter` and `groups`
+    /// say what shows at first.
+    View(Model* model, StateFilter stateFilter, bool groups, YumIO* yumIO, QWidget* parent);
+    ~View() override;
+
+    // What shows, see SortFilterProxyModel.
+    void setMode(Mode mode);
+    void setFilter(bool filter);
+    void filtersearch(QString const& pattern);
+    void stateFilterChanged(StateFilter stateFilter);
+    void groupsFilterChanged(bool groups);
+
+    /// The model's indexes of the selected rows.
+    [[nodiscard]] QList<QModelIndex> selectedRows() const;
+
+Q_SIGNALS:
+    /// The current cell has moved to another row; -1 for none. A reset of the table emits nothing.
+    void currentChanged(int current, int previous);
+    /// A click has changed the mark of that row.
+    void stateChanged(int row);
+
+public Q_SLOTS:
+    /// Fits the columns to all rows of the engine, also those that don't show.
+    void resizeColumnsToContents();
+    /// Describes the current row.
+    void describe();
+    void handleHorizontalHeaderClicked(int column);
+    void handleActivated(QModelIndex const& index);
+    void handleCustomContextMenuRequested(QPoint const& point);
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void currentChanged(QModelIndex const& current, QModelIndex const& previous) override;
+
+private:
+    void showMoveOfCurrent(QModelIndex const& current, QModelIndex const& previous);
+
+    Model* model;
+    SortFilterProxyModel* proxy;
+    std::unique_ptr<ActionContextMenu> actionContextMenu; ///< null until first used, like the other one
+    std::unique_ptr<OtherContextMenu> otherContextMenu;
+};
+
+} // namespace PackageTable
