@@ -1,0 +1,109 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""Downloading the packages of a transaction."""
+
+from __future__ import annotations
+
+import os
+from collections import OrderedDict
+from typing import Any, List
+
+import dnf.callback
+import dnf.exceptions
+import dnf.package
+
+from . import host
+from .base import Base
+from .errors import YumBaseError
+
+
+class _File:
+    def __init__(self, name: str, size: int) -> None:
+        self.name = name
+        self.size = size
+        self.done = 0
+        self.ended = False
+
+
+class DownloadMeter(dnf.callback.DownloadProgress):
+    """Tells the engine of one file after the other, though several are fetched at a time.
+
+    A file that is fetched beside the one on show waits for its turn and is then told with what it has.
+    dnf logs and drops what is raised here.
+    """
+
+    def __init__(self) -> None:
+        super().__init__()
+        self._files: "OrderedDict[str, _File]" = OrderedDict()
+        self._shown = ""
+
+    def start(self, total_files: int, total_size: int, total_drpms: int = 0) -> None:
+        self._files.clear()
+        self._shown = ""
+
+    def progress(self, payload: Any, done: float) -> None:
+        file = self._file(payload)
+        file.done = int(done)
+        self._tell(file)
+
+    def end(self, payload: Any, status: Any, msg: Any) -> None:
+        if status == dnf.callback.STATUS_MIRROR:
+            host.log(host.LEVEL_NOTICE, f"{payload}: {msg}")
+            return
+        file = self._file(payload)
+        if status in (None, dnf.callback.STATUS_OK, dnf.callback.STATUS_ALREADY_EXISTS, dnf.callback.STATUS_DRPM):
+            file.done = file.size
+        file.ended = True
+        self._tell(file)
+
+    def finish(self) -> None:
+        """Ends the files that dnf has left without an end: siblings of one that failed."""
+        for file in list(self._files.values()):
+            file.ended = True
+        if self._files:
+            self._tell(next(iter(self._files.values())))
+
+    def _file(self, payload: Any) -> _File:
+        name = os.path.basename(payload.pkg.location) if hasattr(payload, "pkg") else str(payload)
+        if name not in self._files:
+            self._files[name] = _File(name, int(payload.download_size))
+        return self._files[name]
+
+    def _tell(self, moved: _File) -> None:
+        while self._files:
+            first = next(iter(self._files.values()))
+            if first.name != self._shown:
+                self._shown = first.name
+                host.apply_meter_start(first.name, first.size)
+                if first is not moved or first.done:
+                    host.apply_meter_update(first.done)
+            elif first is moved:
+                host.apply_meter_update(first.done)
+            if not first.ended:
+                return
+            host.apply_meter_end(first.done)
+            del self._files[first.name]
+
+
+def download(base: Base, packages: List[dnf.package.Package]) -> None:
+    """Fetches what isn't on this machine yet. YumBaseError names each package that failed, and why."""
+    meter = DownloadMeter()
+    try:
+        base.download_packages(packages, meter)
+    except dnf.exceptions.DownloadError as error:
+        lines = [
+            f"{package}: {message}" if package else str(message)
+            for package, messages in error.errmap.items()
+            for message in messages
+        ]
+        raise YumBaseError("Unable to download packages:\n" + "\n".join(lines)) from error
+    finally:
+        meter.finish()
+    for package in packages:
+        path = package.localPkg()
+        if not os.path.exists(path):
+            raise YumBaseError(f"The file of package {package} is missing: {path}")
+
+
+def not_in_cache(packages: List[dnf.package.Package]) -> List[dnf.package.Package]:
+    """The packages that the repositories still have to give: all but those in the download cache."""
+    return [package for package in packages if package._is_local_pkg() or not os.path.exists(package.localPkg())]
