@@ -25,6 +25,9 @@ struct CellsOfOneIcon
     QSet<QString> measured;
 };
 
+// Stands for the cells without an icon where icons are told apart.
+constexpr qint64 withoutIcon = -1;
+
 class WidestCell
 {
 public:
@@ -36,11 +39,12 @@ public:
     }
 
     void add(QModelIndex const& cell);
+    void addTextOnly(QModelIndex const& cell);
     [[nodiscard]] int width() const { return widest; }
 
 private:
     int measure(QModelIndex const& cell);
-    void addText(QModelIndex const& cell, QString const& text, CellsOfOneIcon& cells);
+    void add(QModelIndex const& cell, QVariant const& text, CellsOfOneIcon& cells);
 
     QAbstractItemDelegate const& delegate;
     QStyleOptionViewItem const& options;
@@ -64,30 +68,40 @@ void WidestCell::add(QModelIndex const& cell)
     cell.multiData(data);
     QVariant const& text = data[0].data();
     QVariant const& icon = data[1].data();
-    bool const isUsual = (!text.isValid() || (text.typeId() == QMetaType::QString && !text.isNull())) &&
-                         (!icon.isValid() || icon.typeId() == QMetaType::QIcon) &&
+    bool const isUsual = (!icon.isValid() || icon.typeId() == QMetaType::QIcon) &&
                          !data[2].data().isValid() && !data[3].data().isValid() && !data[4].data().isValid();
     if (!isUsual) {
         measure(cell);
         return;
     }
-    qint64 const withoutIcon = -1;
-    CellsOfOneIcon& cells = byIcon[icon.isValid() ? qvariant_cast<QIcon>(icon).cacheKey() : withoutIcon];
-    if (text.isValid()) {
-        addText(cell, *static_cast<QString const*>(text.constData()), cells);
-    } else if (!cells.measuredWithoutText) {
-        cells.measuredWithoutText = true;
-        measure(cell);
-    }
+    add(cell, text, byIcon[icon.isValid() ? qvariant_cast<QIcon>(icon).cacheKey() : withoutIcon]);
 }
 
-void WidestCell::addText(QModelIndex const& cell, QString const& text, CellsOfOneIcon& cells)
+void WidestCell::addTextOnly(QModelIndex const& cell)
 {
-    TextEstimate::Bounds const bounds = estimate.bounds(text);
+    add(cell, cell.data(Qt::DisplayRole), byIcon[withoutIcon]);
+}
+
+void WidestCell::add(QModelIndex const& cell, QVariant const& text, CellsOfOneIcon& cells)
+{
+    if (!text.isValid()) {
+        if (!cells.measuredWithoutText) {
+            cells.measuredWithoutText = true;
+            measure(cell);
+        }
+        return;
+    }
+    // Other types are shown as the locale words them.
+    if (text.typeId() != QMetaType::QString || text.isNull()) {
+        measure(cell);
+        return;
+    }
+    QString const& string = *static_cast<QString const*>(text.constData());
+    TextEstimate::Bounds const bounds = estimate.bounds(string);
     if (bounds.most + cells.aroundText <= widest) {
         return;
     }
-    QString const alike = estimate.representative(text);
+    QString const alike = estimate.representative(string);
     if (cells.measured.contains(alike)) {
         return;
     }
@@ -103,7 +117,8 @@ ColumnWidth::ColumnWidth(QAbstractItemDelegate const& delegateToAsk, QStyleOptio
 {
 }
 
-int ColumnWidth::widest(QAbstractItemModel const& model, QModelIndex const& root, int column) const
+int ColumnWidth::widest(
+    QAbstractItemModel const& model, QModelIndex const& root, int column, Cells cells) const
 {
     // Another delegate may size a cell by more than its text and icon.
     if (typeid(delegate) != typeid(HItemDelegate)) {
@@ -112,7 +127,12 @@ int ColumnWidth::widest(QAbstractItemModel const& model, QModelIndex const& root
     WidestCell widestCell(delegate, options);
     int const rows = model.rowCount(root);
     for (int row = 0; row < rows; ++row) {
-        widestCell.add(model.index(row, column, root));
+        QModelIndex const cell = model.index(row, column, root);
+        if (cells == Cells::TextOnly) {
+            widestCell.addTextOnly(cell);
+        } else {
+            widestCell.add(cell);
+        }
     }
     return widestCell.width();
 }

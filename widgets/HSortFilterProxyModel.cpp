@@ -75,16 +75,12 @@ void HSortFilterProxyModel::clear()
 
 void HSortFilterProxyModel::setFilterRegExp(QString const& pattern)
 {
-    dropMapping();
-    setFilterRegularExpression(pattern);
-    rebuild();
+    changeExpression(pattern);
 }
 
 void HSortFilterProxyModel::setFilterRegExp(QRegularExpression const& expression)
 {
-    dropMapping();
-    setFilterRegularExpression(expression);
-    rebuild();
+    changeExpression(expression);
 }
 
 QRegularExpression HSortFilterProxyModel::filterRegExp() const
@@ -111,18 +107,18 @@ QModelIndex HSortFilterProxyModel::createSecondarySortIndex(QModelIndex const& i
 }
 
 // The base answers a new expression by removing and inserting every run of rows by itself while the views
-// follow each step, which takes minutes on a large selected table. With no mapping there is nothing to
-// remove. The persistent indexes go first, since the base would build the mapping anew to save them. The
-// views hear nothing of this and are told by the reset that follows in rebuild().
-void HSortFilterProxyModel::dropMapping()
+// follow each step, which takes minutes on a large selected table. While no source is set there is nothing
+// to remove. The views hear nothing of this and are told by the reset of the source.
+template <class Expression>
+void HSortFilterProxyModel::changeExpression(Expression const& expression)
 {
-    if (!sourceModel) {
-        return;
+    {
+        QSignalBlocker const blocker(this);
+        QSortFilterProxyModel::setSourceModel(nullptr);
+        setFilterRegularExpression(expression);
+        QSortFilterProxyModel::setSourceModel(sourceModel);
     }
-    QSignalBlocker const blocker(this);
-    beginResetModel();
-    endResetModel();
-    invalidate();
+    rebuild();
 }
 
 // The reset makes the base drop its mapping and leaves the rows to be filtered anew at the first question.

@@ -44,7 +44,8 @@ private:
     // A plain item model has no forceSortColumnRediscovery(); giving one is a mistake the compiler finds.
     using QSortFilterProxyModel::setSourceModel;
 
-    void dropMapping();
+    template <class Expression>
+    void changeExpression(Expression const& expression);
     void rebuild();
 
     int const secondarySortColumn;

@@ -68,7 +68,13 @@ int HTableView::sizeHintForColumn(int column) const
     QStyleOptionViewItem options;
     initViewItemOption(&options);
     ColumnWidth const width(*itemDelegate(), options);
-    return width.widest(*model(), rootIndex(), column) + (showGrid() ? 1 : 0);
+    auto const cells = showsTextOnly(column) ? ColumnWidth::Cells::TextOnly : ColumnWidth::Cells::Any;
+    return width.widest(*model(), rootIndex(), column, cells) + (showGrid() ? 1 : 0);
+}
+
+bool HTableView::showsTextOnly(int /*column*/) const
+{
+    return false;
 }
 
 void HTableView::sortByColumn(int column)

@@ -44,6 +44,11 @@ public:
 protected:
     void initViewItemOption(QStyleOptionViewItem* option) const override;
 
+    /// Whether the cells of the column show their text and nothing else: no icon, check box, font or size
+    /// hint of their own. A view that knows its model says so and has such a column measured in half the
+    /// time; false in this class.
+    [[nodiscard]] virtual bool showsTextOnly(int column) const;
+
 private:
     [[nodiscard]] int rowHeightForHint() const;
 
