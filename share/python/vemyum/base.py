@@ -11,7 +11,7 @@ import dnf.conf
 import dnf.repo
 
 from .database import point_rpm_at
-from .errors import RepoError
+from .errors import RepoError, YumBaseError
 from .messages import heard
 from .metadata import ReadingProgress, RepositoryProgress
 
@@ -40,7 +40,12 @@ class Base(dnf.Base):
         if self._report is not None:
             for repo in self.repos.iter_enabled():
                 repo.set_progress_bar(RepositoryProgress(repo, self.conf.cachedir))
-        self.fill_sack()
+        try:
+            self.fill_sack()
+        except OSError as error:
+            if "RPMDB" in str(error):
+                raise YumBaseError(f"The rpm database of {self.conf.installroot} cannot be read: {error}") from error
+            raise
 
     def _add_repo_to_sack(self, repo: dnf.repo.Repo) -> None:
         with heard() as causes:

@@ -8,11 +8,13 @@ to be, so that both speak of the same files.
 
 from __future__ import annotations
 
+import logging
 import os
 from typing import Dict
 
 import dnf.conf
 import dnf.conf.config
+import dnf.exceptions
 import dnf.rpm
 import dnf.util
 import libdnf.conf
@@ -57,7 +59,7 @@ def read_configuration() -> dnf.conf.MainConf:
     point_rpm_at(root)
     conf.substitutions.update_from_etc(root, varsdir=conf.varsdir)
     if "releasever" not in conf.substitutions:
-        conf.substitutions["releasever"] = dnf.rpm.detect_releasever(root) or ""
+        conf.substitutions["releasever"] = _release(root)
     _put_below_root(conf, root)
     conf.exit_on_lock = True
     # The rebuild of delta packages waits for any child of the process, and so takes the exit codes of
@@ -66,6 +68,15 @@ def read_configuration() -> dnf.conf.MainConf:
     for directory in (conf.logdir, conf.cachedir):
         dnf.util.ensure_dir(directory)
     return conf
+
+
+def _release(root: str) -> str:
+    try:
+        return dnf.rpm.detect_releasever(root) or ""
+    except dnf.exceptions.Error as error:
+        # A database that cannot be read is told when its packages are wanted.
+        logging.getLogger("dnf").warning("%s", error)
+        return ""
 
 
 def _set_defaults(conf: dnf.conf.MainConf, root: str) -> None:

@@ -44,7 +44,7 @@ class Collector:
         """Newer versions of installed packages, and packages that make installed ones obsolete."""
         query = self._base.sack.query()
         upgrades = query.filter(upgrades_by_priority=True)
-        packages = list(upgrades.filter(latest=True))
+        packages = list(upgrades.filter(latest_per_arch=True))
         if self._base.conf.obsoletes:
             packages += self._obsoleters({package.name for package in packages})
         packages = self._in_order(packages)
@@ -77,7 +77,7 @@ class Collector:
         names = {package.name for package in installed}
         found = sack.query().available().filter(obsoletes_by_priority=installed, arch=sack.list_arches())
         # An installed package that makes others obsolete in a newer version is an upgrade already.
-        return [package for package in found.filter(latest=True) if package.name not in names | updates]
+        return [package for package in found.filter(latest_per_arch=True) if package.name not in names | updates]
 
     def _native(self) -> List[str]:
         return [self._base.conf.substitutions["basearch"], self._base.conf.substitutions["arch"], "noarch"]

@@ -1,0 +1,74 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""Fixtures: rpms built once a session, an estate and a loaded helper script for each test."""
+
+from __future__ import annotations
+
+import os
+import sys
+from pathlib import Path
+from typing import Iterator, Tuple
+
+import pytest
+
+HERE = Path(__file__).resolve().parent
+TOP = HERE.parent.parent
+for folder in (TOP / "estate", TOP / "share" / "python", HERE):
+    sys.path.insert(0, str(folder))
+
+import fake_host  # noqa: E402
+from catalogue import Catalogue  # noqa: E402
+from program import Program  # noqa: E402
+from rpmestate import Estate  # noqa: E402
+from web import Web  # noqa: E402
+
+
+@pytest.fixture(scope="session")
+def rpms(tmp_path_factory: pytest.TempPathFactory) -> Catalogue:
+    return Catalogue(Estate(tmp_path_factory.mktemp("rpms")))
+
+
+@pytest.fixture
+def host() -> fake_host.FakeHost:
+    fake_host.HOST.reset()
+    return fake_host.HOST
+
+
+@pytest.fixture
+def estate(tmp_path: Path, monkeypatch: pytest.MonkeyPatch) -> Estate:
+    """An estate without packages and repositories; VEMROOT names its root."""
+    # A home that knows nothing of the estate: the database must be found without its help.
+    home = tmp_path / "home"
+    home.mkdir()
+    estate = Estate(tmp_path / "estate")
+    estate.write_main_config()
+    monkeypatch.setenv("HOME", str(home))
+    monkeypatch.setenv("VEMROOT", str(estate.root))
+    return estate
+
+
+@pytest.fixture
+def program(estate: Estate, host: fake_host.FakeHost) -> Iterator[Program]:
+    """The helper script on the estate, not yet instantiated."""
+    streams = sys.stdout, sys.stderr
+    program = Program(TOP / "share" / "python" / "YumIO.py")
+    try:
+        yield program
+    finally:
+        program.end()
+        sys.stdout, sys.stderr = streams
+        os.chdir("/")
+
+
+@pytest.fixture
+def web(tmp_path: Path) -> Iterator[Web]:
+    """A web server on loopback over the estate's repositories."""
+    with Web(tmp_path / "estate" / "repos") as web:
+        yield web
+
+
+@pytest.fixture
+def lamp(estate: Estate, rpms: Catalogue, program: Program) -> Tuple[Estate, Program]:
+    """lamp 1.0 is installed, base has lamp 1.1."""
+    estate.install([rpms["lamp-1.0"]])
+    estate.repository("base", [rpms["lamp-1.1"]])
+    return estate, program

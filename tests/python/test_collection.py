@@ -1,0 +1,247 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""Collections: which packages stand in which list, and what the engine makes of them."""
+
+from __future__ import annotations
+
+import gc
+import os
+from pathlib import Path
+from typing import Tuple
+
+import pytest
+from catalogue import Catalogue
+from fake_host import FakeHost
+from program import Program
+from rpmestate import Estate
+
+
+def names(packages: list) -> list:
+    return [f"{package.name}-{package.printVer()}.{package.arch}" for package in packages]
+
+
+def test_three_lists_and_the_states_that_they_merge_to(lamp: Tuple[Estate, Program], rpms: Catalogue) -> None:
+    estate, program = lamp
+    estate.install(rpms.some("lib-1.0"))
+    estate.repository("base", rpms.some("lamp-1.1", "lib-1.0", "battery-1.0"))
+    found = program.collect()
+    assert names(found.updates) == ["lamp-1.1-1.noarch"]
+    assert sorted(names(found.installed)) == ["lamp-1.0-1.noarch", "lib-1.0-1.noarch"]
+    assert sorted(names(found.available)) == ["battery-1.0-1.noarch", "lamp-1.1-1.noarch", "lib-1.0-1.noarch"]
+    assert found.merged() == {"lamp": "OutOfDate", "lib": "UpToDate", "battery": "Available"}
+
+
+def test_obsoleting_package_is_an_update(estate: Estate, rpms: Catalogue, program: Program) -> None:
+    estate.install(rpms.some("oldlamp-1.0"))
+    estate.repository("base", rpms.some("newlamp-1.0"))
+    assert program.collect().merged() == {"newlamp": "OutOfDate", "oldlamp": "UpToDate"}
+
+
+def test_obsoleting_package_is_no_update_when_the_configuration_says_so(
+    estate: Estate, rpms: Catalogue, program: Program
+) -> None:
+    estate.write_main_config(obsoletes="0")
+    estate.install(rpms.some("oldlamp-1.0"))
+    estate.repository("base", rpms.some("newlamp-1.0"))
+    assert program.collect().merged() == {"newlamp": "Available", "oldlamp": "UpToDate"}
+
+
+def test_native_architecture_comes_first(estate: Estate, rpms: Catalogue, program: Program) -> None:
+    estate.install(rpms.some("twin-1.0", "twin-1.0.i686"))
+    estate.repository("base", rpms.some("twin-2.0.i686", "twin-1.5"))
+    found = program.collect()
+    assert names(found.updates) == ["twin-1.5-1.x86_64", "twin-2.0-1.i686"]
+    assert names(found.available) == ["twin-1.5-1.x86_64", "twin-2.0-1.i686"]
+
+
+def test_only_the_newest_update_of_several(estate: Estate, rpms: Catalogue, program: Program) -> None:
+    estate.install(rpms.some("twin-1.0"))
+    estate.repository("base", rpms.some("twin-1.0", "twin-1.5"))
+    found = program.collect()
+    assert names(found.updates) == names(found.available) == ["twin-1.5-1.x86_64"]
+
+
+def test_excluded_package_is_not_offered_but_shown_as_installed(
+    lamp: Tuple[Estate, Program], rpms: Catalogue
+) -> None:
+    estate, program = lamp
+    estate.write_main_config(excludepkgs="lamp")
+    found = program.collect()
+    assert found.merged() == {"lamp": "UpToDate"}
+
+
+def test_disabled_repository_is_not_read(lamp: Tuple[Estate, Program], rpms: Catalogue) -> None:
+    estate, program = lamp
+    estate.repository("extras", rpms.some("battery-1.0"), enabled=False)
+    assert "battery" not in program.collect().merged()
+
+
+def test_switched_repositories_count_for_one_session(lamp: Tuple[Estate, Program], rpms: Catalogue) -> None:
+    estate, program = lamp
+    estate.repository("extras", rpms.some("battery-1.0"), enabled=False)
+    yumio = program.start()
+    assert {id: repo.enabled for id, repo in yumio.repos.repos.items()} == {"base": 1, "extras": 0}
+    yumio.repos.enableRepo("extras")
+    yumio.repos.disableRepo("base")
+    yumio.setupRepos()
+    assert names(list(yumio.collectAll().available)) == ["battery-1.0-1.noarch"]
+    yumio.flush()
+    assert program.collect().merged()["lamp"] == "OutOfDate"
+
+
+def test_unknown_repository_cannot_be_switched(lamp: Tuple[Estate, Program]) -> None:
+    yumio = lamp[1].start()
+    for switch in (yumio.repos.enableRepo, yumio.repos.disableRepo):
+        with pytest.raises(lamp[1].errors.RepoError, match="nowhere"):
+            switch("nowhere")
+
+
+def test_no_repository_enabled_is_no_failure(lamp: Tuple[Estate, Program]) -> None:
+    yumio = lamp[1].start()
+    yumio.repos.disableRepo("base")
+    yumio.setupRepos()
+    assert list(yumio.collectUpdates()) == []
+    assert names(list(yumio.collectAll().installed)) == ["lamp-1.0-1.noarch"]
+
+
+def test_empty_root_has_no_packages(estate: Estate, rpms: Catalogue, program: Program) -> None:
+    estate.repository("base", rpms.some("lamp-1.1"))
+    assert program.collect().merged() == {"lamp": "Available"}
+
+
+def test_main_file_and_repository_directory_of_either_place(
+    estate: Estate, rpms: Catalogue, program: Program
+) -> None:
+    estate.repository("base", rpms.some("battery-1.0"))
+    (estate.root / "etc/yum").mkdir()
+    (estate.root / "etc/yum.repos.d").rename(estate.root / "etc/yum/repos.d")
+    (estate.root / "etc/yum.conf").write_text("[main]\ncachedir=/var/wrong\n")
+    (estate.root / "etc/yum/yum.conf").write_text("[main]\ncachedir=/var/tmp/cache/$basearch\n")
+    assert program.collect().merged() == {"battery": "Available"}
+    assert list((estate.root / "var/tmp/cache/x86_64").glob("base-*"))
+    assert not (estate.root / "var/wrong").exists()
+
+
+def test_cache_and_log_lie_below_the_root_by_default(lamp: Tuple[Estate, Program]) -> None:
+    estate, program = lamp
+    program.collect()
+    assert list((estate.root / "var/cache/yum").glob("base-*"))
+    assert (estate.root / "var/log/hawkey.log").exists()
+
+
+def test_variables_of_the_configuration(lamp: Tuple[Estate, Program]) -> None:
+    estate, program = lamp
+    vars = estate.root / "etc/yum/vars"
+    vars.mkdir(parents=True)
+    (vars / "site").write_text("north\n")
+    yumvar = program.start().conf.yumvar
+    assert (yumvar["site"], yumvar["basearch"], yumvar["releasever"]) == ("north", "x86_64", "")
+
+
+def test_update_of_a_later_collection_is_seen(lamp: Tuple[Estate, Program], rpms: Catalogue) -> None:
+    estate, program = lamp
+    assert program.collect().merged() == {"lamp": "OutOfDate"}
+    estate.install(rpms.some("lamp-1.1"), ["--nodeps"])
+    assert program.collect().merged() == {"lamp": "UpToDate"}
+
+
+def test_suddenly_empty_database_is_an_error(lamp: Tuple[Estate, Program]) -> None:
+    estate, program = lamp
+    program.collect()
+    for file in (estate.root / "var/lib/rpm").iterdir():
+        file.unlink()
+    with pytest.raises(program.errors.YumBaseError, match="no packages, though it did before"):
+        program.collect()
+
+
+def test_database_file_without_contents_is_an_error(lamp: Tuple[Estate, Program]) -> None:
+    estate, program = lamp
+    for file in (estate.root / "var/lib/rpm").iterdir():
+        file.unlink()
+    (estate.root / "var/lib/rpm/rpmdb.sqlite").touch()
+    with pytest.raises(program.errors.YumBaseError, match="rpm database"):
+        program.collect()
+
+
+def test_damaged_database_is_an_error(lamp: Tuple[Estate, Program]) -> None:
+    estate, program = lamp
+    database = estate.root / "var/lib/rpm/rpmdb.sqlite"
+    for file in database.parent.glob("rpmdb.sqlite-*"):
+        file.unlink()
+    database.write_bytes(b"no database" * 1000)
+    with pytest.raises(program.errors.YumBaseError):
+        program.collect()
+
+
+def test_many_collections_leave_nothing_open(lamp: Tuple[Estate, Program]) -> None:
+    program = lamp[1]
+
+    def descriptors() -> int:
+        return len(os.listdir("/proc/self/fd"))
+
+    program.collect().yumio.collectOtherData()
+    program.clear()
+    before = descriptors()
+    for _ in range(4):
+        program.collect().yumio.collectOtherData()
+    program.clear()
+    assert descriptors() == before
+
+
+def test_cleared_session_is_freed(lamp: Tuple[Estate, Program]) -> None:
+    import weakref
+
+    import vemyum.base
+
+    program = lamp[1]
+    found = program.collect()
+    base = weakref.ref(found.yumio._session.base)
+    del found
+    program.clear()
+    assert base() is None
+    assert not [thing for thing in gc.get_objects() if type(thing) is vemyum.base.Base]
+
+
+def test_collector_works_again_after_a_collection(lamp: Tuple[Estate, Program]) -> None:
+    lamp[1].collect()
+    assert gc.isenabled()
+
+
+def test_collector_works_again_after_a_failed_collection(estate: Estate, program: Program) -> None:
+    estate.repository("base", [], baseurl="file:///nowhere/at/all")
+    yumio = program.start()
+    with pytest.raises(program.errors.RepoError):
+        yumio.setupRepos()
+    assert gc.isenabled()
+
+
+def test_texts_beyond_ascii(estate: Estate, rpms: Catalogue, program: Program, host: FakeHost) -> None:
+    estate.repository("base", rpms.some("moebel-1.0"))
+    package = program.collect().offered("moebel")
+    assert package.returnSimple("summary") == "Tische und St\u00fchle \u2014 \u6728"
+
+
+def test_first_configuration_that_cannot_be_read_ends_the_program(
+    estate: Estate, program: Program, host: FakeHost
+) -> None:
+    Path(estate.root / "etc/yum.conf").write_text("[main\nbroken")
+    with pytest.raises(SystemExit):
+        program.namespace["YumIO"]()
+    assert "yum.conf" in host.text("errorlog")
+
+
+def test_later_configuration_that_cannot_be_read_is_told_by_the_repositories(lamp: Tuple[Estate, Program]) -> None:
+    estate, program = lamp
+    program.collect()
+    (estate.root / "etc/yum.conf").write_text("[main\nbroken")
+    program.clear()
+    yumio = program.start()
+    assert [repo.enabled for repo in yumio.repos.repos.values()] == [1]
+    with pytest.raises(program.errors.RepoError, match="yum.conf"):
+        yumio.setupRepos()
+
+
+def test_broken_repository_file_is_passed_over_with_a_word(lamp: Tuple[Estate, Program], host: FakeHost) -> None:
+    estate, program = lamp
+    (estate.root / "etc/yum.repos.d/bad.repo").write_text("[bad\nname=x")
+    assert program.collect().merged() == {"lamp": "OutOfDate"}
+    assert "bad.repo" in host.text("log") + host.text("errorlog")
