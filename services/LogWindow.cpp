@@ -44,6 +44,8 @@ Window::Window(EntryList& log, QWidget* owner)
     textEdit->setWordWrapMode(QTextOption::NoWrap);
     textEdit->setTabChangesFocus(true);
     textEdit->setAccessibleName(tr("Log"));
+    // Blanks collapse also when they are written as character references.
+    textEdit->document()->setDefaultStyleSheet(QStringLiteral("font { white-space: pre; }"));
 
     levelBox->setRange(0, maximumLevel);
     levelBox->setValue(defaultLevel);
@@ -73,6 +75,8 @@ Window::Window(EntryList& log, QWidget* owner)
     lower->addWidget(levelBox);
     lower->addStretch(1);
     lower->addWidget(close);
+    setTabOrder(textEdit, levelBox);
+    setTabOrder(levelBox, close);
 }
 
 void Window::setVisible(bool visible)
