@@ -277,16 +277,28 @@ class Estate:
             (directory / "comps.xml").write_text(comps, encoding="utf-8")
             command += ["--groupfile", "comps.xml"]
         run([*command, directory])
+        self.write_repo_file(id, name, enabled, baseurl, extra)
+        return directory
+
+    def write_repo_file(
+        self,
+        id: str,  # noqa: A002
+        name: Optional[str] = None,
+        enabled: bool = True,
+        baseurl: Optional[str] = None,
+        extra: Optional[Mapping[str, Optional[str]]] = None,
+    ) -> Path:
+        """Writes only <root>/etc/yum.repos.d/<id>.repo, with the arguments of `repository`."""
         keys: dict[str, Optional[str]] = {
             "name": name if name is not None else id,
-            "baseurl": baseurl if baseurl is not None else directory.as_uri(),
+            "baseurl": baseurl if baseurl is not None else (self.repos_dir / id).as_uri(),
             "enabled": "1" if enabled else "0",
             "gpgcheck": "0",
             **(extra or {}),
         }
         path = self.root / "etc/yum.repos.d" / f"{id}.repo"
         path.write_text(_section(id, keys), encoding="utf-8")
-        return directory
+        return path
 
     def write_main_config(self, **options: Optional[str]) -> Path:
         """Writes <root>/etc/yum.conf; an option None leaves out that default."""
