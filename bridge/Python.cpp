@@ -169,7 +169,7 @@ PyRef Python::pyrf(char const* format, ...)
 char const* Python::pyString(PyObject* object)
 {
     if (!object) {
-        error("Internal error: pyString passed NULL python object\n");
+        report("Internal error: pyString passed NULL python object\n");
         return nullptr;
     }
     Q_ASSERT(PyGILState_Check());
