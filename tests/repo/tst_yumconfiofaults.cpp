@@ -1,0 +1,206 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+// What the user is told when a file can't be read, and what stands in memory after it.
+#include "BoxReader.h"
+#include "ConfRoot.h"
+
+#include <QTest>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+namespace
+{
+
+/// The words of a box, with the number and name of `cause` behind them.
+QString told(char const* message, int cause)
+{
+    return QStringLiteral("%1; errno = %2 (%3).")
+        .arg(QString::fromUtf8(message))
+        .arg(cause)
+        .arg(QString::fromLocal8Bit(std::strerror(cause)));
+}
+
+/// Makes a file that can be looked at but not opened, by root neither.
+bool makeSocket(QByteArray const& path)
+{
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    if (path.size() >= qsizetype(sizeof address.sun_path))
+        return false;
+    std::copy(path.cbegin(), path.cend(), address.sun_path);
+    int const descriptor = ::socket(AF_UNIX, SOCK_STREAM, 0);
+    bool const isMade =
+        descriptor >= 0 && ::bind(descriptor, reinterpret_cast<sockaddr*>(&address), sizeof address) == 0;
+    ::close(descriptor);
+    return isMade;
+}
+
+} // namespace
+
+class TestYumConfIOFaults : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void missingMainFileIsTold();
+    void unreadableMainFileIsTold();
+    void repositoryFileThatCannotBeLookedAtIsTold();
+    void repositoryFileThatCannotBeOpenedIsTold();
+    void readErrorOfARepositoryFileIsTold();
+    void malformedHeadIsTold_data();
+    void malformedHeadIsTold();
+    void malformedHeadLosesTheSectionBeforeIt();
+    void linesOfFilesAreShownAsPlainText();
+    void lineReadAheadOfAFaultIsReadAgain();
+};
+
+void TestYumConfIOFaults::missingMainFileIsTold()
+{
+    BoxReader boxes;
+    ConfRoot root;
+    QVERIFY(root.readMain("[main]\ncachedir=/c\n[a]\n"));
+    root.remove("/etc/yum.conf");
+
+    QWidget window;
+    QVERIFY(!root.conf.read(&window));
+    QCOMPARE(boxes.texts, QStringList(told("Unable to read yum configuration file /etc/yum.conf", ENOENT)));
+    QCOMPARE(boxes.captions, QStringList(QStringLiteral("VEM Repository Editor Error")));
+    QCOMPARE(boxes.icons, QList<QMessageBox::Icon>{QMessageBox::Critical});
+    QCOMPARE(boxes.buttons, QList<QMessageBox::StandardButtons>{QMessageBox::Ok});
+    QCOMPARE(boxes.parents, QList<QWidget*>{&window});
+    QVERIFY(root.conf.repos.isEmpty());
+    QCOMPARE(root.conf.cachedir, QStringLiteral("/var/cache/yum"));
+}
+
+void TestYumConfIOFaults::unreadableMainFileIsTold()
+{
+    BoxReader boxes;
+    ConfRoot root;
+    root.makeDirectory("/etc/yum/yum.conf");
+    QVERIFY(!root.conf.read(nullptr));
+    QCOMPARE(
+        boxes.texts,
+        QStringList(told("Error reading repository configuration file /etc/yum/yum.conf", EISDIR)));
+}
+
+void TestYumConfIOFaults::repositoryFileThatCannotBeLookedAtIsTold()
+{
+    BoxReader boxes;
+    ConfRoot root;
+    root.write("/etc/yum.conf", "[a]\n");
+    root.makeDirectory("/etc/yum.repos.d");
+    QVERIFY(QFile::link(
+        QStringLiteral("nowhere"), QFile::decodeName(root.onDisk("/etc/yum.repos.d/dangling.repo"))));
+    QVERIFY(!root.conf.read(nullptr));
+    QCOMPARE(
+        boxes.texts,
+        QStringList(
+            told("Unable to stat repository configuration file /etc/yum.repos.d/dangling.repo", ENOENT)));
+    QCOMPARE(root.ids(), QStringList(QStringLiteral("a")));
+}
+
+void TestYumConfIOFaults::repositoryFileThatCannotBeOpenedIsTold()
+{
+    BoxReader boxes;
+    ConfRoot root;
+    root.write("/etc/yum.conf", "[a]\n");
+    root.makeDirectory("/etc/yum/repos.d");
+    QVERIFY(makeSocket(root.onDisk("/etc/yum/repos.d/socket.repo")));
+    root.write("/etc/yum.repos.d/later.repo", "[later]\n");
+    QVERIFY(!root.conf.read(nullptr));
+    QCOMPARE(
+        boxes.texts,
+        QStringList(
+            told("Unable to read repository configuration file /etc/yum/repos.d/socket.repo", ENXIO)));
+    QCOMPARE(root.ids(), QStringList(QStringLiteral("a")));
+}
+
+void TestYumConfIOFaults::readErrorOfARepositoryFileIsTold()
+{
+    BoxReader boxes;
+    ConfRoot root;
+    root.write("/etc/yum.conf", "[a]\n");
+    root.makeDirectory("/etc/yum/repos.d");
+    // The first page of a process is never mapped, so this opens well and can't be read.
+    QVERIFY(QFile::link(
+        QStringLiteral("/proc/self/mem"), QFile::decodeName(root.onDisk("/etc/yum/repos.d/memory.repo"))));
+    root.write("/etc/yum.repos.d/later.repo", "[later]\n");
+    QVERIFY(!root.conf.read(nullptr));
+    QCOMPARE(
+        boxes.texts,
+        QStringList(told("Error reading repository configuration file /etc/yum/repos.d/memory.repo", EIO)));
+    QCOMPARE(root.ids(), QStringList(QStringLiteral("a")));
+}
+
+void TestYumConfIOFaults::malformedHeadIsTold_data()
+{
+    QTest::addColumn<QByteArray>("head");
+    auto const row = [](char const* head) { QTest::newRow(head) << QByteArray(head); };
+    row("[a");
+    row("[");
+    row("[a] ");
+    row("[a]x");
+    row("[a]\n name=A");
+    row("[a]\n   ");
+    row("[main] ");
+}
+
+void TestYumConfIOFaults::malformedHeadIsTold()
+{
+    QFETCH(QByteArray, head);
+    QString const words = QStringLiteral("Malformed section name in line: ") + QString::fromLatin1(head);
+    static QRegularExpression const suffix(QStringLiteral("^; errno = \\d+ \\(.+\\)\\.$"));
+
+    BoxReader boxes;
+    ConfRoot root;
+    QVERIFY(!root.readMain(head + "\n"));
+    QVERIFY(!root.readRepoFile(head + "\n"));
+    QCOMPARE(boxes.texts.size(), 2);
+    for (QString const& text : std::as_const(boxes.texts)) {
+        QVERIFY2(text.startsWith(words), qPrintable(text));
+        QVERIFY2(suffix.match(text.mid(words.size())).hasMatch(), qPrintable(text));
+    }
+    QCOMPARE(boxes.captions.last(), QStringLiteral("VEM Repository Editor Error"));
+}
+
+void TestYumConfIOFaults::malformedHeadLosesTheSectionBeforeIt()
+{
+    BoxReader boxes;
+    ConfRoot root;
+    QVERIFY(!root.readRepoFile("[a]\n[b]\n[c\n[d]\n"));
+    QCOMPARE(boxes.texts.size(), 1);
+    QCOMPARE(root.ids(), QStringList(QStringLiteral("a")));
+}
+
+void TestYumConfIOFaults::linesOfFilesAreShownAsPlainText()
+{
+    BoxReader boxes;
+    ConfRoot root;
+    QVERIFY(!root.readMain("[<b>%1 %2</b>\n"));
+    QCOMPARE(boxes.formats, QList<Qt::TextFormat>{Qt::PlainText});
+    QVERIFY2(
+        boxes.texts.value(0).startsWith(QStringLiteral("Malformed section name in line: [<b>%1 %2</b>; ")),
+        qPrintable(boxes.texts.value(0)));
+}
+
+void TestYumConfIOFaults::lineReadAheadOfAFaultIsReadAgain()
+{
+    BoxReader boxes;
+    ConfRoot root;
+    root.write("/etc/yum.conf", "[main]\n");
+    root.write("/etc/yum.repos.d/some.repo", "[broken\nleft over\n");
+    QVERIFY(!root.conf.read(nullptr));
+    QVERIFY(root.readRepoFile("[a]\n"));
+    QCOMPARE(root.conf.mainOptions, QStringLiteral("left over\n"));
+
+    QVERIFY(root.readMain("[main]\n"));
+    QCOMPARE(root.conf.mainOptions, QStringLiteral("[main]\n"));
+}
+
+QTEST_MAIN(TestYumConfIOFaults)
+#include "tst_yumconfiofaults.moc"
