@@ -1,0 +1,191 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "TableModel.h"
+#include "widgets/ColumnWidth.h"
+#include "widgets/HItemDelegate.h"
+
+#include <QIcon>
+#include <QPixmap>
+#include <QRandomGenerator>
+#include <QStyleOptionViewItem>
+#include <QTest>
+#include <QWidget>
+
+namespace
+{
+
+QStyleOptionViewItem optionsWith(QFont const& font)
+{
+    QWidget const widget;
+    QStyleOptionViewItem options;
+    options.initFrom(&widget);
+    options.font = font;
+    options.decorationSize = QSize(16, 16);
+    return options;
+}
+
+QIcon iconOf(int width)
+{
+    QPixmap pixmap(width, 16);
+    pixmap.fill(Qt::red);
+    return QIcon(pixmap);
+}
+
+class CountingDelegate : public HItemDelegate
+{
+public:
+    using HItemDelegate::HItemDelegate;
+
+    [[nodiscard]] QSize sizeHint(
+        QStyleOptionViewItem const& /*option*/, QModelIndex const& index) const override
+    {
+        return {index.row() == 1 ? 500 : 100, 10};
+    }
+};
+
+QString randomText(QRandomGenerator& random, QString const& alphabet, int longest)
+{
+    QString text;
+    int const length = random.bounded(longest + 1);
+    for (int i = 0; i < length; ++i) {
+        text.append(alphabet.at(random.bounded(static_cast<int>(alphabet.size()))));
+    }
+    return text;
+}
+
+} // namespace
+
+class tst_ColumnWidth : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void findsTheWidthOfTheFullWalk_data();
+    void findsTheWidthOfTheFullWalk();
+    void textOnlyFindsTheWidthOfTheFullWalk();
+    void countsEverythingThatACellShows();
+    void iconWidensANarrowerText();
+    void noRowsNeedNoWidth();
+    void asksAnotherDelegateForEachCell();
+};
+
+void tst_ColumnWidth::findsTheWidthOfTheFullWalk_data()
+{
+    QTest::addColumn<QString>("alphabet");
+    QTest::addColumn<int>("longest");
+    QTest::addColumn<QFont>("font");
+
+    QFont slanted(QStringLiteral("DejaVu Serif"), 17);
+    slanted.setItalic(true);
+    QFont const fonts[] = {
+        QFont(), QFont(QStringLiteral("DejaVu Sans"), 7), slanted,
+        QFont(QStringLiteral("DejaVu Sans Mono"), 11), QFont(QStringLiteral("Nimbus Roman"), 13)};
+    for (QFont const& font : fonts) {
+        QByteArray const name = font.toString().toUtf8();
+        auto const row = [&](char const* what, QString const& alphabet, int longest) {
+            QTest::newRow((name + ' ' + what).constData()) << alphabet << longest << font;
+        };
+        row("names", QStringLiteral("abcdefghijklmnopqrstuvwxyz-0123456789"), 40);
+        row("versions", QStringLiteral("0123456789.-~:"), 12);
+        row("kerning", QStringLiteral("AVTWYLPFo,. \"'rf"), 30);
+        row("narrow and wide", QStringLiteral("ilWM"), 20);
+        row("ligatures", QStringLiteral("fil"), 25);
+        row("beyond ASCII", QString::fromUtf8("aé漢ß\tعн\n"), 15);
+    }
+}
+
+void tst_ColumnWidth::findsTheWidthOfTheFullWalk()
+{
+    QFETCH(QString, alphabet);
+    QFETCH(int, longest);
+    QFETCH(QFont, font);
+    HItemDelegate const delegate(nullptr);
+    QStyleOptionViewItem const options = optionsWith(font);
+    ColumnWidth const width(delegate, options);
+
+    for (quint32 seed = 1; seed <= 8; ++seed) {
+        QRandomGenerator random(seed);
+        TableModel::Rows rows;
+        for (int row = 0; row < 200; ++row) {
+            rows.append({randomText(random, alphabet, longest)});
+        }
+        TableModel const model(rows);
+        int const walked = width.walked(model, {}, 0);
+        QCOMPARE(width.widest(model, {}, 0, ColumnWidth::Cells::Any), walked);
+        QCOMPARE(width.widest(model, {}, 0, ColumnWidth::Cells::TextOnly), walked);
+    }
+}
+
+void tst_ColumnWidth::textOnlyFindsTheWidthOfTheFullWalk()
+{
+    HItemDelegate const delegate(nullptr);
+    QStyleOptionViewItem const options = optionsWith(QFont());
+    ColumnWidth const width(delegate, options);
+    TableModel const model(
+        {{QString()}, {QVariant()}, {1234567}, {0.1}, {QStringLiteral("123456")}, {QStringLiteral("")}});
+
+    QCOMPARE(width.widest(model, {}, 0, ColumnWidth::Cells::TextOnly), width.walked(model, {}, 0));
+}
+
+void tst_ColumnWidth::countsEverythingThatACellShows()
+{
+    HItemDelegate const delegate(nullptr);
+    QFont large;
+    large.setPointSize(40);
+    QPixmap pixmap(200, 16);
+    pixmap.fill(Qt::blue);
+    QMap<int, QVariant> const decorations[] = {
+        {{Qt::DecorationRole, iconOf(16)}},      {{Qt::DecorationRole, QIcon()}},
+        {{Qt::DecorationRole, pixmap}},          {{Qt::DecorationRole, QColor(Qt::red)}},
+        {{Qt::CheckStateRole, Qt::Checked}},     {{Qt::FontRole, large}},
+        {{Qt::SizeHintRole, QSize(999, 5)}},     {{Qt::DecorationRole, iconOf(16)}, {Qt::FontRole, large}},
+        {{Qt::ToolTipRole, QStringLiteral("x")}}};
+    for (QMap<int, QVariant> const& decoration : decorations) {
+        for (auto const position :
+             {QStyleOptionViewItem::Left, QStyleOptionViewItem::Right, QStyleOptionViewItem::Top}) {
+            TableModel model({{QStringLiteral("text 1")}, {QStringLiteral("text 2")}, {QVariant()}});
+            model.otherRoles[{1, 0}] = decoration;
+            model.otherRoles[{2, 0}] = decoration;
+            QStyleOptionViewItem options = optionsWith(QFont());
+            options.decorationPosition = position;
+            ColumnWidth const width(delegate, options);
+            QCOMPARE(width.widest(model, {}, 0, ColumnWidth::Cells::Any), width.walked(model, {}, 0));
+        }
+    }
+}
+
+void tst_ColumnWidth::iconWidensANarrowerText()
+{
+    HItemDelegate const delegate(nullptr);
+    QStyleOptionViewItem options = optionsWith(QFont());
+    options.decorationSize = QSize(64, 16);
+    ColumnWidth const width(delegate, options);
+    TableModel model({{QStringLiteral("some text")}, {QStringLiteral("text")}});
+    int const withoutIcon = width.widest(model, {}, 0, ColumnWidth::Cells::Any);
+
+    model.otherRoles[{1, 0}][Qt::DecorationRole] = iconOf(64);
+
+    QVERIFY(width.walked(model, {}, 0) > withoutIcon);
+    QCOMPARE(width.widest(model, {}, 0, ColumnWidth::Cells::Any), width.walked(model, {}, 0));
+}
+
+void tst_ColumnWidth::noRowsNeedNoWidth()
+{
+    HItemDelegate const delegate(nullptr);
+    QStyleOptionViewItem const options = optionsWith(QFont());
+    TableModel const model({});
+
+    QCOMPARE(ColumnWidth(delegate, options).widest(model, {}, 0, ColumnWidth::Cells::Any), 0);
+    QCOMPARE(ColumnWidth(delegate, options).walked(model, {}, 0), 0);
+}
+
+void tst_ColumnWidth::asksAnotherDelegateForEachCell()
+{
+    CountingDelegate const delegate(nullptr);
+    QStyleOptionViewItem const options = optionsWith(QFont());
+    TableModel const model({{QStringLiteral("same")}, {QStringLiteral("same")}, {QStringLiteral("same")}});
+
+    QCOMPARE(ColumnWidth(delegate, options).widest(model, {}, 0, ColumnWidth::Cells::TextOnly), 500);
+}
+
+QTEST_MAIN(tst_ColumnWidth)
+#include "tst_ColumnWidth.moc"
