@@ -54,11 +54,12 @@ NOARCH: Dict[str, str] = {
 
 NATIVE: Dict[str, str] = {
     "twin-1.0": spec("twin", "1.0", arch=None),
+    "needs-twin32-1.0": spec("needs-twin32", "1.0", arch=None, requires=("twin(x86-32)",)),
     "twin-1.5": spec("twin", "1.5", arch=None),
     "shell-1.0": shell_spec("shell"),
 }
 FOREIGN: Dict[str, str] = {
-    "twin-1.0.i686": spec("twin", "1.0", arch=None),
+    "twin-1.0.i686": spec("twin", "1.0", arch=None, provides=("twin(x86-32)",)),
     "twin-2.0.i686": spec("twin", "2.0", arch=None),
 }
 

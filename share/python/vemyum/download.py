@@ -86,6 +86,7 @@ class DownloadMeter(dnf.callback.DownloadProgress):
 
 def download(base: Base, packages: List[dnf.package.Package]) -> None:
     """Fetches what isn't on this machine yet. YumBaseError names each package that failed, and why."""
+    _require_files([package for package in packages if package._is_local_pkg()])
     meter = DownloadMeter()
     try:
         base.download_packages(packages, meter)
@@ -98,6 +99,10 @@ def download(base: Base, packages: List[dnf.package.Package]) -> None:
         raise YumBaseError("Unable to download packages:\n" + "\n".join(lines)) from error
     finally:
         meter.finish()
+    _require_files(packages)
+
+
+def _require_files(packages: List[dnf.package.Package]) -> None:
     for package in packages:
         path = package.localPkg()
         if not os.path.exists(path):

@@ -21,14 +21,14 @@ class Member:
     """One package of the transaction. `relatedto` holds pairs (member, "obsoletedby")."""
 
     def __init__(self, package: dnf.package.Package) -> None:
-        self.po = package
+        # No reference to the package: it would keep the Base's memory as long as the lists live.
         self.name = package.name
         self.pkgtup = pkgtup_of(package)
         self.repoid = INSTALLED if package._from_system else package.reponame
         self.relatedto: List[Relation] = []
 
     def __repr__(self) -> str:
-        return f"<Member {self.po}>"
+        return f"<Member {'-'.join(self.pkgtup)}>"
 
 
 class Marks:
