@@ -62,7 +62,7 @@ def program(estate: Estate, host: fake_host.FakeHost) -> Iterator[Program]:
 @pytest.fixture
 def web(tmp_path: Path) -> Iterator[Web]:
     """A web server on loopback over the estate's repositories."""
-    with Web(tmp_path / "estate" / "repos") as web:
+    with Web(tmp_path / "estate" / "repos", tmp_path / "web") as web:
         yield web
 
 

@@ -1,55 +1,102 @@
 # SPDX-License-Identifier: GPL-2.0-or-later
-"""A web server on loopback that counts requests and can fail on demand."""
+"""A web server on loopback that notes requests and can fail on demand.
+
+It is a process of its own: dnf keeps the interpreter lock while it fetches metadata, and a thread of
+this interpreter could not answer.
+"""
 
 from __future__ import annotations
 
-import threading
+import base64
+import json
+import subprocess
+import sys
 from http.server import SimpleHTTPRequestHandler, ThreadingHTTPServer
 from pathlib import Path
 from typing import Any, Dict, List, Set
 
 
 class Web:
-    """Serves a directory. `pages` are further paths with their bodies, `missing` paths that are gone."""
+    """Serves a directory at `url`. `state` is a folder for the talk between the two processes."""
 
-    def __init__(self, directory: Path) -> None:
-        self.requests: List[str] = []
-        self.pages: Dict[str, bytes] = {}
-        self.missing: Set[str] = set()
-        web = self
+    def __init__(self, directory: Path, state: Path) -> None:
+        self._state = state
+        self._state.mkdir()
+        self._missing: Set[str] = set()
+        self._pages: Dict[str, bytes] = {}
+        self._tell()
+        self._process = subprocess.Popen(
+            [sys.executable, __file__, str(directory), str(state)], stdout=subprocess.PIPE, text=True
+        )
+        assert self._process.stdout is not None
+        self.url = f"http://127.0.0.1:{int(self._process.stdout.readline())}"
 
-        class Handler(SimpleHTTPRequestHandler):
-            def __init__(self, *args: Any, **options: Any) -> None:
-                super().__init__(*args, directory=str(directory), **options)
+    def lose(self, *paths: str) -> None:
+        """These paths are gone (404) from now on."""
+        self._missing.update(paths)
+        self._tell()
 
-            def do_GET(self) -> None:
-                web.requests.append(self.path)
-                if self.path in web.missing:
-                    self.send_error(404)
-                elif self.path in web.pages:
-                    body = web.pages[self.path]
-                    self.send_response(200)
-                    self.send_header("Content-Length", str(len(body)))
-                    self.end_headers()
-                    self.wfile.write(body)
-                else:
-                    super().do_GET()
+    def find_again(self) -> None:
+        """All lost paths are back."""
+        self._missing.clear()
+        self._tell()
 
-            def log_message(self, *args: Any) -> None:
-                """Quiet."""
+    def page(self, path: str, body: bytes) -> None:
+        """Gives this body under the path."""
+        self._pages[path] = body
+        self._tell()
 
-        self._server = ThreadingHTTPServer(("127.0.0.1", 0), Handler)
-        self._thread = threading.Thread(target=self._server.serve_forever, args=(0.05,), daemon=True)
+    def requests(self) -> List[str]:
+        """All paths that were asked for, in order."""
+        log = self._state / "requests"
+        return log.read_text().splitlines() if log.exists() else []
 
-    @property
-    def url(self) -> str:
-        return f"http://127.0.0.1:{self._server.server_port}"
+    def forget_requests(self) -> None:
+        (self._state / "requests").unlink(missing_ok=True)
 
     def __enter__(self) -> "Web":
-        self._thread.start()
         return self
 
     def __exit__(self, *_: object) -> None:
-        self._server.shutdown()
-        self._server.server_close()
-        self._thread.join()
+        self._process.terminate()
+        self._process.wait()
+        assert self._process.stdout is not None
+        self._process.stdout.close()
+
+    def _tell(self) -> None:
+        pages = {path: base64.b64encode(body).decode() for path, body in self._pages.items()}
+        new = self._state / "new"
+        new.write_text(json.dumps({"missing": sorted(self._missing), "pages": pages}))
+        new.rename(self._state / "state.json")
+
+
+def serve(directory: str, state: Path) -> None:
+    class Handler(SimpleHTTPRequestHandler):
+        def __init__(self, *args: Any, **options: Any) -> None:
+            super().__init__(*args, directory=directory, **options)
+
+        def do_GET(self) -> None:
+            with open(state / "requests", "a", encoding="utf-8") as log:
+                log.write(self.path + "\n")
+            orders = json.loads((state / "state.json").read_text())
+            if self.path in orders["missing"]:
+                self.send_error(404)
+            elif self.path in orders["pages"]:
+                body = base64.b64decode(orders["pages"][self.path])
+                self.send_response(200)
+                self.send_header("Content-Length", str(len(body)))
+                self.end_headers()
+                self.wfile.write(body)
+            else:
+                super().do_GET()
+
+        def log_message(self, *args: Any) -> None:
+            """Quiet."""
+
+    server = ThreadingHTTPServer(("127.0.0.1", 0), Handler)
+    print(server.server_port, flush=True)
+    server.serve_forever()
+
+
+if __name__ == "__main__":
+    serve(sys.argv[1], Path(sys.argv[2]))

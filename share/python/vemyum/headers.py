@@ -19,10 +19,7 @@ class Header:
         self._header = header
 
     def __getitem__(self, tag: Any) -> Any:
-        """The tag's value: int, str, a list of them, or None for one that isn't there.
-
-        Raises ValueError for an unknown tag.
-        """
+        """The tag's value: int, str, a list of them; None or an empty list for one that isn't there."""
         value = self._header[tag]
         if isinstance(value, str):
             return valid(value)

@@ -76,7 +76,7 @@ class ProcessLock:
         for lock in reversed(taken):
             # A lock object may only be left on the thread that entered it, and the engine unlocks on
             # another one; what counts for others is the file.
-            with contextlib.suppress(FileNotFoundError):
+            with contextlib.suppress(FileNotFoundError, NotADirectoryError):
                 os.unlink(lock.target)
 
 

@@ -1,0 +1,275 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""Reading repositories: the acts that the engine shows, and failures that name their cause."""
+
+from __future__ import annotations
+
+import hashlib
+import os
+import re
+from pathlib import Path
+from typing import List, Optional, Tuple
+
+import pytest
+from catalogue import Catalogue
+from fake_host import FakeHost
+from program import Program
+from rpmestate import Estate
+from web import Web
+
+
+def acts(host: FakeHost) -> List[Tuple[str, str]]:
+    """The acts as the engine tells them apart: kind and repository, repeats left out."""
+    found: List[Tuple[str, str]] = []
+    for call in host.named("collectGrabMeterStart", "collectProgress"):
+        act = _meter_act(call[1]) if call[0] == "collectGrabMeterStart" else _reading_act(call[3])
+        if not found or found[-1] != act:
+            found.append(act)
+    return found
+
+
+def _meter_act(path: str) -> Tuple[str, str]:
+    directory, file = path.rsplit("/", 2)[1:]
+    kind = "mirrors" if file[:8] == "metalink" else "repomd" if file[:6] == "repomd" else "download"
+    return (kind, directory)
+
+
+def _reading_act(name: Optional[str]) -> Tuple[str, str]:
+    return ("convert", "") if name == "MD Read" else ("read", name or "")
+
+
+@pytest.fixture
+def served(estate: Estate, rpms: Catalogue, web: Web) -> Estate:
+    """base is served over HTTP."""
+    estate.repository("base", rpms.some("lamp-1.1", "battery-1.0"), baseurl=f"{web.url}/base")
+    return estate
+
+
+# Acts --------------------------------------------------------------------------------------------------
+
+
+def test_acts_of_a_repository_on_this_machine(lamp: Tuple[Estate, Program], host: FakeHost) -> None:
+    lamp[1].start().setupRepos()
+    assert acts(host) == [("repomd", "base"), ("download", "base"), ("convert", ""), ("read", "base")]
+
+
+def test_acts_of_a_repository_behind_http(served: Estate, program: Program, host: FakeHost) -> None:
+    program.start().setupRepos()
+    assert acts(host) == [("repomd", "base"), ("download", "base"), ("convert", ""), ("read", "base")]
+
+
+def test_acts_of_a_mirror_list(
+    estate: Estate, rpms: Catalogue, web: Web, program: Program, host: FakeHost
+) -> None:
+    estate.repository("base", rpms.some("battery-1.0"), extra={"baseurl": None, "mirrorlist": f"{web.url}/mirrors"})
+    web.page("/mirrors", f"{web.url}/base/\n".encode())
+    program.start().setupRepos()
+    kinds = [("mirrors", "base"), ("repomd", "base"), ("download", "base"), ("convert", ""), ("read", "base")]
+    assert acts(host) == kinds
+
+
+def test_acts_of_a_metalink(estate: Estate, rpms: Catalogue, web: Web, program: Program, host: FakeHost) -> None:
+    directory = estate.repository(
+        "base", rpms.some("battery-1.0"), extra={"baseurl": None, "metalink": f"{web.url}/link"}
+    )
+    web.page("/link", metalink(directory, web.url))
+    program.start().setupRepos()
+    kinds = [("mirrors", "base"), ("repomd", "base"), ("download", "base"), ("convert", ""), ("read", "base")]
+    assert acts(host) == kinds
+
+
+def metalink(directory: Path, url: str) -> bytes:
+    repomd = (directory / "repodata/repomd.xml").read_bytes()
+    stamp = re.search(rb"<timestamp>(\d+)", repomd)
+    assert stamp is not None
+    return f"""<?xml version="1.0" encoding="utf-8"?>
+<metalink version="3.0" xmlns="http://www.metalinker.org/" xmlns:mm0="http://fedorahosted.org/mirrormanager">
+ <files><file name="repomd.xml">
+  <mm0:timestamp>{stamp.group(1).decode()}</mm0:timestamp>
+  <size>{len(repomd)}</size>
+  <verification><hash type="sha256">{hashlib.sha256(repomd).hexdigest()}</hash></verification>
+  <resources maxconnections="1">
+   <url protocol="http" type="http" location="US" preference="100">{url}/base/repodata/repomd.xml</url>
+  </resources>
+ </file></files>
+</metalink>
+""".encode()
+
+
+def test_second_reading_downloads_and_converts_nothing(
+    served: Estate, program: Program, host: FakeHost, web: Web
+) -> None:
+    program.collect()
+    host.calls.clear()
+    web.forget_requests()
+    program.collect()
+    assert acts(host) == [("read", "base")]
+    assert web.requests() == []
+
+
+def test_each_repository_has_a_block_of_acts_that_ends_with_reading(
+    served: Estate, rpms: Catalogue, program: Program, host: FakeHost
+) -> None:
+    served.repository("extras", rpms.some("lib-1.0"))
+    program.start().setupRepos()
+    one, two = acts(host)[:4], acts(host)[4:]
+    assert {one[-1], two[-1]} == {("read", "base"), ("read", "extras")}
+    assert [kind for kind, _ in one] == [kind for kind, _ in two] == ["repomd", "download", "convert", "read"]
+
+
+def test_download_meter_counts_the_announced_bytes(served: Estate, program: Program, host: FakeHost) -> None:
+    program.start().setupRepos()
+    starts = [call for call in host.named("collectGrabMeterStart") if call[1].endswith("/primary")]
+    (path, size) = starts[-1][1:]
+    files = list((served.repos_dir / "base/repodata").glob("*-primary.xml*"))
+    files += list((served.repos_dir / "base/repodata").glob("*-filelists.xml*"))
+    assert size == sum(file.stat().st_size for file in files)
+    assert host.named("collectGrabMeterUpdate")[-1][1] == size
+    assert host.named("collectGrabMeterEnd")
+
+
+# Failures ----------------------------------------------------------------------------------------------
+
+
+def unreadable(program: Program, *words: str) -> str:
+    yumio = program.start()
+    with pytest.raises(program.errors.RepoError) as caught:
+        yumio.setupRepos()
+    for word in words:
+        assert word in str(caught.value), caught.value
+    return str(caught.value)
+
+
+def test_server_that_refuses_is_named_with_the_cause(estate: Estate, program: Program) -> None:
+    estate.repository("base", [], baseurl="http://127.0.0.1:1/base")
+    unreadable(program, "base", "http://127.0.0.1:1/base", "Couldn't connect to server")
+
+
+def test_missing_directory_is_named_with_the_cause(estate: Estate, program: Program) -> None:
+    estate.repository("base", [], baseurl="file:///nowhere/at/all")
+    unreadable(program, "repository base", "file:///nowhere/at/all", "Couldn't read a file:// file")
+
+
+def test_missing_repomd_is_named_with_the_status(served: Estate, program: Program, web: Web) -> None:
+    web.lose("/base/repodata/repomd.xml")
+    unreadable(program, "repository base", f"{web.url}/base", "Status code: 404")
+
+
+def test_missing_mirror_list_is_named(estate: Estate, rpms: Catalogue, web: Web, program: Program) -> None:
+    estate.repository("base", rpms.some("lib-1.0"), extra={"baseurl": None, "mirrorlist": f"{web.url}/mirrors"})
+    web.lose("/mirrors")
+    unreadable(program, "repository base", f"{web.url}/mirrors", "404")
+
+
+def test_repository_without_address_is_named(estate: Estate, rpms: Catalogue, program: Program) -> None:
+    estate.repository("base", rpms.some("lib-1.0"), extra={"baseurl": None})
+    unreadable(program, "repository base", "no address")
+
+
+def test_corrupt_repomd_is_named(served: Estate, program: Program, web: Web) -> None:
+    web.page("/base/repodata/repomd.xml", b"<html>no")
+    unreadable(program, "repository base", f"{web.url}/base", "repomd.xml parser error")
+
+
+def test_corrupt_package_list_is_named(served: Estate, program: Program, web: Web) -> None:
+    (primary,) = (served.repos_dir / "base/repodata").glob("*-primary.xml*")
+    web.page(f"/base/repodata/{primary.name}", b"x" * primary.stat().st_size)
+    unreadable(program, "repository base", f"{web.url}/base", "hecksum")
+
+
+def test_malformed_package_list_is_named(served: Estate, rpms: Catalogue, program: Program) -> None:
+    """The checksums are right, the XML is not."""
+    import gzip
+
+    repodata = served.repos_dir / "base/repodata"
+    repomd = repodata / "repomd.xml"
+    text = repomd.read_text()
+    (primary,) = repodata.glob("*-primary.xml.gz")
+    old_sum = primary.name.split("-")[0]
+    data = gzip.compress(b"<metadata><package")
+    primary.unlink()
+    (repodata / primary.name).write_bytes(data)
+    text = text.replace(f">{old_sum}<", f">{hashlib.sha256(data).hexdigest()}<")
+    entry = re.search(r'<data type="primary">.*?</data>', text, re.DOTALL)
+    assert entry is not None
+    changed = re.sub(r"<size>\d+</size>", f"<size>{len(data)}</size>", entry.group(0))
+    changed = re.sub(r"<open-(size|checksum).*?</open-\1>", "", changed)
+    repomd.write_text(text.replace(entry.group(0), changed))
+    unreadable(program, "repository base")
+
+
+def test_cache_that_cannot_be_used_is_named(lamp: Tuple[Estate, Program], host: FakeHost) -> None:
+    estate, program = lamp
+    program.collect()
+    program.clear()
+    cache = estate.root / "var/cache/yum"
+    cache.rename(cache.with_name("elsewhere"))
+    cache.write_text("a file where the directory should be")
+    unreadable(program, str(cache))
+
+
+def test_repository_that_may_be_skipped_is_skipped(
+    lamp: Tuple[Estate, Program], rpms: Catalogue, host: FakeHost
+) -> None:
+    estate, program = lamp
+    estate.repository("extras", [], baseurl="http://127.0.0.1:1/extras", extra={"skip_if_unavailable": "1"})
+    assert program.collect().merged() == {"lamp": "OutOfDate"}
+    assert "extras" in host.text("log") and "127.0.0.1:1" in host.text("log")
+    assert ("read", "extras") in acts(host)
+
+
+def test_collection_after_a_failed_one(served: Estate, program: Program, web: Web) -> None:
+    web.lose("/base/repodata/repomd.xml")
+    unreadable(program)
+    web.find_again()
+    assert program.collect().merged() == {"lamp": "Available", "battery": "Available"}
+
+
+def test_error_lines_are_below_level_three_and_debug_lines_are_not(
+    estate: Estate, program: Program, host: FakeHost
+) -> None:
+    import logging
+
+    program.start()
+    logger = logging.getLogger("dnf")
+    logger.error("a fault")
+    logger.warning("a warning")
+    logger.debug("a detail")
+    assert ("errorlog", 0, "a fault") in host.calls
+    assert ("log", 1, "a warning") in host.calls
+    assert ("log", 4, "a detail") in host.calls
+
+
+# Extra data --------------------------------------------------------------------------------------------
+
+
+def test_extra_data_reports_reading(lamp: Tuple[Estate, Program], host: FakeHost) -> None:
+    yumio = lamp[1].collect().yumio
+    host.calls.clear()
+    assert yumio.collectFileLists() is not None
+    assert acts(host) == [("read", "base")]
+    host.calls.clear()
+    assert yumio.collectOtherData() is not None
+    assert acts(host)[-1] == ("read", "base")
+
+
+def test_changelogs_of_a_repository_that_is_gone(served: Estate, program: Program, web: Web) -> None:
+    yumio = program.collect().yumio
+    web.lose("/base/repodata/repomd.xml")
+    with pytest.raises(program.errors.YumBaseError, match="repository base"):
+        yumio.collectOtherData()
+    web.find_again()
+    yumio.collectOtherData()
+
+
+def test_extra_data_without_collection_is_an_error(lamp: Tuple[Estate, Program]) -> None:
+    yumio = lamp[1].start()
+    for load in (yumio.collectFileLists, yumio.collectOtherData, yumio.setupTs, yumio.collectUpdates):
+        with pytest.raises(lamp[1].errors.YumBaseError):
+            load()
+
+
+def test_home_does_not_matter(lamp: Tuple[Estate, Program], monkeypatch: pytest.MonkeyPatch) -> None:
+    estate, program = lamp
+    monkeypatch.setenv("HOME", "/nonexistent")
+    assert program.collect().merged() == {"lamp": "OutOfDate"}
+    assert not os.path.exists(estate.root / "nonexistent")
