@@ -17,11 +17,11 @@ namespace PackageTable
 
 View::View(Model* tableModel, StateFilter stateFilter, bool groups, YumIO* yumIO, QWidget* parent)
     : HTableView(QStyleOptionViewItem::Left, 10, std::numeric_limits<int>::max(), parent),
-      model(tableModel),
+      packages(tableModel),
       proxy(new SortFilterProxyModel(stateFilter, groups, yumIO, parent ? parent : this))
 {
     setAccessibleName(tr("Packages"));
-    proxy->setSourceModel(model);
+    proxy->setSourceModel(packages);
     setModel(proxy);
 
     setShowGrid(false);
@@ -91,7 +91,7 @@ void View::resizeColumnsToContents()
 
 void View::describe()
 {
-    model->describe(proxy->mapToSource(currentIndex()), this);
+    packages->describe(proxy->mapToSource(currentIndex()), this);
 }
 
 void View::handleHorizontalHeaderClicked(int column)
@@ -104,7 +104,7 @@ void View::handleActivated(QModelIndex const& index)
 {
     if (index.column() == ActionColumn) {
         QModelIndex const sourceIndex = proxy->mapToSource(index);
-        model->toggleAction(sourceIndex);
+        packages->toggleAction(sourceIndex);
         Q_EMIT stateChanged(sourceIndex.row());
     }
 }
@@ -115,12 +115,12 @@ void View::handleCustomContextMenuRequested(QPoint const& point)
     QPoint const place = viewport()->mapToGlobal(point);
     if (sourceIndex.column() == ActionColumn) {
         if (!actionContextMenu) {
-            actionContextMenu = std::make_unique<ActionContextMenu>(model);
+            actionContextMenu = std::make_unique<ActionContextMenu>(packages);
         }
         actionContextMenu->exec(sourceIndex, place);
     } else {
         if (!otherContextMenu) {
-            otherContextMenu = std::make_unique<OtherContextMenu>(model, this);
+            otherContextMenu = std::make_unique<OtherContextMenu>(packages, this);
         }
         otherContextMenu->exec(sourceIndex, place);
     }
@@ -130,7 +130,7 @@ void View::changeEvent(QEvent* event)
 {
     QFrame::changeEvent(event);
     if (event->type() == QEvent::EnabledChange) {
-        model->setEnabled(isEnabled());
+        packages->setEnabled(isEnabled());
     }
 }
 

@@ -61,7 +61,7 @@ protected:
 private:
     void showMoveOfCurrent(QModelIndex const& current, QModelIndex const& previous);
 
-    Model* model;
+    Model* packages; ///< not the view's own model(), which is the proxy
     SortFilterProxyModel* proxy;
     std::unique_ptr<ActionContextMenu> actionContextMenu; ///< null until first used, like the other one
     std::unique_ptr<OtherContextMenu> otherContextMenu;

@@ -1,0 +1,255 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+// Mode Search: which fields of a package or group are tried, in which order, and when the trying ends. The
+// packages are objects of a class that notes down what it is asked.
+#include "TestEngine.h"
+
+#include "packagetable/PackageTableModel.h"
+#include "packagetable/PackageTableSortFilterProxyModel.h"
+
+#include <QTest>
+
+using PackageTable::Model;
+using PackageTable::SortFilterProxyModel;
+
+namespace
+{
+
+// The lists of a group answer any question, so that none ends in a failure.
+constexpr char const* recorder = R"(
+asked = []
+
+class Recorder:
+    def __init__(self, **fields):
+        self.__dict__.update(fields)
+
+    def returnSimple(self, key):
+        asked.append(key)
+        return self.__dict__.get("simple", {}).get(key)
+
+    def __getattr__(self, name):
+        asked.append(name)
+        raise AttributeError(name)
+
+class Names(Recorder):
+    def __getattribute__(self, name):
+        if name.startswith("__"):
+            return object.__getattribute__(self, name)
+        asked.append(name)
+        return self.__dict__.get(name, self.__dict__["others"])
+)";
+
+class InterpretedEngine : public TestEngine
+{
+public:
+    InterpretedEngine()
+    {
+        fileListsCollected = otherDataCollected = true;
+        if (Python::initialize()) {
+            PyGILStateWrapper const lock(true);
+            py(recorder);
+        }
+    }
+
+    ~InterpretedEngine() override { dropAll(); }
+
+    void dropAll()
+    {
+        PyGILStateWrapper const lock(true);
+        drop();
+    }
+
+    void reportVersion(QString const& version)
+    {
+        yumVersionKnown = true;
+        yumVersionText = version;
+    }
+
+    Package::Entry& addObject(char const* expression, Package::Kind kind = Package::Ordinary)
+    {
+        Package::Entry& entry = add("name", Package::Available, kind);
+        entry.verRel = "version";
+        entry.repo = "repository";
+        entry.arch = "architecture";
+        entry.sizeText = "size";
+        entry.summary = "summary";
+        entry.buildTimeText = "time";
+        PyGILStateWrapper const lock(true);
+        entry.pyObject = pyr(expression);
+        return entry;
+    }
+
+    /// What the objects have been asked since the last call.
+    QStringList takeAsked()
+    {
+        PyGILStateWrapper const lock(true);
+        QString const asked = pyStringDec(pyr("' '.join(asked)"));
+        py("asked.clear()");
+        return asked.split(' ', Qt::SkipEmptyParts);
+    }
+};
+
+} // namespace
+
+class TestPackageTableSearch : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<InterpretedEngine> engine;
+    std::unique_ptr<Model> model;
+    std::unique_ptr<SortFilterProxyModel> proxy;
+
+    bool accepts() const { return proxy->acceptRow(engine->entries[0], 0, QModelIndex()); }
+
+private Q_SLOTS:
+    void initTestCase() { engine = std::make_unique<InterpretedEngine>(); }
+
+    void init()
+    {
+        model = std::make_unique<Model>(engine.get(), nullptr);
+        proxy = std::make_unique<SortFilterProxyModel>(PackageTable::All, true, engine.get(), nullptr);
+        proxy->setSourceModel(model.get());
+        proxy->setMode(PackageTable::Search);
+        engine->reportVersion("4.14.0");
+    }
+
+    void cleanup()
+    {
+        proxy.reset();
+        model.reset();
+        engine->dropAll();
+        engine->takeAsked();
+    }
+
+    void cleanupTestCase() { engine.reset(); }
+
+    void aMatchInAFieldOfTheRecordAsksNothing()
+    {
+        engine->addObject("Recorder()");
+        for (QString const word :
+             {"^name$", "^version$", "^repository$", "^architecture$", "^size$", "^summary$"}) {
+            proxy->setFilterRegExp(word);
+            QVERIFY2(accepts(), qPrintable(word));
+            QCOMPARE(engine->takeAsked(), QStringList());
+        }
+    }
+
+    void asksForEveryFieldOfAPackageTheDearestLast()
+    {
+        engine->addObject("Recorder(prco={}, returnPrco=lambda kind: asked.append(kind) or [])");
+        proxy->setFilterRegExp("matches nothing");
+        engine->takeAsked();
+        QVERIFY(!accepts());
+        QStringList const expected{"description",  "group",     "vendor",
+                                   "hdr", // the time of installation
+                                   "relativepath", "sourcerpm", "license", "packager", "url",
+                                   "hdr", // relocations
+                                   "hdr",          "provides",  "hdr",     "requires", "hdr", "conflicts",
+                                   "hdr",          "obsoletes", "hdr",     "files",    "hdr", "changelog"};
+        QCOMPARE(engine->takeAsked(), expected);
+    }
+
+    void theFirstMatchEndsTheTrying()
+    {
+        engine->addObject("Recorder(simple={'vendor': 'Some Vendor'})");
+        proxy->setFilterRegExp("^Some Vendor$");
+        engine->takeAsked();
+        QVERIFY(accepts());
+        QCOMPARE(engine->takeAsked(), (QStringList{"description", "group", "vendor"}));
+    }
+
+    void aSuiteIsSearchedLikeAPackage()
+    {
+        engine->addObject("Recorder(simple={'url': 'http://example.org/'})", Package::Suite);
+        proxy->setFilterRegExp("example");
+        QVERIFY(accepts());
+    }
+
+    void theBuildTimeIsAmongTheFieldsAndTheBuildHostIsNot()
+    {
+        engine->addObject("Recorder(simple={'buildhost': 'builder'})");
+        proxy->setFilterRegExp("^time$");
+        QVERIFY(accepts());
+        proxy->setFilterRegExp("^builder$");
+        QVERIFY(!accepts());
+    }
+
+    void fieldsAreTriedOneByOne()
+    {
+        engine->addObject("Recorder()");
+        proxy->setFilterRegExp("name version");
+        QVERIFY(!accepts());
+        proxy->setMode(PackageTable::Filter);
+        QVERIFY(accepts());
+    }
+
+    void asksForEveryListOfAGroup()
+    {
+        engine->addObject("Names(others=[])", Package::Group);
+        proxy->setFilterRegExp("matches nothing");
+        engine->takeAsked();
+        QVERIFY(!accepts());
+        QStringList const expected{
+            "mandatory_packages", "default_packages", "optional_packages", "conditional_packages"};
+        QCOMPARE(engine->takeAsked(), expected);
+    }
+
+    void asksForEveryListOfAnOldGroup()
+    {
+        engine->reportVersion("2.2.0");
+        engine->addObject("Names(others={'name': []})", Package::Group);
+        proxy->setFilterRegExp("matches nothing");
+        engine->takeAsked();
+        QVERIFY(!accepts());
+        QStringList const expected{"sub_groups",     "default_metapkgs", "optional_metapkgs",
+                                   "mandatory_pkgs", "default_pkgs",     "optional_pkgs"};
+        QCOMPARE(engine->takeAsked(), expected);
+    }
+
+    void aGroupIsFoundByItsNameAndItsMembers()
+    {
+        engine->addObject("Names(others=[], optional_packages=['member'])", Package::Group);
+        proxy->setFilterRegExp("^name$");
+        engine->takeAsked();
+        QVERIFY(accepts());
+        QCOMPARE(engine->takeAsked(), QStringList());
+        proxy->setFilterRegExp("^member$");
+        QVERIFY(accepts());
+    }
+
+    void aGroupIsNotSearchedForVersionOrRepository()
+    {
+        engine->addObject("Names(others=[])", Package::Group);
+        for (QString const word : {"^version$", "^repository$", "^summary$"}) {
+            proxy->setFilterRegExp(word);
+            QVERIFY2(!accepts(), qPrintable(word));
+        }
+    }
+
+    void stateAndGroupsAreTestedBeforeAnyField()
+    {
+        engine->addObject("Recorder()");
+        proxy->setFilterRegExp("matches nothing");
+        engine->takeAsked();
+        proxy->setStateFilter(PackageTable::Removable);
+        QVERIFY(!accepts());
+        QCOMPARE(engine->takeAsked(), QStringList());
+    }
+
+    void aRowIsSearchedOnceForEachExpression()
+    {
+        engine->addObject("Recorder()");
+        model->reset();
+        proxy->setFilterRegExp("matches nothing");
+        engine->takeAsked();
+        proxy->setFilterRegExp("matches nothing");
+        proxy->sort(3);
+        QCOMPARE(proxy->rowCount(), 0);
+        QCOMPARE(engine->takeAsked(), QStringList());
+        proxy->setFilterRegExp("matches nothing either");
+        QVERIFY(engine->takeAsked().contains("description"));
+    }
+};
+
+QTEST_MAIN(TestPackageTableSearch)
+#include "tst_packagetablesearch.moc"

@@ -1,0 +1,213 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+// In what order rows show.
+#include "TestEngine.h"
+
+#include "packagetable/PackageTableModel.h"
+#include "packagetable/PackageTableSortFilterProxyModel.h"
+
+#include <QRandomGenerator>
+#include <QTest>
+
+using PackageTable::Model;
+using PackageTable::SortFilterProxyModel;
+
+namespace
+{
+
+QStringList namesOf(QAbstractItemModel const& proxy)
+{
+    QStringList names;
+    for (int row = 0; row < proxy.rowCount(); ++row) {
+        names.append(proxy.index(row, 3).data().toString());
+    }
+    return names;
+}
+
+/// The order as the values of the cells tell it, without a look at the records.
+bool plainLessThan(QModelIndex const& left, QModelIndex const& right)
+{
+    QModelIndex const leftName = left.siblingAtColumn(3);
+    QModelIndex const rightName = right.siblingAtColumn(3);
+    if (QList<int>{0, 1, 2, 7, 8}.contains(left.column())) {
+        int const leftNumber = left.data(Qt::UserRole).toInt();
+        int const rightNumber = right.data(Qt::UserRole).toInt();
+        return leftNumber == rightNumber ? plainLessThan(leftName, rightName) : leftNumber < rightNumber;
+    }
+    QString const leftText = left.data().toString();
+    QString const rightText = right.data().toString();
+    if (leftText == rightText && left.column() != 3) {
+        return plainLessThan(leftName, rightName);
+    }
+    return leftText < rightText;
+}
+
+} // namespace
+
+class TestPackageTableSort : public QObject
+{
+    Q_OBJECT
+
+private:
+    TestEngine engine;
+    Model model{&engine, nullptr};
+    SortFilterProxyModel proxy{PackageTable::All, true, &engine, nullptr};
+
+private Q_SLOTS:
+    void initTestCase() { proxy.setSourceModel(&model); }
+
+    void init()
+    {
+        engine.drop();
+        model.reset();
+        proxy.sort(3);
+    }
+
+    void agreesWithTheValuesOfTheCells()
+    {
+        QRandomGenerator random(4711);
+        QStringList const words{"", "a", "A", "b", "B", "ab", "1", "10", "9", QString(QChar(0xfc))};
+        auto const word = [&] { return words[random.bounded(int(words.size()))]; };
+        QList<quint64> const numbers{0, 1, 2, 0x7fffffff, 0x80000000, 0xffffffff, 0x100000000, 0x180000001};
+        for (int row = 0; row < 120; ++row) {
+            Package::Entry& entry = engine.add(
+                word(), static_cast<Package::State>(random.bounded(3)),
+                static_cast<Package::Kind>(random.bounded(3)));
+            entry.action = static_cast<Package::Action>(random.bounded(4));
+            entry.verRel = word();
+            entry.repo = word();
+            entry.arch = word();
+            entry.size = numbers[random.bounded(int(numbers.size()))];
+            auto const time = static_cast<long long>(numbers[random.bounded(int(numbers.size()))]);
+            entry.buildTime = random.bounded(2) ? time : -time;
+        }
+        model.reset();
+        for (int column = 0; column < 9; ++column) {
+            for (int left = 0; left < model.rowCount(); ++left) {
+                for (int right = 0; right < model.rowCount(); ++right) {
+                    QModelIndex const leftCell = model.index(left, column);
+                    QModelIndex const rightCell = model.index(right, column);
+                    QCOMPARE(proxy.lessThan(leftCell, rightCell), plainLessThan(leftCell, rightCell));
+                }
+            }
+        }
+    }
+
+    void numbersSortByValueAndNotByText()
+    {
+        for (quint64 const size : {quint64(900), quint64(1000), quint64(20)}) {
+            Package::Entry& entry = engine.add(QString::number(size), Package::Available);
+            entry.size = size;
+            entry.sizeText = QString::number(size);
+        }
+        model.reset();
+        proxy.sort(7);
+        QCOMPARE(namesOf(proxy), (QStringList{"20", "900", "1000"}));
+        proxy.sort(7, Qt::DescendingOrder);
+        QCOMPARE(namesOf(proxy), (QStringList{"1000", "900", "20"}));
+    }
+
+    void sizesFromTwoGigabytesSortAmongSmallAndNegativeValues()
+    {
+        engine.add("small", Package::Available).size = 10;
+        engine.add("two", Package::Available).size = quint64(2) << 30;
+        engine.add("four", Package::Available).size = (quint64(4) << 30) + 5;
+        model.reset();
+        proxy.sort(7);
+        QCOMPARE(namesOf(proxy), (QStringList{"two", "four", "small"}));
+    }
+
+    void tiesBreakOnName()
+    {
+        for (QString const name : {"c", "a", "b"}) {
+            Package::Entry& entry = engine.add(name, Package::Available);
+            entry.repo = "base";
+            entry.arch = "noarch";
+        }
+        engine.add("0", Package::Available).repo = "updates";
+        model.reset();
+        proxy.sort(2);
+        QCOMPARE(namesOf(proxy), (QStringList{"0", "a", "b", "c"}));
+        proxy.sort(5);
+        QCOMPARE(namesOf(proxy), (QStringList{"a", "b", "c", "0"}));
+    }
+
+    void textsSortByCodeUnit()
+    {
+        for (QString const name : {"b", "B", "a", "Z"}) {
+            engine.add(name, Package::Available);
+        }
+        model.reset();
+        proxy.sort(3);
+        QCOMPARE(namesOf(proxy), (QStringList{"B", "Z", "a", "b"}));
+    }
+
+    void suitesStandBeforeGroupsBeforePackages()
+    {
+        engine.add("package", Package::Available);
+        engine.add("group", Package::Available, Package::Group);
+        engine.add("suite", Package::Available, Package::Suite);
+        model.reset();
+        proxy.sort(2);
+        QCOMPARE(namesOf(proxy), (QStringList{"suite", "group", "package"}));
+    }
+
+    void orderSurvivesResetsAndChangesOfFilter()
+    {
+        for (QString const name : {"b", "c", "a"}) {
+            engine.add(name, Package::UpToDate);
+        }
+        model.reset();
+        proxy.sort(3, Qt::DescendingOrder);
+        QStringList const expected{"c", "b", "a"};
+        QCOMPARE(namesOf(proxy), expected);
+        model.reset();
+        QCOMPARE(namesOf(proxy), expected);
+        proxy.setStateFilter(PackageTable::Removable);
+        QCOMPARE(namesOf(proxy), expected);
+        proxy.setFilterRegExp("[abc]");
+        QCOMPARE(namesOf(proxy), expected);
+        proxy.setFilter(false);
+        QCOMPARE(namesOf(proxy), expected);
+        proxy.setFilter(true);
+        proxy.setStateFilter(PackageTable::All);
+        proxy.setFilterRegExp("");
+
+        engine.drop();
+        model.reset();
+        QCOMPARE(namesOf(proxy), QStringList());
+        for (QString const name : {"y", "z", "x"}) {
+            engine.add(name, Package::UpToDate);
+        }
+        model.reset();
+        QCOMPARE(namesOf(proxy), (QStringList{"z", "y", "x"}));
+        QCOMPARE(proxy.sortColumn(), 3);
+        QCOMPARE(proxy.sortOrder(), Qt::DescendingOrder);
+    }
+
+    void aRowStaysInItsPlaceWhenItsMarkChanges()
+    {
+        for (QString const name : {"a", "b", "c"}) {
+            engine.add(name, Package::OutOfDate);
+        }
+        model.reset();
+        proxy.sort(0);
+        model.toggleAction(model.index(2, 0));
+        QCOMPARE(namesOf(proxy), (QStringList{"a", "b", "c"}));
+        proxy.sort(0);
+        QCOMPARE(namesOf(proxy), (QStringList{"c", "a", "b"}));
+    }
+
+    void indexesWithoutAModelAreNeverLess()
+    {
+        engine.add("a", Package::Available);
+        model.reset();
+        for (int column : {0, 1, 2, 7, 8}) {
+            QVERIFY(!proxy.lessThan(model.index(0, column), QModelIndex()));
+        }
+        QVERIFY(!proxy.lessThan(model.index(0, 3), QModelIndex()));
+        QVERIFY(!proxy.lessThan(QModelIndex(), QModelIndex()));
+    }
+};
+
+QTEST_MAIN(TestPackageTableSort)
+#include "tst_packagetablesort.moc"

@@ -1,0 +1,349 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "TestEngine.h"
+
+#include "packagetable/PackageTableModel.h"
+#include "packagetable/PackageTableView.h"
+#include "widgets/Colors.h"
+
+#include <QHeaderView>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTest>
+#include <QVBoxLayout>
+
+using PackageTable::Model;
+using PackageTable::View;
+
+class TestPackageTableView : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<TestEngine> engine;
+    std::unique_ptr<Model> model;
+    std::unique_ptr<QWidget> window;
+    View* view = nullptr;
+
+    /// The view's cell of a row of the model.
+    QModelIndex cell(int modelRow, int column) const
+    {
+        for (int row = 0; row < view->model()->rowCount(); ++row) {
+            if (view->model()->index(row, 3).data() == model->index(modelRow, 3).data()) {
+                return view->model()->index(row, column);
+            }
+        }
+        return {};
+    }
+
+    QStringList names() const
+    {
+        QStringList result;
+        for (int row = 0; row < view->model()->rowCount(); ++row) {
+            result.append(view->model()->index(row, 3).data().toString());
+        }
+        return result;
+    }
+
+    void click(QModelIndex const& index) const
+    {
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, view->visualRect(index).center());
+    }
+
+    void clickHeader(int column) const
+    {
+        QHeaderView const* const header = view->horizontalHeader();
+        QPoint const point(
+            header->sectionViewportPosition(column) + header->sectionSize(column) / 2, header->height() / 2);
+        QTest::mouseClick(header->viewport(), Qt::LeftButton, Qt::NoModifier, point);
+    }
+
+    Package::Action action(int modelRow) const { return engine->entries[modelRow]->action; }
+
+private Q_SLOTS:
+    void init()
+    {
+        engine = std::make_unique<TestEngine>();
+        model = std::make_unique<Model>(engine.get(), nullptr);
+        engine->add("coreutils", Package::OutOfDate);
+        engine->add("bash", Package::Available);
+        engine->add("audit", Package::UpToDate);
+        engine->add("desktop", Package::Available, Package::Group);
+        engine->add("everything", Package::OutOfDate, Package::Suite);
+        window = std::make_unique<QWidget>();
+        auto* const layout = new QVBoxLayout(window.get());
+        view = new View(model.get(), PackageTable::All, true, engine.get(), window.get());
+        layout->addWidget(view);
+        window->resize(1000, 400);
+        window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+    }
+
+    void cleanup()
+    {
+        window.reset();
+        model.reset();
+        engine.reset();
+    }
+
+    void looksAsATableOfPackages()
+    {
+        QCOMPARE(view->accessibleName(), "Packages");
+        QVERIFY(!view->showGrid());
+        QCOMPARE(view->gridStyle(), Qt::NoPen);
+        QCOMPARE(view->selectionBehavior(), QAbstractItemView::SelectRows);
+        QVERIFY(view->alternatingRowColors());
+        QCOMPARE(view->contextMenuPolicy(), Qt::CustomContextMenu);
+        QVERIFY(view->verticalHeader()->isHidden());
+        QVERIFY(view->horizontalHeader()->isVisible());
+        QVERIFY(view->horizontalHeader()->sectionsMovable());
+        QVERIFY(view->horizontalHeader()->sectionsClickable());
+        QVERIFY(!view->horizontalHeader()->isSortIndicatorShown());
+        QCOMPARE(view->horizontalHeader()->selectionBehavior(), QAbstractItemView::SelectColumns);
+    }
+
+    void asksForTenRowsAtLeast()
+    {
+        int const frames = 2 * view->frameWidth();
+        int const header = view->horizontalHeader()->sizeHint().height();
+        QCOMPARE(view->sizeHint().height(), frames + header + 10 * view->rowHeight(0));
+    }
+
+    void startsSortedByKindAndName()
+    {
+        QCOMPARE(names(), (QStringList{"everything", "desktop", "audit", "bash", "coreutils"}));
+    }
+
+    void showsWhatIsAskedForAtFirst()
+    {
+        View other(model.get(), PackageTable::Installable, false, engine.get(), nullptr);
+        QCOMPARE(other.model()->rowCount(), 1);
+    }
+
+    void clickOnTheActionCellCycles()
+    {
+        QSignalSpy const stateChanges(view, &View::stateChanged);
+        for (Package::Action const expected :
+             {Package::Update, Package::Remove, Package::None, Package::Update}) {
+            click(cell(0, 0));
+            QCOMPARE(action(0), expected);
+        }
+        click(cell(1, 0));
+        QCOMPARE(action(1), Package::Install);
+        click(cell(2, 0));
+        QCOMPARE(action(2), Package::Remove);
+        QList<int> rows;
+        for (QList<QVariant> const& emission : stateChanges) {
+            rows.append(emission[0].toInt());
+        }
+        QCOMPARE(rows, (QList<int>{0, 0, 0, 0, 1, 2}));
+    }
+
+    void rowsDoNotMoveBelowTheMouseWhenSortedByAction()
+    {
+        clickHeader(0);
+        QModelIndex const place = cell(0, 0);
+        for (Package::Action const expected : {Package::Update, Package::Remove, Package::None}) {
+            click(place);
+            QCOMPARE(action(0), expected);
+        }
+    }
+
+    void clickElsewhereOnlySelects()
+    {
+        QSignalSpy const stateChanges(view, &View::stateChanged);
+        for (int column = 1; column < 9; ++column) {
+            click(cell(0, column));
+        }
+        QCOMPARE(action(0), Package::None);
+        QCOMPARE(stateChanges.count(), 0);
+        QCOMPARE(view->selectedRows(), QList<QModelIndex>{model->index(0, 0)});
+    }
+
+    void selectedRowsAreTheModelsRows()
+    {
+        click(cell(0, 3));
+        QTest::mouseClick(
+            view->viewport(), Qt::LeftButton, Qt::ControlModifier, view->visualRect(cell(3, 3)).center());
+        QList<int> rows;
+        for (QModelIndex const& index : view->selectedRows()) {
+            QCOMPARE(index.model(), model.get());
+            rows.append(index.row());
+        }
+        std::sort(rows.begin(), rows.end());
+        QCOMPARE(rows, (QList<int>{0, 3}));
+    }
+
+    void headerClickSortsAndTheSecondReverses()
+    {
+        clickHeader(3);
+        QStringList ascending{"audit", "bash", "coreutils", "desktop", "everything"};
+        QCOMPARE(names(), ascending);
+        clickHeader(3);
+        std::reverse(ascending.begin(), ascending.end());
+        QCOMPARE(names(), ascending);
+        clickHeader(2);
+        QCOMPARE(names().first(), "everything");
+        QVERIFY(!view->horizontalHeader()->isSortIndicatorShown());
+    }
+
+    void movingTheCurrentCellTellsTheModelsRows()
+    {
+        view->selectionModel()->clearCurrentIndex();
+        QSignalSpy const moves(view, qOverload<int, int>(&View::currentChanged));
+        view->setCurrentIndex(cell(2, 3));
+        view->setCurrentIndex(cell(0, 3));
+        view->selectionModel()->clearCurrentIndex();
+        QCOMPARE(moves.count(), 3);
+        QCOMPARE(moves[0], (QList<QVariant>{2, -1}));
+        QCOMPARE(moves[1], (QList<QVariant>{0, 2}));
+        QCOMPARE(moves[2], (QList<QVariant>{-1, 0}));
+    }
+
+    void movingWithinARowTellsNothing()
+    {
+        view->setCurrentIndex(cell(2, 3));
+        QSignalSpy const moves(view, qOverload<int, int>(&View::currentChanged));
+        QTest::keyClick(view, Qt::Key_Right);
+        QCOMPARE(view->currentIndex(), cell(2, 4));
+        QCOMPARE(moves.count(), 0);
+        QTest::keyClick(view, Qt::Key_Down);
+        QCOMPARE(view->currentIndex(), cell(1, 4));
+        QCOMPARE(moves.count(), 1);
+    }
+
+    void theCurrentCellStaysInSightOfTheKeyboard()
+    {
+        for (int row = 0; row < 200; ++row) {
+            engine->add(QStringLiteral("package-%1").arg(row), Package::Available);
+        }
+        model->reset();
+        view->setCurrentIndex(view->model()->index(0, 3));
+        for (Qt::Key const key : {Qt::Key_PageDown, Qt::Key_PageDown, Qt::Key_Down}) {
+            QTest::keyClick(view, key);
+            QVERIFY(view->viewport()->rect().contains(view->visualRect(view->currentIndex())));
+        }
+        QVERIFY(view->verticalScrollBar()->value() > 0);
+    }
+
+    void filtersLikeItsProxy()
+    {
+        view->stateFilterChanged(PackageTable::Removable);
+        QCOMPARE(names(), (QStringList{"everything", "audit", "coreutils"}));
+        view->stateFilterChanged(PackageTable::All);
+        view->groupsFilterChanged(false);
+        QCOMPARE(names(), (QStringList{"everything", "audit", "bash", "coreutils"}));
+        view->filtersearch("^b");
+        QCOMPARE(names(), QStringList{"bash"});
+        view->setFilter(false);
+        QCOMPARE(names().count(), 5);
+        view->setFilter(true);
+        for (Package::Entry* const entry : engine->entries) {
+            entry->summary = "A summary";
+        }
+        view->filtersearch("^A summary$");
+        QCOMPARE(names(), QStringList());
+        view->setMode(PackageTable::Search);
+        QCOMPARE(names().count(), 4);
+    }
+
+    void everyChangeOfWhatShowsClearsTheSelectionAndKeepsTheMarks()
+    {
+        click(cell(0, 0));
+        auto const select = [this] {
+            click(cell(0, 3));
+            QVERIFY(view->currentIndex().isValid());
+            QCOMPARE(view->selectedRows().count(), 1);
+        };
+        QSignalSpy const moves(view, qOverload<int, int>(&View::currentChanged));
+        auto const isCleared = [this] {
+            return !view->currentIndex().isValid() && view->selectedRows().isEmpty() &&
+                   action(0) == Package::Update;
+        };
+        select();
+        view->stateFilterChanged(PackageTable::Removable);
+        QVERIFY(isCleared());
+        select();
+        view->groupsFilterChanged(false);
+        QVERIFY(isCleared());
+        select();
+        view->filtersearch("core");
+        QVERIFY(isCleared());
+        select();
+        view->filtersearch("core");
+        QVERIFY(isCleared());
+        select();
+        view->filtersearch("^coreutils$|core");
+        QVERIFY(isCleared());
+        view->filtersearch("");
+        select();
+        view->setMode(PackageTable::Search);
+        QVERIFY(isCleared());
+    }
+
+    void resizeFitsRowsThatDoNotShow()
+    {
+        engine->entries[1]->name = QString(60, 'W');
+        model->reset();
+        view->resizeColumnsToContents();
+        int const wide = view->columnWidth(3);
+        engine->entries[1]->name = "bash";
+        view->resizeColumnsToContents();
+        QVERIFY(view->columnWidth(3) < wide);
+        engine->entries[1]->name = QString(60, 'W');
+        view->stateFilterChanged(PackageTable::Removable);
+        view->resizeColumnsToContents();
+        QCOMPARE(view->columnWidth(3), wide);
+        QCOMPARE(names(), (QStringList{"everything", "audit", "coreutils"}));
+    }
+
+    void resizeKeepsTheFilterOffThatWasOff()
+    {
+        view->stateFilterChanged(PackageTable::Removable);
+        view->setFilter(false);
+        view->resizeColumnsToContents();
+        QCOMPARE(names().count(), 5);
+    }
+
+    void resizeClearsSelectionAndCurrentCellWithoutASignal()
+    {
+        click(cell(0, 3));
+        QSignalSpy const moves(view, qOverload<int, int>(&View::currentChanged));
+        view->resizeColumnsToContents();
+        QVERIFY(!view->currentIndex().isValid());
+        QVERIFY(view->selectedRows().isEmpty());
+        QCOMPARE(moves.count(), 0);
+    }
+
+    void coloursFollowTheEnabling()
+    {
+        auto const colour = [this] { return qvariant_cast<QColor>(cell(0, 3).data(Qt::ForegroundRole)); };
+        QCOMPARE(colour(), QColor(Colors::error()));
+        window->setEnabled(false);
+        QCOMPARE(colour(), QColor(Colors::errorDisabled()));
+        window->setEnabled(true);
+        QCOMPARE(colour(), QColor(Colors::error()));
+    }
+
+    void columnsStayWhereTheUserMovedThem()
+    {
+        view->horizontalHeader()->moveSection(5, 0);
+        view->horizontalHeader()->resizeSection(3, 123);
+        model->reset();
+        view->filtersearch("a");
+        QCOMPARE(view->horizontalHeader()->visualIndex(5), 0);
+        QCOMPARE(view->horizontalHeader()->sectionSize(3), 123);
+        click(cell(0, 5));
+        QCOMPARE(action(0), Package::None);
+    }
+
+    void describeWithoutACurrentRowDoesNothing()
+    {
+        view->selectionModel()->clearCurrentIndex();
+        view->describe();
+        view->handleActivated(QModelIndex());
+        QVERIFY(!QApplication::activeModalWidget());
+    }
+};
+
+QTEST_MAIN(TestPackageTableView)
+#include "tst_packagetableview.moc"
