@@ -164,6 +164,9 @@ void YumIO::dropEntries()
 
 void YumIO::execWorkThread(QEventLoop& loop, QThread& thread)
 {
+    // A short job may end before the loop begins, and would be waited for in vain: unlike a call of the loop,
+    // a queued signal is not lost then.
+    connect(&thread, &QThread::finished, &loop, &QEventLoop::quit, Qt::QueuedConnection);
     blocker.prepare();
     thread.start(QThread::HighPriority);
 
@@ -179,7 +182,6 @@ void YumIO::execWorkThread(QEventLoop& loop, QThread& thread)
     loop.exec();
     // Once the last window is closed, event loops end at once; but the worker needs this thread for its
     // dialogs and signals until its job is done.
-    connect(&thread, &QThread::finished, &loop, &QEventLoop::quit);
     while (!thread.isFinished()) {
         loop.processEvents(QEventLoop::WaitForMoreEvents);
     }
