@@ -1,0 +1,18 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""The helper script on yum 3.1.7: the first one that reads each repository to its end."""
+import os
+import sys
+
+sys.dont_write_bytecode = True
+sys.path.insert(0, os.path.join(os.path.dirname(__file__), os.pardir, os.pardir))
+import standin
+
+standin.install(
+    globals(),
+    standin.Era(
+        "3.1.7",
+        texts=bytes,
+        sqlite=False,
+        test_progress=True,
+    ),
+)

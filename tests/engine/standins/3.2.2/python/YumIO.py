@@ -1,0 +1,17 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""The helper script on yum 3.2.2: the last one whose test transaction reports, and whose rpms may come as deltas."""
+import os
+import sys
+
+sys.dont_write_bytecode = True
+sys.path.insert(0, os.path.join(os.path.dirname(__file__), os.pardir, os.pardir))
+import standin
+
+standin.install(
+    globals(),
+    standin.Era(
+        "3.2.2",
+        test_progress=True,
+        presto=True,
+    ),
+)
