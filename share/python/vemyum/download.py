@@ -5,7 +5,7 @@ from __future__ import annotations
 
 import os
 from collections import OrderedDict
-from typing import Any, List
+from typing import Any, List, Optional
 
 import dnf.callback
 import dnf.exceptions
@@ -49,6 +49,9 @@ class DownloadMeter(dnf.callback.DownloadProgress):
         if status == dnf.callback.STATUS_MIRROR:
             host.log(host.LEVEL_NOTICE, f"{payload}: {msg}")
             return
+        if status == dnf.callback.STATUS_ALREADY_EXISTS and self._name(payload) not in self._files:
+            # In the cache already: the engine's plan of the download leaves it out, too.
+            return
         file = self._file(payload)
         if status in (None, dnf.callback.STATUS_OK, dnf.callback.STATUS_ALREADY_EXISTS, dnf.callback.STATUS_DRPM):
             file.done = file.size
@@ -59,16 +62,19 @@ class DownloadMeter(dnf.callback.DownloadProgress):
         """Ends the files that dnf has left without an end: siblings of one that failed."""
         for file in list(self._files.values()):
             file.ended = True
-        if self._files:
-            self._tell(next(iter(self._files.values())))
+        self._tell(None)
+
+    @staticmethod
+    def _name(payload: Any) -> str:
+        return os.path.basename(payload.pkg.location) if hasattr(payload, "pkg") else str(payload)
 
     def _file(self, payload: Any) -> _File:
-        name = os.path.basename(payload.pkg.location) if hasattr(payload, "pkg") else str(payload)
+        name = self._name(payload)
         if name not in self._files:
             self._files[name] = _File(name, int(payload.download_size))
         return self._files[name]
 
-    def _tell(self, moved: _File) -> None:
+    def _tell(self, moved: Optional[_File]) -> None:
         while self._files:
             first = next(iter(self._files.values()))
             if first.name != self._shown:

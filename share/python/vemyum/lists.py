@@ -117,7 +117,7 @@ class Collector:
         if count == 0:
             fault = damage(root)
             if fault is None and self._known_installed.get(root, 0) > 0:
-                fault = "it lists no packages, though it did before"
+                fault = "it lists no packages, though it did before. If that is right, start the program anew."
             if fault is not None:
                 raise YumBaseError(f"The rpm database of {root} cannot be used: {fault}")
         self._known_installed[root] = count

@@ -3,15 +3,22 @@
 
 from __future__ import annotations
 
-from typing import List, Optional
+import contextlib
+import os
+import shutil
+import subprocess
+from typing import Any, Iterator, List, Optional
 
 import dnf.package
+import dnf.rpm.miscutils
 import rpm
 
 from .base import Base
+from .database import database_directory
 from .errors import YumBaseError
 
 _FORMATS = ("%{RSAHEADER:pgpsig}", "%{DSAHEADER:pgpsig}", "%{SIGPGP:pgpsig}", "%{SIGGPG:pgpsig}")
+_FATAL = 2
 
 
 def check_signatures(base: Base, packages: List[dnf.package.Package]) -> None:
@@ -19,7 +26,8 @@ def check_signatures(base: Base, packages: List[dnf.package.Package]) -> None:
     of the repository's keys. Keys are never imported here."""
     faults: List[str] = []
     for package in packages:
-        result, message = base.package_signature_check(package)
+        with _checking_below(base.conf.installroot):
+            result, message = base.package_signature_check(package)
         if result == 0:
             continue
         locations = ", ".join(base.repos[package.reponame].gpgkey) or "none"
@@ -31,6 +39,37 @@ def check_signatures(base: Base, packages: List[dnf.package.Package]) -> None:
     if faults:
         faults.append("Nothing was installed. Import the key into the rpm database, or correct the repository.")
         raise YumBaseError("\n".join(faults))
+
+
+@contextlib.contextmanager
+def _checking_below(root: str) -> Iterator[None]:
+    """Lets dnf's check look for keys where the root's database is.
+
+    dnf leaves the check to the program rpmkeys, which doesn't know of this process's settings.
+    """
+    database = database_directory(root)
+    if database is None:
+        yield
+        return
+
+    def check(_: Any, path: str) -> int:
+        rpmkeys = shutil.which("rpmkeys")
+        if rpmkeys is None:
+            raise YumBaseError("The program rpmkeys is missing: signatures cannot be checked")
+        command = [rpmkeys, "--checksig", "--root", root, "--dbpath", database, "--verbose"]
+        command += ["--define=_pkgverify_level signature", "--define=_pkgverify_flags 0x0", "-"]
+        with open(path, "rb") as package:
+            done = subprocess.run(command, stdin=package, stdout=subprocess.PIPE, env={**os.environ, "LC_ALL": "C"}, cwd="/")
+        if done.returncode not in (0, 1):
+            return _FATAL
+        return dnf.rpm.miscutils._process_rpm_output(done.stdout.split(b"\n")) or (_FATAL if done.returncode else 0)
+
+    original = dnf.rpm.miscutils.checkSig
+    dnf.rpm.miscutils.checkSig = check
+    try:
+        yield
+    finally:
+        dnf.rpm.miscutils.checkSig = original
 
 
 def _key(path: str) -> Optional[str]:

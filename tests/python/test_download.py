@@ -1,0 +1,169 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""Downloads of an apply: the meter per file, failures by package, the cache."""
+
+from __future__ import annotations
+
+from typing import Any, Dict, List, Tuple
+
+import dnf.callback
+import pytest
+from catalogue import Catalogue
+from fake_host import FakeHost
+from program import Program
+from rpmestate import Estate
+from web import Web
+
+PACKAGES = ("battery-1.0", "lib-1.0", "lone-1.0")
+
+
+@pytest.fixture
+def served(estate: Estate, rpms: Catalogue, web: Web) -> Estate:
+    estate.repository("base", rpms.some(*PACKAGES), baseurl=f"{web.url}/base")
+    return estate
+
+
+def install_all(program: Program) -> Any:
+    found = program.collect()
+    return found, lambda: found.yumio.apply(list(found.available), [], [])
+
+
+def meters(host: FakeHost) -> List[Tuple[str, int, List[int]]]:
+    """Per file: its name, its size and the values that were told."""
+    found: List[Tuple[str, int, List[int]]] = []
+    for call in host.named("applyGrabMeterStart", "applyGrabMeterUpdate", "applyGrabMeterEnd"):
+        if call[0] == "applyGrabMeterStart":
+            found.append((call[1], call[2], []))
+        else:
+            found[-1][2].append(call[1])
+    return found
+
+
+def test_each_file_has_its_meter(served: Estate, rpms: Catalogue, program: Program, host: FakeHost) -> None:
+    _, apply = install_all(program)
+    apply()
+    sizes = {rpms[key].name: rpms[key].stat().st_size for key in PACKAGES}
+    told = meters(host)
+    assert {name: size for name, size, _ in told} == sizes and len(told) == len(sizes)
+    for name, size, values in told:
+        assert values == sorted(values) and values[-1] == size
+    assert len(served.installed()) == 3
+
+
+def test_size_to_download_counts_what_the_cache_lacks(
+    served: Estate, rpms: Catalogue, program: Program, host: FakeHost
+) -> None:
+    served.write_main_config(keepcache="1")
+    served.install(rpms.some("desk-1.0"), ["--nodeps"])
+    found = program.collect()
+    found.yumio.apply([found.offered("battery")], [], [])
+    served.rpm("--erase", "battery")
+    found = program.collect()
+    host.calls.clear()
+    host.answer = 0
+    found.yumio.apply(list(found.available), [], [])
+    (size,) = [call[1] for call in host.named("reportDownloadSize")]
+    assert size == sum(rpms[key].stat().st_size for key in ("lib-1.0", "lone-1.0"))
+
+
+def test_cached_file_is_not_fetched_again(
+    served: Estate, rpms: Catalogue, program: Program, host: FakeHost, web: Web
+) -> None:
+    served.write_main_config(keepcache="1")
+    served.install(rpms.some("desk-1.0"), ["--nodeps"])
+    found = program.collect()
+    found.yumio.apply([found.offered("battery")], [], [])
+    served.rpm("--erase", "battery")
+    found = program.collect()
+    web.forget_requests()
+    host.calls.clear()
+    found.yumio.apply([found.offered("battery")], [], [])
+    assert web.requests() == [] and meters(host) == []
+    assert served.installed() == {"battery-1.0-1.noarch", "desk-1.0-1.noarch"}
+
+
+def test_downloaded_files_go_when_the_cache_is_not_kept(served: Estate, program: Program, host: FakeHost) -> None:
+    _, apply = install_all(program)
+    apply()
+    assert list((served.root / "var/cache/yum").glob("**/*.rpm")) == []
+
+
+def test_failed_download_names_the_package(served: Estate, program: Program, host: FakeHost, web: Web) -> None:
+    web.lose("/base/lib-1.0-1.noarch.rpm")
+    _, apply = install_all(program)
+    with pytest.raises(program.errors.YumBaseError) as caught:
+        apply()
+    assert "lib-1.0-1.noarch" in str(caught.value)
+    assert served.installed() == set()
+    assert not host.named("tsInitCallback")
+
+
+def test_apply_after_a_failed_download(served: Estate, program: Program, host: FakeHost, web: Web) -> None:
+    web.lose("/base/lib-1.0-1.noarch.rpm")
+    _, apply = install_all(program)
+    with pytest.raises(program.errors.YumBaseError):
+        apply()
+    web.find_again()
+    apply()
+    assert len(served.installed()) == 3
+
+
+def test_damaged_download_names_the_package(served: Estate, program: Program, host: FakeHost, web: Web) -> None:
+    web.page("/base/lone-1.0-1.noarch.rpm", b"no rpm" * 1000)
+    found = program.collect()
+    with pytest.raises(program.errors.YumBaseError, match="lone-1.0-1.noarch"):
+        found.yumio.apply([found.offered("lone")], [], [])
+
+
+def test_newer_metadata_does_not_slip_in_behind_the_table(
+    served: Estate, rpms: Catalogue, program: Program, host: FakeHost, web: Web
+) -> None:
+    served.write_main_config(metadata_expire="0")
+    found = program.collect()
+    web.forget_requests()
+    host.answer = 0
+    found.yumio.apply([found.offered("lone")], [], [])
+    assert web.requests() == []
+
+
+# The meter alone ---------------------------------------------------------------------------------------
+
+
+class Payload:
+    def __init__(self, name: str, size: int) -> None:
+        self.name = name
+        self.download_size = size
+
+    def __str__(self) -> str:
+        return self.name
+
+
+def run_meter(host: FakeHost, *steps: Tuple[str, Any]) -> List[Tuple[str, int, List[int]]]:
+    from vemyum.download import DownloadMeter
+
+    payloads: Dict[str, Payload] = {name: Payload(name, 100) for name in "abc"}
+    meter = DownloadMeter()
+    meter.start(3, 300)
+    for name, step in steps:
+        if isinstance(step, float):
+            meter.progress(payloads[name], step)
+        else:
+            meter.end(payloads[name], step, "")
+    meter.finish()
+    return meters(host)
+
+
+def test_files_fetched_side_by_side_are_told_one_after_the_other(program: Program, host: FakeHost) -> None:
+    told = run_meter(
+        host, ("a", 10.0), ("b", 20.0), ("a", 50.0), ("c", 5.0), ("b", None), ("a", None), ("c", 60.0), ("c", None)
+    )
+    assert told == [("a", 100, [10, 50, 100, 100]), ("b", 100, [100, 100]), ("c", 100, [5, 60, 100, 100])]
+
+
+def test_failed_file_ends_where_it_stood(program: Program, host: FakeHost) -> None:
+    told = run_meter(host, ("a", 10.0), ("b", 20.0), ("a", dnf.callback.STATUS_FAILED))
+    assert told == [("a", 100, [10, 10, 10]), ("b", 100, [20, 20])]
+
+
+def test_failed_mirror_is_no_end(program: Program, host: FakeHost) -> None:
+    told = run_meter(host, ("a", 10.0), ("a", dnf.callback.STATUS_MIRROR), ("a", 40.0), ("a", None))
+    assert told == [("a", 100, [10, 40, 100, 100])]

@@ -1,0 +1,109 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""Signatures: what gpgcheck lets through and what it stops, with a key of our own."""
+
+from __future__ import annotations
+
+import os
+import shutil
+import subprocess
+from pathlib import Path
+from typing import Iterator
+
+import pytest
+from catalogue import Catalogue
+from fake_host import FakeHost
+from program import Program
+from rpmestate import Estate
+
+UID = "Estate Signing <signing@estate.example>"
+
+
+class Key:
+    """A signing key in a keyring of its own."""
+
+    def __init__(self, directory: Path) -> None:
+        self.home = directory
+        self.public = directory / "public.asc"
+        self._gpg("--quick-generate-key", UID, "rsa2048", "sign", "never")
+        self.public.write_bytes(self._gpg("--armor", "--export", UID))
+        listing = self._gpg("--list-keys", "--with-colons").decode()
+        self.id = next(line.split(":")[4] for line in listing.splitlines() if line.startswith("pub"))
+
+    def _gpg(self, *arguments: str) -> bytes:
+        command = ["gpg", "--homedir", str(self.home), "--batch", "--passphrase", "", *arguments]
+        return subprocess.run(command, check=True, capture_output=True).stdout
+
+    def sign(self, rpm: Path, directory: Path) -> Path:
+        signed = directory / rpm.name
+        shutil.copy2(rpm, signed)
+        command = ["rpmsign", "--addsign"]
+        for macro in (f"_gpg_name {UID}", f"_gpg_path {self.home}", f"__gpg {shutil.which('gpg')}"):
+            command += ["--define", macro]
+        subprocess.run([*command, str(signed)], check=True, capture_output=True)
+        return signed
+
+    def end(self) -> None:
+        subprocess.run(["gpgconf", "--homedir", str(self.home), "--kill", "all"], check=True)
+
+
+@pytest.fixture(scope="module")
+def key(tmp_path_factory: pytest.TempPathFactory) -> Iterator[Key]:
+    # gpg's agent listens on a socket, whose path must be short.
+    directory = Path("/tmp") / f"vem-keys-{os.getpid()}"
+    directory.mkdir(mode=0o700)
+    key = Key(directory)
+    yield key
+    key.end()
+    shutil.rmtree(directory, ignore_errors=True)
+
+
+def refused(program: Program, *words: str) -> None:
+    found = program.collect()
+    with pytest.raises(program.errors.YumBaseError) as caught:
+        found.yumio.apply([found.offered("lone")], [], [])
+    for word in words:
+        assert word in str(caught.value), caught.value
+
+
+def test_unsigned_package_is_refused(estate: Estate, rpms: Catalogue, program: Program, host: FakeHost) -> None:
+    estate.repository("base", rpms.some("lone-1.0"), extra={"gpgcheck": "1", "gpgkey": "file:///etc/keys/one"})
+    refused(program, "lone-1.0-1.noarch", "is not signed", "file:///etc/keys/one")
+    assert estate.installed() == set()
+    assert not host.named("tsInitCallback")
+
+
+def test_package_of_an_unknown_key_is_refused_and_the_key_named(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost, key: Key, tmp_path: Path
+) -> None:
+    signed = key.sign(rpms["lone-1.0"], tmp_path)
+    estate.repository(
+        "base", [signed], extra={"gpgcheck": "1", "gpgkey": f"{key.public.as_uri()} http://127.0.0.1:1/key"}
+    )
+    refused(
+        program, "lone-1.0-1.noarch", key.id.lower(), key.public.as_uri(), "http://127.0.0.1:1/key", "not installed"
+    )
+    assert estate.installed() == set()
+    assert "gpg-pubkey" not in estate.rpm("-qa")
+
+
+def test_package_of_a_known_key_goes_in(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost, key: Key, tmp_path: Path
+) -> None:
+    signed = key.sign(rpms["lone-1.0"], tmp_path)
+    estate.rpm("--import", key.public)
+    estate.repository("base", [signed], extra={"gpgcheck": "1", "gpgkey": key.public.as_uri()})
+    found = program.collect()
+    found.yumio.apply([found.offered("lone")], [], [])
+    assert estate.installed() == {"lone-1.0-1.noarch"}
+
+
+def test_main_file_decides_where_the_repository_is_silent(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
+) -> None:
+    estate.write_main_config(gpgcheck="1")
+    estate.repository("base", rpms.some("lone-1.0"), extra={"gpgcheck": None})
+    refused(program, "is not signed", "none")
+    estate.write_main_config(gpgcheck="0")
+    found = program.collect()
+    found.yumio.apply([found.offered("lone")], [], [])
+    assert estate.installed() == {"lone-1.0-1.noarch"}
