@@ -50,11 +50,12 @@ def reported_as(kind: Type[dnf.exceptions.Error], doing: str = "") -> Iterator[N
         yield
     except BrokenPipeError:
         raise
-    except kind:
-        raise
     except OSError as error:
         raise kind(_text(doing, os_error_text(error))) from error
     except _LIBRARY_ERRORS as error:
+        # The engine shows `value`, which some of dnf's classes leave empty.
+        if isinstance(error, kind) and error.value == str(error):
+            raise
         raise kind(_text(doing, str(error))) from error
 
 
