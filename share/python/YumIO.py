@@ -11,7 +11,7 @@ from __future__ import annotations
 
 import os
 import sys
-from typing import Any, List, Sequence, Tuple
+from typing import Any, List, Optional, Sequence, Tuple
 
 # The engine tells no path, only this file's name; the package lies beside it in the share directory.
 for _folder in (os.path.dirname(os.path.abspath(__file__)), os.path.join(os.environ.get("VEMSHARE", "/usr/share/vem"), "python")):
@@ -28,11 +28,10 @@ import bdb  # noqa: E402,F401
 
 from vemyum import clean, host, messages, surroundings  # noqa: E402
 from vemyum.apply import Apply  # noqa: E402
-from vemyum.errors import RepoError, YumBaseError, reported_as  # noqa: E402
+from vemyum.errors import LockError, RepoError, YumBaseError, reported_as  # noqa: E402
 from vemyum.session import Session  # noqa: E402
 
 yum = surroundings.make_yum_module()
-surroundings.load_needed_later()
 messages.install_handler()
 
 
@@ -48,15 +47,19 @@ class YumIO:
     in the log. Later ones leave it to `setupRepos` to tell, so that there is always an object.
     """
 
-    _made_one = False
+    _latest: Optional[Session] = None
 
     def __init__(self) -> None:
+        before = YumIO._latest
+        if before is not None:
+            # Its object is gone or will go; nothing of it may stay in memory beside the new one.
+            before.close()
         try:
-            self._session = Session(lenient=YumIO._made_one)
+            self._session = Session(lenient=before is not None)
         except YumBaseError as error:
             host.errorlog(host.LEVEL_ERROR, str(error))
             raise SystemExit(1) from error
-        YumIO._made_one = True
+        YumIO._latest = self._session
         self.repos = self._session.repositories
         self.conf = self._session.conf
 
@@ -66,8 +69,12 @@ class YumIO:
             session.close()
 
     def lock(self) -> None:
-        """LockError, naming the process that holds the lock."""
-        self._session.lock()
+        """LockError. The engine shows no exception's text here but what was logged: the holder's name."""
+        try:
+            self._session.lock()
+        except LockError as error:
+            host.errorlog(host.LEVEL_ERROR, str(error))
+            raise
 
     def unlock(self) -> None:
         """LockError."""
@@ -123,8 +130,8 @@ class YumIO:
         return False
 
     def flush(self) -> None:
-        """Gives up memory and files. Only a new object can do anything afterwards."""
-        self._session.close()
+        """Nothing is left to write. Memory and files go with the object, once the engine has dropped its
+        packages; after a refused apply, which ends with this call too, the object serves the next one."""
 
     def cleanHeaders(self) -> Tuple[int, List[str]]:
         """There are no header files to remove."""

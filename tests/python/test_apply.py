@@ -452,6 +452,21 @@ def test_broken_pipe_reaches_the_engine_as_it_is(
 
 
 def test_apply_without_collection_is_an_error(lamp: Tuple[Estate, Program], host: FakeHost) -> None:
-    found = lamp[1].collect()
+    pair = lamp[1].collect().pair("lamp")
+    unread = lamp[1].start()
+    fails(lamp[1], lambda: unread.apply([], [pair], []))
+
+
+def test_after_a_refusal_and_its_flush_the_same_object_applies(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
+) -> None:
+    """The engine calls flush after a refused confirmation, too, and keeps table and object."""
+    estate.repository("base", rpms.some("lone-1.0"))
+    found = program.collect()
+    host.answer = 0
+    found.yumio.apply([found.offered("lone")], [], [])
     found.yumio.flush()
-    fails(lamp[1], lambda: found.yumio.apply([], [found.pair("lamp")], []))
+    assert found.offered("lone").localPkg() is not None
+    host.answer = 1
+    found.yumio.apply([found.offered("lone")], [], [])
+    assert estate.installed() == {"lone-1.0-1.noarch"}

@@ -27,6 +27,7 @@ from .packages import AvailablePackage
 from .session import Session
 from .signatures import check_signatures
 from .solver import mark, solve
+from .surroundings import load_needed_later
 from .transaction import TransactionInfo
 
 _REFRESH = "A part of the transaction may have been done: please refresh the list of packages."
@@ -55,6 +56,7 @@ class Apply:
             base.load_everything()
             self.tsInfo = solve(base, mark(base, installs, updates, removes), collector)
             self.tsInfo.makelists()
+            load_needed_later()
             incoming = sorted(base.transaction.install_set)
             host.list_transaction(self)
             host.report_download_size([AvailablePackage(package, _NO_DETAILS) for package in not_in_cache(incoming)])

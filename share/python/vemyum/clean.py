@@ -6,7 +6,6 @@ from __future__ import annotations
 from typing import List, Optional, Tuple
 
 import dnf.repo
-from dnf.cli.commands import clean as dnf_clean
 
 from . import host
 from .errors import YumBaseError, reported_as
@@ -20,6 +19,9 @@ def clean(cache_directory: Optional[str], *kinds: str) -> Tuple[int, List[str]]:
     """
     if cache_directory is None:
         return (1, ["The configuration cannot be read"])
+    # Brings dnf's whole command line with it, which a start of the program need not wait for.
+    from dnf.cli.commands import clean as dnf_clean
+
     patterns = [dnf.repo.CACHE_FILES[kind] for kind in kinds]
     try:
         with reported_as(YumBaseError, "Unable to clean"):

@@ -3,11 +3,11 @@
 
 from __future__ import annotations
 
+import html
 import re
 import sys
 import time
 from typing import Dict, Iterator, List, Optional, Tuple
-from xml.sax.saxutils import unescape
 
 import dnf.conf
 import dnf.package
@@ -108,7 +108,7 @@ def _build_hosts(file: str) -> Iterator[Tuple[str, str]]:
                 if match.group(1):
                     checksum = match.group(1).decode("ascii")
                 elif checksum:
-                    yield checksum, sys.intern(valid(unescape(match.group(2).decode("utf-8", "replace"))))
+                    yield checksum, sys.intern(valid(html.unescape(match.group(2).decode("utf-8", "replace"))))
             # A tag may be cut in two by the end of the chunk.
             rest = data[max(end, data.rfind(b">", 0, max(0, len(data) - 1024))) :]
     finally:

@@ -7,8 +7,8 @@ The classes are dnf's own, so that an exception of dnf which passes through is c
 from __future__ import annotations
 
 import os
-from contextlib import contextmanager
-from typing import Iterator, Type
+from types import TracebackType
+from typing import Optional, Type
 
 import dnf.exceptions
 import hawkey
@@ -39,24 +39,34 @@ def os_error_text(error: OSError) -> str:
     return f"{' -> '.join(paths)}: {cause}"
 
 
-@contextmanager
-def reported_as(kind: Type[dnf.exceptions.Error], doing: str = "") -> Iterator[None]:
-    """Lets the block fail with `kind` only, whatever library failed; `doing` starts the text.
+class reported_as:
+    """Context manager: lets the block fail with `kind` only, whatever library failed.
 
-    BrokenPipeError passes: the engine has words of its own for it. So do exceptions that no library
-    raises (faults of this package), which the engine shows as internal errors.
+    `doing` starts the text. BrokenPipeError passes: the engine has words of its own for it. So do
+    exceptions that no library raises (faults of this package), which the engine shows as internal errors.
     """
-    try:
-        yield
-    except BrokenPipeError:
-        raise
-    except OSError as error:
-        raise kind(_text(doing, os_error_text(error))) from error
-    except _LIBRARY_ERRORS as error:
-        # The engine shows `value`, which some of dnf's classes leave empty.
-        if isinstance(error, kind) and error.value == str(error):
-            raise
-        raise kind(_text(doing, str(error))) from error
+
+    # Not a generator: contextlib's frames would tie an exception to itself, and with it everything that
+    # the frames below hold, until the garbage collector comes by.
+
+    def __init__(self, kind: Type[dnf.exceptions.Error], doing: str = "") -> None:
+        self._kind = kind
+        self._doing = doing
+
+    def __enter__(self) -> None:
+        """Nothing to prepare."""
+
+    def __exit__(
+        self, kind: Optional[Type[BaseException]], error: Optional[BaseException], _: Optional[TracebackType]
+    ) -> None:
+        if isinstance(error, BrokenPipeError):
+            return
+        if isinstance(error, OSError):
+            raise self._kind(_text(self._doing, os_error_text(error))) from error
+        if isinstance(error, _LIBRARY_ERRORS):
+            # The engine shows `value`, which some of dnf's classes leave empty.
+            if not (isinstance(error, self._kind) and error.value == str(error)):
+                raise self._kind(_text(self._doing, str(error))) from error
 
 
 def _text(doing: str, cause: str) -> str:

@@ -33,8 +33,6 @@ class Session:
     `read_repositories` raises it, which is how the engine can show it.
     """
 
-    _ever_made = False
-
     def __init__(self, lenient: bool) -> None:
         self._conf: Optional[dnf.conf.MainConf] = None
         self._base: Optional[Base] = None

@@ -30,7 +30,6 @@ _NEEDED_LATER = (
     "traceback",
     "unicodedata",
     "_strptime",
-    "dnf.cli.commands.clean",
     "dnf.crypto",
     "dnf.db.group",
     "dnf.db.history",
@@ -60,7 +59,7 @@ def make_yum_module() -> types.ModuleType:
 
 
 def load_needed_later() -> None:
-    """Imports what is otherwise imported at first use.
+    """Imports what is otherwise imported at first use; to be called before rpm runs.
 
     While rpm works on another root it changes the root directory of the whole process, and nothing can
     be imported then. Modules that this system lacks are passed over.
