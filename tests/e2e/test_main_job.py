@@ -1,0 +1,225 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""The main job on real rpms: see every package, mark, apply; and what may go wrong on the way."""
+from __future__ import annotations
+
+import signal
+from pathlib import Path
+from typing import Callable
+
+import pytest
+
+from program import ACTION_COLUMN, NAME_COLUMN, REPOSITORY_COLUMN, Program, wait_for
+from rpmestate import Estate
+
+Start = Callable[..., Program]
+
+BEFORE = {"fleet-lamp-1.0-1.noarch", "fleet-match-1.0-1.noarch", "fleet-shell-1.0-1.x86_64"}
+
+
+def open_program(start: Start, site: Estate, *arguments: str) -> Program:
+    program = start(site, *arguments)
+    program.wait_ready()
+    return program
+
+
+def test_rows_follow_the_state_filter_and_the_expression(site: Estate, start: Start) -> None:
+    program = open_program(start, site)
+    assert program.names() == ["fleet-lamp"]
+    program.choose("View Installable")
+    assert program.names() == ["fleet-bellows", "fleet-oil", "fleet-orphan", "fleet-sulker", "fleet-wick"]
+    program.choose("View Removable")
+    assert program.names() == ["fleet-lamp", "fleet-match", "fleet-shell"]
+    program.choose("View All")
+    assert program.row_count() == 8
+    program.set_expression("^fleet-(wick|oil) 1")
+    wait_for(lambda: program.row_count() == 2, "the filtered rows")
+    assert program.names() == ["fleet-oil", "fleet-wick"]
+
+
+def test_a_click_on_a_header_sorts_and_a_second_one_reverses(site: Estate, start: Start) -> None:
+    program = open_program(start, site)
+    program.choose("View Removable")
+    x, y = program.centre(program.cell(0, NAME_COLUMN))
+    program.click_at(x, y - 28)
+    wait_for(lambda: program.names() == ["fleet-lamp", "fleet-match", "fleet-shell"], "ascending names")
+    program.click_at(x, y - 28)
+    wait_for(lambda: program.names() == ["fleet-shell", "fleet-match", "fleet-lamp"], "descending names")
+
+
+def test_marks_are_applied_in_one_transaction(site: Estate, start: Start) -> None:
+    assert site.installed() == BEFORE
+    program = open_program(start, site)
+
+    program.choose("View All")
+    program.click_cell("fleet-lamp", ACTION_COLUMN)
+    program.choose_from_context_menu("i", program.place_of("fleet-wick", ACTION_COLUMN))
+    program.click_cell("fleet-bellows", NAME_COLUMN)
+    program.press("Set Install/Update of Selected")
+    program.click_cell("fleet-match", ACTION_COLUMN)
+
+    program.press("Apply Actions")
+    question = program.window("Apply")
+    text = program.texts(question)
+    assert "\tInstall: fleet-wick 1.0-1 (noarch) [harbour]" in text
+    assert "\tInstall: fleet-bellows 1.0-1 (noarch) [harbour]" in text
+    assert "\tUpdate: fleet-lamp 1.1-1 (noarch) [harbour]" in text
+    assert "\tRemove: fleet-match 1.0-1 (noarch)" in text
+    assert "Performing the following to resolve dependencies:\n\tInstall: fleet-oil 1.0-1" in text
+    assert "Total download size: " in text
+    program.press("OK", question)
+    program.wait_closed("Apply")
+    program.wait_ready()
+
+    assert site.installed() == {
+        "fleet-lamp-1.1-1.noarch",
+        "fleet-shell-1.0-1.x86_64",
+        "fleet-wick-1.0-1.noarch",
+        "fleet-oil-1.0-1.noarch",
+        "fleet-bellows-1.0-1.noarch",
+    }
+    program.choose("View Updatable")
+    assert program.row_count() == 0, "the table still shows the system as it was before"
+    program.choose("View Removable")
+    assert set(program.names()) == {
+        "fleet-lamp", "fleet-shell", "fleet-wick", "fleet-oil", "fleet-bellows"
+    }
+    log = program.log_text()
+    for line in (
+        "Applying: OK",
+        "Updating fleet-lamp",
+        "Installing fleet-wick",
+        "Installing fleet-oil",
+        "fleet-lamp: the board is lit",
+        "fleet-bellows: blown by a shell",
+    ):
+        assert line in log
+
+
+def test_a_cancelled_apply_changes_nothing_and_keeps_the_marks(site: Estate, start: Start) -> None:
+    program = open_program(start, site)
+    program.press("Set Update of All Out-of-Date")
+    for _ in range(2):
+        # The second round shows that the mark is still there.
+        program.press("Apply Actions")
+        question = program.window("Apply")
+        assert "\tUpdate: fleet-lamp 1.1-1" in program.texts(question)
+        program.press("Cancel", question)
+        program.wait_closed("Apply")
+        program.wait_ready()
+        assert site.installed() == BEFORE
+    assert "Not Applying: Canceled" in program.log_text()
+
+
+def test_unsolvable_dependencies_are_explained_and_the_program_goes_on(site: Estate, start: Start) -> None:
+    program = open_program(start, site)
+    program.choose("View All")
+    program.click_cell("fleet-orphan", ACTION_COLUMN)
+    program.press("Apply Actions")
+    report = program.window("VEM Yum Error")
+    text = program.texts(report)
+    assert "fleet-parent" in text and "fleet-orphan" in text
+    assert text.endswith("Error applying changes")
+    program.press("Close", report)
+    program.wait_ready()
+    assert site.installed() == BEFORE
+
+    # The mark is still there; without it the next apply works.
+    program.press("Clear Actions")
+    program.click_cell("fleet-lamp", ACTION_COLUMN)
+    program.press("Apply Actions")
+    program.press("OK", program.window("Apply"))
+    program.wait_closed("Apply")
+    program.wait_ready()
+    assert "fleet-lamp-1.1-1.noarch" in site.installed()
+
+
+def test_a_failing_scriptlet_ends_as_a_visible_error(site: Estate, start: Start) -> None:
+    program = open_program(start, site)
+    program.choose("View All")
+    program.click_cell("fleet-sulker", ACTION_COLUMN)
+    program.click_cell("fleet-lamp", ACTION_COLUMN)
+    program.press("Apply Actions")
+    program.press("OK", program.window("Apply"))
+    report = program.window("VEM Yum Error", timeout=60)
+    text = program.texts(report)
+    assert "fleet-sulker" in text and "will not" in text
+    assert "refresh" in text.lower()
+    program.press("Close", report)
+    program.wait_ready()
+    assert not any(name.startswith("fleet-sulker") for name in site.installed())
+
+
+def test_a_second_instance_is_refused_and_told_who_holds_the_lock(site: Estate, start: Start) -> None:
+    first = open_program(start, site)
+    second = start(site)
+    report = second.window("VEM Yum Error")
+    text = second.texts(report)
+    assert "Unable to obtain yum lock" in text
+    assert str(first.process.pid) in text
+    second.press("Close", report)
+    second.wait_ready()
+    assert second.row_count() == 0
+
+    # Once the first has gone, a refresh gets the lock.
+    first.close()
+    second.press("Refresh")
+    wait_for(lambda: second.is_ready() and second.row_count() == 1, "the table of the second instance")
+
+
+def test_a_repository_that_is_gone_is_named_with_its_address(site: Estate, start: Start) -> None:
+    definition = site.root / "etc/yum.repos.d/harbour.repo"
+    gone = "http://127.0.0.1:9/harbour-that-sank"
+    lines = definition.read_text().splitlines()
+    definition.write_text(
+        "\n".join(f"baseurl={gone}" if line.startswith("baseurl") else line for line in lines) + "\n"
+    )
+    program = start(site)
+    report = program.window("VEM Yum Error", timeout=120)
+    text = program.texts(report)
+    assert "harbour" in text and gone in text
+    assert text.endswith("Unable to initialize")
+    program.press("Close", report)
+    program.wait_ready()
+    assert program.row_count() == 0
+
+
+def test_repositories_of_the_command_line_are_left_out(site: Estate, start: Start) -> None:
+    program = start(site, "--disablerepo=*")
+    report = program.window("VEM Yum Error")
+    assert "No repositories are enabled." in program.texts(report)
+    program.press("OK", report)
+    program.wait_ready()
+    assert program.row_count() == 0
+
+
+def test_the_log_window_stands_before_the_first_line(site: Estate, start: Start) -> None:
+    program = start(site, "--log")
+    program.window("VEM Log")
+    program.wait_ready()
+    assert program.log_text().startswith("Initialization")
+
+
+def test_an_interrupt_ends_the_process_at_once(site: Estate, start: Start) -> None:
+    program = open_program(start, site)
+    program.process.send_signal(signal.SIGINT)
+    assert program.process.wait(timeout=10) == -signal.SIGINT
+
+
+def test_quitting_gives_the_lock_back(site: Estate, start: Start) -> None:
+    program = open_program(start, site)
+    program.key("ctrl+q")
+    assert program.process.wait(timeout=20) == 0
+    leftovers = [path for path in Path(site.root).rglob("*_lock.pid")]
+    assert leftovers == []
+
+
+def test_columns_tell_version_repository_and_size(site: Estate, start: Start) -> None:
+    program = open_program(start, site)
+    row = [program.cell(0, column).get_name() for column in range(NAME_COLUMN, 9)]
+    assert row[:4] == ["fleet-lamp", "1.1-1", "harbour", "noarch"]
+    assert program.cell(0, REPOSITORY_COLUMN).get_name() == "harbour"
+    assert row[4].endswith("b")
+
+
+if __name__ == "__main__":
+    raise SystemExit(pytest.main([__file__]))
