@@ -26,8 +26,6 @@ void HTableView::initViewItemOption(QStyleOptionViewItem* option) const
     QTableView::initViewItemOption(option);
     option->decorationPosition = position;
     option->showDecorationSelected = false;
-    // The option's rectangle is the view's own, which must not limit the width that a cell asks for.
-    option->features.setFlag(QStyleOptionViewItem::WrapText, false);
 }
 
 int HTableView::frameOnlyAroundContentsPixels() const

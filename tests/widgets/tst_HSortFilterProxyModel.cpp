@@ -31,6 +31,29 @@ TableModel::Rows numberedRows(int count)
     return rows;
 }
 
+// Counts the questions whether a row passes the filter, and notes what is sorted.
+class Watched : public HSortFilterProxyModel
+{
+public:
+    using HSortFilterProxyModel::HSortFilterProxyModel;
+
+    void sort(int column, Qt::SortOrder order) override
+    {
+        sorts.append({column, order});
+        HSortFilterProxyModel::sort(column, order);
+    }
+
+    QList<std::pair<int, Qt::SortOrder>> sorts;
+    mutable int questions = 0;
+
+protected:
+    [[nodiscard]] bool filterAcceptsRow(int row, QModelIndex const& parent) const override
+    {
+        ++questions;
+        return HSortFilterProxyModel::filterAcceptsRow(row, parent);
+    }
+};
+
 // Sorts the wrong way round, to see that ties pass through an override too.
 class DescendingNumbers : public HSortFilterProxyModel
 {
@@ -68,6 +91,8 @@ private Q_SLOTS:
     void everyChangeResetsAndKeepsTheSort();
     void changeOfFilterClearsSelectionAndCurrentIndex();
     void changeOfFilterRemovesNoRowsOneByOne();
+    void changeOfFilterAsksOnceForEachRow();
+    void changeOfFilterSortsThroughTheVirtualOperation();
     void persistentIndexesEndWithAChangeOfFilter();
     void worksWithoutASource();
 };
@@ -323,6 +348,40 @@ void tst_HSortFilterProxyModel::changeOfFilterRemovesNoRowsOneByOne()
 
     QCOMPARE(removed.count(), 0);
     QCOMPARE(inserted.count(), 0);
+}
+
+void tst_HSortFilterProxyModel::changeOfFilterAsksOnceForEachRow()
+{
+    TableModel model(numberedRows(100));
+    Watched proxy(1, nullptr);
+    proxy.setSourceModel(&model);
+    QTableView view;
+    view.setModel(&proxy);
+    view.selectAll();
+    for (char const* const pattern : {"odd", "even", ""}) {
+        proxy.questions = 0;
+
+        proxy.setFilterRegExp(QString::fromLatin1(pattern));
+        QCOMPARE(proxy.rowCount(), *pattern ? 50 : 100);
+
+        QCOMPARE(proxy.questions, 100);
+    }
+}
+
+void tst_HSortFilterProxyModel::changeOfFilterSortsThroughTheVirtualOperation()
+{
+    TableModel model(numberedRows(4));
+    Watched proxy(1, nullptr);
+    proxy.setSourceModel(&model);
+    proxy.sort(1, Qt::DescendingOrder);
+    proxy.sorts.clear();
+
+    proxy.clear();
+    proxy.filterChanged();
+    proxy.setFilterRegExp(QStringLiteral("odd"));
+    proxy.setFilterRegExp(QRegularExpression(QStringLiteral("even")));
+
+    QCOMPARE(proxy.sorts, decltype(proxy.sorts)(4, {1, Qt::DescendingOrder}));
 }
 
 void tst_HSortFilterProxyModel::persistentIndexesEndWithAChangeOfFilter()
