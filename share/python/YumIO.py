@@ -14,7 +14,8 @@ import sys
 from typing import Any, List, Optional, Sequence, Tuple
 
 # The engine tells no path, only this file's name; the package lies beside it in the share directory.
-for _folder in (os.path.dirname(os.path.abspath(__file__)), os.path.join(os.environ.get("VEMSHARE", "/usr/share/vem"), "python")):
+_share = os.environ.get("VEMSHARE", "/usr/share/vem")
+for _folder in (os.path.dirname(os.path.abspath(__file__)), os.path.join(_share, "python")):
     if os.path.isdir(os.path.join(_folder, "vemyum")):
         if _folder not in sys.path:
             sys.path.insert(0, _folder)

@@ -16,7 +16,9 @@ CHANGELOG = """\
 - First light"""
 
 NOARCH: Dict[str, str] = {
-    "lamp-1.0": spec("lamp", "1.0", changelog=CHANGELOG.split("\n\n")[1], files={"/usr/share/lamp/shade": "old"}),
+    "lamp-1.0": spec(
+        "lamp", "1.0", changelog=CHANGELOG.split("\n\n")[1], files={"/usr/share/lamp/shade": "old"}
+    ),
     "lamp-1.1": spec(
         "lamp",
         "1.1",
@@ -42,13 +44,16 @@ NOARCH: Dict[str, str] = {
     "clock-1.0": spec("clock", "1.0", epoch=3),
     "same-one-1.0": spec("same-one", files={"/usr/share/same": "one"}),
     "same-two-1.0": spec("same-two", files={"/usr/share/same": "two"}),
-    "badpre-1.0": spec("badpre", scriptlets={"pre -p <lua>": 'error("no entry")'}, files={"/usr/share/badpre": ""}),
+    "badpre-1.0": spec(
+        "badpre", scriptlets={"pre -p <lua>": 'error("no entry")'}, files={"/usr/share/badpre": ""}
+    ),
     "badpost-1.0": spec("badpost", scriptlets={"post -p <lua>": 'error("half way")'}),
     "badpreun-1.0": spec("badpreun", scriptlets={"preun -p <lua>": 'error("staying")'}),
     "talk-1.0": spec("talk", requires=("/bin/sh",), scriptlets={"post": "echo first line\necho second line"}),
     "core-1.0": spec("core", "1.0", provides=("installonlypkg(kernel)",), files={"/boot/core-1.0": "1"}),
     "core-2.0": spec("core", "2.0", provides=("installonlypkg(kernel)",), files={"/boot/core-2.0": "2"}),
     "moebel-1.0": spec("moebel", "1.0", summary="Tische und St\u00fchle \u2014 \u6728"),
+    "rival-1.0": spec("rival", conflicts=("lone",)),
     "lone-1.0": spec("lone", files={"/usr/share/lone": "alone"}),
 }
 

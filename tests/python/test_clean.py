@@ -60,7 +60,9 @@ def test_cleaning_twice_is_fine(yumio: Any) -> None:
         assert type(answer) is tuple and type(answer[0]) is int and answer[0] == 0
 
 
-def test_repository_on_this_machine_keeps_its_files(estate: Estate, rpms: Catalogue, program: Program) -> None:
+def test_repository_on_this_machine_keeps_its_files(
+    estate: Estate, rpms: Catalogue, program: Program
+) -> None:
     directory = estate.repository("base", rpms.some("lone-1.0"))
     before = sorted(directory.glob("**/*"))
     yumio = program.collect().yumio

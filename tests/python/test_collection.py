@@ -47,7 +47,8 @@ def test_obsoleting_package_is_no_update_when_the_configuration_says_so(
 
 def test_native_architecture_comes_first(estate: Estate, rpms: Catalogue, program: Program) -> None:
     estate.install(rpms.some("twin-1.0", "twin-1.0.i686"))
-    estate.repository("base", rpms.some("twin-2.0.i686", "twin-1.5"))
+    estate.repository("base", rpms.some("twin-2.0.i686"))
+    estate.repository("extras", rpms.some("twin-1.5"))
     found = program.collect()
     assert names(found.updates) == ["twin-1.5-1.x86_64", "twin-2.0-1.i686"]
     assert names(found.available) == ["twin-1.5-1.x86_64", "twin-2.0-1.i686"]
@@ -220,6 +221,12 @@ def test_texts_beyond_ascii(estate: Estate, rpms: Catalogue, program: Program, h
     assert package.returnSimple("summary") == "Tische und St\u00fchle \u2014 \u6728"
 
 
+def test_deltas_are_off_whatever_the_configuration_says(lamp: Tuple[Estate, Program]) -> None:
+    estate, program = lamp
+    estate.write_main_config(deltarpm="1")
+    assert not program.start()._session._conf.deltarpm
+
+
 def test_first_configuration_that_cannot_be_read_ends_the_program(
     estate: Estate, program: Program, host: FakeHost
 ) -> None:
@@ -229,7 +236,9 @@ def test_first_configuration_that_cannot_be_read_ends_the_program(
     assert "yum.conf" in host.text("errorlog")
 
 
-def test_later_configuration_that_cannot_be_read_is_told_by_the_repositories(lamp: Tuple[Estate, Program]) -> None:
+def test_later_configuration_that_cannot_be_read_is_told_by_the_repositories(
+    lamp: Tuple[Estate, Program]
+) -> None:
     estate, program = lamp
     program.collect()
     (estate.root / "etc/yum.conf").write_text("[main\nbroken")
@@ -240,7 +249,9 @@ def test_later_configuration_that_cannot_be_read_is_told_by_the_repositories(lam
         yumio.setupRepos()
 
 
-def test_broken_repository_file_is_passed_over_with_a_word(lamp: Tuple[Estate, Program], host: FakeHost) -> None:
+def test_broken_repository_file_is_passed_over_with_a_word(
+    lamp: Tuple[Estate, Program], host: FakeHost
+) -> None:
     estate, program = lamp
     (estate.root / "etc/yum.repos.d/bad.repo").write_text("[bad\nname=x")
     assert program.collect().merged() == {"lamp": "OutOfDate"}

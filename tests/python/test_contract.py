@@ -118,8 +118,8 @@ NAMES = [
 ]
 
 PACKAGE_FIELDS = (
-    "arch baseurl buildtime changelogs conflicts description epoch evr files group license location name obsoletes "
-    "packager provides release reponame requires size sourcerpm summary url vendor version evr_cmp"
+    "arch baseurl buildtime changelogs conflicts description epoch evr files group license location name "
+    "obsoletes packager provides release reponame requires size sourcerpm summary url vendor version evr_cmp"
 ).split()
 
 BASE_METHODS = {
@@ -168,7 +168,7 @@ def test_goal_method_exists(name: str) -> None:
     assert hasattr(hawkey.Goal, name)
 
 
-@pytest.mark.parametrize("name", ["metalink", "mirrorlist", "baseurl", "gpgkey", "gpgcheck", "enabled", "metadata"])
+@pytest.mark.parametrize("name", "metalink mirrorlist baseurl gpgkey gpgcheck enabled metadata".split())
 def test_repository_option_exists(name: str) -> None:
     repo = dnf.repo.Repo("x", dnf.conf.Conf())
     assert hasattr(repo, name)
@@ -177,7 +177,7 @@ def test_repository_option_exists(name: str) -> None:
 
 @pytest.mark.parametrize(
     "name",
-    "cachedir deltarpm exit_on_lock installroot logdir obsoletes persistdir reposdir varsdir keepcache".split(),
+    "cachedir deltarpm exit_on_lock installroot logdir obsoletes persistdir reposdir varsdir".split(),
 )
 def test_main_option_exists(name: str) -> None:
     assert dnf.conf.Conf()._has_option(name)

@@ -3,6 +3,7 @@
 
 from __future__ import annotations
 
+import os
 from typing import Any, Dict, List, Tuple
 
 import dnf.callback
@@ -81,13 +82,17 @@ def test_cached_file_is_not_fetched_again(
     assert served.installed() == {"battery-1.0-1.noarch", "desk-1.0-1.noarch"}
 
 
-def test_downloaded_files_go_when_the_cache_is_not_kept(served: Estate, program: Program, host: FakeHost) -> None:
+def test_downloaded_files_go_when_the_cache_is_not_kept(
+    served: Estate, program: Program, host: FakeHost
+) -> None:
     _, apply = install_all(program)
     apply()
     assert list((served.root / "var/cache/yum").glob("**/*.rpm")) == []
 
 
-def test_failed_download_names_the_package(served: Estate, program: Program, host: FakeHost, web: Web) -> None:
+def test_failed_download_names_the_package(
+    served: Estate, program: Program, host: FakeHost, web: Web
+) -> None:
     web.lose("/base/lib-1.0-1.noarch.rpm")
     _, apply = install_all(program)
     with pytest.raises(program.errors.YumBaseError) as caught:
@@ -107,7 +112,9 @@ def test_apply_after_a_failed_download(served: Estate, program: Program, host: F
     assert len(served.installed()) == 3
 
 
-def test_damaged_download_names_the_package(served: Estate, program: Program, host: FakeHost, web: Web) -> None:
+def test_damaged_download_names_the_package(
+    served: Estate, program: Program, host: FakeHost, web: Web
+) -> None:
     web.page("/base/lone-1.0-1.noarch.rpm", b"no rpm" * 1000)
     found = program.collect()
     with pytest.raises(program.errors.YumBaseError, match="lone-1.0-1.noarch"):
@@ -117,15 +124,16 @@ def test_damaged_download_names_the_package(served: Estate, program: Program, ho
 def test_newer_metadata_does_not_slip_in_behind_the_table(
     served: Estate, rpms: Catalogue, program: Program, host: FakeHost, web: Web
 ) -> None:
-    served.write_main_config(metadata_expire="0")
     found = program.collect()
+    for file in (served.root / "var/cache/yum").glob("base-*/**/*"):
+        os.utime(file, (0, 0))
     web.forget_requests()
     host.answer = 0
     found.yumio.apply([found.offered("lone")], [], [])
     assert web.requests() == []
 
 
-# The meter alone ---------------------------------------------------------------------------------------
+# The meter alone --------------------------------------------------------------------------------------
 
 
 class Payload:
@@ -153,9 +161,8 @@ def run_meter(host: FakeHost, *steps: Tuple[str, Any]) -> List[Tuple[str, int, L
 
 
 def test_files_fetched_side_by_side_are_told_one_after_the_other(program: Program, host: FakeHost) -> None:
-    told = run_meter(
-        host, ("a", 10.0), ("b", 20.0), ("a", 50.0), ("c", 5.0), ("b", None), ("a", None), ("c", 60.0), ("c", None)
-    )
+    begun = ("a", 10.0), ("b", 20.0), ("a", 50.0), ("c", 5.0)
+    told = run_meter(host, *begun, ("b", None), ("a", None), ("c", 60.0), ("c", None))
     assert told == [("a", 100, [10, 50, 100, 100]), ("b", 100, [100, 100]), ("c", 100, [5, 60, 100, 100])]
 
 

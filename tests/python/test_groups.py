@@ -25,7 +25,8 @@ def group(id: str, name: str = "", visible: bool = True, **members: str) -> str:
             lines.append(f"<packagereq{type_}{requires}>{name_}</packagereq>")
     return (
         f"<group><id>{id}</id><name>{name}</name><description/>"
-        f"<uservisible>{str(visible).lower()}</uservisible><packagelist>{''.join(lines)}</packagelist></group>"
+        f"<uservisible>{str(visible).lower()}</uservisible>"
+        f"<packagelist>{''.join(lines)}</packagelist></group>"
     )
 
 

@@ -68,7 +68,9 @@ def lock_files(estate: Estate) -> List[Path]:
     ]
 
 
-def test_second_process_is_refused_with_the_holders_pid(lamp: Tuple[Estate, Program], others: List[Other]) -> None:
+def test_second_process_is_refused_with_the_holders_pid(
+    lamp: Tuple[Estate, Program], others: List[Other]
+) -> None:
     lamp[1].start()
     others.append(Other())
     name = Path("/proc/self/comm").read_text().strip()
@@ -144,9 +146,8 @@ def test_dnf_is_refused_meanwhile(lamp: Tuple[Estate, Program]) -> None:
         "    with dnf.lock.build_rpmdb_lock(sys.argv[1], True): print('entered')\n"
         "except dnf.exceptions.ProcessLockError as error: print(error.pid)\n"
     )
-    done = subprocess.run(
-        [sys.executable, "-c", code, str(estate.root / "var/lib/dnf")], capture_output=True, text=True, check=True
-    )
+    command = [sys.executable, "-c", code, str(estate.root / "var/lib/dnf")]
+    done = subprocess.run(command, capture_output=True, text=True, check=True)
     assert done.stdout.strip() == str(os.getpid())
     assert LOCK.held and dnf.lock.build_rpmdb_lock("/nowhere", True) is not None
 

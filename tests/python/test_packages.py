@@ -131,11 +131,6 @@ def test_header_of_a_package_that_is_gone(lamp: Tuple[Estate, Program]) -> None:
 
 def test_dependencies(new: Any) -> None:
     assert sorted(new.returnPrco("provides")) == [
-        ("config(lamp)", "EQ", ("0", "1.1", "1")),
-        ("lamp", "EQ", ("0", "1.1", "1")),
-        ("light", "EQ", ("2", "3.0", "1")),
-        ("shine", None, (None, None, None)),
-    ] or sorted(new.returnPrco("provides")) == [
         ("lamp", "EQ", ("0", "1.1", "1")),
         ("light", "EQ", ("2", "3.0", "1")),
         ("shine", None, (None, None, None)),
@@ -153,12 +148,18 @@ def test_dependencies(new: Any) -> None:
 
 def test_obsoletes(estate: Estate, rpms: Catalogue, program: Program) -> None:
     estate.repository("base", rpms.some("newlamp-1.0"))
-    assert program.collect().offered("newlamp").returnPrco("obsoletes") == [("oldlamp", "LT", ("0", "2", None))]
+    newlamp = program.collect().offered("newlamp")
+    assert newlamp.returnPrco("obsoletes") == [("oldlamp", "LT", ("0", "2", None))]
 
 
 @pytest.mark.parametrize(
     ("text", "evr"),
-    [("1", ("0", "1", None)), ("1.2-3", ("0", "1.2", "3")), ("4:1.2-3", ("4", "1.2", "3")), ("4:1", ("4", "1", None))],
+    [
+        ("1", ("0", "1", None)),
+        ("1.2-3", ("0", "1.2", "3")),
+        ("4:1.2-3", ("4", "1.2", "3")),
+        ("4:1", ("4", "1", None)),
+    ],
 )
 def test_versions_are_split(text: str, evr: Tuple[str, str, str]) -> None:
     from vemyum.packages import split_evr
@@ -223,7 +224,8 @@ def test_local_file_of_a_remote_repository_is_in_the_cache(
 ) -> None:
     estate.repository("base", rpms.some("lamp-1.1"), baseurl=f"{web.url}/base")
     path = program.collect().offered("lamp").localPkg()
-    assert path.startswith(str(estate.root / "var/cache/yum/base-")) and path.endswith("/lamp-1.1-1.noarch.rpm")
+    assert path.startswith(str(estate.root / "var/cache/yum/base-"))
+    assert path.endswith("/lamp-1.1-1.noarch.rpm")
 
 
 def test_header_data_is_on_disk_already(lamp: Tuple[Estate, Program]) -> None:

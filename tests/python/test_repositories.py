@@ -44,7 +44,7 @@ def served(estate: Estate, rpms: Catalogue, web: Web) -> Estate:
     return estate
 
 
-# Acts --------------------------------------------------------------------------------------------------
+# Acts -------------------------------------------------------------------------------------------------
 
 
 def test_acts_of_a_repository_on_this_machine(lamp: Tuple[Estate, Program], host: FakeHost) -> None:
@@ -60,14 +60,17 @@ def test_acts_of_a_repository_behind_http(served: Estate, program: Program, host
 def test_acts_of_a_mirror_list(
     estate: Estate, rpms: Catalogue, web: Web, program: Program, host: FakeHost
 ) -> None:
-    estate.repository("base", rpms.some("battery-1.0"), extra={"baseurl": None, "mirrorlist": f"{web.url}/mirrors"})
+    address = {"baseurl": None, "mirrorlist": f"{web.url}/mirrors"}
+    estate.repository("base", rpms.some("battery-1.0"), extra=address)
     web.page("/mirrors", f"{web.url}/base/\n".encode())
     program.start().setupRepos()
     kinds = [("mirrors", "base"), ("repomd", "base"), ("download", "base"), ("convert", ""), ("read", "base")]
     assert acts(host) == kinds
 
 
-def test_acts_of_a_metalink(estate: Estate, rpms: Catalogue, web: Web, program: Program, host: FakeHost) -> None:
+def test_acts_of_a_metalink(
+    estate: Estate, rpms: Catalogue, web: Web, program: Program, host: FakeHost
+) -> None:
     directory = estate.repository(
         "base", rpms.some("battery-1.0"), extra={"baseurl": None, "metalink": f"{web.url}/link"}
     )
@@ -127,7 +130,7 @@ def test_download_meter_counts_the_announced_bytes(served: Estate, program: Prog
     assert host.named("collectGrabMeterEnd")
 
 
-# Failures ----------------------------------------------------------------------------------------------
+# Failures ---------------------------------------------------------------------------------------------
 
 
 def unreadable(program: Program, *words: str) -> str:
@@ -155,7 +158,8 @@ def test_missing_repomd_is_named_with_the_status(served: Estate, program: Progra
 
 
 def test_missing_mirror_list_is_named(estate: Estate, rpms: Catalogue, web: Web, program: Program) -> None:
-    estate.repository("base", rpms.some("lib-1.0"), extra={"baseurl": None, "mirrorlist": f"{web.url}/mirrors"})
+    address = {"baseurl": None, "mirrorlist": f"{web.url}/mirrors"}
+    estate.repository("base", rpms.some("lib-1.0"), extra=address)
     web.lose("/mirrors")
     unreadable(program, "repository base", f"{web.url}/mirrors", "404")
 
@@ -239,7 +243,7 @@ def test_error_lines_are_below_level_three_and_debug_lines_are_not(
     assert ("log", 4, "a detail") in host.calls
 
 
-# Extra data --------------------------------------------------------------------------------------------
+# Extra data -------------------------------------------------------------------------------------------
 
 
 def test_extra_data_reports_reading(lamp: Tuple[Estate, Program], host: FakeHost) -> None:

@@ -65,8 +65,11 @@ def refused(program: Program, *words: str) -> None:
         assert word in str(caught.value), caught.value
 
 
-def test_unsigned_package_is_refused(estate: Estate, rpms: Catalogue, program: Program, host: FakeHost) -> None:
-    estate.repository("base", rpms.some("lone-1.0"), extra={"gpgcheck": "1", "gpgkey": "file:///etc/keys/one"})
+def test_unsigned_package_is_refused(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
+) -> None:
+    options = {"gpgcheck": "1", "gpgkey": "file:///etc/keys/one"}
+    estate.repository("base", rpms.some("lone-1.0"), extra=options)
     refused(program, "lone-1.0-1.noarch", "is not signed", "file:///etc/keys/one")
     assert estate.installed() == set()
     assert not host.named("tsInitCallback")
@@ -79,9 +82,8 @@ def test_package_of_an_unknown_key_is_refused_and_the_key_named(
     estate.repository(
         "base", [signed], extra={"gpgcheck": "1", "gpgkey": f"{key.public.as_uri()} http://127.0.0.1:1/key"}
     )
-    refused(
-        program, "lone-1.0-1.noarch", key.id.lower(), key.public.as_uri(), "http://127.0.0.1:1/key", "not installed"
-    )
+    words = ("lone-1.0-1.noarch", key.id.lower(), key.public.as_uri(), "http://127.0.0.1:1/key")
+    refused(program, *words, "not installed")
     assert estate.installed() == set()
     assert "gpg-pubkey" not in estate.rpm("-qa")
 

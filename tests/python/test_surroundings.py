@@ -123,7 +123,7 @@ def test_package_is_found_through_the_share_directory() -> None:
     assert done.stdout == str(SCRIPT.parent / "vemyum/__init__.py")
 
 
-# Translation of exceptions -----------------------------------------------------------------------------
+# Translation of exceptions ----------------------------------------------------------------------------
 
 
 @pytest.mark.parametrize(
@@ -138,7 +138,9 @@ def test_package_is_found_through_the_share_directory() -> None:
         (dnf.exceptions.DownloadError({"lamp": ["gone", "away"]}), "lamp: gone\nlamp: away"),
     ],
 )
-def test_failures_of_libraries_become_the_expected_class(program: Program, error: Exception, text: str) -> None:
+def test_failures_of_libraries_become_the_expected_class(
+    program: Program, error: Exception, text: str
+) -> None:
     from vemyum.errors import RepoError, reported_as
 
     with pytest.raises(RepoError) as caught:
@@ -182,11 +184,14 @@ def test_nothing_is_imported_while_rpm_works(lamp: Tuple[Estate, Program], host:
         "before = []\n"
         "fake_host.HOST.on_confirm = lambda: before.extend(sys.modules)\n"
         "found.yumio.apply([], [], [found.there('lamp')])\n"
+        "from vemyum.surroundings import NEEDED_LATER\n"
         "sys.__stdout__.write(' '.join(sorted(set(sys.modules) - set(before))))\n"
+        "sys.__stdout__.write(str(set(NEEDED_LATER) <= set(before)))\n"
     )
     environment = {**os.environ, "TEST_FOLDER": str(HERE), "TEST_SCRIPT": str(SCRIPT)}
-    done = subprocess.run([sys.executable, "-c", code], env=environment, capture_output=True, text=True, check=True)
-    assert done.stdout == ""
+    command = [sys.executable, "-c", code]
+    done = subprocess.run(command, env=environment, capture_output=True, text=True, check=True)
+    assert done.stdout == "True"
     assert lamp[0].installed() == set()
 
 

@@ -59,7 +59,8 @@ class Apply:
             load_needed_later()
             incoming = sorted(base.transaction.install_set)
             host.list_transaction(self)
-            host.report_download_size([AvailablePackage(package, _NO_DETAILS) for package in not_in_cache(incoming)])
+            missing = not_in_cache(incoming)
+            host.report_download_size([AvailablePackage(package, _NO_DETAILS) for package in missing])
             if not host.confirmed():
                 return
             download(base, incoming)

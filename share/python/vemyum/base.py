@@ -44,7 +44,8 @@ class Base(dnf.Base):
             self.fill_sack()
         except OSError as error:
             if "RPMDB" in str(error):
-                raise YumBaseError(f"The rpm database of {self.conf.installroot} cannot be read: {error}") from error
+                root = self.conf.installroot
+                raise YumBaseError(f"The rpm database of {root} cannot be read: {error}") from error
             raise
 
     def _add_repo_to_sack(self, repo: dnf.repo.Repo) -> None:

@@ -19,7 +19,6 @@ from .text import valid
 _CHUNK = 1 << 20
 _HOSTS = re.compile(rb'<checksum[^>]*\bpkgid="YES"[^>]*>\s*([0-9a-f]+)\s*<|<rpm:buildhost>([^<]*)<')
 _COMPRESSIONS = {".gz": "gzdio", ".xz": "xzdio", ".bz2": "bzdio", ".zst": "zstdio", ".xml": "ufdio"}
-_NOON = 12 * 3600
 
 
 class PackageDetails:
@@ -53,8 +52,7 @@ class PackageDetails:
         query = self._changelogs.sack.query().available()
         query = query.filter(name=package.name, evr=package.evr, arch=package.arch, reponame=package.reponame)
         return [
-            # The day is all that is known; noon is on that day wherever the reader is.
-            (int(time.mktime(entry["timestamp"].timetuple())) + _NOON, valid(entry["author"]), valid(entry["text"]))
+            (int(time.mktime(entry["timestamp"].timetuple())), valid(entry["author"]), valid(entry["text"]))
             for found in list(query)[:1]
             for entry in found.changelogs
         ]
@@ -108,7 +106,7 @@ def _build_hosts(file: str) -> Iterator[Tuple[str, str]]:
                 if match.group(1):
                     checksum = match.group(1).decode("ascii")
                 elif checksum:
-                    yield checksum, sys.intern(valid(html.unescape(match.group(2).decode("utf-8", "replace"))))
+                    yield checksum, sys.intern(html.unescape(valid(match.group(2))))
             # A tag may be cut in two by the end of the chunk.
             rest = data[max(end, data.rfind(b">", 0, max(0, len(data) - 1024))) :]
     finally:

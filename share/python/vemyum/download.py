@@ -16,6 +16,14 @@ from .base import Base
 from .errors import YumBaseError
 
 
+_GOOD_ENDS = (
+    None,
+    dnf.callback.STATUS_OK,
+    dnf.callback.STATUS_ALREADY_EXISTS,
+    dnf.callback.STATUS_DRPM,
+)
+
+
 class _File:
     def __init__(self, name: str, size: int) -> None:
         self.name = name
@@ -53,7 +61,7 @@ class DownloadMeter(dnf.callback.DownloadProgress):
             # In the cache already: the engine's plan of the download leaves it out, too.
             return
         file = self._file(payload)
-        if status in (None, dnf.callback.STATUS_OK, dnf.callback.STATUS_ALREADY_EXISTS, dnf.callback.STATUS_DRPM):
+        if status in _GOOD_ENDS:
             file.done = file.size
         file.ended = True
         self._tell(file)
@@ -117,4 +125,8 @@ def _require_files(packages: List[dnf.package.Package]) -> None:
 
 def not_in_cache(packages: List[dnf.package.Package]) -> List[dnf.package.Package]:
     """The packages that the repositories still have to give: all but those in the download cache."""
-    return [package for package in packages if package._is_local_pkg() or not os.path.exists(package.localPkg())]
+    return [
+        package
+        for package in packages
+        if package._is_local_pkg() or not os.path.exists(package.localPkg())
+    ]

@@ -33,7 +33,8 @@ _LIBRARY_ERRORS = (
 def os_error_text(error: OSError) -> str:
     """Names the path (both, where two are concerned) and the cause."""
     cause = error.strerror or (os.strerror(error.errno) if error.errno else str(error))
-    paths = [os.fsdecode(path) for path in (error.filename, error.filename2) if isinstance(path, (str, bytes))]
+    names = (error.filename, error.filename2)
+    paths = [os.fsdecode(name) for name in names if isinstance(name, (str, bytes))]
     if not paths:
         return str(error) or cause
     return f"{' -> '.join(paths)}: {cause}"

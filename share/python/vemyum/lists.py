@@ -10,7 +10,6 @@ from __future__ import annotations
 from functools import cmp_to_key
 from typing import Any, Dict, FrozenSet, Iterable, List, Set
 
-import dnf.exceptions
 import hawkey
 
 from .base import Base
@@ -77,7 +76,8 @@ class Collector:
         names = {package.name for package in installed}
         found = sack.query().available().filter(obsoletes_by_priority=installed, arch=sack.list_arches())
         # An installed package that makes others obsolete in a newer version is an upgrade already.
-        return [package for package in found.filter(latest_per_arch=True) if package.name not in names | updates]
+        covered = names | updates
+        return [package for package in found.filter(latest_per_arch=True) if package.name not in covered]
 
     def _native(self) -> List[str]:
         return [self._base.conf.substitutions["basearch"], self._base.conf.substitutions["arch"], "noarch"]
@@ -88,7 +88,8 @@ class Collector:
         native = set(self._native())
         query = sack.query().available().filter(latest_per_arch_by_priority=True)
         first = list(query.filter(arch=[arch for arch in arches if arch in native]))
-        return self._newest_first(first) + list(query.filter(arch=[arch for arch in arches if arch not in native]))
+        foreign = list(query.filter(arch=[arch for arch in arches if arch not in native]))
+        return self._newest_first(first) + foreign
 
     @staticmethod
     def _newest_first(packages: List[Any]) -> List[Any]:
@@ -117,7 +118,7 @@ class Collector:
         if count == 0:
             fault = damage(root)
             if fault is None and self._known_installed.get(root, 0) > 0:
-                fault = "it lists no packages, though it did before. If that is right, start the program anew."
+                fault = "it lists no packages, though it did before. If that is right, start anew."
             if fault is not None:
                 raise YumBaseError(f"The rpm database of {root} cannot be used: {fault}")
         self._known_installed[root] = count

@@ -98,7 +98,8 @@ class RepositoryProgress(dnf.callback.DownloadProgress):
         if folder is None:
             return {}
         try:
-            return {entry.name: entry.stat().st_size for entry in os.scandir(os.path.join(folder, "repodata"))}
+            entries = os.scandir(os.path.join(folder, "repodata"))
+            return {entry.name: entry.stat().st_size for entry in entries}
         except OSError:
             return {}
 
@@ -107,7 +108,8 @@ class RepositoryProgress(dnf.callback.DownloadProgress):
         if folder is None:
             return {}
         try:
-            with open(os.path.join(folder, "repodata", _REPOMD), encoding="utf-8", errors="replace") as repomd:
+            path = os.path.join(folder, "repodata", _REPOMD)
+            with open(path, encoding="utf-8", errors="replace") as repomd:
                 text = repomd.read()
         except OSError:
             return {}

@@ -79,10 +79,8 @@ class Package:
         return f"<{type(self).__name__} {self.po}>"
 
 
-_SOLV_FIELDS: Dict[str, Callable[[Any], Any]] = {
-    key: attrgetter("po." + key)
-    for key in ("summary", "description", "group", "vendor", "sourcerpm", "license", "packager", "url", "buildtime")
-}
+_SOLV_KEYS = "summary description group vendor sourcerpm license packager url buildtime".split()
+_SOLV_FIELDS: Dict[str, Callable[[Any], Any]] = {key: attrgetter("po." + key) for key in _SOLV_KEYS}
 
 
 class AvailablePackage(Package):

@@ -37,7 +37,7 @@ def check_signatures(base: Base, packages: List[dnf.package.Package]) -> None:
             f"    gpgkey of repository {package.reponame}: {locations}"
         )
     if faults:
-        faults.append("Nothing was installed. Import the key into the rpm database, or correct the repository.")
+        faults.append("Nothing was installed.")
         raise YumBaseError("\n".join(faults))
 
 
@@ -59,10 +59,12 @@ def _checking_below(root: str) -> Iterator[None]:
         command = [rpmkeys, "--checksig", "--root", root, "--dbpath", database, "--verbose"]
         command += ["--define=_pkgverify_level signature", "--define=_pkgverify_flags 0x0", "-"]
         with open(path, "rb") as package:
-            done = subprocess.run(command, stdin=package, stdout=subprocess.PIPE, env={**os.environ, "LC_ALL": "C"}, cwd="/")
+            environment = {**os.environ, "LC_ALL": "C"}
+            done = subprocess.run(command, stdin=package, stdout=subprocess.PIPE, env=environment, cwd="/")
         if done.returncode not in (0, 1):
             return _FATAL
-        return dnf.rpm.miscutils._process_rpm_output(done.stdout.split(b"\n")) or (_FATAL if done.returncode else 0)
+        verdict = dnf.rpm.miscutils._process_rpm_output(done.stdout.split(b"\n"))
+        return verdict or (_FATAL if done.returncode else 0)
 
     original = dnf.rpm.miscutils.checkSig
     dnf.rpm.miscutils.checkSig = check

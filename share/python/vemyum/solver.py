@@ -75,9 +75,12 @@ def _require_marks(info: TransactionInfo, base: Base, marks: Marks) -> None:
     happens = {pkgtup_of(package) for package, _ in info.incoming()}
     for package in base.goal.list_erasures() + base.goal.list_obsoleted():
         happens.add(pkgtup_of(package))
-    left_out = [str(package) for package in marks.incoming + marks.removed if pkgtup_of(package) not in happens]
+    marked = marks.incoming + marks.removed
+    left_out = [str(package) for package in marked if pkgtup_of(package) not in happens]
     if left_out:
-        raise YumBaseError("Nothing can be done about: " + ", ".join(left_out))
+        raise YumBaseError(
+            f"Nothing is to be done about {', '.join(left_out)}. Please refresh the list of packages."
+        )
 
 
 def _lines(info: TransactionInfo, base: Base, marks: Marks, collector: Collector) -> List[str]:

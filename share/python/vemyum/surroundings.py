@@ -12,7 +12,7 @@ import dnf.const
 
 from . import errors
 
-_NEEDED_LATER = (
+NEEDED_LATER = (
     "bdb",
     "datetime",
     "encodings.ascii",
@@ -64,7 +64,7 @@ def load_needed_later() -> None:
     While rpm works on another root it changes the root directory of the whole process, and nothing can
     be imported then. Modules that this system lacks are passed over.
     """
-    for name in _NEEDED_LATER:
+    for name in NEEDED_LATER:
         try:
             importlib.import_module(name)
         except ImportError:

@@ -3,12 +3,14 @@
 
 from __future__ import annotations
 
-from typing import Any, Collection, Dict, List, Set, Tuple
+from typing import Collection, Dict, List, Set, Tuple
 
 import dnf.package
 
 from .base import Base
 from .packages import INSTALLED, PkgTup
+
+LISTS = ("updated", "installed", "removed", "obsoleted", "depupdated", "depinstalled", "depremoved")
 
 Relation = Tuple["Member", str]
 
@@ -86,6 +88,8 @@ class TransactionInfo:
         for package in self._goal.list_erasures():
             member = Member(package)
             (self.removed if member.pkgtup in self._marked else self.depremoved).append(member)
+        for name in LISTS:
+            getattr(self, name).sort(key=lambda member: member.pkgtup)
         self._goal = None
 
     def incoming(self) -> List[Tuple[dnf.package.Package, bool]]:

@@ -1,0 +1,242 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""Applies that go wrong: what is told, and that nothing else is done."""
+
+from __future__ import annotations
+
+import os
+from typing import Any, Tuple
+
+import pytest
+from catalogue import Catalogue
+from fake_host import FakeHost
+from program import Program
+from rpmestate import Estate
+
+# Failures before anything is done ---------------------------------------------------------------------
+
+
+def fails(program: Program, apply: Any, *words: str) -> str:
+    with pytest.raises(program.errors.YumBaseError) as caught:
+        apply()
+    text = str(caught.value)
+    assert caught.value.value == text
+    for word in words:
+        assert word in text, text
+    return text
+
+
+def test_unsolvable_dependencies_are_told_in_dnfs_words(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
+) -> None:
+    estate.repository("base", rpms.some("lost-1.0"))
+    found = program.collect()
+    fails(
+        program,
+        lambda: found.yumio.apply([found.offered("lost")], [], []),
+        "Problem:",
+        "nothing provides nowhere = 7 needed by lost-1.0-1.noarch",
+    )
+    assert not host.named("userconfirm")
+
+
+def test_update_that_cannot_be_is_told(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
+) -> None:
+    estate.install(rpms.some("tool-1.0", "lib-1.0"))
+    estate.repository("base", rpms.some("tool-2.0"))
+    found = program.collect()
+    fails(program, lambda: found.yumio.apply([], [found.pair("tool")], []), "lib >= 2")
+
+
+def test_install_does_not_push_out_what_is_installed(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
+) -> None:
+    estate.install(rpms.some("lone-1.0"))
+    estate.repository("base", rpms.some("rival-1.0"))
+    found = program.collect()
+    fails(program, lambda: found.yumio.apply([found.offered("rival")], [], []), "conflicts with lone")
+    assert not host.named("userconfirm")
+
+
+def test_file_conflict_stops_before_anything_is_installed(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
+) -> None:
+    estate.repository("base", rpms.some("same-one-1.0", "same-two-1.0"))
+    found = program.collect()
+    fails(
+        program,
+        lambda: found.yumio.apply([found.offered("same-one"), found.offered("same-two")], [], []),
+        "/usr/share/same",
+        "conflict",
+    )
+    assert [call[1] for call in host.named("tsInitCallback")] == [0]
+    assert estate.installed() == set()
+
+
+def test_vanished_rpm_file_is_named(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
+) -> None:
+    directory = estate.repository("base", rpms.some("lone-1.0"))
+    found = program.collect()
+    (rpm,) = directory.glob("*.rpm")
+    rpm.unlink()
+    fails(program, lambda: found.yumio.apply([found.offered("lone")], [], []), "lone-1.0-1.noarch", str(rpm))
+
+
+def test_rpm_file_that_vanishes_late_is_named(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost, monkeypatch: pytest.MonkeyPatch
+) -> None:
+    import vemyum.apply
+
+    directory = estate.repository("base", rpms.some("lone-1.0"))
+    found = program.collect()
+    (rpm,) = directory.glob("*.rpm")
+    monkeypatch.setattr(vemyum.apply, "check_signatures", lambda base, packages: rpm.unlink())
+    text = fails(program, lambda: found.yumio.apply([found.offered("lone")], [], []), str(rpm))
+    assert "No such file" in text
+
+
+def test_damaged_rpm_file_stops_before_anything_is_installed(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
+) -> None:
+    directory = estate.repository("base", rpms.some("lone-1.0"))
+    found = program.collect()
+    (rpm,) = directory.glob("*.rpm")
+    data = bytearray(rpm.read_bytes())
+    rpm.unlink()
+    data[-20:] = bytes(20)
+    rpm.write_bytes(data)
+    text = fails(program, lambda: found.yumio.apply([found.offered("lone")], [], []), "checksum")
+    # The engine shows the error lines of the call together with the exception.
+    assert "lone-1.0-1.noarch" in text + host.text("errorlog")
+    assert estate.installed() == set()
+
+
+def test_package_that_was_removed_meanwhile_is_named(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
+) -> None:
+    estate.install(rpms.some("lone-1.0"))
+    estate.repository("base", [])
+    found = program.collect()
+    estate.rpm("--erase", "lone")
+    fails(program, lambda: found.yumio.apply([], [], [found.there("lone")]), "lone-1.0-1.noarch", "refresh")
+
+
+def test_mark_that_is_done_already_is_told(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
+) -> None:
+    estate.repository("base", rpms.some("lone-1.0"))
+    found = program.collect()
+    estate.install(rpms.some("lone-1.0"))
+    fails(program, lambda: found.yumio.apply([found.offered("lone")], [], []), "Nothing to do")
+
+
+def test_mark_that_is_done_already_is_told_beside_others(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
+) -> None:
+    estate.repository("base", rpms.some("lone-1.0", "battery-1.0"))
+    found = program.collect()
+    estate.install(rpms.some("lone-1.0"))
+    marks = [found.offered("lone"), found.offered("battery")]
+    fails(program, lambda: found.yumio.apply(marks, [], []), "lone-1.0-1.noarch", "refresh")
+    assert not host.named("userconfirm")
+
+
+# Failures that rpm reports in passing -----------------------------------------------------------------
+
+
+def test_failing_pre_scriptlet_is_an_error_and_the_others_go_in(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
+) -> None:
+    estate.repository("base", rpms.some("badpre-1.0", "lone-1.0"))
+    found = program.collect()
+    fails(
+        program,
+        lambda: found.yumio.apply([found.offered("badpre"), found.offered("lone")], [], []),
+        "badpre-1.0-1.noarch was not installed",
+        "no entry",
+        "refresh the list",
+    )
+    assert estate.installed() == {"lone-1.0-1.noarch"}
+
+
+def test_failing_post_scriptlet_is_an_error(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
+) -> None:
+    estate.repository("base", rpms.some("badpost-1.0"))
+    found = program.collect()
+    text = fails(
+        program,
+        lambda: found.yumio.apply([found.offered("badpost")], [], []),
+        "badpost",
+        "half way",
+        "refresh the list",
+    )
+    assert "was not installed" not in text
+    assert estate.installed() == {"badpost-1.0-1.noarch"}
+
+
+def test_failing_preun_scriptlet_is_an_error(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
+) -> None:
+    estate.install(rpms.some("badpreun-1.0"))
+    estate.repository("base", [])
+    found = program.collect()
+    fails(
+        program,
+        lambda: found.yumio.apply([], [], [found.there("badpreun")]),
+        "badpreun-1.0-1.noarch was not removed",
+        "staying",
+    )
+    assert estate.installed() == {"badpreun-1.0-1.noarch"}
+
+
+def test_apply_after_a_failed_one(estate: Estate, rpms: Catalogue, program: Program, host: FakeHost) -> None:
+    estate.repository("base", rpms.some("badpre-1.0", "same-one-1.0", "same-two-1.0", "lone-1.0"))
+    found = program.collect()
+    fails(program, lambda: found.yumio.apply([found.offered("badpre")], [], []))
+    fails(program, lambda: found.yumio.apply([found.offered("same-one"), found.offered("same-two")], [], []))
+    found.yumio.apply([found.offered("lone")], [], [])
+    assert estate.installed() == {"lone-1.0-1.noarch"}
+
+
+# What else can go wrong -------------------------------------------------------------------------------
+
+
+def test_operating_system_errors_name_path_and_cause(
+    lamp: Tuple[Estate, Program], host: FakeHost, monkeypatch: pytest.MonkeyPatch
+) -> None:
+    import vemyum.apply
+
+    found = lamp[1].collect()
+
+    def full(*_: Any) -> None:
+        raise OSError(28, os.strerror(28), "/var/cache/yum/lamp.rpm")
+
+    monkeypatch.setattr(vemyum.apply, "solve", full)
+    fails(
+        lamp[1],
+        lambda: found.yumio.apply([], [found.pair("lamp")], []),
+        "/var/cache/yum/lamp.rpm: No space left on device",
+    )
+
+
+def test_broken_pipe_reaches_the_engine_as_it_is(
+    lamp: Tuple[Estate, Program], host: FakeHost, monkeypatch: pytest.MonkeyPatch
+) -> None:
+    import vemyum.apply
+
+    found = lamp[1].collect()
+
+    def broken(*_: Any) -> None:
+        raise BrokenPipeError(32, os.strerror(32))
+
+    monkeypatch.setattr(vemyum.apply, "solve", broken)
+    with pytest.raises(BrokenPipeError):
+        found.yumio.apply([], [found.pair("lamp")], [])
+
+
+def test_apply_without_collection_is_an_error(lamp: Tuple[Estate, Program], host: FakeHost) -> None:
+    pair = lamp[1].collect().pair("lamp")
+    unread = lamp[1].start()
+    fails(lamp[1], lambda: unread.apply([], [pair], []))
