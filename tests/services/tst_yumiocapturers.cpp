@@ -185,11 +185,15 @@ void TestYumIOCapturers::outputOfTheLastMomentIsThereWhenTheGuardIsGone()
 void TestYumIOCapturers::textThatStdioHoldsIsNotLost()
 {
     LogSink sink;
+    QStringList whenGone;
     runOnWorker([&] {
-        YumIOCapturers const capturers(&sink);
-        std::fputs("through stdio\n", stdout);
+        {
+            YumIOCapturers const capturers(&sink);
+            std::fputs("through stdio\n", stdout);
+        }
+        whenGone = sink.output();
     });
-    QCOMPARE(sink.output(), QStringList(QStringLiteral("through stdio")));
+    QCOMPARE(whenGone, QStringList(QStringLiteral("through stdio")));
 }
 
 void TestYumIOCapturers::captureMayEndBeforeTheEventLoopTurns()
@@ -221,10 +225,10 @@ void TestYumIOCapturers::linesStayInOrderWhileTwoThreadsRead()
 {
     LogSink sink;
     int expected = 0;
-    for (int round = 0; round < 100; ++round) {
+    for (int round = 0; round < 50; ++round) {
         runOnWorker([&] {
             YumIOCapturers const capturers(&sink);
-            for (int line = 0; line < 50; ++line) {
+            for (int line = 0; line < 2000; ++line) {
                 put(STDOUT_FILENO, QByteArray::number(expected++) + '\n');
             }
         });
