@@ -240,14 +240,16 @@ void TestPythonLifecycle::exceptionFramesDoNotCareWhichThreadTheyAreUsedOn()
 void TestPythonLifecycle::endRunsExitHandlersDespiteAnExceptionLeftOver()
 {
     QString const trace = directory.filePath(QStringLiteral("ended"));
+    QFile complaints(directory.filePath(QStringLiteral("stderr")));
     {
         Python::PyGILStateWrapper const lock(true);
         python->pyf(
             "import atexit\n"
             "def atEnd():\n"
             "    with open('%s', 'w') as file: file.write('ended')\n"
-            "atexit.register(atEnd)\n",
-            qUtf8Printable(trace));
+            "atexit.register(atEnd)\n"
+            "sys.stderr = open('%s', 'w')\n",
+            qUtf8Printable(trace), qUtf8Printable(complaints.fileName()));
         PyErr_SetString(PyExc_KeyError, "left over");
     }
     python.reset();
@@ -257,6 +259,8 @@ void TestPythonLifecycle::endRunsExitHandlersDespiteAnExceptionLeftOver()
     QFile file(trace);
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll(), QByteArray("ended"));
+    QVERIFY(complaints.open(QIODevice::ReadOnly));
+    QCOMPARE(complaints.readAll(), QByteArray());
 }
 
 void TestPythonLifecycle::guardAfterTheEndDoesNothing()
