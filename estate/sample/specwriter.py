@@ -233,7 +233,10 @@ def _changelog(build: Build) -> str:
 
     def entry(date: datetime.date, evr: str, changes: list[str]) -> str:
         body = "\n".join(f"- {change}" for change in changes)
-        return f"* {date.strftime('%a %b %d %Y')} {source.packager} - {evr}\n{body}\n"
+        # The package's build time is taken from here: a minute of a working day.
+        date -= datetime.timedelta(days=max(0, date.weekday() - 4))
+        time = f"{chance.randint(7, 17):02d}:{chance.randrange(60):02d}:{chance.randrange(60):02d}"
+        return f"* {date.strftime('%a %b %d')} {time} UTC {date.year} {source.packager} - {evr}\n{body}\n"
 
     for _ in range(chance.randint(3, 14) + (18 if len(source.parts) > 2 else 0)):
         evr = ".".join(str(number) for number in version) + f"-{release}"
