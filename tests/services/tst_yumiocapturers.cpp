@@ -53,6 +53,30 @@ public:
     QStringList errors;
 };
 
+/// Stays in its first call for a while, to see whether another thread comes in meanwhile.
+class SlowSink final : public CaptureSink
+{
+public:
+    void writeStdout(QString const& text) override
+    {
+        if (calls++ == 0) {
+            entered.release();
+            overlapped = secondCall.tryAcquire(1, 200);
+        } else {
+            secondCall.release();
+        }
+        received += text;
+    }
+    void writeStderr(QString const&) override {}
+    void error(QString const&) override {}
+
+    QSemaphore entered;
+    QSemaphore secondCall;
+    std::atomic<int> calls = 0;
+    bool overlapped = false;
+    QString received;
+};
+
 void put(int fd, QByteArray const& bytes)
 {
     qsizetype written = 0;
@@ -110,6 +134,7 @@ private Q_SLOTS:
     void captureMayEndBeforeTheEventLoopTurns();
     void moreThanAPipeHoldsArrivesInOrder();
     void linesStayInOrderWhileTwoThreadsRead();
+    void piecesAreHandedOverOneAtATime();
     void descriptorsLeadBackAfterwards();
     void nothingStaysOpen();
     void guardsRestoreTheMember();
@@ -238,6 +263,19 @@ void TestYumIOCapturers::linesStayInOrderWhileTwoThreadsRead()
     for (int line = 0; line < lines.size(); ++line) {
         QCOMPARE(lines.at(line), QString::number(line));
     }
+}
+
+void TestYumIOCapturers::piecesAreHandedOverOneAtATime()
+{
+    SlowSink sink;
+    runOnWorker([&] {
+        YumIOCapturers const capturers(&sink);
+        put(STDOUT_FILENO, "first\n");
+        sink.entered.acquire();
+        put(STDOUT_FILENO, "second\n");
+    });
+    QVERIFY(!sink.overlapped);
+    QCOMPARE(sink.received, QStringLiteral("first\nsecond\n"));
 }
 
 void TestYumIOCapturers::descriptorsLeadBackAfterwards()
