@@ -273,17 +273,18 @@ long YumIO::yumVersion()
 {
     QString const version = yumVersionStr();
     QStringList const parts = version.split(QLatin1Char('.'));
-    static constexpr std::array<long, 3> multipliers{10000, 100, 1};
-    long number = 0;
+    static constexpr std::array<unsigned long, 3> multipliers{10000, 100, 1};
+    // Unsigned, so that an absurd part does no harm.
+    unsigned long number = 0;
     bool understood = true;
     for (qsizetype at = 0; at < parts.size() && at < qsizetype(multipliers.size()); ++at) {
-        number += static_cast<long>(parseNumber(parts.at(at))) * multipliers.at(std::size_t(at));
+        number += static_cast<unsigned long>(parseNumber(parts.at(at))) * multipliers.at(std::size_t(at));
         understood = understood && !errno;
     }
     if (!understood) {
         warning(tr("Internal error: yum version not understood: %1").arg(version));
     }
-    return number;
+    return static_cast<long>(number);
 }
 
 bool YumIO::hasDistribGroups()
