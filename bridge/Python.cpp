@@ -22,7 +22,9 @@ std::string composed(char const* format, va_list args)
 {
     va_list copy;
     va_copy(copy, args);
-    int const length = std::vsnprintf(nullptr, 0, format, copy);
+    // The analyser loses sight of va_copy when the list is a parameter.
+    int const length =
+        std::vsnprintf(nullptr, 0, format, copy); // NOLINT(clang-analyzer-valist.Uninitialized)
     va_end(copy);
     std::string text(length > 0 ? static_cast<size_t>(length) : 0, '\0');
     std::vsnprintf(text.data(), text.size() + 1, format, args);
