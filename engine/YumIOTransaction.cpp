@@ -187,15 +187,12 @@ PyObject* YumIO::tsCallback(PyObject*, PyObject* args)
         progress->setItemValue(static_cast<Steps>(total));
     }
     if (what & instStart) {
+        // A key that isn't understood is reported, but doesn't stop what rpm has begun.
         PyRef const header = PyRef::steal(PySequence_GetItem(key, 0));
         if (!header) {
-            return nullptr;
+            handleException();
         }
-        PyRef nameObject = PyRef::steal(PyMapping_GetItemString(header.get(), "name"));
-        if (!nameObject) {
-            return nullptr;
-        }
-        QString const name = pyStringDec(std::move(nameObject));
+        QString const name = header ? pyMappingString(header.get(), "name") : QString();
         startPuttingIn(name, run.updateNames.contains(name), total);
     }
     if (what & instProgress) {
