@@ -18,6 +18,7 @@ Boxes::Boxes()
 QList<Boxes::Box> Boxes::take()
 {
     presses.clear();
+    shownAct = nullptr;
     return std::exchange(seen, {});
 }
 
@@ -55,6 +56,9 @@ void Boxes::answer(QDialog* dialog)
         box.buttons.append(button->text().remove(QLatin1Char('&')));
     }
     seen.append(box);
+    if (shownAct) {
+        shownAct();
+    }
     QString const press = presses.isEmpty() ? box.buttons.value(0) : presses.takeFirst();
     if (press == QLatin1String("Escape")) {
         QTest::keyClick(dialog, Qt::Key_Escape);

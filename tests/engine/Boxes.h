@@ -3,6 +3,7 @@
 
 #include <QObject>
 #include <QStringList>
+#include <functional>
 
 class QDialog;
 
@@ -26,7 +27,10 @@ public:
     /// button is pressed.
     void press(QStringList const& buttons) { presses = buttons; }
 
-    /// The dialogs since the last call; what was left of the presses is dropped.
+    /// What to do while a dialog is up, before it is answered.
+    void whileShown(std::function<void()> const& act) { shownAct = act; }
+
+    /// The dialogs since the last call; the rest of the presses, and the act, are dropped.
     QList<Box> take();
     /// Of these the words alone.
     QStringList takeTexts();
@@ -39,4 +43,5 @@ private:
 
     QList<Box> seen;
     QStringList presses;
+    std::function<void()> shownAct;
 };

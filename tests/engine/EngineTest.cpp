@@ -118,6 +118,15 @@ bool EngineTest::collected()
     return done;
 }
 
+QStringList EngineTest::told(std::function<void(Progress&)> const& drive) const
+{
+    ProgressRecord record;
+    Progress model(totalBar.get(), itemBar.get());
+    record.follow(&model);
+    drive(model);
+    return record.lines;
+}
+
 void EngineTest::startProgress()
 {
     progressUser = std::make_unique<ProgressUser>(engine->progress, totalBar.get(), itemBar.get());

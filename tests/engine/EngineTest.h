@@ -54,7 +54,9 @@ public:
     using YumIO::pyString, YumIO::pyStringDec, YumIO::pyStringX, YumIO::pyStringXDec, YumIO::pythonException;
     using YumIO::pythonExceptionV, YumIO::pyTime, YumIO::pyTimeDec, YumIO::repoAct, YumIO::repoActName;
     using YumIO::repoActTotal, YumIO::repoContents, YumIO::repoNames, YumIO::requiredPkgs, YumIO::run;
-    using YumIO::simpleString, YumIO::sizeOf, YumIO::totalBar, YumIO::TransactionLists, YumIO::yumIO;
+    using YumIO::simpleString, YumIO::sizeOf, YumIO::sqliteKnown, YumIO::prestoKnown, YumIO::stderrKind,
+        YumIO::stderrLevel, YumIO::totalBar;
+    using YumIO::TransactionLists, YumIO::yumIO, YumIO::yumVersionKnown;
 
 private:
     QString versionOfEra;
@@ -76,6 +78,8 @@ protected:
     bool collected();
     Package::Entry* package(QString const& name) const { return engine->findPackage(name); }
     Package::Entry* group(QString const& name) const { return engine->findGroup(name); }
+    /// What a Progress tells when it is driven so.
+    QStringList told(std::function<void(Progress&)> const& drive) const;
     /// Gives the engine a Progress on this thread, as a job has one, until the function's end. Its record
     /// goes to the engine's.
     void startProgress();
@@ -85,9 +89,11 @@ protected:
     std::unique_ptr<Boxes> boxes;
     std::unique_ptr<TestEngine> engine;
 
+protected Q_SLOTS:
+    void init();
+
 private Q_SLOTS:
     void initTestCase();
-    void init();
     void cleanup();
     void cleanupTestCase();
 

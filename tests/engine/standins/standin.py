@@ -11,7 +11,7 @@ import sys
 import traceback
 import types
 from collections.abc import Callable, Mapping
-from dataclasses import dataclass
+from dataclasses import dataclass, replace
 from typing import Any
 
 import yumIOC
@@ -44,6 +44,7 @@ class Era:
 
 
 era: Era
+release: Era  # what `era` goes back to
 namespace: dict[str, Any]
 world: Any = None
 calls: list[str] = []
@@ -130,22 +131,30 @@ def value(expression: str) -> str:
         return traceback.format_exc()
 
 
-def reset() -> None:
-    """Puts the world, the methods and the memory of calls back to where a test starts."""
+def become(**forms: Any) -> None:
+    """Changes forms of the release, and makes the world anew in these."""
     import standinpackages
 
-    global world
+    global era, world
+    era = replace(era, **forms)
     world = standinpackages.World(era)
+
+
+def reset() -> None:
+    """Puts the forms, the world, the methods and the memory of calls back to where a test starts."""
+    global era
+    era = release
+    become()
     calls.clear()
     for name, method in _methods.items():
         setattr(namespace["YumIO"], name, method)
     namespace["usesSqlite"] = lambda: era.sqlite
 
 
-def install(script: dict[str, Any], release: Era) -> None:
+def install(script: dict[str, Any], forms: Era) -> None:
     """Puts everything that the program requires into the script's namespace."""
-    global era, namespace
-    era = release
+    global era, release, namespace
+    era = release = forms
     namespace = script
     errors = types.ModuleType("yum.Errors")
     for error in (YumBaseError, RepoError, LockError, GroupsError):

@@ -109,7 +109,7 @@ class YumIO:
 
 def read_repositories() -> None:
     """Reports the reading of the enabled repositories, in the release's order."""
-    names = [name for name, repo in standin.world.repos.items() if repo.enabled]
+    names = [name for name, repo in standin.world.repos.items() if getattr(repo, "enabled", 0)]
     if standin.era.one_pass:
         for name in names:
             fetch_index(name)

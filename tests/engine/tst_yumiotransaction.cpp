@@ -1,0 +1,544 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "EngineTest.h"
+
+class TestYumIOTransaction final : public EngineTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+
+    void downloadsAreNamedByTheirFile_data();
+    void downloadsAreNamedByTheirFile();
+    void downloadsWeighTheirSize_data();
+    void downloadsWeighTheirSize();
+    void headersWeighTheSameWhateverTheirSize();
+    void downloadMovesWithinItsSize();
+    void oddNamesAndTextsAreReported();
+    void deltaRebuildEndsTheDownloads();
+
+    void testBegins();
+    void testBeginsWithoutReport();
+    void stepsOfARebuildThatNeverCameAreSpent();
+    void rebuildIsNotEndedTwice();
+    void transactionBegins();
+    void transactionBeginsWithoutTest();
+
+    void callbackBits_data();
+    void callbackBits();
+    void callbackBitsAreDoneInOrder();
+    void callbackPutsIn();
+    void callbackTakesOut();
+    void callbackOfUnknownPackages();
+    void oddCallbackKeysAreReported_data();
+    void oddCallbackKeysAreReported();
+
+    void eventsThatPutIn_data();
+    void eventsThatPutIn();
+    void eventsThatTakeOut_data();
+    void eventsThatTakeOut();
+    void eventsOfOnePackageOpenOneItem();
+    void availableEventIsIgnored();
+    void unknownEventsAreWarnedOf();
+    void oddEventPackagesAreReported();
+    void valuesOutOfRangeDoNoHarm();
+
+    void outputAtTheEndIsEmpty();
+    void localFilesAreTextsOrNothing();
+
+private:
+    /// The acts that the engine's Progress and a model are given.
+    void startActs();
+    QStringList toldWithActs(std::function<void(Progress&)> const& drive) const;
+};
+
+void TestYumIOTransaction::init()
+{
+    EngineTest::init();
+    QVERIFY(collected());
+}
+
+void TestYumIOTransaction::startActs()
+{
+    startProgress();
+    engine->progress->setupItemActs(8000, 1000000);
+}
+
+QStringList TestYumIOTransaction::toldWithActs(std::function<void(Progress&)> const& drive) const
+{
+    return told([&](Progress& model) {
+        model.setupItemActs(8000, 1000000);
+        drive(model);
+    });
+}
+
+void TestYumIOTransaction::downloadsAreNamedByTheirFile_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("'http://mirror/base/foo-1.0.rpm'") << "foo-1.0";
+    QTest::newRow("'foo-1.0.rpm'") << "foo-1.0";
+    QTest::newRow("b'foo-1.0.rpm'") << "foo-1.0";
+    QTest::newRow("'/var/cache/foo-1.0.hdr'") << "foo-1.0";
+    QTest::newRow("'foo-1.0.RPM'") << "foo-1.0.RPM";
+    QTest::newRow("'foo-1.0.rpm.rpm'") << "foo-1.0.rpm";
+    QTest::newRow("'foo-1.0.drpm'") << "foo-1.0.drpm";
+    QTest::newRow("'.rpm'") << "";
+    QTest::newRow("'rpm'") << "rpm";
+    QTest::newRow("'base/'") << "";
+    QTest::newRow("'http://h/buffet?login=me&key=k&path=foo-1.0.rpm'") << "foo-1.0";
+    QTest::newRow("'http://h/buffet?login=a/b&key=k&path=base/foo-1.0.rpm'") << "foo-1.0";
+    QTest::newRow("'http://h/Buffet?login=me&key=k&path=foo.rpm'") << "Buffet?login=me&key=k&path=foo";
+    QTest::newRow("'a\\udce9.rpm'") << QStringLiteral("a\uFFFD");
+}
+
+void TestYumIOTransaction::downloadsAreNamedByTheirFile()
+{
+    startActs();
+    engine->run.applyConfirmed = true;
+    QCOMPARE(
+        engine->script(QStringLiteral("yumIOC.applyGrabMeterStart(%1, None, None, 5, None)")
+                           .arg(QTest::currentDataTag())),
+        QString());
+    QFETCH(QString, name);
+    QVERIFY2(
+        engine->progressRecord.lines.constLast().startsWith("Downloading " + name + ", up to 5"),
+        qPrintable(engine->progressRecord.lines.constLast()));
+}
+
+void TestYumIOTransaction::downloadsWeighTheirSize_data()
+{
+    QTest::addColumn<unsigned long long>("weight");
+    QTest::newRow("50000") << 50000ULL;
+    QTest::newRow("10240") << 10240ULL;
+    QTest::newRow("10239") << 10240ULL;
+    QTest::newRow("0") << 10240ULL;
+    QTest::newRow("-5") << 10240ULL;
+    QTest::newRow("2**40") << (1ULL << 40);
+}
+
+void TestYumIOTransaction::downloadsWeighTheirSize()
+{
+    startActs();
+    engine->run.applyConfirmed = true;
+    // Where solving ended the downloads count on.
+    engine->run.actsDone = 30;
+    QCOMPARE(
+        engine->script(QStringLiteral("yumIOC.applyGrabMeterStart('x.rpm', None, None, %1, None)\n"
+                                      "yumIOC.applyGrabMeterUpdate(1)\nyumIOC.applyGrabMeterEnd(1)")
+                           .arg(QTest::currentDataTag())),
+        QString());
+    QFETCH(unsigned long long, weight);
+    QCOMPARE(engine->run.actsDone, 30 + weight);
+}
+
+void TestYumIOTransaction::headersWeighTheSameWhateverTheirSize()
+{
+    startActs();
+    SCRIPT("yumIOC.applyGrabMeterStart('/cache/foo-1.0.hdr', None, None, 3000, None)\n"
+           "yumIOC.applyGrabMeterStart('/cache/bar-1.0.hdr', None, None, 2**33, 'bar')");
+    QCOMPARE(engine->run.actsDone, 20ULL);
+    QCOMPARE(engine->progressRecord.lines, toldWithActs([](Progress& model) {
+                 model.startItemAct("Downloading foo-1.0 header", 3000, 10);
+                 model.startItemAct("Downloading bar-1.0 header", 1ULL << 33, 20);
+             }));
+}
+
+void TestYumIOTransaction::downloadMovesWithinItsSize()
+{
+    startActs();
+    engine->run.applyConfirmed = true;
+    SCRIPT("yumIOC.applyGrabMeterStart('x.rpm', None, None, 20000, None)\n"
+           "yumIOC.applyGrabMeterUpdate(30000)\nyumIOC.applyGrabMeterEnd(30000)");
+    QCOMPARE(engine->progressRecord.lines, toldWithActs([](Progress& model) {
+                 model.startItemAct("Downloading x", 20000, 20000);
+                 model.setItemValue(20000);
+             }));
+}
+
+void TestYumIOTransaction::oddNamesAndTextsAreReported()
+{
+    startActs();
+    engine->run.applyConfirmed = true;
+    SCRIPT("yumIOC.applyGrabMeterStart(None, None, None, 5, None)");
+    QCOMPARE(boxes->takeTexts(), QStringList{"Internal error: unexpected progress name"});
+    QVERIFY(engine->progressRecord.lines.constLast().startsWith("Downloading , up to 5"));
+    SCRIPT("yumIOC.applyGrabMeterStart(5, None, None, 5, 6)");
+    QCOMPARE(
+        boxes->takeTexts(),
+        (QStringList{
+            "Internal error: unexpected progress text", "Internal error: unexpected progress name"}));
+    SCRIPT("yumIOC.applyGrabMeterStart('x.rpm', None, None, 5, 6)");
+    QCOMPARE(boxes->takeTexts(), QStringList{"Internal error: unexpected progress text"});
+    QVERIFY(engine->progressRecord.lines.constLast().startsWith("Downloading x, up to 5"));
+}
+
+void TestYumIOTransaction::deltaRebuildEndsTheDownloads()
+{
+    startActs();
+    engine->run.applyConfirmed = true;
+    SCRIPT("yumIOC.applyGrabMeterStart('a.rpm', None, None, 20000, '<delta rebuild> ')\n"
+           "yumIOC.applyGrabMeterStart(None, None, None, 3, b'<delta rebuild>')\n"
+           "yumIOC.applyGrabMeterUpdate(3)");
+    QVERIFY(engine->run.deltaRebuild);
+    QCOMPARE(engine->progressRecord.lines, toldWithActs([](Progress& model) {
+                 model.startItemAct("Downloading a", 20000, 20000);
+                 model.endItemActs();
+                 model.startItem("Finishing RPM rebuild from deltas", 2000, 3);
+                 model.setItemValue(3);
+             }));
+}
+
+void TestYumIOTransaction::testBegins()
+{
+    engine->setVersion("3.2.2");
+    SCRIPT("standin.instead('usesPresto', lambda: False)");
+    startActs();
+    engine->run.actsDone = 5000;
+    engine->run.transactionActs = 40000;
+    SCRIPT("yumIOC.tsInitCallback(0)\nyumIOC.tsCallback(0x20, 0, 6, None, None)");
+    QCOMPARE(engine->run.actsDone, 2000ULL);
+    QCOMPARE(engine->progressRecord.lines, toldWithActs([](Progress& model) {
+                 model.endItemActs();
+                 model.startItem("Preparing to Test Transaction", 1000, 1);
+                 model.setupItemActs(1000, 2000);
+                 model.startItemAct("Transaction Test", 6, 2000);
+             }));
+}
+
+void TestYumIOTransaction::testBeginsWithoutReport()
+{
+    engine->setVersion("3.2.3");
+    SCRIPT("standin.instead('usesPresto', lambda: False)");
+    startActs();
+    SCRIPT("yumIOC.tsInitCallback(0)");
+    QCOMPARE(engine->progressRecord.lines, toldWithActs([](Progress& model) { model.endItemActs(); }));
+}
+
+void TestYumIOTransaction::stepsOfARebuildThatNeverCameAreSpent()
+{
+    SCRIPT("standin.instead('usesPresto', lambda: True)");
+    startActs();
+    SCRIPT("yumIOC.tsInitCallback(0)");
+    QCOMPARE(engine->progressRecord.lines, toldWithActs([](Progress& model) {
+                 model.endItemActs();
+                 model.startItem("Finishing RPM rebuild from deltas", 2000, 1);
+                 model.setItemValue(1);
+             }));
+}
+
+void TestYumIOTransaction::rebuildIsNotEndedTwice()
+{
+    SCRIPT("standin.instead('usesPresto', lambda: True)");
+    startActs();
+    engine->run.deltaRebuild = true;
+    SCRIPT("yumIOC.tsInitCallback(0)");
+    QCOMPARE(engine->progressRecord.lines, QStringList());
+}
+
+void TestYumIOTransaction::transactionBegins()
+{
+    engine->setVersion("3.2.2");
+    startActs();
+    engine->run.actsDone = 5000;
+    engine->run.transactionActs = 40000;
+    SCRIPT("yumIOC.tsInitCallback(7)\nyumIOC.tsCallback(0x20, 0, 6, None, None)");
+    QCOMPARE(engine->progressRecord.lines, toldWithActs([](Progress& model) {
+                 model.endItemActs();
+                 model.startItem("Preparing to Run Transaction", 1000, 1);
+                 model.setupItemActs(8000, 42000);
+                 model.startItemAct("Transaction Test", 6, 2000);
+             }));
+}
+
+void TestYumIOTransaction::transactionBeginsWithoutTest()
+{
+    engine->setVersion("3.2.3");
+    startActs();
+    engine->run.actsDone = 5000;
+    SCRIPT("yumIOC.tsInitCallback(-1)");
+    QCOMPARE(engine->run.actsDone, 0ULL);
+    QCOMPARE(engine->progressRecord.lines, toldWithActs([](Progress& model) {
+                 model.startItem("Preparing to Run Transaction", 1000, 1);
+             }));
+}
+
+void TestYumIOTransaction::callbackBits_data()
+{
+    QTest::addColumn<long>("what");
+    QTest::addColumn<int>("value"); // -1: none
+    QTest::addColumn<bool>("understood");
+    auto const row = [](long what, int value, bool understood = true) {
+        QTest::addRow("0x%lx", what) << what << value << understood;
+    };
+    row(0x001, 40);
+    row(0x004, -1);
+    row(0x008, -1);
+    row(0x00c, -1);
+    row(0x010, 40);
+    row(0x040, 100);
+    row(0x080, 40);
+    row(0x200, 100);
+    row(0x000, -1, false);
+    row(0x400, -1, false);
+    row(0x1000, -1, false);
+    row(-0x400, -1, false);
+    row(0x404, -1);
+    row(0x401, 40);
+}
+
+void TestYumIOTransaction::callbackBits()
+{
+    startActs();
+    engine->progress->startItem("An item", 100, 100);
+    engine->progressRecord.lines.clear();
+    QFETCH(long, what);
+    QFETCH(int, value);
+    QFETCH(bool, understood);
+    // Values within the first hundredth of a second may be dropped.
+    QTRY_VERIFY(
+        engine->script(QStringLiteral("yumIOC.tsCallback(%1, 40, 100, None, None)").arg(what)).isEmpty() &&
+        (value < 0 || !engine->progressRecord.lines.isEmpty()));
+    QCOMPARE(
+        engine->progressRecord.lines,
+        value < 0 ? QStringList() : QStringList{QStringLiteral("value: %1, at step %1").arg(value)});
+    QStringList const reports = boxes->takeTexts();
+    QCOMPARE(reports.isEmpty(), understood);
+    if (!understood) {
+        QCOMPARE(
+            reports.constFirst(),
+            QStringLiteral("Internal error: YumIO::tsCallback what=%1 not understood; ignoring").arg(what));
+    }
+}
+
+void TestYumIOTransaction::callbackBitsAreDoneInOrder()
+{
+    startActs();
+    SCRIPT("yumIOC.tsCallback(0x002 | 0x001, 50000, 50000, ({'name': 'hazel'}, ''), None)");
+    QCOMPARE(engine->progressRecord.lines, toldWithActs([](Progress& model) {
+                 model.startItemAct("Installing hazel", 50000, 150000);
+                 model.setItemValue(50000);
+             }));
+}
+
+void TestYumIOTransaction::callbackPutsIn()
+{
+    startActs();
+    engine->run.updateNames = {"alder"};
+    SCRIPT("yumIOC.tsCallback(2, 0, 7, ({'name': 'elm'}, ''), None)\n"
+           "yumIOC.tsCallback(2, 0, 7, [{'name': b'hazel'}], None)\n"
+           "yumIOC.tsCallback(2, 0, 7, ({'name': 'alder'}, ''), None)");
+    QCOMPARE(engine->progressRecord.lines, toldWithActs([](Progress& model) {
+                 model.startItemAct("Installing elm", 7, 10240);
+                 model.startItemAct("Installing hazel", 7, 160240);
+                 model.startItemAct("Updating alder", 7, 760240);
+             }));
+    QCOMPARE(
+        engine->logLines(),
+        (QStringList{"Installing elm (1)", "Installing hazel (1)", "Updating alder (1)"}));
+    QCOMPARE(engine->logLines(Log::Info).size(), 3);
+}
+
+void TestYumIOTransaction::callbackTakesOut()
+{
+    startActs();
+    engine->run.updateNames = {"alder", "dogwood"};
+    SCRIPT("yumIOC.tsCallback(0x100, 0, 7, 'cedar', None)\nyumIOC.tsCallback(0x100, 0, 7, b'alder', None)\n"
+           "yumIOC.tsCallback(0x100, 0, 7, 'elm', None)\nyumIOC.tsCallback(0x100, 0, 7, 'dogwood', None)");
+    QCOMPARE(engine->progressRecord.lines, toldWithActs([](Progress& model) {
+                 model.startItemAct("Removing cedar", 7, 30000);
+                 model.startItemAct("Completing update for: alder", 7, 50000);
+                 model.startItemAct("Removing elm", 7, 60240);
+                 // Nothing of it is installed.
+                 model.startItemAct("Completing update for: dogwood", 7, 60240);
+             }));
+    QCOMPARE(engine->logLines(), QStringList());
+}
+
+void TestYumIOTransaction::callbackOfUnknownPackages()
+{
+    startActs();
+    SCRIPT("yumIOC.tsCallback(2, 0, 7, ({'name': 'nosuch'}, ''), None)\n"
+           "yumIOC.tsCallback(0x100, 0, 7, 'nosuch', None)");
+    QCOMPARE(engine->progressRecord.lines, toldWithActs([](Progress& model) {
+                 model.startItemAct("Installing nosuch", 7, 0);
+                 model.startItemAct("Removing nosuch", 7, 0);
+             }));
+    QVERIFY(!engine->entryHash.contains(YumIO::EntryKey(false, "nosuch")));
+}
+
+void TestYumIOTransaction::oddCallbackKeysAreReported_data()
+{
+    QTest::addColumn<QString>("call");
+    QTest::addColumn<QString>("report");
+    QString const general = "Internal error: python exception occurred from C code\n";
+    QTest::newRow("no tuple") << "2, 0, 7, None" << general;
+    QTest::newRow("empty tuple") << "2, 0, 7, ()" << general;
+    QTest::newRow("no mapping") << "2, 0, 7, (5, '')" << general;
+    QTest::newRow("no name") << "2, 0, 7, ({}, '')" << general;
+    QTest::newRow("odd name") << "2, 0, 7, ({'name': 5}, '')"
+                              << "Internal error: YumIO::pyString did not understand type";
+    QTest::newRow("no text") << "0x100, 0, 7, 5"
+                             << "Internal error: YumIO::pyString did not understand type";
+}
+
+void TestYumIOTransaction::oddCallbackKeysAreReported()
+{
+    startActs();
+    QFETCH(QString, call);
+    QFETCH(QString, report);
+    // A transaction that rpm has begun must not be stopped by a callback.
+    QCOMPARE(engine->script(QStringLiteral("yumIOC.tsCallback(%1, None)").arg(call)), QString());
+    QCOMPARE(boxes->takeTexts(), QStringList{report});
+}
+
+void TestYumIOTransaction::eventsThatPutIn_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("10") << "Updating hazel";
+    QTest::newRow("60") << "Updating hazel";
+    QTest::newRow("20") << "Installing hazel";
+    QTest::newRow("30") << "Installing hazel";
+}
+
+void TestYumIOTransaction::eventsThatPutIn()
+{
+    startActs();
+    QFETCH(QString, text);
+    QCOMPARE(
+        engine->script(
+            QStringLiteral("yumIOC.tsEvent(standin.world.find('available', 'hazel'), %1, 9, 9, 1, 4)")
+                .arg(QTest::currentDataTag())),
+        QString());
+    QCOMPARE(engine->progressRecord.lines, toldWithActs([&](Progress& model) {
+                 model.startItemAct(text, 9, 150000);
+                 model.setItemValue(9);
+             }));
+    QCOMPARE(engine->logLines(Log::Info), QStringList{text + " (1)"});
+}
+
+void TestYumIOTransaction::eventsThatTakeOut_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<unsigned long long>("acts");
+    QTest::newRow("40") << "Removing alder" << 200000ULL;
+    QTest::newRow("90") << "Completing update for: alder" << 20000ULL;
+    QTest::newRow("50") << "Completing update for: alder" << 20000ULL;
+}
+
+void TestYumIOTransaction::eventsThatTakeOut()
+{
+    startActs();
+    QFETCH(QString, text);
+    QFETCH(unsigned long long, acts);
+    QCOMPARE(
+        engine->script(
+            QStringLiteral("yumIOC.tsEvent('alder', %1, 9, 9, 1, 4)").arg(QTest::currentDataTag())),
+        QString());
+    QCOMPARE(engine->progressRecord.lines, toldWithActs([&](Progress& model) {
+                 model.startItemAct(text, 9, acts);
+                 model.setItemValue(9);
+             }));
+    QCOMPARE(engine->logLines(), QStringList());
+}
+
+void TestYumIOTransaction::eventsOfOnePackageOpenOneItem()
+{
+    startActs();
+    SCRIPT("for done in (0, 4, 9):\n    yumIOC.tsEvent('cedar', 40, done, 9, 3, 4)\n"
+           "yumIOC.tsEvent('cedar', 40, 0, 9, 4, 4)");
+    QCOMPARE(engine->progressRecord.lines, toldWithActs([](Progress& model) {
+                 model.startItemAct("Removing cedar", 9, 30000);
+                 model.setItemValue(9);
+                 model.startItemAct("Removing cedar", 9, 60000);
+             }));
+    QCOMPARE(engine->run.lastEventPkg, 4ULL);
+}
+
+void TestYumIOTransaction::availableEventIsIgnored()
+{
+    startActs();
+    SCRIPT("yumIOC.tsEvent(None, 70, 9, 9, 1, 4)");
+    QCOMPARE(engine->progressRecord.lines, QStringList());
+    QCOMPARE(engine->run.lastEventPkg, 0ULL);
+}
+
+void TestYumIOTransaction::unknownEventsAreWarnedOf()
+{
+    startActs();
+    SCRIPT("yumIOC.tsEvent('cedar', 80, 9, 9, 1, 4)\nyumIOC.tsEvent('cedar', -1, 9, 9, 2, 4)");
+    QCOMPARE(
+        boxes->takeTexts(), (QStringList{
+                                "Internal error: YumIO::tsEvent action=80 not understood; ignoring",
+                                "Internal error: YumIO::tsEvent action=-1 not understood; ignoring"}));
+    QCOMPARE(engine->progressRecord.lines, QStringList());
+}
+
+void TestYumIOTransaction::oddEventPackagesAreReported()
+{
+    startActs();
+    SCRIPT("yumIOC.tsEvent('cedar', 20, 9, 9, 1, 4)");
+    QCOMPARE(boxes->takeTexts(), QStringList{"Internal error: pyString passed NULL python object\n"});
+    SCRIPT("yumIOC.tsEvent(object(), 40, 9, 9, 2, 4)");
+    QCOMPARE(boxes->takeTexts(), QStringList{"Internal error: YumIO::pyString did not understand type"});
+    SCRIPT("yumIOC.tsEvent('nosuch', 90, 9, 9, 3, 4)");
+}
+
+void TestYumIOTransaction::valuesOutOfRangeDoNoHarm()
+{
+    startActs();
+    engine->run.applyConfirmed = true;
+    SCRIPT("import itertools\n"
+           "edges = (-2**63, -1, 0, 1, 2**31, 2**63 - 1)\n"
+           "for amount, total in itertools.product(edges, edges):\n"
+           "    yumIOC.tsCallback(0x3ff, amount, total, 'cedar', None)\n"
+           "    yumIOC.tsCallback(0x3fd, amount, total, 'cedar', None)\n"
+           "    yumIOC.tsEvent('cedar', 40, amount, total, amount, total)\n"
+           "    yumIOC.applyGrabMeterStart('x.rpm', None, None, total, None)\n"
+           "    yumIOC.applyGrabMeterUpdate(amount)\n"
+           "    yumIOC.applyGrabMeterStart('x.rpm', None, None, total, '<delta rebuild>')\n"
+           "    yumIOC.collectProgress(amount, total, 'x')\n"
+           "    yumIOC.collectGrabMeterStart('x', '', '', total, None)\n"
+           "    yumIOC.collectGrabMeterUpdate(amount)\n"
+           "    yumIOC.tsInitCallback(amount)");
+    boxes->take();
+    QVERIFY(!engine->progressRecord.lines.isEmpty());
+}
+
+void TestYumIOTransaction::outputAtTheEndIsEmpty()
+{
+    startActs();
+    SCRIPT("import types\n"
+           "from standintransaction import Member, TsInfo\n"
+           "def one(kind, name): return [Member(standin.world.find(kind, name))]\n"
+           "holder = types.SimpleNamespace(tsInfo=TsInfo(standin.era, removed=one('installed', 'cedar'),\n"
+           "    depremoved=one('installed', 'birch'), installed=one('available', 'elm'),\n"
+           "    depinstalled=one('available', 'ivy'), updated=one('updates', 'alder'),\n"
+           "    depupdated=one('updates', 'dogwood'), obsoleted=one('available', 'fir')))");
+    QCOMPARE(engine->value("repr(yumIOC.postTransactionOutput(holder))"), QStringLiteral("''"));
+    QCOMPARE(
+        engine->run.transactionText,
+        QStringLiteral("\tRemoved: cedar 1.0-1 (noarch)\n\tDependency Removed: birch 1:3.1-2 (noarch)\n"
+                       "\tInstalled: elm 1.0-1 (noarch)\n\tDependency Installed: ivy 1.0-1 (noarch)\n"
+                       "\tUpdated: alder 2.0-1 (x86_64)\n\tDependency Updated: dogwood 5.0-1 (noarch)\n"
+                       "\tObsoleted: fir 2:1.5-3.1 (noarch)\n"));
+    QCOMPARE(engine->progressRecord.lines, toldWithActs([](Progress& model) { model.endItemActs(); }));
+    SCRIPT("holder.tsInfo.plain_lists['installed'] = [object()]");
+    QVERIFY(engine->script("yumIOC.postTransactionOutput(holder)").contains("txmbr lacks pkgtup"));
+    QCOMPARE(boxes->takeTexts(), QStringList{"Internal error: txmbr lacks pkgtup\n"});
+    QVERIFY(engine->run.transactionText.endsWith("birch 1:3.1-2 (noarch)\n"));
+}
+
+void TestYumIOTransaction::localFilesAreTextsOrNothing()
+{
+    TestEngine::PyGILStateWrapper const lock(true);
+    PyRef const package = engine->object(
+        "__import__('types').SimpleNamespace(localPkg=lambda: b'/a.rpm', localHdr=lambda: None)");
+    QCOMPARE(engine->getLocalPkg(package.get()), QStringLiteral("/a.rpm"));
+    QCOMPARE(engine->getLocalHdr(package.get()), QString());
+    PyRef const bare = engine->object("object()");
+    QCOMPARE(engine->getLocalPkg(bare.get()), QString());
+    QCOMPARE(boxes->takeTexts(), QStringList{"Internal error: method localPkg not found\n"});
+}
+
+QTEST_MAIN(TestYumIOTransaction)
+#include "tst_yumiotransaction.moc"
