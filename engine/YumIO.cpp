@@ -33,11 +33,9 @@ YumIO::YumIO() = default;
 
 YumIO::~YumIO()
 {
-    {
-        PyGILStateWrapper const lock(initialized);
-        if (initialized) {
-            py("import sys\nsys.stdout = sys.__stdout__\nsys.stderr = sys.__stderr__\n");
-        }
+    if (initialized) {
+        PyGILStateWrapper const lock(true);
+        py("import sys\nsys.stdout = sys.__stdout__\nsys.stderr = sys.__stderr__\n");
         if (locked) {
             PyObject* const lockError = pyLookup("yum.Errors.LockError");
             pyExceptStart();
@@ -52,6 +50,10 @@ YumIO::~YumIO()
         repos.reset();
         yumIO.reset();
         pyYumIOClass.reset();
+        // What the interpreter runs at its end must not reach an engine that is going.
+        YumIOC::initialize(nullptr);
+    } else {
+        dropEntries();
     }
     delete ownDialogs;
 }
@@ -202,7 +204,19 @@ bool YumIO::collect(QHash<QString, bool> const& repoStates)
     QEventLoop loop;
     CollectThread thread(this, loop, repoStates);
     execWorkThread(loop, thread);
+    if (thread.result) {
+        takeEntries();
+    }
     return thread.result;
+}
+
+// On the GUI thread, which may paint the table at any moment of the job.
+void YumIO::takeEntries()
+{
+    entries.reserve(entryHash.size());
+    for (Package::Entry* const entry : std::as_const(entryHash)) {
+        entries.append(entry);
+    }
 }
 
 bool YumIO::collectFileLists()

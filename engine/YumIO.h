@@ -56,6 +56,24 @@ public:
         ActNone
     };
 
+    /// For its life, no accessor starts a job of its own: what isn't loaded stays empty. For callers that
+    /// can't have events served in the middle of their work, such as a table that is testing its rows.
+    class JobHold
+    {
+    public:
+        explicit JobHold(YumIO& engine)
+            : yumIO(engine)
+        {
+            ++yumIO.jobHolds;
+        }
+        ~JobHold() { --yumIO.jobHolds; }
+        JobHold(JobHold const&) = delete;
+        JobHold& operator=(JobHold const&) = delete;
+
+    private:
+        YumIO& yumIO;
+    };
+
     /// Builds the members; no Python work is done before `initialize`.
     YumIO();
     /// Gives back the lock, releases every Python object and ends the interpreter. GUI thread.
@@ -146,6 +164,9 @@ public:
     bool hasPickledCache();  ///< there are pickled caches to clean: before 2.9.2
     bool usesSqlite();
     bool usesPresto();
+    /// The value of a variable of the configuration, such as "basearch"; empty after a report when there is
+    /// none. Under the interpreter lock only.
+    QString getYumVar(QString const& name);
 
     /// A size in bytes for people: "5.0b", "1.0Kb".
     static QString bytesFormat(unsigned long long bytes);
@@ -242,6 +263,8 @@ protected:
     bool collectGroups(EntryHash& hash, PyObject* groupResult);
     bool collectGroup(Package::Entry*& slot, PyObject* groupObject, QString const& name);
     void dropEntries();
+    /// Makes the collected entries the rows of the table.
+    void takeEntries();
     /// The entry of the package of this name; null when the table has none.
     Package::Entry* findPackage(QString const& name) const;
     Package::Entry* findGroup(QString const& name) const;
@@ -372,6 +395,7 @@ protected:
     PyRef pyYumIOClass;                  ///< the helper script's class
     PyRef yumIO;                         ///< its one instance; set means "initialized"
     PyRef repos;                         ///< the dictionary yumIO.repos.repos
+    int jobHolds = 0;                    ///< JobHold objects alive
     bool locked = false;                 ///< this process holds the package library's lock
     bool yumVersionKnown = false;
     QString yumVersionText;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-// What can be told of one entry: its fields, and the single texts that the package object is asked for.
+// What can be told of one entry: its fields, and the single texts that the package object is asked for; and
+// of the configuration: its variables.
 #include "engine/YumIO.h"
 
 QString YumIO::getName(Package::Entry const& entry) const
@@ -171,4 +172,14 @@ QString YumIO::getOptionalPkgs(Package::Entry const& group)
 QString YumIO::getConditionalPkgs(Package::Entry const& group)
 {
     return hasDistribGroups() ? getGroupPkgs(group, "", "conditional_packages") : QString();
+}
+
+QString YumIO::getYumVar(QString const& name)
+{
+    PyRef const conf = pyAttribute(yumIO.get(), "conf");
+    PyRef const yumvar = pyAttribute(conf.get(), "yumvar");
+    if (!yumvar) {
+        return QString();
+    }
+    return pyMappingString(yumvar.get(), name.toUtf8().constData());
 }

@@ -42,12 +42,6 @@ bool YumIO::collectReal(QHash<QString, bool> const& repoStates)
 
     bool const collected =
         takeLock() && readRepositories(repoStates) && collectPackages() && collectGroupData();
-    if (collected) {
-        entries.reserve(entryHash.size());
-        for (Package::Entry* const entry : std::as_const(entryHash)) {
-            entries.append(entry);
-        }
-    }
     // An expected exception that was reported without being fetched must not meet the next call.
     PyErr_Clear();
     return collected;

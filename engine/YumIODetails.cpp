@@ -259,10 +259,12 @@ QString YumIO::getFiles(Package::Entry const& entry)
             files.append(path + pyStringDec(itemAt(names.get(), at)));
         }
     } else if (pyAttribute(pkg, "files")) {
-        // The worker of the job needs the lock that this thread holds.
-        lock.release();
-        collectFileLists();
-        lock.ensure();
+        if (jobHolds == 0) {
+            // The worker of the job needs the lock that this thread holds.
+            lock.release();
+            collectFileLists();
+            lock.ensure();
+        }
         PyRef const fileEntries = pyMethodCall(pkg, "returnFileEntries", "(s)", "file");
         PyRef const iterator = PyRef::steal(fileEntries ? PyObject_GetIter(fileEntries.get()) : nullptr);
         if (!iterator) {
@@ -302,9 +304,11 @@ QString YumIO::getChangeLog(Package::Entry const& entry)
                 itemAt(texts.get(), at).get());
         }
     } else if (pyAttribute(pkg, "changelog")) {
-        lock.release();
-        collectOtherData();
-        lock.ensure();
+        if (jobHolds == 0) {
+            lock.release();
+            collectOtherData();
+            lock.ensure();
+        }
         PyRef const changes =
             yumVersion() > 20300 ? pyMethodCall(pkg, "returnChangelog", "()") : pyAttribute(pkg, "changelog");
         if (changes.get() == Py_None) {

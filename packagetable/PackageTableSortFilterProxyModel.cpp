@@ -200,6 +200,9 @@ bool SortFilterProxyModel::matchesShownTexts(Package::Entry const& entry) const
 
 bool SortFilterProxyModel::matchesAnyField(Package::Entry const& entry) const
 {
+    // The table may be in the middle of a reset, so no field is worth a job: whoever sets up a search loads
+    // the extra data before.
+    YumIO::JobHold const hold(*yumIO);
     auto const matchesField = [&](Field field) { return matches(field(*yumIO, entry)); };
     return entry.kind == Package::Group ? std::ranges::any_of(groupFields, matchesField)
                                         : std::ranges::any_of(packageFields, matchesField);

@@ -57,6 +57,11 @@ void View::setFilter(bool filter)
     proxy->setFilter(filter);
 }
 
+bool View::hasExpression() const
+{
+    return !proxy->filterRegExp().pattern().isEmpty();
+}
+
 void View::filtersearch(QString const& pattern)
 {
     proxy->setFilterRegExp(pattern);

@@ -32,6 +32,8 @@ public:
     // What shows, see SortFilterProxyModel.
     void setMode(Mode mode);
     void setFilter(bool filter);
+    /// Whether an expression is in force that doesn't match everything.
+    [[nodiscard]] bool hasExpression() const;
     void filtersearch(QString const& pattern);
     void stateFilterChanged(StateFilter stateFilter);
     void groupsFilterChanged(bool groups);

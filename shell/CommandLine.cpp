@@ -76,8 +76,9 @@ void readCommandLine(int argc, char** argv, MainWindow& window)
             break;
         case disableRepoOption:
         case enableRepoOption:
+            // Repository ids are texts of one byte a character, as the configuration is read.
             window.yumRepoEnabledList.append(
-                YumRepoEnabled(chosen == enableRepoOption, QString::fromLocal8Bit(optarg)));
+                YumRepoEnabled(chosen == enableRepoOption, QString::fromLatin1(optarg)));
             break;
         default:
             if (optopt != 0) {

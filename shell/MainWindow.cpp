@@ -2,10 +2,12 @@
 // The main window's slots: start-up, rebuilds of the table, filter line, enabling of the controls, help.
 #include "shell/MainWindow.h"
 
+#include "base/Share.h"
 #include "bridge/Python.h"
 #include "engine/YumIO.h"
 #include "packagetable/PackageTableModel.h"
 #include "packagetable/PackageTableView.h"
+#include "repo/Execute.h"
 #include "repo/YumConfIO.h"
 #include "services/LogWindow.h"
 #include "widgets/HMenu.h"
@@ -14,6 +16,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QEventLoop>
+#include <QFile>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -21,6 +24,13 @@
 #include <algorithm>
 #include <cstdio>
 #include <utility>
+
+namespace
+{
+
+constexpr QLatin1String documentation("/usr/share/doc/vem-1.7.2");
+
+} // namespace
 
 MainWindow::~MainWindow()
 {
@@ -114,6 +124,10 @@ void MainWindow::rebuild()
 {
     yumIO->clear();
     yumIO->collect(reposEnabled);
+    if (isSearching() && view->hasExpression()) {
+        // A search in force tests the new rows, and needs their data before.
+        loadExtraData();
+    }
     model->reset();
 }
 
@@ -163,7 +177,7 @@ void MainWindow::quit()
     }
     close();
     // The table reads the engine's rows, so it goes first.
-    delete std::exchange(tableArea, nullptr);
+    delete tableArea;
     delete std::exchange(yumIO, nullptr);
 }
 
@@ -220,9 +234,31 @@ void MainWindow::cleanAll()
     });
 }
 
-void MainWindow::manualHtml() {}
+void MainWindow::manualHtml()
+{
+    runShareCommand({QStringLiteral("webbrowser"), QStringLiteral("%1/html/index.html").arg(documentation)});
+}
 
-void MainWindow::manualPdf() {}
+void MainWindow::manualPdf()
+{
+    runShareCommand(
+        {QStringLiteral("mimeviewer"), QStringLiteral("application/pdf"),
+         QStringLiteral("%1/manual.pdf").arg(documentation)});
+}
+
+void MainWindow::runShareCommand(QStringList const& words)
+{
+    QList<QByteArray> bytes;
+    for (QString const& word : words) {
+        bytes.append(QFile::encodeName(bytes.isEmpty() ? Share::absolute(word) : word));
+    }
+    QList<char*> arguments;
+    for (QByteArray& word : bytes) {
+        arguments.append(word.data());
+    }
+    arguments.append(nullptr);
+    Execute::execute(this, arguments.constData());
+}
 
 void MainWindow::about()
 {
@@ -263,6 +299,11 @@ void MainWindow::prepareFilterSearch()
     if (text.isEmpty() || text == QLatin1String(".*") || !isSearching()) {
         return;
     }
+    loadExtraData();
+}
+
+void MainWindow::loadExtraData()
+{
     // No row is tested while the engine works.
     view->setFilter(false);
     yumIO->collectFileLists();
@@ -297,6 +338,9 @@ void MainWindow::modeChanged(int mode)
                : tr("Apply the filter specified to the left"));
     auto const step = [this, mode] {
         prepareFilterSearch();
+        if (isSearching() && view->hasExpression()) {
+            loadExtraData();
+        }
         view->setMode(static_cast<PackageTable::Mode>(mode));
     };
     search ? whileBusy(step) : step();

@@ -7,6 +7,7 @@
 #include <QIcon>
 #include <QList>
 #include <QMainWindow>
+#include <QPointer>
 
 class HMenu;
 class QAction;
@@ -88,8 +89,11 @@ private:
     void setReady(bool ready);
     /// Loads the extra data that a search for the present expression needs.
     void prepareFilterSearch();
+    void loadExtraData();
     void rebuild();
     void showTable();
+    /// Starts a command of the share directory, the first word, with the others as its arguments.
+    void runShareCommand(QStringList const& words);
     /// Reads the configuration, which seeds `reposEnabled`. What can't be read has been reported.
     void readConfiguration();
     /// Search is slow enough to want the busy state; Filter isn't.
@@ -113,7 +117,7 @@ private:
     QAction* cleanXmlMetadataAction = nullptr;
     QAction* cleanPickledCacheAction = nullptr;
     QAction* cleanAllAction = nullptr;
-    QWidget* tableArea = nullptr; ///< hidden until the first collection is done
+    QPointer<QWidget> tableArea; ///< hidden until the first collection is done
     QComboBox* modeCombo = nullptr;
     QLineEdit* regExpEdit = nullptr;
     QPushButton* filterButton = nullptr;
