@@ -8,6 +8,7 @@
 #include <QHash>
 #include <QList>
 #include <QObject>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 
@@ -37,6 +38,22 @@ public:
     /// has been emitted. When false the user has seen a message box over `window`, and the members hold the
     /// defaults and what was read up to the fault.
     bool read(QWidget* window);
+
+    /// Writes every file that a repository of `repos` belongs to, and the main file, anew from memory, and
+    /// deletes all other files of the repository directories. First the user is asked, over `window`, about
+    /// missing and repeated identifiers; the answer Yes removes those from `repos`. New repositories get
+    /// their file name. Emits nothing.
+    ///
+    /// True when the files were written; a failed deletion is told but changes nothing. When false the user
+    /// has declined or has seen a message box, files later in the order were not touched and nothing was
+    /// deleted.
+    ///
+    /// After a read that failed, what it did not get to is kept: nothing is deleted, and the file in which it
+    /// stopped can't be written.
+    bool write(QWidget* window);
+
+    /// The order of writing: by file, then by position in it. Equal positions have no order.
+    [[nodiscard]] static bool filePositionLessThan(Repo::Entry const& a, Repo::Entry const& b);
 
     /// The path of the main file: "/etc/yum/yum.conf" when it exists, else "/etc/yum.conf", whether that
     /// exists or not. Looked up at each call.
@@ -79,12 +96,23 @@ private:
     static void cleanupRead(Repo::Entry& entry);
     void applyUsedOptions(Repo::Entry const& entry);
 
+    bool checkErrors();
+    [[nodiscard]] bool hasEmptyId() const;
+    [[nodiscard]] QString getDuplicateId() const;
+    void cleanupWrite(QList<Repo::Entry>& entries) const;
+    bool writeFile(QString const& file, QList<Repo::Entry> const& entries);
+    [[nodiscard]] QByteArray contentOf(QString const& file, QList<Repo::Entry> const& entries) const;
+    static bool writeRepo(std::FILE* stream, Repo::Entry const& repo);
+    bool removeUnusedFiles(QSet<QString> const& written);
+    bool removeUnusedFilesOf(QString const& directory, QSet<QString> const& written);
+
     /// Shows `message` with errno behind it, in a critical box over `parent`.
     void error(QString const& message);
 
     /// The name of `path` for system calls: its bytes, below VEMROOT when that is set.
     [[nodiscard]] static QByteArray diskName(QString const& path);
 
-    QWidget* parent = nullptr;  ///< under the message boxes; not owned, set by each read
+    QWidget* parent = nullptr;  ///< under the message boxes; not owned, set by each read and write
     QList<QString> unreadLines; ///< physical lines read ahead, to be read again before the file goes on
+    QString unfinishedFile;     ///< the file in which the last read stopped; empty when it read everything
 };

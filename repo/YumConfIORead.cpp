@@ -57,6 +57,7 @@ bool YumConfIO::read(QWidget* window)
 
     {
         QString const path = QString::fromLatin1(fileName());
+        unfinishedFile = path;
         File const stream = openFile(diskName(path));
         if (!stream) {
             error(tr("Unable to read yum configuration file %1").arg(path));
@@ -64,6 +65,7 @@ bool YumConfIO::read(QWidget* window)
         }
         if (!readConfFile(stream.get()))
             return false;
+        unfinishedFile.clear();
     }
 
     for (QString const& directory : std::as_const(reposdirs)) {
@@ -93,21 +95,27 @@ bool YumConfIO::readDirectory(QString const& directory)
 
 bool YumConfIO::readDirectoryFile(QString const& path)
 {
+    unfinishedFile = path;
     QByteArray const name = diskName(path);
     struct stat status;
     if (stat(name.constData(), &status) != 0) {
         error(tr("Unable to stat repository configuration file %1").arg(path));
         return false;
     }
-    if (S_ISDIR(status.st_mode))
+    if (S_ISDIR(status.st_mode)) {
+        unfinishedFile.clear();
         return true;
+    }
 
     File const stream = openFile(name);
     if (!stream) {
         error(tr("Unable to read repository configuration file %1").arg(path));
         return false;
     }
-    return readRepoFile(stream.get(), path);
+    if (!readRepoFile(stream.get(), path))
+        return false;
+    unfinishedFile.clear();
+    return true;
 }
 
 /// Reads the main section, then what repositories the main file holds. Lines before "[main]" are treated as

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include <QByteArray>
+
+/// One file that is written anew, in place: links, owner and permissions of a file that exists stay. A value
+/// on the stack of the writer; any thread.
+///
+/// What the file held is kept until there is room for what it is to hold, so that a full disk does not cost
+/// the user the file. Each operation answers false with errno saying why; nothing is reported here.
+class OutputFile final
+{
+public:
+    OutputFile() = default;
+    OutputFile(OutputFile const&) = delete;
+    OutputFile& operator=(OutputFile const&) = delete;
+    /// Closes what a failure left open.
+    ~OutputFile();
+
+    /// Opens for writing and creates what isn't there, readable by its owner only where `isPrivate` says so.
+    /// The content stays.
+    [[nodiscard]] bool open(QByteArray const& name, bool isPrivate);
+
+    /// Makes `content` all that the file holds.
+    [[nodiscard]] bool write(QByteArray const& content);
+
+    /// Sees to it that the content is on the disk, which may fail as late as here, and closes.
+    [[nodiscard]] bool close();
+
+private:
+    bool reserve(qint64 size);
+    bool writeAll(QByteArray const& content);
+
+    int descriptor = -1;
+    bool isRegular = false; ///< neither a device nor a pipe
+    qint64 oldSize = 0;     ///< bytes that the file held when it was opened
+};

@@ -1,0 +1,256 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+// The configuration's writing: the check of identifiers, the files, the removal of those out of use.
+#include "repo/YumConfIO.h"
+
+#include "repo/Buffet.h"
+#include "repo/OutputFile.h"
+
+#include <QMessageBox>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdlib>
+#include <memory>
+#include <utility>
+
+#include <dirent.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace
+{
+
+/// The text byte for byte, NUL bytes too: each character is the byte that it was read from.
+void put(std::FILE* stream, QString const& text)
+{
+    QByteArray const bytes = text.toLatin1();
+    std::fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), stream);
+}
+
+void putOption(std::FILE* stream, char const* name, QString const& value)
+{
+    std::fprintf(stream, "%s=", name);
+    put(stream, value);
+    std::fputc('\n', stream);
+}
+
+void putSwitch(std::FILE* stream, char const* name, qint32 value)
+{
+    if (value != Repo::Default)
+        std::fprintf(stream, "%s=%s\n", name, value == Repo::Yes ? "1" : "0");
+}
+
+/// Whether a section holds a password, be it in a line that is commented out.
+bool holdsCredentials(Repo::Entry const& entry)
+{
+    QString keyName, name, keyPassword, password;
+    return Repo::Buffet::getAuth(entry, keyName, name, keyPassword, password) ||
+           Repo::Buffet::getAuth(entry.otherOptions, keyName, name, keyPassword, password);
+}
+
+} // namespace
+
+bool YumConfIO::write(QWidget* window)
+{
+    parent = window;
+    if (!checkErrors())
+        return false;
+    cleanupWrite(repos);
+
+    QList<Repo::Entry> sorted = repos;
+    std::stable_sort(sorted.begin(), sorted.end(), filePositionLessThan);
+
+    QSet<QString> written;
+    for (auto first = sorted.cbegin(); first != sorted.cend();) {
+        QString const file = first->file;
+        auto const last = std::find_if(
+            first, sorted.cend(), [&file](Repo::Entry const& entry) { return entry.file != file; });
+        if (!writeFile(file, QList<Repo::Entry>(first, last)))
+            return false;
+        written.insert(file);
+        first = last;
+    }
+
+    QString const mainFile = QString::fromLatin1(fileName());
+    if (!written.contains(mainFile)) {
+        if (!writeFile(mainFile, {}))
+            return false;
+        written.insert(mainFile);
+    }
+
+    // What a failed read did not get to is not out of use.
+    if (unfinishedFile.isEmpty())
+        removeUnusedFiles(written);
+    return true;
+}
+
+bool YumConfIO::filePositionLessThan(Repo::Entry const& a, Repo::Entry const& b)
+{
+    if (a.file != b.file)
+        return a.file < b.file;
+    return a.filePosition < b.filePosition;
+}
+
+/// Asks about identifiers that are missing or repeated. On Yes the repositories that can't be kept are gone
+/// from `repos`; anything else answers false and changes nothing.
+bool YumConfIO::checkErrors()
+{
+    QString message;
+    if (hasEmptyId())
+        message = tr("A repository has no Identifier.  It will be removed.");
+    if (QString const ids = getDuplicateId(); !ids.isEmpty()) {
+        if (!message.isEmpty())
+            message += u'\n';
+        message +=
+            tr("Two or more repositories have the same Identifier(s), %1.  Only one repository will be "
+               "applied for each Identifier.")
+                .arg(ids);
+    }
+    if (message.isEmpty())
+        return true;
+    message += tr("  Proceed?");
+
+    QMessageBox box(
+        QMessageBox::Critical, tr("Repository Editor"), message, QMessageBox::Yes | QMessageBox::No, parent);
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::No);
+    box.setEscapeButton(QMessageBox::No);
+    if (box.exec() != QMessageBox::Yes)
+        return false;
+
+    QList<Repo::Entry> kept;
+    QSet<QString> ids;
+    for (Repo::Entry const& entry : std::as_const(repos)) {
+        if (entry.id.isEmpty() || ids.contains(entry.id))
+            continue;
+        ids.insert(entry.id);
+        kept.append(entry);
+    }
+    repos = kept;
+    return true;
+}
+
+bool YumConfIO::hasEmptyId() const
+{
+    return std::any_of(
+        repos.cbegin(), repos.cend(), [](Repo::Entry const& entry) { return entry.id.isEmpty(); });
+}
+
+/// The identifier of each pair of repositories that share one, so that one used three times is named thrice.
+QString YumConfIO::getDuplicateId() const
+{
+    QStringList ids;
+    for (auto entry = repos.cbegin(); entry != repos.cend(); ++entry) {
+        auto const sharing = std::count_if(
+            entry + 1, repos.cend(), [entry](Repo::Entry const& other) { return other.id == entry->id; });
+        for (auto pair = sharing; pair > 0; --pair)
+            ids += entry->id;
+    }
+    return ids.join(QStringLiteral(", "));
+}
+
+/// Gives each repository the full path of its file.
+void YumConfIO::cleanupWrite(QList<Repo::Entry>& entries) const
+{
+    for (Repo::Entry& entry : entries) {
+        if (entry.file.isEmpty())
+            entry.file = entry.id + QStringLiteral(".repo");
+        if (!entry.file.startsWith(u'/') && !reposdirs.isEmpty())
+            entry.file = reposdirs.first() + u'/' + entry.file;
+        // The name that the disk is going to know: under any other the removal of unused files would not
+        // recognise the file, and two names that become one there would overwrite each other.
+        entry.file = QString::fromLatin1(entry.file.toLatin1());
+    }
+}
+
+/// Writes one file anew, `entries` being all that it is to hold. False after a report.
+bool YumConfIO::writeFile(QString const& file, QList<Repo::Entry> const& entries)
+{
+    OutputFile output;
+    bool const isPrivate = std::any_of(entries.cbegin(), entries.cend(), holdsCredentials);
+    bool isWritten = false;
+    if (file == unfinishedFile) {
+        // Only a part of it is known here.
+        errno = ECANCELED;
+    } else if (file.contains(QChar::Null)) {
+        errno = EINVAL;
+    } else if (output.open(diskName(file), isPrivate)) {
+        // The content comes after the opening, since a main file that is new decides which one is the main.
+        isWritten = output.write(contentOf(file, entries)) && output.close();
+    }
+    if (!isWritten)
+        error(tr("Unable to write repository configuration file %1").arg(file));
+    return isWritten;
+}
+
+QByteArray YumConfIO::contentOf(QString const& file, QList<Repo::Entry> const& entries) const
+{
+    char* buffer = nullptr;
+    size_t size = 0;
+    std::FILE* const stream = open_memstream(&buffer, &size);
+    if (!stream)
+        qBadAlloc();
+    if (file == QLatin1String(fileName()))
+        put(stream, mainOptions);
+    for (qsizetype at = 0; at < entries.size(); ++at) {
+        if (at > 0)
+            std::fputc('\n', stream);
+        writeRepo(stream, entries[at]);
+    }
+    bool const isWhole = std::ferror(stream) == 0;
+    if (std::fclose(stream) != 0 || !isWhole)
+        qBadAlloc();
+    std::unique_ptr<char, decltype(&std::free)> const owner(buffer, &std::free);
+    return QByteArray(buffer, static_cast<qsizetype>(size));
+}
+
+/// Writes one section, the understood options first, in a fixed order. Always true.
+bool YumConfIO::writeRepo(std::FILE* stream, Repo::Entry const& repo)
+{
+    put(stream, u'[' + repo.id + QStringLiteral("]\n"));
+    if (!repo.name.isEmpty())
+        putOption(stream, "name", repo.name);
+    if (!repo.baseurl.isEmpty()) {
+        QString urls = repo.baseurl;
+        putOption(stream, "baseurl", urls.replace(u'\n', QStringLiteral("\n        ")));
+    }
+    if (!repo.mirrorlist.isEmpty())
+        putOption(stream, "mirrorlist", repo.mirrorlist);
+    putSwitch(stream, "enabled", repo.enabled);
+    putSwitch(stream, "gpgcheck", repo.gpgcheck);
+    put(stream, repo.otherOptions);
+    return true;
+}
+
+/// Deletes every file of the repository directories that is not in `written`, whatever its name. The first
+/// failure is told and ends it.
+bool YumConfIO::removeUnusedFiles(QSet<QString> const& written)
+{
+    return std::all_of(reposdirs.cbegin(), reposdirs.cend(), [&](QString const& directory) {
+        return removeUnusedFilesOf(directory, written);
+    });
+}
+
+bool YumConfIO::removeUnusedFilesOf(QString const& directory, QSet<QString> const& written)
+{
+    std::unique_ptr<DIR, int (*)(DIR*)> const stream(opendir(diskName(directory).constData()), &closedir);
+    if (!stream)
+        return true;
+
+    while (dirent const* const item = ::readdir(stream.get())) {
+        QString const path = directory + u'/' + QString::fromLatin1(item->d_name);
+        QByteArray const name = diskName(path);
+        struct stat status;
+        if (stat(name.constData(), &status) != 0) {
+            error(tr("Unable to stat repository configuration file %1").arg(path));
+            return false;
+        }
+        if (S_ISDIR(status.st_mode) || written.contains(path))
+            continue;
+        if (unlink(name.constData()) != 0) {
+            error(tr("Unable to unlink repository configuration file %1").arg(path));
+            return false;
+        }
+    }
+    return true;
+}
