@@ -4,6 +4,7 @@
 #include "base/Share.h"
 #include "engine/YumIO.h"
 #include "packagetable/PackageTableColumns.h"
+#include "repo/RepoBrowse.h"
 #include "widgets/Colors.h"
 
 #include <array>
@@ -311,9 +312,12 @@ void Model::describe(QModelIndex const&, QWidget*)
     // The description dialog is not part of this version.
 }
 
-void Model::browse(QModelIndex const&, QWidget*)
+void Model::browse(QModelIndex const& index, QWidget* parent)
 {
-    // Repository browsing is not part of this version.
+    Package::Entry const* const entry = entryAt(index);
+    if (entry && yumConfIO) {
+        RepoBrowse::browse(parent, entry->repo, yumIO, yumConfIO);
+    }
 }
 
 void Model::setEnabled(bool enable)
