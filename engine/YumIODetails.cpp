@@ -56,11 +56,15 @@ bool isThere(PyRef const& object)
     return object && object.get() != Py_None;
 }
 
+/// 0 for what is no number, or too large a one.
 long longOf(PyObject* object)
 {
     long const value = object ? PyLong_AsLong(object) : 0;
+    if (!PyErr_Occurred()) {
+        return value;
+    }
     PyErr_Clear();
-    return value;
+    return 0;
 }
 
 } // namespace
