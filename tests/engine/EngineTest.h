@@ -40,7 +40,8 @@ public:
     ProgressRecord progressRecord; ///< of the jobs since the test began
 
     using YumIO::allPkgs, YumIO::buildTimeOf, YumIO::findGroup, YumIO::findPackage, YumIO::getPkgKind;
-    using YumIO::applyGrpConflict, YumIO::capturers, YumIO::findRelation, YumIO::handleException;
+    using YumIO::applyGroups, YumIO::applyGrpConflict, YumIO::capturers, YumIO::findRelation,
+        YumIO::handleException;
     using YumIO::applyReal, YumIO::ApplyRun, YumIO::bytesFormat, YumIO::collectProgress, YumIO::collectReal;
     using YumIO::dialogs, YumIO::displayTransactionPkgs, YumIO::displayTransactionPkgsObs;
     using YumIO::displayTransactionPkgsRepo, YumIO::dsTsInfo, YumIO::entries, YumIO::entryHash;
