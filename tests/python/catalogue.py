@@ -52,6 +52,9 @@ NOARCH: Dict[str, str] = {
     "talk-1.0": spec("talk", requires=("/bin/sh",), scriptlets={"post": "echo first line\necho second line"}),
     "core-1.0": spec("core", "1.0", provides=("installonlypkg(kernel)",), files={"/boot/core-1.0": "1"}),
     "core-2.0": spec("core", "2.0", provides=("installonlypkg(kernel)",), files={"/boot/core-2.0": "2"}),
+    "core-3.0": spec("core", "3.0", provides=("installonlypkg(kernel)",), files={"/boot/core-3.0": "3"}),
+    "panel-2.0": spec("panel", "2.0"),
+    "oldapp-1.0": spec("oldapp", "1.0", requires=("lib < 2",)),
     "moebel-1.0": spec("moebel", "1.0", summary="Tische und St\u00fchle \u2014 \u6728"),
     "rival-1.0": spec("rival", conflicts=("lone",)),
     "lone-1.0": spec("lone", files={"/usr/share/lone": "alone"}),
@@ -60,6 +63,7 @@ NOARCH: Dict[str, str] = {
 NATIVE: Dict[str, str] = {
     "twin-1.0": spec("twin", "1.0", arch=None),
     "needs-twin32-1.0": spec("needs-twin32", "1.0", arch=None, requires=("twin(x86-32)",)),
+    "panel-1.0": spec("panel", "1.0", arch=None),
     "twin-1.5": spec("twin", "1.5", arch=None),
     "shell-1.0": shell_spec("shell"),
 }

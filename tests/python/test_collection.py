@@ -3,8 +3,10 @@
 
 from __future__ import annotations
 
+import contextlib
 import gc
 import os
+import sqlite3
 from pathlib import Path
 from typing import Tuple
 
@@ -12,7 +14,7 @@ import pytest
 from catalogue import Catalogue
 from fake_host import FakeHost
 from program import Program
-from rpmestate import Estate
+from rpmestate import Estate, spec
 
 
 def names(packages: list) -> list:
@@ -52,6 +54,27 @@ def test_native_architecture_comes_first(estate: Estate, rpms: Catalogue, progra
     found = program.collect()
     assert names(found.updates) == ["twin-1.5-1.x86_64", "twin-2.0-1.i686"]
     assert names(found.available) == ["twin-1.5-1.x86_64", "twin-2.0-1.i686"]
+
+
+def test_newest_of_several_installed_versions_comes_first(
+    estate: Estate, rpms: Catalogue, program: Program
+) -> None:
+    for key in ("core-1.0", "core-3.0", "core-2.0"):
+        estate.rpm("--install", "--oldpackage", "--force-debian", rpms[key])
+    estate.repository("base", [])
+    assert names(program.collect().installed) == ["core-3.0-1.noarch", "core-2.0-1.noarch", "core-1.0-1.noarch"]
+
+
+def test_newest_comes_first_though_others_lie_between(
+    estate: Estate, rpms: Catalogue, program: Program
+) -> None:
+    estate.repository("base", rpms.some("panel-1.0", "twin-1.0"))
+    estate.repository("extras", rpms.some("panel-2.0"))
+    found = program.collect()
+    assert [version for version in names(found.available) if version.startswith("panel")] == [
+        "panel-2.0-1.noarch",
+        "panel-1.0-1.x86_64",
+    ]
 
 
 def test_only_the_newest_update_of_several(estate: Estate, rpms: Catalogue, program: Program) -> None:
@@ -170,6 +193,25 @@ def test_damaged_database_is_an_error(lamp: Tuple[Estate, Program]) -> None:
         file.unlink()
     database.write_bytes(b"no database" * 1000)
     with pytest.raises(program.errors.YumBaseError):
+        program.collect()
+
+
+def test_list_that_a_damaged_database_cuts_short_is_an_error(
+    estate: Estate, rpms: Catalogue, program: Program
+) -> None:
+    long = spec("novel", description="".join(f"Chapter {number}. " for number in range(5000)))
+    estate.install([*rpms.some("battery-1.0", "lone-1.0"), *estate.build([long])])
+    estate.repository("base", rpms.some("lamp-1.1"))
+    database = estate.root / "var/lib/rpm/rpmdb.sqlite"
+    with contextlib.closing(sqlite3.connect(database)) as connection:
+        connection.execute("PRAGMA wal_checkpoint=TRUNCATE")
+    contents = bytearray(database.read_bytes())
+    place = contents.index(b"Chapter 4000.")
+    contents[place - 8192 : place + 8192] = bytes([0xAA]) * 16384
+    database.write_bytes(contents)
+    for file in database.parent.glob("rpmdb.sqlite-*"):
+        file.unlink()
+    with pytest.raises(program.errors.YumBaseError, match="no longer lists .*damaged"):
         program.collect()
 
 

@@ -8,12 +8,15 @@ of its own the database is where that system has it, so the path is stated outri
 from __future__ import annotations
 
 import os
-from typing import Optional
+from typing import AbstractSet, Optional
 
 import rpm
 
+from .text import valid
+
 _PLACES = ("/var/lib/rpm", "/usr/lib/sysimage/rpm")
 _DATABASES = ("rpmdb.sqlite", "Packages.db", "Packages")
+_FEW = 5
 
 
 def database_directory(root: str) -> Optional[str]:
@@ -53,3 +56,21 @@ def damage(root: str) -> Optional[str]:
         if os.path.exists(path) and os.path.getsize(path) == 0 and not os.path.exists(path + "-wal"):
             return f"{path} is empty"
     return None
+
+
+def unlisted(root: str, names: AbstractSet[str]) -> Optional[str]:
+    """What is wrong with a database whose index tells names that are not among these; None if nothing.
+
+    Where rpm meets a damaged page it prints a line and ends the list of packages there, as if it were
+    complete.
+    """
+    transaction = rpm.TransactionSet(root)
+    try:
+        indexed = {valid(name) for name in transaction.dbIndex(rpm.RPMTAG_NAME)}
+    finally:
+        transaction.closeDB()
+    missing = sorted(indexed - names - {"gpg-pubkey"})
+    if not missing:
+        return None
+    few = ", ".join(missing[:_FEW]) + (", ..." if len(missing) > _FEW else "")
+    return f"packages are installed that it no longer lists ({few}). It is damaged."

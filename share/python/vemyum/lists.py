@@ -13,7 +13,7 @@ from typing import Any, Dict, FrozenSet, Iterable, List, Set
 import hawkey
 
 from .base import Base
-from .database import damage
+from .database import damage, unlisted
 from .errors import YumBaseError
 from .packages import AvailablePackage, Details, InstalledPackage
 
@@ -46,18 +46,18 @@ class Collector:
         packages = list(upgrades.filter(latest_per_arch=True))
         if self._base.conf.obsoletes:
             packages += self._obsoleters({package.name for package in packages})
-        packages = self._in_order(packages)
+        packages = self._best_first(packages)
         self.updatable = frozenset(package.name for package in packages)
         return [AvailablePackage(package, self._details) for package in packages]
 
     def everything(self) -> PackageLists:
         """All installed packages and the newest available ones.
 
-        Raises YumBaseError when the rpm database lists nothing though it should.
+        Raises YumBaseError when the rpm database lists less than it should.
         """
-        installed = list(self._base.sack.query(flags=hawkey.IGNORE_EXCLUDES).installed())
-        self._check_installed(len(installed))
+        installed = self._best_first(self._base.sack.query(flags=hawkey.IGNORE_EXCLUDES).installed())
         self.installed_names = frozenset(package.name for package in installed)
+        self._check_installed(len(installed))
         available = self._available()
         self.available_names = frozenset(package.name for package in available)
         return PackageLists(
@@ -84,41 +84,31 @@ class Collector:
 
     def _available(self) -> List[Any]:
         sack = self._base.sack
-        arches = sack.list_arches()
-        native = set(self._native())
         query = sack.query().available().filter(latest_per_arch_by_priority=True)
-        first = list(query.filter(arch=[arch for arch in arches if arch in native]))
-        foreign = list(query.filter(arch=[arch for arch in arches if arch not in native]))
-        return self._newest_first(first) + foreign
+        return self._best_first(query.filter(arch=sack.list_arches()))
 
-    @staticmethod
-    def _newest_first(packages: List[Any]) -> List[Any]:
-        """Of names that come as noarch and native in different versions, the newest in front."""
-        best: Dict[str, Any] = {}
-        doubled = False
+    def _best_first(self, packages: Iterable[Any]) -> List[Any]:
+        """The packages with those of one name side by side: native ones first, newest ones first."""
+        by_name: Dict[str, List[Any]] = {}
         for package in packages:
-            known = best.setdefault(package.name, package)
-            doubled = doubled or (known is not package and known.evr != package.evr)
-        if not doubled:
-            return packages
-        return sorted(packages, key=cmp_to_key(lambda a, b: b.evr_cmp(a) if a.name == b.name else 0))
-
-    def _in_order(self, packages: Iterable[Any]) -> List[Any]:
+            by_name.setdefault(package.name, []).append(package)
         native = set(self._native())
 
         def compare(a: Any, b: Any) -> int:
-            if a.name != b.name:
-                return -1 if a.name < b.name else 1
             return (a.arch not in native) - (b.arch not in native) or b.evr_cmp(a)
 
-        return sorted(packages, key=cmp_to_key(compare))
+        for same in by_name.values():
+            if len(same) > 1:
+                same.sort(key=cmp_to_key(compare))
+        return [package for same in by_name.values() for package in same]
 
     def _check_installed(self, count: int) -> None:
         root = self._base.conf.installroot
+        fault = unlisted(root, self.installed_names)
         if count == 0:
-            fault = damage(root)
+            fault = fault or damage(root)
             if fault is None and self._known_installed.get(root, 0) > 0:
                 fault = "it lists no packages, though it did before. If that is right, start anew."
-            if fault is not None:
-                raise YumBaseError(f"The rpm database of {root} cannot be used: {fault}")
+        if fault is not None:
+            raise YumBaseError(f"The rpm database of {root} cannot be used: {fault}")
         self._known_installed[root] = count
