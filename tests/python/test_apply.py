@@ -180,6 +180,21 @@ def test_install_only_package_keeps_the_old_one(
     assert estate.installed() == {"core-1.0-1.noarch", "core-2.0-1.noarch"}
 
 
+def test_version_that_gives_way_to_an_older_one_is_listed_as_removed(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost, listed: Dict[str, List[str]]
+) -> None:
+    estate.install(rpms.some("lib-2.0"))
+    estate.repository("base", rpms.some("lib-1.0", "oldapp-1.0"))
+    found = program.collect()
+    found.yumio.apply([found.offered("oldapp")], [], [])
+    assert listed == {
+        "installed": ["oldapp-1.0 base"],
+        "depinstalled": ["lib-1.0 base"],
+        "depremoved": ["lib-2.0 installed"],
+    }
+    assert estate.installed() == {"lib-1.0-1.noarch", "oldapp-1.0-1.noarch"}
+
+
 def test_scriptlet_output_reaches_the_log_line_by_line(
     estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
 ) -> None:

@@ -85,12 +85,22 @@ class TransactionInfo:
             if member.pkgtup in obsoleters:
                 member.relatedto.append((obsoleters[member.pkgtup], "obsoletedby"))
                 self.obsoleted.append(member)
-        for package in self._goal.list_erasures():
+        for package in self._goal.list_erasures() + self._downgraded():
             member = Member(package)
             (self.removed if member.pkgtup in self._marked else self.depremoved).append(member)
         for name in LISTS:
             getattr(self, name).sort(key=lambda member: member.pkgtup)
         self._goal = None
+
+    def _downgraded(self) -> List[dnf.package.Package]:
+        """Installed packages that give way to older ones. The lists have no words for that, so that the
+        user reads of a removal beside the installation."""
+        return [
+            old
+            for package in self._goal.list_downgrades()
+            for old in self._goal.obsoleted_by_package(package)
+            if old.name == package.name
+        ]
 
     def incoming(self) -> List[Tuple[dnf.package.Package, bool]]:
         """All packages that go in, each with whether it is a newer version of an installed one."""
