@@ -138,7 +138,7 @@ bool YumIO::initialize()
 void YumIO::clear()
 {
     PyGILStateWrapper const lock(initialized);
-    if (!initialized) {
+    if (!initialized || !pyYumIOClass) {
         return;
     }
     pyMethodCall(yumIO.get(), "flush", "()");
