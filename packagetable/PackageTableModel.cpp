@@ -4,6 +4,7 @@
 #include "base/Share.h"
 #include "engine/YumIO.h"
 #include "packagetable/PackageTableColumns.h"
+#include "packagetable/PackageTableDescribeDialog.h"
 #include "repo/RepoBrowse.h"
 #include "widgets/Colors.h"
 
@@ -307,9 +308,17 @@ void Model::reset()
     forceSortColumnRediscovery();
 }
 
-void Model::describe(QModelIndex const&, QWidget*)
+void Model::describe(QModelIndex const& index, QWidget* parent)
 {
-    // The description dialog is not part of this version.
+    Package::Entry const* const entry = entryAt(index);
+    if (!entry) {
+        return;
+    }
+    if (!describeDialog) {
+        describeDialog = new Describe::Dialog(parent);
+    }
+    describeDialog->config(yumIO, *entry, yumConfIO);
+    describeDialog->exec();
 }
 
 void Model::browse(QModelIndex const& index, QWidget* parent)

@@ -7,6 +7,7 @@
 #include <QColor>
 #include <QIcon>
 #include <QList>
+#include <QPointer>
 
 class QWidget;
 class YumConfIO;
@@ -14,6 +15,11 @@ class YumIO;
 
 namespace PackageTable
 {
+
+namespace Describe
+{
+class Dialog;
+}
 
 /// The engine's list of packages, groups and suites as a table of nine columns, and the place where a
 /// user's marks land. It holds no rows of its own: row n is the n-th entry of the engine, read when it is
@@ -50,7 +56,8 @@ public:
     /// To be called whenever the engine's list has been rebuilt.
     void reset();
 
-    /// Shows the description of the entry as a modal dialog over `parent`.
+    /// Shows the description of the entry as a modal dialog. The dialog is made by the first call, over the
+    /// `parent` of that call, and used again.
     void describe(QModelIndex const& index, QWidget* parent);
     /// Shows the repository of the entry in the user's browser; `parent` is the parent of error messages.
     void browse(QModelIndex const& index, QWidget* parent);
@@ -83,6 +90,7 @@ private:
 
     YumIO* yumIO;
     YumConfIO* yumConfIO = nullptr;
+    QPointer<Describe::Dialog> describeDialog; ///< made at the first use; owned by the widget given then
     bool enabled = true;
     QIcon outOfDateIcon, upToDateIcon;
     QIcon noneBoxIcon, updateBoxIcon, installBoxIcon, removeBoxIcon;

@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "packagetable/PackageTableDescribeDialog.h"
+
+#include "engine/YumIO.h"
+#include "packagetable/PackageTableDescribeInstanceArea.h"
+#include "widgets/Fonts.h"
+#include "widgets/HSeparator.h"
+
+#include <QCloseEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <utility>
+
+namespace PackageTable::Describe
+{
+
+Dialog::Dialog(QWidget* parent)
+    : QDialog(parent),
+      contentLayout(new QHBoxLayout),
+      closeButton(new QPushButton(tr("Close"), this))
+{
+    setWindowTitle(tr("VEM Package Description"));
+    setAttribute(Qt::WA_ShowModal);
+    connect(closeButton, &QPushButton::clicked, this, &Dialog::accept);
+
+    auto* const buttons = new QHBoxLayout;
+    buttons->addStretch(1);
+    buttons->addWidget(closeButton);
+
+    auto* const layout = new QVBoxLayout(this);
+    layout->addLayout(contentLayout);
+    layout->addLayout(buttons);
+}
+
+Dialog::~Dialog()
+{
+    dropContent();
+}
+
+void Dialog::config(YumIO* yumIO, Package::Entry const& entry, YumConfIO* yumConfIO)
+{
+    dropContent();
+    content = new QWidget(this);
+    auto* const layout = new QVBoxLayout;
+    auto* const name = new QLabel(yumIO->getName(entry), content);
+    name->setTextFormat(Qt::PlainText);
+    name->setFont(Fonts::makeHeader(name->font()));
+    layout->addWidget(name, 0, Qt::AlignHCenter);
+    layout->addWidget(new HSeparator(content));
+    areas.append(new Instance::Area(this, layout, yumIO, entry, yumConfIO, true));
+    for (Package::Entry const* link = entry.installed; link; link = link->installed) {
+        layout->addWidget(new HSeparator(content));
+        areas.append(new Instance::Area(this, layout, yumIO, *link, yumConfIO, false));
+    }
+    content->setLayout(layout);
+    contentLayout->addWidget(content);
+    // The size of the description before would stay otherwise.
+    adjustSize();
+}
+
+void Dialog::dropContent()
+{
+    if (content) {
+        contentLayout->removeWidget(content);
+        delete std::exchange(content, nullptr);
+    }
+    qDeleteAll(std::exchange(areas, {}));
+}
+
+void Dialog::setVisible(bool visible)
+{
+    if (!visible) {
+        dropContent();
+    }
+    QDialog::setVisible(visible);
+}
+
+void Dialog::setReady(bool isReady)
+{
+    if (!isReady) {
+        focusWhenReady = focusWidget();
+    }
+    ready = isReady;
+    closeButton->setEnabled(ready);
+    for (Instance::Area* const area : std::as_const(areas)) {
+        area->setButtonsEnabled(ready);
+    }
+    if (ready && focusWhenReady) {
+        focusWhenReady->setFocus();
+    }
+}
+
+void Dialog::closeEvent(QCloseEvent* event)
+{
+    if (ready) {
+        QDialog::closeEvent(event);
+    } else {
+        event->ignore();
+    }
+}
+
+void Dialog::done(int result)
+{
+    if (ready) {
+        QDialog::done(result);
+    }
+}
+
+} // namespace PackageTable::Describe

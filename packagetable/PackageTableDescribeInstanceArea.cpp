@@ -1,0 +1,280 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "packagetable/PackageTableDescribeInstanceArea.h"
+
+#include "engine/YumIO.h"
+#include "packagetable/PackageTableDescribeDialog.h"
+#include "packagetable/PackageTableDescribeInstanceRepoDialog.h"
+#include "repo/YumConfIO.h"
+#include "widgets/Fonts.h"
+#include "widgets/HScrollArea.h"
+#include "widgets/TextDialog.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <algorithm>
+#include <array>
+
+namespace PackageTable::Describe::Instance
+{
+
+namespace
+{
+
+using Value = QString (*)(YumIO&, Package::Entry const&);
+
+template <auto Accessor>
+QString value(YumIO& yumIO, Package::Entry const& entry)
+{
+    return (yumIO.*Accessor)(entry);
+}
+
+struct Field
+{
+    char const* label;
+    Value value;
+    bool inBrief = false; ///< also shown of an installed version below another entry
+};
+
+#define LABEL(text) QT_TRANSLATE_NOOP("PackageTable::Describe::Instance::Area", text)
+
+constexpr std::array<Field, 7> groupFields{{
+    {LABEL("Required Groups"), value<&YumIO::getRequiredGroups>},
+    {LABEL("Default MetaPkgs"), value<&YumIO::getDefaultMetaPkgs>},
+    {LABEL("Optional MetaPkgs"), value<&YumIO::getOptionalMetaPkgs>},
+    {LABEL("Mandatory Packages"), value<&YumIO::getMandatoryPkgs>},
+    {LABEL("Default Packages"), value<&YumIO::getDefaultPkgs>},
+    {LABEL("Optional Packages"), value<&YumIO::getOptionalPkgs>},
+    {LABEL("Conditional Packages"), value<&YumIO::getConditionalPkgs>},
+}};
+
+// Version and repository come before these.
+constexpr std::array<Field, 19> packageFields{{
+    {LABEL("Architecture"), value<&YumIO::getArch>},
+    {LABEL("Size"), value<&YumIO::getSize>, true},
+    {LABEL("Summary"), value<&YumIO::getSummary>},
+    {LABEL("Description"), value<&YumIO::getDescription>},
+    {LABEL("Group"), value<&YumIO::getGroup>},
+    {LABEL("Vendor"), value<&YumIO::getVendor>},
+    {LABEL("Build Time"), value<&YumIO::getBuildTime>, true},
+    {LABEL("Build Host"), value<&YumIO::getBuildHost>},
+    {LABEL("Install Time"), value<&YumIO::getInstallTime>},
+    {LABEL("Binary RPM"), value<&YumIO::getBinaryRpm>},
+    // The same text as above: the name of the source package serves the search only.
+    {LABEL("Source RPM"), value<&YumIO::getBinaryRpm>},
+    {LABEL("License"), value<&YumIO::getLicense>},
+    {LABEL("Packager"), value<&YumIO::getPackager>, true},
+    {LABEL("URL"), value<&YumIO::getUrl>},
+    {LABEL("Relocations"), value<&YumIO::getRelocations>},
+    {LABEL("Provides"), value<&YumIO::getProvides>},
+    {LABEL("Requires"), value<&YumIO::getRequires>},
+    {LABEL("Conflicts"), value<&YumIO::getConflicts>},
+    {LABEL("Obsoletes"), value<&YumIO::getObsoletes>},
+}};
+
+#undef LABEL
+
+constexpr int labelColumn = 0;
+constexpr int valueColumn = 1;
+
+} // namespace
+
+Area::Area(
+    Dialog* dialogOfArea, QVBoxLayout* layout, YumIO* engine, Package::Entry const& entryToShow,
+    YumConfIO* configuration, bool full)
+    : dialog(dialogOfArea),
+      yumIO(engine),
+      entry(entryToShow),
+      yumConfIO(configuration),
+      parent(layout->parentWidget()),
+      container(new QWidget),
+      grid(new QGridLayout),
+      scrollArea(new HScrollArea(80, 24, parent))
+{
+    scrollArea->setFrameStyle(QFrame::NoFrame | QFrame::Plain);
+    int row = 0;
+    addHeader(row, yumIO->getState(entry));
+    if (full || entry.kind == Package::Group) {
+        addPair(row, tr("Kind"), yumIO->getKind(entry));
+    }
+    if (entry.kind == Package::Group) {
+        addGroupRows(row);
+    } else {
+        addPackageRows(row, full);
+    }
+    updateButtons();
+
+    auto* const columns = new QHBoxLayout;
+    columns->addLayout(grid);
+    columns->addStretch(0);
+    container->setLayout(columns);
+    scrollArea->setWidget(container);
+    layout->addWidget(scrollArea);
+}
+
+Area::~Area()
+{
+    delete repoDialog;
+    delete textDialog;
+}
+
+void Area::addGroupRows(int& row)
+{
+    for (Field const& field : groupFields) {
+        addPair(row, tr(field.label), field.value(*yumIO, entry));
+    }
+}
+
+void Area::addPackageRows(int& row, bool full)
+{
+    addPair(row, tr("Version"), yumIO->getVerRel(entry));
+    QString const repo = yumIO->getRepo(entry);
+    if (full && repo != QLatin1String("installed")) {
+        Button const details = addPairButton(row, tr("Repository"), repo, tr("Details"));
+        if (details.button) {
+            connect(details.button, &QPushButton::clicked, this, &Area::handleRepo);
+        }
+    }
+    for (Field const& field : packageFields) {
+        if (full || field.inBrief) {
+            addPair(row, tr(field.label), field.value(*yumIO, entry));
+        }
+    }
+    filesButton = addButton(row, tr("Files"), tr("Show"));
+    connect(filesButton.button, &QPushButton::clicked, this, &Area::handleFiles);
+    changeLogButton = addButton(row, tr("Change Log"), tr("Show"));
+    connect(changeLogButton.button, &QPushButton::clicked, this, &Area::handleChangeLog);
+}
+
+void Area::addHeader(int& row, QString const& text)
+{
+    QLabel* const header = makeText(text);
+    header->setFont(Fonts::makeHeader(header->font()));
+    grid->addWidget(header, row, labelColumn, 1, 2);
+    ++row;
+}
+
+void Area::addPair(int& row, QString const& label, QString const& text)
+{
+    if (text.isEmpty()) {
+        return;
+    }
+    addLabel(row, label);
+    grid->addWidget(makeText(text), row, valueColumn, Qt::AlignLeft | Qt::AlignTop);
+    ++row;
+}
+
+Area::Button Area::addButton(int& row, QString const& label, QString const& buttonText)
+{
+    addLabel(row, label);
+    Button const result{buttonText, makeButton(buttonText), row};
+    grid->addWidget(result.button, row, valueColumn, Qt::AlignLeft | Qt::AlignTop);
+    ++row;
+    return result;
+}
+
+Area::Button Area::addPairButton(
+    int& row, QString const& label, QString const& text, QString const& buttonText)
+{
+    if (text.isEmpty()) {
+        return {};
+    }
+    addLabel(row, label);
+    Button const result{buttonText, makeButton(buttonText), row};
+    auto* const cell = new QHBoxLayout;
+    cell->addWidget(makeText(text), 0, Qt::AlignTop);
+    cell->addWidget(result.button, 0, Qt::AlignTop);
+    grid->addLayout(cell, row, valueColumn, Qt::AlignLeft | Qt::AlignTop);
+    ++row;
+    return result;
+}
+
+void Area::addLabel(int row, QString const& label)
+{
+    grid->addWidget(makeText(tr("%1:").arg(label)), row, labelColumn, Qt::AlignRight | Qt::AlignTop);
+}
+
+QLabel* Area::makeText(QString const& text)
+{
+    auto* const label = new QLabel(container);
+    // What a package says of itself is no markup.
+    label->setTextFormat(Qt::PlainText);
+    label->setText(text);
+    return label;
+}
+
+QPushButton* Area::makeButton(QString const& text)
+{
+    auto* const button = new QPushButton(text, container);
+    buttons.append(button);
+    return button;
+}
+
+void Area::setButtonsEnabled(bool enabled)
+{
+    for (QPushButton* const button : std::as_const(buttons)) {
+        button->setEnabled(enabled);
+    }
+}
+
+void Area::updateButtons()
+{
+    if (entry.kind != Package::Group) {
+        updateButton(filesButton, yumIO->fileListsCollected);
+        updateButton(changeLogButton, yumIO->otherDataCollected);
+    }
+}
+
+void Area::updateButton(Button& button, bool collected)
+{
+    if (button.button) {
+        // The details of an installed package come from the rpm database.
+        bool const mustLoad = entry.state != Package::UpToDate && !collected;
+        button.button->setText(mustLoad ? tr("%1 (must load extra data)").arg(button.text) : button.text);
+    }
+}
+
+void Area::handleRepo()
+{
+    if (!yumConfIO) {
+        return;
+    }
+    QList<Repo::Entry> const& repos = yumConfIO->repos;
+    QString const id = yumIO->getRepo(entry);
+    auto const found =
+        std::find_if(repos.cbegin(), repos.cend(), [&id](Repo::Entry const& repo) { return repo.id == id; });
+    if (found == repos.cend()) {
+        return;
+    }
+    if (!repoDialog) {
+        repoDialog = new RepoDialog(yumIO, parent);
+    }
+    repoDialog->config(*found);
+    repoDialog->exec();
+}
+
+void Area::handleFiles()
+{
+    showText(&YumIO::getFiles, tr("%1 %2 File List"));
+}
+
+void Area::handleChangeLog()
+{
+    showText(&YumIO::getChangeLog, tr("%1 %2 Change Log"));
+}
+
+void Area::showText(QString (YumIO::*text)(Package::Entry const&), QString const& title)
+{
+    dialog->setReady(false);
+    QString const shown = (yumIO->*text)(entry);
+    updateButtons();
+    if (!textDialog) {
+        textDialog = new TextDialog(parent);
+    }
+    textDialog->setWindowTitle(title.arg(yumIO->getName(entry), yumIO->getVerRel(entry)));
+    textDialog->setText(shown);
+    textDialog->exec();
+    dialog->setReady(true);
+}
+
+} // namespace PackageTable::Describe::Instance
