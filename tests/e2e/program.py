@@ -105,6 +105,8 @@ class Program:
     # Finding.
 
     def application(self) -> Optional[Atspi.Accessible]:
+        if self.process.poll() is not None:
+            raise AssertionError(f"the program has ended with status {self.process.returncode}")
         desktop = Atspi.get_desktop(0)
         for at in range(desktop.get_child_count()):
             try:
