@@ -6,6 +6,7 @@ from __future__ import annotations
 import os
 from typing import Any, Tuple
 
+import dnf.db.history
 import pytest
 from catalogue import Catalogue
 from fake_host import FakeHost
@@ -189,6 +190,48 @@ def test_failing_preun_scriptlet_is_an_error(
         "staying",
     )
     assert estate.installed() == {"badpreun-1.0-1.noarch"}
+
+
+def test_book_keeping_that_fails_behind_the_transaction_tells_of_the_refresh(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost, monkeypatch: pytest.MonkeyPatch
+) -> None:
+    def full(*_: Any) -> None:
+        raise RuntimeError("database or disk is full")
+
+    estate.repository("base", rpms.some("lone-1.0"))
+    found = program.collect()
+    monkeypatch.setattr(dnf.db.history.SwdbInterface, "end", full)
+    fails(
+        program,
+        lambda: found.yumio.apply([found.offered("lone")], [], []),
+        "database or disk is full",
+        "refresh the list",
+    )
+    assert estate.installed() == {"lone-1.0-1.noarch"}
+
+
+def test_failure_that_changes_nothing_asks_for_no_refresh(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
+) -> None:
+    estate.repository("base", rpms.some("same-one-1.0", "same-two-1.0"))
+    found = program.collect()
+    marks = [found.offered("same-one"), found.offered("same-two")]
+    assert "refresh" not in fails(program, lambda: found.yumio.apply(marks, [], []), "conflict")
+
+
+def test_protected_package_of_the_managed_system_stays(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
+) -> None:
+    estate.install(rpms.some("lone-1.0", "battery-1.0"))
+    estate.repository("base", [])
+    for system, name in (("yum", "lone"), ("dnf", "battery")):
+        directory = estate.root / "etc" / system / "protected.d"
+        directory.mkdir(parents=True)
+        (directory / "own.conf").write_text(f"# ours\n{name}\n")
+    found = program.collect()
+    for name in ("lone", "battery"):
+        fails(program, lambda: found.yumio.apply([], [], [found.there(name)]), "protected packages: " + name)
+    assert not host.named("userconfirm")
 
 
 def test_apply_after_a_failed_one(estate: Estate, rpms: Catalogue, program: Program, host: FakeHost) -> None:

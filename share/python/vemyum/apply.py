@@ -21,7 +21,7 @@ from .base import Base
 from .database import point_rpm_at
 from .display import Display
 from .download import download, not_in_cache
-from .errors import YumBaseError, os_error_text
+from .errors import YumBaseError, reported_as
 from .lists import Collector
 from .packages import AvailablePackage
 from .session import Session
@@ -86,15 +86,20 @@ _NO_DETAILS = _NoDetails()
 def _run(base: Base) -> None:
     """The test transaction and the real one, and a look at what came of it."""
     display = Display(base)
+    root = base.conf.installroot
+    before = _present(root)
     host.transaction_init(False)
     base.before_run = lambda: host.transaction_init(True)
     try:
-        base.do_transaction([display])
-    except (dnf.exceptions.Error, OSError) as error:
-        text = os_error_text(error) if isinstance(error, OSError) else str(error)
-        said = [line for line in display.faults + display.rpm_said if line not in text]
-        raise YumBaseError("\n".join([text, *said])) from error
-    root = base.conf.installroot
+        with reported_as(YumBaseError):
+            base.do_transaction([display])
+    except YumBaseError as error:
+        point_rpm_at(root)
+        said = [str(error), *(line for line in display.faults + display.rpm_said if line not in str(error))]
+        if _present(root) != before:
+            # A full disk can also stop dnf's book-keeping when all packages are in.
+            said.append(_REFRESH)
+        raise YumBaseError("\n".join(said)) from error
     point_rpm_at(root)
     wrong = _not_as_asked(base)
     if not wrong and not display.faults:
@@ -104,10 +109,10 @@ def _run(base: Base) -> None:
     raise YumBaseError("\n".join([*lines, _REFRESH]))
 
 
-def _not_as_asked(base: Base) -> List[str]:
-    """Compares the rpm database with what the transaction was to do."""
+def _present(root: str) -> Dict[str, Set[str]]:
+    """The installed packages, by name, as the rpm database tells them."""
     present: Dict[str, Set[str]] = {}
-    transaction = rpm.TransactionSet(base.conf.installroot)
+    transaction = rpm.TransactionSet(root)
     try:
         transaction.setVSFlags(rpm._RPMVSF_NODIGESTS | rpm._RPMVSF_NOSIGNATURES)
         count = 0
@@ -116,7 +121,13 @@ def _not_as_asked(base: Base) -> List[str]:
             present.setdefault(header["name"], set()).add(_nevra(header))
     finally:
         transaction.closeDB()
-    Collector.expect_installed(base.conf.installroot, count)
+    Collector.expect_installed(root, count)
+    return present
+
+
+def _not_as_asked(base: Base) -> List[str]:
+    """Compares the rpm database with what the transaction was to do."""
+    present = _present(base.conf.installroot)
     wrong = []
     for item in base.transaction:
         if item.action == lt.TransactionItemAction_REASON_CHANGE:

@@ -8,9 +8,10 @@ to be, so that both speak of the same files.
 
 from __future__ import annotations
 
+import glob
 import logging
 import os
-from typing import Dict
+from typing import Dict, List
 
 import dnf.conf
 import dnf.conf.config
@@ -25,6 +26,8 @@ MAIN_FILES = ("/etc/yum/yum.conf", "/etc/yum.conf")
 REPOSITORY_DIRECTORIES = ("/etc/yum/repos.d", "/etc/yum.repos.d")
 CACHE_DIRECTORY = "/var/cache/yum"
 LOG_DIRECTORY = "/var/log"
+PROTECTED_DIRECTORIES = ("/etc/yum/protected.d", "/etc/dnf/protected.d")
+ALWAYS_PROTECTED = ("dnf", "yum")
 
 
 def managed_root() -> str:
@@ -80,7 +83,10 @@ def _release(root: str) -> str:
 
 
 def _set_defaults(conf: dnf.conf.MainConf, root: str) -> None:
-    defaults = {"reposdir": list(REPOSITORY_DIRECTORIES)}
+    defaults = {
+        "reposdir": list(REPOSITORY_DIRECTORIES),
+        "protected_packages": _protected_packages(root),
+    }
     if dnf.util.am_i_root() or root != "/":
         defaults.update(cachedir=CACHE_DIRECTORY, logdir=LOG_DIRECTORY)
     for name, value in defaults.items():
@@ -88,6 +94,17 @@ def _set_defaults(conf: dnf.conf.MainConf, root: str) -> None:
     if conf._has_option("optional_metadata_types"):
         # Later versions of dnf load file lists only when asked.
         conf._set_value("optional_metadata_types", ["filelists"], dnf.conf.config.PRIO_DEFAULT)
+
+
+def _protected_packages(root: str) -> List[str]:
+    """The packages that the managed system says must stay; dnf itself would ask this machine's files."""
+    names = list(ALWAYS_PROTECTED)
+    for directory in PROTECTED_DIRECTORIES:
+        for path in sorted(glob.glob(glob.escape(below(root, directory)) + "/*.conf")):
+            with open(path, encoding="utf-8", errors="replace") as file:
+                lines = (line.partition("#")[0].strip() for line in file)
+                names += [name for line in lines for name in line.replace(",", " ").split()]
+    return list(dict.fromkeys(names))
 
 
 def _put_below_root(conf: dnf.conf.MainConf, root: str) -> None:
