@@ -1,0 +1,423 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+// What a write makes of the files: their content, their names, and which of them go.
+#include "BoxAnswer.h"
+#include "ConfFiles.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+#include <sys/stat.h>
+
+using ConfFiles::content;
+using ConfFiles::names;
+
+namespace
+{
+
+constexpr char const* buffetUrl = "http://h/buffet?login=ann&key=secret&path=p";
+
+int permissions(ConfRoot const& root, QByteArray const& path)
+{
+    struct stat status
+    {
+    };
+    return ::stat(root.onDisk(path).constData(), &status) == 0 ? int(status.st_mode & 07777) : -1;
+}
+
+} // namespace
+
+class TestYumConfIOWrite : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void optionsComeInAFixedOrder();
+    void switchesAreWrittenUnlessTheyAreTheDefault_data();
+    void switchesAreWrittenUnlessTheyAreTheDefault();
+    void urlsStandOnLinesOfTheirOwn();
+    void emptyOptionsAreNotWritten();
+    void mainFileIsKeptVerbatim();
+    void repositoriesOfTheMainFileStandBelowItsOptions();
+    void lastRepositoryOfTheMainFileLeavesItsOptionsAlone();
+    void newMainFileTakesTheMainOptions();
+    void noRepositoriesLeaveTheMainFileAlone();
+    void sectionsKeepTheirOrderAndAreParted();
+    void positionsDecideTheOrderInAFile();
+    void filesAreOrderedByName();
+    void listKeepsItsOrder();
+    void newRepositoriesGetAFile();
+    void relativeFilesStayRelativeWithoutDirectories();
+    void fileNamesAreThoseOfTheDisk();
+    void otherOptionsWithoutALineFeedAreWrittenSo();
+    void removedSectionLeavesTheOthers();
+    void filesWithoutARepositoryAreDeleted();
+    void directoriesStay();
+    void otherSpellingOfThePathDoesNotProtectAFile();
+    void allBytesSurvive();
+    void linksOwnersAndPermissionsStay();
+    void newFileWithCredentialsIsForItsOwnerOnly_data();
+    void newFileWithCredentialsIsForItsOwnerOnly();
+    void fileThatGetsShorterLosesItsOldEnd();
+    void writeEmitsNothing();
+    void writingTwiceChangesNothing();
+
+private:
+    ConfRoot& root() { return *current; }
+
+    std::unique_ptr<ConfRoot> current;
+    std::unique_ptr<BoxAnswer> boxes;
+};
+
+void TestYumConfIOWrite::init()
+{
+    current = std::make_unique<ConfRoot>();
+    boxes = std::make_unique<BoxAnswer>();
+}
+
+void TestYumConfIOWrite::cleanup()
+{
+    QStringList const texts = boxes->texts;
+    boxes.reset();
+    current.reset();
+    QCOMPARE(texts, QStringList());
+}
+
+void TestYumConfIOWrite::optionsComeInAFixedOrder()
+{
+    QVERIFY(root().readRepoFile("[a]\nz=1\n# note\ngpgcheck : 0\nenabled=yes\nmirrorlist= "
+                                "http://m\n\nbaseurl = http://b\nname\t=\tA B \n"));
+    QVERIFY(root().conf.write(nullptr));
+    QCOMPARE(
+        content(root(), "/etc/yum.repos.d/some.repo"),
+        QByteArray(
+            "[a]\nname=A B \nbaseurl=http://b\nmirrorlist=http://m\nenabled=1\ngpgcheck=0\nz=1\n# note\n"));
+}
+
+void TestYumConfIOWrite::switchesAreWrittenUnlessTheyAreTheDefault_data()
+{
+    QTest::addColumn<int>("value");
+    QTest::addColumn<QByteArray>("line");
+    QTest::newRow("no") << 0 << QByteArray("=0\n");
+    QTest::newRow("default") << 1 << QByteArray();
+    QTest::newRow("yes") << 2 << QByteArray("=1\n");
+}
+
+void TestYumConfIOWrite::switchesAreWrittenUnlessTheyAreTheDefault()
+{
+    QFETCH(int, value);
+    QFETCH(QByteArray, line);
+    QVERIFY(root().readRepoFile("[a]\n[b]\n"));
+    root().conf.repos[0].enabled = value;
+    root().conf.repos[1].gpgcheck = value;
+    QVERIFY(root().conf.write(nullptr));
+    QByteArray const enabled = line.isEmpty() ? line : "enabled" + line;
+    QByteArray const gpgcheck = line.isEmpty() ? line : "gpgcheck" + line;
+    QCOMPARE(content(root(), "/etc/yum.repos.d/some.repo"), "[a]\n" + enabled + "\n[b]\n" + gpgcheck);
+}
+
+void TestYumConfIOWrite::urlsStandOnLinesOfTheirOwn()
+{
+    QVERIFY(root().readRepoFile("[a]\nbaseurl=http://1 http://2\n  http://3\n"));
+    QVERIFY(root().conf.write(nullptr));
+    QCOMPARE(
+        content(root(), "/etc/yum.repos.d/some.repo"),
+        QByteArray("[a]\nbaseurl=http://1\n        http://2\n        http://3\n"));
+}
+
+void TestYumConfIOWrite::emptyOptionsAreNotWritten()
+{
+    QVERIFY(root().readRepoFile("[a]\nname=\nbaseurl=\nmirrorlist=\n"));
+    QVERIFY(root().conf.write(nullptr));
+    QCOMPARE(content(root(), "/etc/yum.repos.d/some.repo"), QByteArray("[a]\n"));
+}
+
+void TestYumConfIOWrite::mainFileIsKeptVerbatim()
+{
+    QByteArray const text =
+        "# above\n\n[main]\ncachedir = /c \nreposdir=/etc/one, /etc/two\n\n\n# note\nenabled:0\nx\n  y\n";
+    root().makeDirectory("/etc/one");
+    QVERIFY(root().readMain(text));
+    QVERIFY(root().conf.write(nullptr));
+    QCOMPARE(content(root(), "/etc/yum.conf"), text);
+}
+
+void TestYumConfIOWrite::repositoriesOfTheMainFileStandBelowItsOptions()
+{
+    QVERIFY(root().readMain("[main]\na=b\n\n[one]\n\n[two]\n"));
+    QVERIFY(root().conf.write(nullptr));
+    QCOMPARE(content(root(), "/etc/yum.conf"), QByteArray("[main]\na=b\n\n[one]\n\n[two]\n"));
+
+    root().conf.repos += newRepo(QStringLiteral("three"), QStringLiteral("/etc/yum.conf"));
+    QVERIFY(root().conf.write(nullptr));
+    QCOMPARE(content(root(), "/etc/yum.conf"), QByteArray("[main]\na=b\n\n[three]\n\n[one]\n\n[two]\n"));
+}
+
+void TestYumConfIOWrite::lastRepositoryOfTheMainFileLeavesItsOptionsAlone()
+{
+    QVERIFY(root().readMain("[main]\na=b\n[one]\nname=One\n"));
+    root().conf.repos.clear();
+    QVERIFY(root().conf.write(nullptr));
+    QCOMPARE(content(root(), "/etc/yum.conf"), QByteArray("[main]\na=b\n"));
+}
+
+void TestYumConfIOWrite::newMainFileTakesTheMainOptions()
+{
+    // By being made it becomes the main file, in the place of the one that was read.
+    QVERIFY(root().readMain("[main]\na=b\n"));
+    root().makeDirectory("/etc/yum");
+    root().conf.repos += newRepo(QStringLiteral("one"), QStringLiteral("/etc/yum/yum.conf"));
+    QVERIFY(root().conf.write(nullptr));
+    QCOMPARE(content(root(), "/etc/yum/yum.conf"), QByteArray("[main]\na=b\n[one]\n"));
+    QCOMPARE(content(root(), "/etc/yum.conf"), QByteArray("[main]\na=b\n"));
+}
+
+void TestYumConfIOWrite::noRepositoriesLeaveTheMainFileAlone()
+{
+    root().write("/etc/yum/repos.d/other", "x");
+    QVERIFY(root().readRepoFile("[a]\n"));
+    root().conf.repos.clear();
+    QVERIFY(root().conf.write(nullptr));
+    QCOMPARE(names(root(), "/etc/yum.repos.d"), QList<QByteArray>());
+    QCOMPARE(names(root(), "/etc/yum/repos.d"), QList<QByteArray>());
+    QCOMPARE(content(root(), "/etc/yum.conf"), QByteArray());
+}
+
+void TestYumConfIOWrite::sectionsKeepTheirOrderAndAreParted()
+{
+    QVERIFY(root().readRepoFile("lost\n[c]\n\n\n\n[a]\n# of a\n[b]\n"));
+    QVERIFY(root().conf.write(nullptr));
+    QCOMPARE(content(root(), "/etc/yum.repos.d/some.repo"), QByteArray("[c]\n\n[a]\n# of a\n\n[b]\n"));
+}
+
+void TestYumConfIOWrite::positionsDecideTheOrderInAFile()
+{
+    QVERIFY(root().readRepoFile("[a]\n[b]\n"));
+    QString const file = QStringLiteral("/etc/yum.repos.d/some.repo");
+    root().conf.repos += newRepo(QStringLiteral("between"), file);
+    root().conf.repos.last().filePosition = 1.5;
+    root().conf.repos += newRepo(QStringLiteral("top"), file);
+    QVERIFY(root().conf.write(nullptr));
+    QCOMPARE(content(root(), "/etc/yum.repos.d/some.repo"), QByteArray("[top]\n\n[a]\n\n[between]\n\n[b]\n"));
+
+    QVERIFY(root().conf.read(nullptr));
+    QCOMPARE(root().ids().join(u' '), QStringLiteral("top a between b"));
+    QCOMPARE(root().conf.repos[2].filePosition, 3.0);
+}
+
+void TestYumConfIOWrite::filesAreOrderedByName()
+{
+    Repo::Entry a = newRepo(QStringLiteral("a"), QStringLiteral("/f"));
+    Repo::Entry b = newRepo(QStringLiteral("b"), QStringLiteral("/g"));
+    a.filePosition = 2.0;
+    b.filePosition = 1.0;
+    QVERIFY(YumConfIO::filePositionLessThan(a, b));
+    QVERIFY(!YumConfIO::filePositionLessThan(b, a));
+    b.file = a.file;
+    QVERIFY(!YumConfIO::filePositionLessThan(a, b));
+    QVERIFY(YumConfIO::filePositionLessThan(b, a));
+    QVERIFY(!YumConfIO::filePositionLessThan(a, a));
+}
+
+void TestYumConfIOWrite::listKeepsItsOrder()
+{
+    QVERIFY(root().readRepoFile("[b]\n[a]\n"));
+    root().conf.repos.prepend(newRepo(QStringLiteral("z"), QStringLiteral("z.repo")));
+    root().conf.repos.prepend(newRepo(QStringLiteral("c"), QStringLiteral("/etc/yum.repos.d/c")));
+    root().makeDirectory("/etc/yum/repos.d");
+    QVERIFY(root().conf.write(nullptr));
+    QCOMPARE(root().ids().join(u' '), QStringLiteral("c z b a"));
+}
+
+void TestYumConfIOWrite::newRepositoriesGetAFile()
+{
+    QVERIFY(root().readMain("[main]\nreposdir=/etc/one /etc/two\n"));
+    root().makeDirectory("/etc/one");
+    root().conf.repos += newRepo(QStringLiteral("new"));
+    root().conf.repos += newRepo(QStringLiteral("other"), QStringLiteral("named.txt"));
+    QVERIFY(root().conf.write(nullptr));
+    QCOMPARE(root().conf.repos[0].file, QStringLiteral("/etc/one/new.repo"));
+    QCOMPARE(root().conf.repos[1].file, QStringLiteral("/etc/one/named.txt"));
+    QCOMPARE(names(root(), "/etc/one"), (QList<QByteArray>{"named.txt", "new.repo"}));
+    QCOMPARE(content(root(), "/etc/one/new.repo"), QByteArray("[new]\n"));
+}
+
+void TestYumConfIOWrite::relativeFilesStayRelativeWithoutDirectories()
+{
+    QVERIFY(root().readMain("[main]\nreposdir=\n"));
+    root().conf.repos += newRepo(QStringLiteral("new"));
+    QVERIFY(root().conf.write(nullptr));
+    QCOMPARE(root().conf.repos[0].file, QStringLiteral("new.repo"));
+    QCOMPARE(content(root(), "/new.repo"), QByteArray("[new]\n"));
+}
+
+void TestYumConfIOWrite::fileNamesAreThoseOfTheDisk()
+{
+    // Neither is in Latin-1, so that both mean one file, which must not be taken for one out of use.
+    QVERIFY(root().readMain("[main]\nreposdir=/etc/one\n"));
+    root().makeDirectory("/etc/one");
+    root().conf.repos += newRepo(QStringLiteral("\u03a9"));
+    root().conf.repos += newRepo(QStringLiteral("\u0416"));
+    root().conf.repos += newRepo(QStringLiteral("\u00e4"));
+    QVERIFY(root().conf.write(nullptr));
+    QCOMPARE(names(root(), "/etc/one"), (QList<QByteArray>{"?.repo", "\xe4.repo"}));
+    QCOMPARE(content(root(), "/etc/one/?.repo"), QByteArray("[?]\n\n[?]\n"));
+    QCOMPARE(root().conf.repos[0].file, QStringLiteral("/etc/one/?.repo"));
+}
+
+void TestYumConfIOWrite::otherOptionsWithoutALineFeedAreWrittenSo()
+{
+    QVERIFY(root().readRepoFile("[a]\n[b]\n"));
+    root().conf.repos[0].otherOptions = QStringLiteral("x=1");
+    root().conf.repos[1].otherOptions = QStringLiteral("y=1");
+    QVERIFY(root().conf.write(nullptr));
+    QCOMPARE(content(root(), "/etc/yum.repos.d/some.repo"), QByteArray("[a]\nx=1\n[b]\ny=1"));
+}
+
+void TestYumConfIOWrite::removedSectionLeavesTheOthers()
+{
+    QVERIFY(root().readRepoFile("[a]\nx=1\n[b]\ny=1\n[c]\nz=1\n"));
+    root().conf.repos.removeAt(1);
+    QVERIFY(root().conf.write(nullptr));
+    QCOMPARE(content(root(), "/etc/yum.repos.d/some.repo"), QByteArray("[a]\nx=1\n\n[c]\nz=1\n"));
+    QVERIFY(root().conf.read(nullptr));
+    QCOMPARE(root().conf.repos[1].filePosition, 2.0);
+}
+
+void TestYumConfIOWrite::filesWithoutARepositoryAreDeleted()
+{
+    root().write("/etc/yum.repos.d/empty.repo", "# no section\n");
+    root().write("/etc/yum.repos.d/some.repo.saved", "[a]\n");
+    root().write("/etc/yum.repos.d/note", "x");
+    root().write("/etc/yum/repos.d/.hidden", "x");
+    QVERIFY(root().readRepoFile("[a]\n[b]\n"));
+    root().conf.repos[1].file = QStringLiteral("/etc/yum.repos.d/moved.repo");
+    QVERIFY(root().conf.write(nullptr));
+    QCOMPARE(names(root(), "/etc/yum.repos.d"), (QList<QByteArray>{"moved.repo", "some.repo"}));
+    QCOMPARE(names(root(), "/etc/yum/repos.d"), QList<QByteArray>());
+
+    root().conf.repos[0].file = root().conf.repos[1].file;
+    QVERIFY(root().conf.write(nullptr));
+    QCOMPARE(names(root(), "/etc/yum.repos.d"), QList<QByteArray>{"moved.repo"});
+}
+
+void TestYumConfIOWrite::directoriesStay()
+{
+    root().write("/etc/yum.repos.d/x.repo/inner", "x");
+    QVERIFY(root().readRepoFile("[a]\n"));
+    QVERIFY(root().conf.write(nullptr));
+    QCOMPARE(names(root(), "/etc/yum.repos.d"), (QList<QByteArray>{"some.repo", "x.repo"}));
+    QCOMPARE(names(root(), "/etc/yum.repos.d/x.repo"), QList<QByteArray>{"inner"});
+}
+
+void TestYumConfIOWrite::otherSpellingOfThePathDoesNotProtectAFile()
+{
+    QVERIFY(root().readRepoFile("[a]\n"));
+    root().conf.repos[0].file = QStringLiteral("/etc/../etc/yum.repos.d/some.repo");
+    QVERIFY(root().conf.write(nullptr));
+    QCOMPARE(names(root(), "/etc/yum.repos.d"), QList<QByteArray>());
+}
+
+void TestYumConfIOWrite::allBytesSurvive()
+{
+    QByteArray bytes;
+    for (int byte = 0; byte < 256; ++byte) {
+        if (byte != '\n')
+            bytes += char(byte);
+    }
+    QByteArray const section = "[i" + bytes + "]\nname=n" + bytes + "\nx" + bytes + "\n";
+    QByteArray const main = "[main]\n" + bytes + "\n";
+    QVERIFY(root().readRepoFile(section));
+    root().write("/etc/yum.conf", main);
+    QVERIFY(root().conf.read(nullptr));
+    QVERIFY(root().conf.write(nullptr));
+    QCOMPARE(content(root(), "/etc/yum.repos.d/some.repo"), section);
+    QCOMPARE(content(root(), "/etc/yum.conf"), main);
+
+    // What the disk can't hold becomes a question mark.
+    root().conf.repos[0] = newRepo(QStringLiteral("a"), QStringLiteral("/etc/yum.repos.d/some.repo"));
+    root().conf.repos[0].name = QStringLiteral("\u20ac\u00e4");
+    QVERIFY(root().conf.write(nullptr));
+    QCOMPARE(content(root(), "/etc/yum.repos.d/some.repo"), QByteArray("[a]\nname=?\xe4\n"));
+}
+
+void TestYumConfIOWrite::linksOwnersAndPermissionsStay()
+{
+    root().write("/etc/kept", "[a]\n");
+    root().write("/etc/yum.conf", "");
+    root().makeDirectory("/etc/yum.repos.d");
+    QByteArray const link = root().onDisk("/etc/yum.repos.d/link.repo");
+    QCOMPARE(::symlink("../kept", link.constData()), 0);
+    QCOMPARE(::chmod(root().onDisk("/etc/kept").constData(), 0664), 0);
+    QVERIFY(root().conf.read(nullptr));
+    root().conf.repos[0].name = QStringLiteral("A");
+    root().conf.repos[0].mirrorlist = QString::fromLatin1(buffetUrl);
+    QVERIFY(root().conf.write(nullptr));
+    QVERIFY(QFileInfo(QFile::decodeName(link)).isSymLink());
+    QCOMPARE(content(root(), "/etc/kept"), QByteArray("[a]\nname=A\nmirrorlist=") + buffetUrl + "\n");
+    QCOMPARE(permissions(root(), "/etc/kept"), 0664);
+}
+
+void TestYumConfIOWrite::newFileWithCredentialsIsForItsOwnerOnly_data()
+{
+    QTest::addColumn<QString>("field");
+    QTest::newRow("baseurl") << QStringLiteral("baseurl");
+    QTest::newRow("mirrorlist") << QStringLiteral("mirrorlist");
+    QTest::newRow("comment") << QStringLiteral("otherOptions");
+}
+
+void TestYumConfIOWrite::newFileWithCredentialsIsForItsOwnerOnly()
+{
+    QFETCH(QString, field);
+    QVERIFY(root().readMain("[main]\nreposdir=/etc/one\n"));
+    root().makeDirectory("/etc/one");
+    Repo::Entry secret = newRepo(QStringLiteral("secret"), QStringLiteral("shared.repo"));
+    QString const url = QString::fromLatin1(buffetUrl);
+    if (field == QLatin1String("baseurl"))
+        secret.baseurl = QStringLiteral("http://plain\n") + url;
+    else if (field == QLatin1String("mirrorlist"))
+        secret.mirrorlist = url;
+    else
+        secret.otherOptions = QStringLiteral("#baseurl=") + url + u'\n';
+    root().conf.repos += newRepo(QStringLiteral("first"), secret.file);
+    root().conf.repos += secret;
+    root().conf.repos += newRepo(QStringLiteral("open"));
+
+    mode_t const before = ::umask(022);
+    bool const isWritten = root().conf.write(nullptr);
+    ::umask(before);
+    QVERIFY(isWritten);
+    QCOMPARE(permissions(root(), "/etc/one/shared.repo"), 0600);
+    QCOMPARE(permissions(root(), "/etc/one/open.repo"), 0644);
+}
+
+void TestYumConfIOWrite::fileThatGetsShorterLosesItsOldEnd()
+{
+    QVERIFY(root().readRepoFile("[a]\nname=" + QByteArray(100000, 'x') + "\n"));
+    root().conf.repos[0].name.clear();
+    QVERIFY(root().conf.write(nullptr));
+    QCOMPARE(content(root(), "/etc/yum.repos.d/some.repo"), QByteArray("[a]\n"));
+}
+
+void TestYumConfIOWrite::writeEmitsNothing()
+{
+    QVERIFY(root().readRepoFile("[a]\n"));
+    QSignalSpy const changes(&root().conf, &YumConfIO::changed);
+    QVERIFY(root().conf.write(nullptr));
+    QCOMPARE(changes.count(), 0);
+}
+
+void TestYumConfIOWrite::writingTwiceChangesNothing()
+{
+    QVERIFY(root().readRepoFile("lost\n[b]\nname=B\nx\n y\n[a]\nbaseurl=1 2 \n"));
+    QVERIFY(root().conf.write(nullptr));
+    QByteArray const first = content(root(), "/etc/yum.repos.d/some.repo");
+    QVERIFY(root().conf.read(nullptr));
+    QVERIFY(root().conf.write(nullptr));
+    QCOMPARE(content(root(), "/etc/yum.repos.d/some.repo"), first);
+}
+
+QTEST_MAIN(TestYumConfIOWrite)
+#include "tst_yumconfiowrite.moc"
