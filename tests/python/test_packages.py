@@ -10,7 +10,7 @@ import pytest
 import rpm
 from catalogue import Catalogue
 from program import Program
-from rpmestate import Estate
+from rpmestate import Estate, spec
 from web import Web
 
 KEYS = (
@@ -109,6 +109,17 @@ def test_header_by_tags(old: Any) -> None:
     assert header[rpm.RPMTAG_PREFIXES] in (None, [])
     assert header[rpm.RPMTAG_PROVIDENAME] == ["lamp"]
     assert header[rpm.RPMTAG_CHANGELOGTEXT] == ["- First light"]
+
+
+def test_fields_are_valid_whatever_the_bytes(estate: Estate, program: Program) -> None:
+    text = spec("old", summary="M\u00f6bel", tags={"Vendor": "M\u00f6bel", "Packager": "M\u00f6bel"})
+    source = estate.directory / "old.spec"
+    source.write_bytes(text.encode("latin-1"))
+    estate.install(estate.build([source], defines={"_invalid_encoding_terminates_build": "0"}))
+    estate.repository("base", [])
+    old = program.collect().there("old")
+    for key in ("vendor", "packager"):
+        assert old.returnSimple(key) == "M\ufffdbel"
 
 
 def test_header_texts_are_valid_whatever_the_bytes() -> None:

@@ -68,9 +68,15 @@ class Package:
     def repoid(self) -> str:
         return self.returnSimple("repoid")
 
+    _fields: Dict[str, Callable[[Any], Any]] = {}
+
     def returnSimple(self, key: str) -> Any:
         """The field `key`; None where the package has none, KeyError where there is no such field."""
-        raise NotImplementedError
+        try:
+            return self._fields[key](self)
+        except UnicodeDecodeError as error:
+            # Headers of old packages hold bytes of any encoding.
+            return valid(error.object)
 
     def __str__(self) -> str:
         return str(self.po)
@@ -87,9 +93,6 @@ class AvailablePackage(Package):
     """A package of a repository."""
 
     __slots__ = ()
-
-    def returnSimple(self, key: str) -> Any:
-        return _AVAILABLE_FIELDS[key](self)
 
     @property
     def prco(self) -> "Prco":
@@ -138,7 +141,7 @@ class AvailablePackage(Package):
         return self._details.metadata_file(self.po.reponame)
 
 
-_AVAILABLE_FIELDS: Dict[str, Callable[[AvailablePackage], Any]] = {
+AvailablePackage._fields = {
     **_SOLV_FIELDS,
     "repoid": attrgetter("po.reponame"),
     "relativepath": attrgetter("po.location"),
@@ -150,9 +153,6 @@ class InstalledPackage(Package):
     """A package of the rpm database."""
 
     __slots__ = ()
-
-    def returnSimple(self, key: str) -> Any:
-        return _INSTALLED_FIELDS[key](self)
 
     @property
     def hdr(self) -> Header:
@@ -182,7 +182,7 @@ def _installed_vendor(package: InstalledPackage) -> Optional[str]:
     return None if vendor == "<NULL>" else vendor
 
 
-_INSTALLED_FIELDS: Dict[str, Callable[[InstalledPackage], Any]] = {
+InstalledPackage._fields = {
     **_SOLV_FIELDS,
     "vendor": _installed_vendor,
     "repoid": lambda package: INSTALLED,
