@@ -215,6 +215,16 @@ def test_list_that_a_damaged_database_cuts_short_is_an_error(
         program.collect()
 
 
+def test_package_that_comes_in_meanwhile_is_no_damage(
+    lamp: Tuple[Estate, Program], rpms: Catalogue
+) -> None:
+    estate, program = lamp
+    yumio = program.start()
+    yumio.setupRepos()
+    estate.install(rpms.some("battery-1.0"))
+    assert names(yumio.collectAll().installed) == ["lamp-1.0-1.noarch"]
+
+
 def test_many_collections_leave_nothing_open(lamp: Tuple[Estate, Program]) -> None:
     program = lamp[1]
 
@@ -276,6 +286,19 @@ def test_first_configuration_that_cannot_be_read_ends_the_program(
     with pytest.raises(SystemExit):
         program.namespace["YumIO"]()
     assert "yum.conf" in host.text("errorlog")
+
+
+@pytest.mark.parametrize("file", ["etc/yum.conf", "etc/yum.repos.d/base.repo"])
+def test_file_that_is_not_utf8_is_named_with_its_line(
+    lamp: Tuple[Estate, Program], host: FakeHost, file: str
+) -> None:
+    estate, program = lamp
+    with open(estate.root / file, "ab") as stream:
+        stream.write("proxy_username=J\u00f6rg\n".encode("latin-1"))
+    line = (estate.root / file).read_bytes().count(b"\n")
+    with pytest.raises(SystemExit):
+        program.namespace["YumIO"]()
+    assert f"/{file}, line {line}: the text is not in UTF-8" in host.text("errorlog")
 
 
 def test_later_configuration_that_cannot_be_read_is_told_by_the_repositories(

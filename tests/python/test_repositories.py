@@ -6,6 +6,7 @@ from __future__ import annotations
 import hashlib
 import os
 import re
+import types
 from pathlib import Path
 from typing import List, Optional, Tuple
 
@@ -209,6 +210,17 @@ def test_cache_that_cannot_be_used_is_named(lamp: Tuple[Estate, Program], host: 
     cache.rename(cache.with_name("elsewhere"))
     cache.write_text("a file where the directory should be")
     unreadable(program, str(cache))
+
+
+@pytest.mark.parametrize(("blocks", "told"), [(5, True), (1 << 20, False)])
+def test_full_disk_is_told_beside_the_cause(
+    served: Estate, program: Program, web: Web, monkeypatch: pytest.MonkeyPatch, blocks: int, told: bool
+) -> None:
+    web.page("/base/repodata/repomd.xml", b"<repomd><data")
+    monkeypatch.setattr("os.statvfs", lambda _: types.SimpleNamespace(f_bavail=blocks, f_frsize=4096))
+    with pytest.raises(program.errors.RepoError) as caught:
+        program.collect()
+    assert (f"Only 20 KiB are free in {served.root}/var/cache/yum." in str(caught.value)) is told
 
 
 def test_repository_that_may_be_skipped_is_skipped(

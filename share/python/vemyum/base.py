@@ -4,16 +4,21 @@
 from __future__ import annotations
 
 import contextlib
-from typing import Any, Callable, Dict, Iterable, Optional
+import os
+from typing import Any, Callable, Dict, Iterable, List, Optional
 
 import dnf
 import dnf.conf
 import dnf.repo
 
+from .configuration import repository_files, undecodable_named
 from .database import point_rpm_at
 from .errors import RepoError, YumBaseError
 from .messages import heard
 from .metadata import ReadingProgress, RepositoryProgress
+
+_SCARCE = 1 << 20
+"""So few free bytes are worth a word when a repository cannot be read."""
 
 
 class Base(dnf.Base):
@@ -59,9 +64,9 @@ class Base(dnf.Base):
             except RepoError as error:
                 if error.__context__ is not None:
                     causes.append(str(error.__context__))
-                raise RepoError(_repository_text(repo, str(error), causes)) from error
+                raise RepoError(_repository_text(repo, str(error), causes, self.conf.cachedir)) from error
             except OSError as error:
-                raise RepoError(_repository_text(repo, str(error), causes)) from error
+                raise RepoError(_repository_text(repo, str(error), causes, self.conf.cachedir)) from error
             finally:
                 if self._report is not None:
                     self._report.end(repo)
@@ -78,10 +83,21 @@ def address(repo: dnf.repo.Repo) -> str:
     return next((candidate for candidate in candidates if candidate), "no address")
 
 
-def _repository_text(repo: dnf.repo.Repo, text: str, causes: Iterable[str]) -> str:
+def _repository_text(repo: dnf.repo.Repo, text: str, causes: Iterable[str], directory: str) -> str:
     lines = [f"Unable to read repository {repo.id} ({address(repo)}):", text.strip()]
     lines += [cause for cause in dict.fromkeys(causes) if cause not in text]
+    lines += _scarce_space(directory)
     return "\n".join(lines)
+
+
+def _scarce_space(directory: str) -> List[str]:
+    """On a full disk dnf stumbles over its own truncated files and calls them malformed."""
+    try:
+        space = os.statvfs(directory)
+    except OSError:
+        return []
+    free = space.f_bavail * space.f_frsize
+    return [f"Only {free // 1024} KiB are free in {directory}."] if free < _SCARCE else []
 
 
 def open_base(
@@ -95,7 +111,8 @@ def open_base(
     with contextlib.ExitStack() as on_failure:
         base = Base(conf, progress)
         on_failure.callback(base.close)
-        base.read_all_repos()
+        with undecodable_named(lambda: [conf.config_file_path, *repository_files(conf)]):
+            base.read_all_repos()
         for repo in base.repos.values():
             if enabled is not None and repo.id in enabled:
                 (repo.enable if enabled[repo.id] else repo.disable)()

@@ -8,10 +8,11 @@ to be, so that both speak of the same files.
 
 from __future__ import annotations
 
+import contextlib
 import glob
 import logging
 import os
-from typing import Dict, List
+from typing import Callable, Dict, Iterable, Iterator, List
 
 import dnf.conf
 import dnf.conf.config
@@ -21,6 +22,7 @@ import dnf.util
 import libdnf.conf
 
 from .database import point_rpm_at
+from .errors import YumBaseError
 
 MAIN_FILES = ("/etc/yum/yum.conf", "/etc/yum.conf")
 REPOSITORY_DIRECTORIES = ("/etc/yum/repos.d", "/etc/yum.repos.d")
@@ -51,14 +53,15 @@ def main_file(root: str) -> str:
 def read_configuration() -> dnf.conf.MainConf:
     """Reads the main file of the managed root.
 
-    Makes the log and cache directories where they are missing. Raises dnf.exceptions.ConfigError for
-    a file that cannot be understood, dnf.exceptions.Error for a root that cannot be used, OSError.
+    Makes the log and cache directories where they are missing. Raises dnf.exceptions.Error for a file
+    that cannot be understood, or for a root that cannot be used, OSError.
     """
     root = managed_root()
     conf = dnf.conf.Conf()
     conf.installroot = root
     _set_defaults(conf, root)
-    conf.read(main_file(root), dnf.conf.config.PRIO_MAINCONFIG)
+    with undecodable_named(lambda: [main_file(root)]):
+        conf.read(main_file(root), dnf.conf.config.PRIO_MAINCONFIG)
     point_rpm_at(root)
     conf.substitutions.update_from_etc(root, varsdir=conf.varsdir)
     if "releasever" not in conf.substitutions:
@@ -71,6 +74,28 @@ def read_configuration() -> dnf.conf.MainConf:
     for directory in (conf.logdir, conf.cachedir):
         dnf.util.ensure_dir(directory)
     return conf
+
+
+@contextlib.contextmanager
+def undecodable_named(files: Callable[[], Iterable[str]]) -> Iterator[None]:
+    """Names the file that isn't UTF-8 where dnf stumbles over its bytes with an error of its own inside."""
+    try:
+        yield
+    except TypeError as error:
+        for file in filter(os.path.isfile, files()):
+            with open(file, "rb") as stream:
+                try:
+                    stream.read().decode("utf-8")
+                except UnicodeDecodeError as fault:
+                    line = fault.object.count(b"\n", 0, fault.start) + 1
+                    raise YumBaseError(f"{file}, line {line}: the text is not in UTF-8") from error
+        raise
+
+
+def repository_files(conf: dnf.conf.MainConf) -> List[str]:
+    """The files below the repository directories, as dnf finds them."""
+    patterns = [f"{glob.escape(directory)}/*.repo" for directory in conf.reposdir]
+    return [file for pattern in patterns for file in sorted(glob.glob(pattern))]
 
 
 def _release(root: str) -> str:

@@ -67,9 +67,14 @@ def unlisted(root: str, names: AbstractSet[str]) -> Optional[str]:
     transaction = rpm.TransactionSet(root)
     try:
         indexed = {valid(name) for name in transaction.dbIndex(rpm.RPMTAG_NAME)}
+        unknown = indexed - names - {"gpg-pubkey"}
+        if not unknown:
+            return None
+        # What somebody else has just installed is listed by now.
+        transaction.setVSFlags(rpm._RPMVSF_NODIGESTS | rpm._RPMVSF_NOSIGNATURES)
+        missing = sorted(unknown - {valid(header["name"]) for header in transaction.dbMatch()})
     finally:
         transaction.closeDB()
-    missing = sorted(indexed - names - {"gpg-pubkey"})
     if not missing:
         return None
     few = ", ".join(missing[:_FEW]) + (", ..." if len(missing) > _FEW else "")
