@@ -349,9 +349,15 @@ bool YumIO::collectGroup(Package::Entry*& slot, PyObject* groupObject, QString c
             return false;
         }
     }
+    int const isInstalled = PyObject_IsTrue(installed.get());
+    if (isInstalled < 0) {
+        // The iteration over the groups must not meet it.
+        handleException();
+        PyErr_Clear();
+    }
     slot = std::make_unique<Package::Entry>().release();
     slot->action = Package::None;
-    slot->state = PyObject_IsTrue(installed.get()) == 1 ? Package::UpToDate : Package::Available;
+    slot->state = isInstalled == 1 ? Package::UpToDate : Package::Available;
     slot->kind = Package::Group;
     slot->name = name;
     slot->pyObject = PyRef::borrow(groupObject);

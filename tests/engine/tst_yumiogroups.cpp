@@ -18,6 +18,7 @@ private Q_SLOTS:
     void stateOfAnInstalledGroup();
     void stateOfAGroupThatHoldsGroups();
     void groupsAreJudgedByTheTableAlone();
+    void flagThatCannotBeReadIsReportedAndTheOthersGoOn();
 
     void listsForMarks();
     void listsForMarksByName();
@@ -200,6 +201,22 @@ void TestYumIOGroups::groupsAreJudgedByTheTableAlone()
     collectGrove("True, mandatory=['alder', 'birch']");
     QCOMPARE(engine->value("asked"), QStringLiteral("[]"));
     SCRIPT("Package.returnSimple = look");
+}
+
+void TestYumIOGroups::flagThatCannotBeReadIsReportedAndTheOthersGoOn()
+{
+    SCRIPT("class Odd:\n"
+           "    def __bool__(self):\n"
+           "        raise ValueError('neither')\n"
+           "first, *others = standin.world.groups.values()\n"
+           "first['installed'] = Odd()\n"
+           "standin.world.groups['Behind'] = dict(others[0], visible=True)");
+    QVERIFY(engine->collect({}));
+    QCOMPARE(boxes->takeTexts(), QStringList{"Internal error: python exception occurred from C code\n"});
+    QString const first = engine->value("next(iter(standin.world.groups))");
+    QVERIFY(group(first));
+    QCOMPARE(group(first)->state, Package::Available);
+    QVERIFY(group("Behind"));
 }
 
 void TestYumIOGroups::listsForMarks()
