@@ -67,7 +67,15 @@ void YumIO::pythonException(QString const& text)
 void YumIO::pythonExceptionV(QString const& text)
 {
     PyRef const value = pyExceptValuef();
-    reportException(value ? pyString(value.get()) : QString(), text);
+    QString words;
+    if (value) {
+        words = pyString(value.get());
+        // Also an exception that says nothing has its line.
+        if (words.isNull()) {
+            words = QLatin1String("");
+        }
+    }
+    reportException(words, text);
 }
 
 void YumIO::reportException(QString const& value, QString const& text)

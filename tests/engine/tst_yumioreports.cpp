@@ -179,9 +179,12 @@ void TestYumIOReports::valueStandsBeforeTheWords()
 void TestYumIOReports::exceptionWithoutWordsGivesAnEmptyLine()
 {
     TestEngine::PyGILStateWrapper const lock(true);
-    raiseExpected("yum.Errors.RepoError()");
-    engine->pythonExceptionV(QStringLiteral("It failed"));
-    QCOMPARE(boxes->takeTexts(), QStringList{"\nIt failed"});
+    for (QString const& exception :
+         {QStringLiteral("yum.Errors.RepoError()"), QStringLiteral("yum.Errors.RepoError(None)")}) {
+        raiseExpected(exception);
+        engine->pythonExceptionV(QStringLiteral("It failed"));
+        QCOMPARE(boxes->takeTexts(), QStringList{"\nIt failed"});
+    }
 }
 
 void TestYumIOReports::failedJobLeavesTheMarkUntilTheNextGuardedCall()
