@@ -123,8 +123,8 @@ void MainWindow::whileBusy(Step const& step)
 void MainWindow::rebuild()
 {
     yumIO->clear();
-    yumIO->collect(reposEnabled);
-    if (isSearching() && view->hasExpression()) {
+    bool const collected = yumIO->collect(reposEnabled);
+    if (collected && isSearching() && view->hasExpression()) {
         // A search in force tests the new rows, and needs their data before.
         loadExtraData();
     }

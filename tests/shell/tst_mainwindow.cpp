@@ -389,6 +389,18 @@ private Q_SLOTS:
         QVERIFY(table()->isEnabled());
     }
 
+    void aFailedCollectionLoadsNothingForASearchInForce()
+    {
+        mode()->setCurrentIndex(1);
+        apply(QStringLiteral("^elm"));
+        script(QStringLiteral("standin.fail('collectAll', standin.YumBaseError('the shelves are bare'))"));
+        forgetCalls();
+        window->refresh();
+        QCOMPARE(boxes->take().size(), 1);
+        QVERIFY(!calls().contains(QStringLiteral("collectFileLists")));
+        QVERIFY(!calls().contains(QStringLiteral("collectOtherData")));
+    }
+
     void aScriptThatRaisesAnythingLeavesAUsableWindow_data()
     {
         QTest::addColumn<QString>("method");
