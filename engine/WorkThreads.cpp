@@ -5,51 +5,55 @@
 
 #include <QEventLoop>
 
-CollectThread::CollectThread(YumIO* engine, QEventLoop& callersLoop, QHash<QString, bool> const& repoStates)
+WorkThread::WorkThread(YumIO* engine, QEventLoop& callersLoop)
     : yumIO(engine),
-      loop(callersLoop),
+      loop(callersLoop)
+{
+}
+
+void WorkThread::run()
+{
+    result = work();
+    loop.exit(0);
+}
+
+CollectThread::CollectThread(YumIO* engine, QEventLoop& callersLoop, QHash<QString, bool> const& repoStates)
+    : WorkThread(engine, callersLoop),
       repos(repoStates)
 {
 }
 
-void CollectThread::run()
+bool CollectThread::work()
 {
-    result = yumIO->collectReal(repos);
-    loop.exit(0);
+    return yumIO->collectReal(repos);
 }
 
 CollectFileListsThread::CollectFileListsThread(YumIO* engine, QEventLoop& callersLoop)
-    : yumIO(engine),
-      loop(callersLoop)
+    : WorkThread(engine, callersLoop)
 {
 }
 
-void CollectFileListsThread::run()
+bool CollectFileListsThread::work()
 {
-    result = yumIO->collectFileListsReal();
-    loop.exit(0);
+    return yumIO->collectFileListsReal();
 }
 
 CollectOtherDataThread::CollectOtherDataThread(YumIO* engine, QEventLoop& callersLoop)
-    : yumIO(engine),
-      loop(callersLoop)
+    : WorkThread(engine, callersLoop)
 {
 }
 
-void CollectOtherDataThread::run()
+bool CollectOtherDataThread::work()
 {
-    result = yumIO->collectOtherDataReal();
-    loop.exit(0);
+    return yumIO->collectOtherDataReal();
 }
 
 ApplyThread::ApplyThread(YumIO* engine, QEventLoop& callersLoop)
-    : yumIO(engine),
-      loop(callersLoop)
+    : WorkThread(engine, callersLoop)
 {
 }
 
-void ApplyThread::run()
+bool ApplyThread::work()
 {
-    result = yumIO->applyReal();
-    loop.exit(0);
+    return yumIO->applyReal();
 }

@@ -8,70 +8,70 @@
 class QEventLoop;
 class YumIO;
 
-/// The worker threads of the engine's jobs. Each is built on the stack of the GUI-thread function that
-/// wants the job, runs one `...Real` operation of the engine, keeps its answer in `result` and ends the
-/// caller's event loop. `result` may be read once the thread has been waited for.
-class CollectThread final : public QThread
+/// The worker thread of one of the engine's jobs. It is built on the stack of the GUI-thread function that
+/// wants the job, runs it, keeps its answer in `result` and ends the caller's event loop.
+class WorkThread : public QThread
+{
+    Q_OBJECT
+
+public:
+    bool result = false; ///< to be read once the thread has been waited for
+
+protected:
+    WorkThread(YumIO* engine, QEventLoop& callersLoop);
+    void run() final;
+    /// The `...Real` operation of the engine. On the worker.
+    virtual bool work() = 0;
+
+    YumIO* const yumIO;
+
+private:
+    QEventLoop& loop;
+};
+
+class CollectThread final : public WorkThread
 {
     Q_OBJECT
 
 public:
     CollectThread(YumIO* engine, QEventLoop& callersLoop, QHash<QString, bool> const& repoStates);
-    bool result = false;
 
 protected:
-    void run() override;
+    bool work() override;
 
 private:
-    YumIO* yumIO;
-    QEventLoop& loop;
-    QHash<QString, bool> repos;
+    QHash<QString, bool> const repos;
 };
 
-class CollectFileListsThread final : public QThread
+class CollectFileListsThread final : public WorkThread
 {
     Q_OBJECT
 
 public:
     CollectFileListsThread(YumIO* engine, QEventLoop& callersLoop);
-    bool result = false;
 
 protected:
-    void run() override;
-
-private:
-    YumIO* yumIO;
-    QEventLoop& loop;
+    bool work() override;
 };
 
-class CollectOtherDataThread final : public QThread
+class CollectOtherDataThread final : public WorkThread
 {
     Q_OBJECT
 
 public:
     CollectOtherDataThread(YumIO* engine, QEventLoop& callersLoop);
-    bool result = false;
 
 protected:
-    void run() override;
-
-private:
-    YumIO* yumIO;
-    QEventLoop& loop;
+    bool work() override;
 };
 
-class ApplyThread final : public QThread
+class ApplyThread final : public WorkThread
 {
     Q_OBJECT
 
 public:
     ApplyThread(YumIO* engine, QEventLoop& callersLoop);
-    bool result = false;
 
 protected:
-    void run() override;
-
-private:
-    YumIO* yumIO;
-    QEventLoop& loop;
+    bool work() override;
 };

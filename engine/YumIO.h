@@ -13,6 +13,7 @@
 #include <QObject>
 #include <QSet>
 #include <QStringList>
+#include <functional>
 
 class HProgressBar;
 class Progress;
@@ -310,6 +311,10 @@ protected:
     bool applyGrpUpdate(Package::Entry const* group);
     bool applyGrpInstall(Package::Entry const* group);
     bool applyGrpRemove(Package::Entry const* group);
+    /// Marks what of `names` isn't up to date; new packages only where the group insists on them.
+    bool applyGrpPutIn(
+        Package::Entry const* group, QStringList const& names,
+        std::function<bool(QString const&)> const& insistsOn);
     bool applyGrpConflict(Package::Entry const* group, Package::Entry* entry);
     void applyGrpLog(Package::Entry const* group, Package::Entry const* entry);
     void applyGrpLogWas(Package::Entry const* group, Package::Entry const* entry);

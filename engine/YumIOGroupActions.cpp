@@ -46,33 +46,7 @@ bool YumIO::applyGroups()
 bool YumIO::applyGrpInstall(Package::Entry const* group)
 {
     PyRef const tree = pkgTree(group);
-    if (!tree) {
-        return false;
-    }
-    for (QString const& name : namesOf(tree.get())) {
-        Package::Entry* const entry = findPackage(name);
-        if (!entry) {
-            continue;
-        }
-        switch (entry->applyAction) {
-        case Package::Update:
-        case Package::Install:
-            applyGrpLogWas(group, entry);
-            break;
-        case Package::Remove:
-            if (!applyGrpConflict(group, entry)) {
-                return false;
-            }
-            break;
-        case Package::None:
-            if (entry->state != Package::UpToDate) {
-                entry->applyAction = entry->state == Package::OutOfDate ? Package::Update : Package::Install;
-                applyGrpLog(group, entry);
-            }
-            break;
-        }
-    }
-    return true;
+    return tree && applyGrpPutIn(group, namesOf(tree.get()), [](QString const&) { return true; });
 }
 
 bool YumIO::applyGrpUpdate(Package::Entry const* group)
@@ -84,7 +58,15 @@ bool YumIO::applyGrpUpdate(Package::Entry const* group)
     }
     QStringList const requiredNames = namesOf(required.get());
     QSet<QString> const insisted(requiredNames.constBegin(), requiredNames.constEnd());
-    for (QString const& name : namesOf(tree.get())) {
+    return applyGrpPutIn(
+        group, namesOf(tree.get()), [&insisted](QString const& name) { return insisted.contains(name); });
+}
+
+bool YumIO::applyGrpPutIn(
+    Package::Entry const* group, QStringList const& names,
+    std::function<bool(QString const&)> const& insistsOn)
+{
+    for (QString const& name : names) {
         Package::Entry* const entry = findPackage(name);
         if (!entry) {
             continue;
@@ -103,7 +85,7 @@ bool YumIO::applyGrpUpdate(Package::Entry const* group)
             if (entry->state == Package::OutOfDate) {
                 entry->applyAction = Package::Update;
                 applyGrpLog(group, entry);
-            } else if (entry->state == Package::Available && insisted.contains(name)) {
+            } else if (entry->state == Package::Available && insistsOn(name)) {
                 entry->applyAction = Package::Install;
                 applyGrpLog(group, entry);
             } else if (entry->state == Package::Available) {
