@@ -123,14 +123,18 @@ QStringList EngineTest::told(std::function<void(Progress&)> const& drive) const
     ProgressRecord record;
     Progress model(totalBar.get(), itemBar.get());
     record.follow(&model);
+    model.setupItemActs(actSteps, actCount);
     drive(model);
     return record.lines;
 }
 
-void EngineTest::startProgress()
+void EngineTest::startProgress(Steps steps, Steps acts)
 {
+    actSteps = steps;
+    actCount = acts;
     progressUser = std::make_unique<ProgressUser>(engine->progress, totalBar.get(), itemBar.get());
     engine->progressRecord.follow(engine->progress);
+    engine->progress->setupItemActs(steps, acts);
 }
 
 void EngineTest::initTestCase()
@@ -156,6 +160,7 @@ void EngineTest::init()
 void EngineTest::cleanup()
 {
     progressUser.reset();
+    actSteps = actCount = 0;
     QCOMPARE(boxes->takeTexts(), QStringList());
 }
 

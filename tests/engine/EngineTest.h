@@ -79,11 +79,11 @@ protected:
     bool collected();
     Package::Entry* package(QString const& name) const { return engine->findPackage(name); }
     Package::Entry* group(QString const& name) const { return engine->findGroup(name); }
-    /// What a Progress tells when it is driven so.
+    /// Gives the engine a Progress on this thread, as a job has one, until the function's end, with `steps`
+    /// steps shared by `acts` acts. Its record goes to the engine's.
+    void startProgress(Steps steps = 0, Steps acts = 0);
+    /// What a Progress of such acts tells when it is driven so.
     QStringList told(std::function<void(Progress&)> const& drive) const;
-    /// Gives the engine a Progress on this thread, as a job has one, until the function's end. Its record
-    /// goes to the engine's.
-    void startProgress();
 
     std::unique_ptr<HProgressBar> totalBar;
     std::unique_ptr<HProgressBar> itemBar;
@@ -100,6 +100,7 @@ private Q_SLOTS:
 
 private:
     std::unique_ptr<ProgressUser> progressUser;
+    Steps actSteps = 0, actCount = 0;
 };
 
 /// Statements for the helper script that must not raise.

@@ -1,18 +1,13 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-// Start, jobs and end of the engine. A process starts its interpreter once, so each function runs in a
-// process of its own: without arguments this program starts itself for each.
-#include "EngineTest.h"
+#include "LifecycleTest.h"
 #include "base/Application.h"
 
 #include <QApplication>
-#include <QDir>
-#include <QMetaMethod>
 #include <QProcess>
-#include <QTemporaryDir>
 #include <QTimer>
 #include <csignal>
 
-class TestYumIOLifecycle final : public QObject
+class TestYumIOLifecycle final : public LifecycleTest
 {
     Q_OBJECT
 
@@ -21,27 +16,13 @@ public:
     static int hang(QString const& job);
 
 private Q_SLOTS:
-    void initTestCase();
-    void cleanup();
-
-    void startGivesTheScriptItsSurroundings();
-    void secondStartDoesNothing();
-    void missingScript();
-    void scriptWithASyntaxError();
-    void scriptThatRaises();
-    void scriptWithoutTheClass();
-    void constructorThatExits();
-    void constructorThatRaises();
-    void failedStartMayBeTriedAgain();
-    void missingRpmModule();
-    void engineThatNeverStarted();
-
     void endGivesTheLockBack();
     void endWithoutLockUnlocksNothing();
     void endAfterARefusedLockUnlocksNothing();
     void lockThatCannotBeGivenBackIsReported();
     void streamsArePutBackAtTheEnd();
     void endReleasesThePackages();
+    void exitHandlersFindNoEngine();
 
     void interruptEndsTheProcessAtOnce_data();
     void interruptEndsTheProcessAtOnce();
@@ -51,185 +32,12 @@ private Q_SLOTS:
     void jobRunsToItsEndAfterTheEventLoopsWereEnded();
     void failedRenewalLeavesAnEngineThatReports();
     void exitInARenewalIsQuiet();
-
-private:
-    /// Writes a helper script that lets go of the lock and behaves like a current release, then does `more`.
-    void writeScript(QString const& more = QString());
-    void writeText(QString const& text);
-    bool start();
-    QStringList calls() const;
-
-    QTemporaryDir directory;
-    HProgressBar totalBar;
-    HProgressBar itemBar;
-    std::unique_ptr<Boxes> boxes;
-    std::unique_ptr<TestEngine> engine;
 };
-
-void TestYumIOLifecycle::initTestCase()
-{
-    QVERIFY(QDir(directory.path()).mkpath("python"));
-    qputenv("VEMSHARE", directory.path().toLocal8Bit());
-    boxes = std::make_unique<Boxes>();
-    engine = std::make_unique<TestEngine>();
-    engine->setup(nullptr, &totalBar, &itemBar);
-}
-
-void TestYumIOLifecycle::cleanup()
-{
-    engine.reset();
-    QCOMPARE(boxes->takeTexts(), QStringList());
-}
-
-void TestYumIOLifecycle::writeText(QString const& text)
-{
-    QFile file(directory.filePath("python/YumIO.py"));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QVERIFY(file.write(text.toUtf8()) == text.toUtf8().size());
-}
-
-void TestYumIOLifecycle::writeScript(QString const& more)
-{
-    writeText(QStringLiteral("import sys\n"
-                             "sys.dont_write_bytecode = True\n"
-                             "sys.path.insert(0, '%1')\n"
-                             "import standin\n"
-                             "standin.install(globals(), standin.Era('3.2.19'))\n"
-                             "standin.calls_file = '%2'\n"
-                             "%3\n")
-                  .arg(QStringLiteral(VEM_TEST_SOURCE "/standins"), directory.filePath("calls"), more));
-}
-
-bool TestYumIOLifecycle::start()
-{
-    return engine->initialize();
-}
-
-QStringList TestYumIOLifecycle::calls() const
-{
-    QFile file(directory.filePath("calls"));
-    return file.open(QIODevice::ReadOnly)
-               ? QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts)
-               : QStringList();
-}
-
-void TestYumIOLifecycle::startGivesTheScriptItsSurroundings()
-{
-    writeScript("import signal, rpm\n"
-                "standin.note(repr(sys.argv))\nstandin.note(__file__)\nstandin.note(__name__)\n"
-                "standin.note(str(signal.getsignal(signal.SIGINT) is signal.SIG_DFL))");
-    QVERIFY(start());
-    QCOMPARE(
-        calls(),
-        (QStringList{
-            "['vem', 'info']", directory.filePath("python/YumIO.py"), "__main__", "True", "YumIO()"}));
-    struct sigaction action = {};
-    QCOMPARE(sigaction(SIGINT, nullptr, &action), 0);
-    QVERIFY(action.sa_handler == SIG_DFL);
-}
-
-void TestYumIOLifecycle::secondStartDoesNothing()
-{
-    writeScript("standin.note('script')");
-    QVERIFY(start());
-    QVERIFY(start());
-    QCOMPARE(calls(), (QStringList{"script", "YumIO()"}));
-}
-
-void TestYumIOLifecycle::missingScript()
-{
-    QVERIFY(!start());
-    QCOMPARE(
-        boxes->take(),
-        (QList<Boxes::Box>{{"VEM Yum Error", "Internal error: unable to open YumIO.py", {"OK"}}}));
-}
-
-void TestYumIOLifecycle::scriptWithASyntaxError()
-{
-    writeText("class YumIO(:\n");
-    QVERIFY(!start());
-    QCOMPARE(boxes->takeTexts(), QStringList{"Internal error: unable to execute YumIO.py"});
-}
-
-void TestYumIOLifecycle::scriptThatRaises()
-{
-    writeScript("1/0");
-    QVERIFY(!start());
-    QCOMPARE(boxes->takeTexts(), QStringList{"Internal error: unable to execute YumIO.py"});
-    QVERIFY(!engine->logLines(Log::Error).filter("ZeroDivisionError").isEmpty());
-}
-
-void TestYumIOLifecycle::scriptWithoutTheClass()
-{
-    writeScript("del YumIO");
-    QVERIFY(!start());
-    QCOMPARE(boxes->takeTexts(), QStringList{"Internal error: cannot find python YumIO"});
-    // Nothing to renew, then.
-    engine->clear();
-}
-
-void TestYumIOLifecycle::constructorThatExits()
-{
-    writeScript("def construct(self):\n"
-                "    yumIOC.errorlog(0, 'no configuration')\n"
-                "    print('at all', file=sys.stderr)\n"
-                "    sys.exit(1)\n"
-                "YumIO.__init__ = construct");
-    QVERIFY(!start());
-    QCOMPARE(
-        boxes->take(),
-        (QList<Boxes::Box>{{"VEM Yum Error", "no configuration\nat all\nUnable to initialize", {"Close"}}}));
-}
-
-void TestYumIOLifecycle::constructorThatRaises()
-{
-    writeScript("YumIO.__init__ = lambda self: 1/0");
-    QVERIFY(!start());
-    QCOMPARE(
-        boxes->takeTexts(), (QStringList{
-                                "Internal error: python exception occurred from C code\n",
-                                "Internal error: cannot create python yumIO"}));
-}
-
-void TestYumIOLifecycle::failedStartMayBeTriedAgain()
-{
-    QVERIFY(!start());
-    boxes->take();
-    writeScript();
-    QVERIFY(start());
-    QVERIFY(engine->collect({}));
-}
-
-void TestYumIOLifecycle::missingRpmModule()
-{
-    QDir(directory.path()).mkpath("modules");
-    QFile module(directory.filePath("modules/rpm.py"));
-    QVERIFY(module.open(QIODevice::WriteOnly));
-    module.write("raise ImportError('not here')\n");
-    module.close();
-    qputenv("PYTHONPATH", directory.filePath("modules").toLocal8Bit());
-    qputenv("PYTHONDONTWRITEBYTECODE", "1");
-    writeScript();
-    QVERIFY(!start());
-    QCOMPARE(
-        boxes->takeTexts(), (QStringList{
-                                "Internal error: python exception occurred from C code\n",
-                                "Internal error: cannot find python rpm module"}));
-    QCOMPARE(calls(), QStringList());
-}
-
-void TestYumIOLifecycle::engineThatNeverStarted()
-{
-    engine->clear();
-    QCOMPARE(engine->count(), 0);
-    engine->error(QStringLiteral("a fault"));
-    QCOMPARE(boxes->takeTexts(), QStringList{"a fault"});
-}
 
 void TestYumIOLifecycle::endGivesTheLockBack()
 {
     writeScript();
-    QVERIFY(start());
+    QVERIFY(engine->initialize());
     QVERIFY(engine->collect({}));
     engine->clear();
     QVERIFY(engine->collect({}));
@@ -242,7 +50,7 @@ void TestYumIOLifecycle::endGivesTheLockBack()
 void TestYumIOLifecycle::endWithoutLockUnlocksNothing()
 {
     writeScript();
-    QVERIFY(start());
+    QVERIFY(engine->initialize());
     engine.reset();
     QCOMPARE(calls(), QStringList{"YumIO()"});
 }
@@ -250,7 +58,7 @@ void TestYumIOLifecycle::endWithoutLockUnlocksNothing()
 void TestYumIOLifecycle::endAfterARefusedLockUnlocksNothing()
 {
     writeScript("standin.fail('lock', standin.LockError('held by 42'))");
-    QVERIFY(start());
+    QVERIFY(engine->initialize());
     QVERIFY(!engine->collect({}));
     engine.reset();
     QCOMPARE(boxes->takeTexts(), QStringList{"Unable to obtain yum lock"});
@@ -260,7 +68,7 @@ void TestYumIOLifecycle::endAfterARefusedLockUnlocksNothing()
 void TestYumIOLifecycle::lockThatCannotBeGivenBackIsReported()
 {
     writeScript("standin.fail('unlock', standin.LockError('vanished'))");
-    QVERIFY(start());
+    QVERIFY(engine->initialize());
     QVERIFY(engine->collect({}));
     engine.reset();
     QCOMPARE(boxes->take(), (QList<Boxes::Box>{{"VEM Yum Error", "Unable to release yum lock", {"Close"}}}));
@@ -271,7 +79,7 @@ void TestYumIOLifecycle::streamsArePutBackAtTheEnd()
     writeScript("import atexit\n"
                 "atexit.register(lambda: standin.note(\n"
                 "    str(sys.stdout is sys.__stdout__ and sys.stderr is sys.__stderr__)))");
-    QVERIFY(start());
+    QVERIFY(engine->initialize());
     engine.reset();
     QCOMPARE(calls().constLast(), QStringLiteral("True"));
 }
@@ -285,11 +93,25 @@ void TestYumIOLifecycle::endReleasesThePackages()
                 "    gc.collect()\n"
                 "    standin.note(str(sum(isinstance(one, Package) for one in gc.get_objects())))\n"
                 "atexit.register(count)");
-    QVERIFY(start());
+    QVERIFY(engine->initialize());
     QVERIFY(engine->collect({}));
     QVERIFY(engine->count() > 0);
     engine.reset();
     QCOMPARE(calls().constLast(), QStringLiteral("0"));
+}
+
+void TestYumIOLifecycle::exitHandlersFindNoEngine()
+{
+    writeScript("import atexit\n"
+                "def leave():\n"
+                "    try:\n"
+                "        yumIOC.log(0, 'too late')\n"
+                "    except RuntimeError as error:\n"
+                "        standin.note('refused')\n"
+                "atexit.register(leave)");
+    QVERIFY(engine->initialize());
+    engine.reset();
+    QCOMPARE(calls().constLast(), QStringLiteral("refused"));
 }
 
 int TestYumIOLifecycle::hang(QString const& job)
@@ -344,7 +166,7 @@ void TestYumIOLifecycle::interruptEndsTheProcessAtOnce()
 void TestYumIOLifecycle::jobsPutTheInterruptBackToItsDefault()
 {
     writeScript("import signal\nsignal.signal(signal.SIGINT, signal.default_int_handler)");
-    QVERIFY(start());
+    QVERIFY(engine->initialize());
     QCOMPARE(engine->value("signal.getsignal(signal.SIGINT) is signal.SIG_DFL"), QStringLiteral("False"));
     QVERIFY(engine->collect({}));
     QCOMPARE(engine->value("signal.getsignal(signal.SIGINT) is signal.SIG_DFL"), QStringLiteral("True"));
@@ -361,7 +183,7 @@ void TestYumIOLifecycle::childSignalsGoToTheWorkerAlone()
                 "    standin.note(str(blocked(os.getpid())) + str(blocked(threading.get_native_id())))\n"
                 "    standin.note(str(os.system('exit 3') >> 8))\n"
                 "standin.instead('apply', apply)");
-    QVERIFY(start());
+    QVERIFY(engine->initialize());
     QVERIFY(engine->collect({}));
     auto const blockedHere = [] {
         sigset_t mask;
@@ -389,7 +211,7 @@ void TestYumIOLifecycle::guiThreadWorksOnDuringAJob()
     writeScript("import threading\n"
                 "touched = threading.Event()\n"
                 "standin.instead('setupRepos', lambda: standin.note(str(touched.wait(30))))");
-    QVERIFY(start());
+    QVERIFY(engine->initialize());
     QTimer timer;
     // The worker holds the interpreter, but lets go of it where it waits.
     connect(&timer, &QTimer::timeout, this, [this] { engine->script("touched.set()"); });
@@ -407,7 +229,7 @@ void TestYumIOLifecycle::jobRunsToItsEndAfterTheEventLoopsWereEnded()
                 "    yumIOC.collectProgress(1, 2, 3)\n"
                 "    standin.note('went on')\n"
                 "standin.instead('setupRepos', wait)");
-    QVERIFY(start());
+    QVERIFY(engine->initialize());
     QTimer::singleShot(0, this, [this] {
         QCoreApplication::exit(0);
         engine->script("ended.set()");
@@ -421,7 +243,7 @@ void TestYumIOLifecycle::jobRunsToItsEndAfterTheEventLoopsWereEnded()
 void TestYumIOLifecycle::failedRenewalLeavesAnEngineThatReports()
 {
     writeScript();
-    QVERIFY(start());
+    QVERIFY(engine->initialize());
     QVERIFY(engine->collect({}));
     engine->script("YumIO.__init__ = lambda self: 1/0");
     engine->clear();
@@ -441,7 +263,7 @@ void TestYumIOLifecycle::failedRenewalLeavesAnEngineThatReports()
 void TestYumIOLifecycle::exitInARenewalIsQuiet()
 {
     writeScript();
-    QVERIFY(start());
+    QVERIFY(engine->initialize());
     engine->script("def construct(self):\n    sys.exit(3)\nYumIO.__init__ = construct");
     // The start expected it, and nothing has replaced that since.
     engine->clear();
@@ -452,24 +274,12 @@ void TestYumIOLifecycle::exitInARenewalIsQuiet()
 int main(int argc, char* argv[])
 {
     QApplication app(argc, argv);
-    application = &app;
     if (argc == 3 && QByteArray(argv[1]) == "hang") {
+        application = &app;
         return TestYumIOLifecycle::hang(QString::fromLocal8Bit(argv[2]));
     }
-    if (argc > 1) {
-        TestYumIOLifecycle test;
-        return QTest::qExec(&test, argc, argv);
-    }
-    int failures = 0;
-    QMetaObject const& meta = TestYumIOLifecycle::staticMetaObject;
-    for (int at = meta.methodOffset(); at < meta.methodCount(); ++at) {
-        QByteArray const name = meta.method(at).name();
-        bool const isTest = !name.endsWith("_data") && name != "initTestCase" && name != "cleanup";
-        if (isTest && QProcess::execute(app.applicationFilePath(), {QString::fromLatin1(name)}) != 0) {
-            ++failures;
-        }
-    }
-    return failures;
+    TestYumIOLifecycle test;
+    return LifecycleTest::runAlone(test, argc, argv);
 }
 
 #include "tst_yumiolifecycle.moc"

@@ -35,8 +35,7 @@ void TestYumIORepoProgress::startReading(QStringList const& repos, QString const
     engine->setVersion(version);
     engine->repoNames = repos;
     engine->repoContents = QStringLiteral("contents");
-    startProgress();
-    engine->progress->setupItemActs(14000, static_cast<Steps>(5 * repos.size()));
+    startProgress(14000, static_cast<Steps>(5 * repos.size()));
 }
 
 void TestYumIORepoProgress::positionsOfActs_data()
@@ -90,7 +89,6 @@ void TestYumIORepoProgress::sameReportMovesOnlyTheValue()
     startReading({"base"});
     SCRIPT("for done in (1, 30, 70, 100):\n    yumIOC.collectProgress(done, 100, 'base')");
     QCOMPARE(engine->progressRecord.lines, told([](Progress& model) {
-                 model.setupItemActs(14000, 5);
                  model.startItemAct("Converting repository contents for base", 100, 4);
                  model.setItemValue(100);
              }));
@@ -102,7 +100,6 @@ void TestYumIORepoProgress::namesAndTotalsStartNewActs()
     SCRIPT("yumIOC.collectProgress(0, 100, 'base')\nyumIOC.collectProgress(0, 200, 'base')\n"
            "yumIOC.collectProgress(0, 200, b'updates')");
     QCOMPARE(engine->progressRecord.lines, told([](Progress& model) {
-                 model.setupItemActs(14000, 10);
                  model.startItemAct("Converting repository contents for base", 100, 4);
                  model.startItemAct("Converting repository contents for base", 200, 4);
                  model.startItemAct("Converting repository contents for updates", 200, 4);
@@ -144,7 +141,6 @@ void TestYumIORepoProgress::completeActNeedsNoNumbers()
     startReading({"base"});
     SCRIPT("yumIOC.collectProgress(-1, -1, None)");
     QCOMPARE(engine->progressRecord.lines, told([](Progress& model) {
-                 model.setupItemActs(14000, 5);
                  model.startItemAct("Reading repository contents", 1, 5);
                  model.setItemValue(1);
              }));
@@ -164,7 +160,6 @@ void TestYumIORepoProgress::parsingOfMetadataHasNoName()
     SCRIPT("yumIOC.collectProgress(0, 50, 'MD Read')\nyumIOC.collectProgress(50, 50, 'MD Read')\n"
            "yumIOC.collectProgress(0, 60, 'MD Read')");
     QCOMPARE(engine->progressRecord.lines, told([](Progress& model) {
-                 model.setupItemActs(14000, 10);
                  model.startItemAct("Converting repository contents", 50, 4);
                  model.setItemValue(50);
                  model.startItemAct("Converting repository contents", 60, 4);
@@ -250,7 +245,6 @@ void TestYumIORepoProgress::downloadsMoveWithinTheirSize()
     startReading({"base"});
     SCRIPT("yumIOC.collectGrabMeterStart('/base/x', '', '', 40, None)\nyumIOC.collectGrabMeterUpdate(2**60)");
     QCOMPARE(engine->progressRecord.lines, told([](Progress& model) {
-                 model.setupItemActs(14000, 5);
                  model.startItemAct("Downloading repository contents for base", 40, 3);
                  model.setItemValue(40);
              }));

@@ -121,13 +121,11 @@ void TestYumIOSolver::headerOnDiskNeedsNoDownload()
 
 void TestYumIOSolver::eachStepCountsAPass()
 {
-    startProgress();
-    engine->progress->setupItemActs(9900, 21);
+    startProgress(9900, 21);
     engine->run.pkgActs = 7;
     SCRIPT("yumIOC.dsTsCheck()\nyumIOC.dsTsCheck()\nyumIOC.dsTsCheck()\nyumIOC.dsTsCheck()");
     QCOMPARE(engine->run.actsDone, 28ULL);
     QCOMPARE(engine->progressRecord.lines, told([](Progress& model) {
-                 model.setupItemActs(9900, 21);
                  for (Steps const at : {7, 14, 21, 28}) {
                      model.startItemAct("Resolve Dependencies", 1, at);
                  }
@@ -136,8 +134,7 @@ void TestYumIOSolver::eachStepCountsAPass()
 
 void TestYumIOSolver::restartAddsAPassOfAllKnownPackages()
 {
-    startProgress();
-    engine->progress->setupItemActs(9900, 24);
+    startProgress(9900, 24);
     engine->run.nPkgs = engine->run.pkgActs = engine->run.totalPkgActs = 4;
     engine->run.nHdrs = 2;
     engine->run.nPkgs = 6;
@@ -145,7 +142,6 @@ void TestYumIOSolver::restartAddsAPassOfAllKnownPackages()
     QCOMPARE(engine->run.pkgActs, 6U);
     QCOMPARE(engine->run.totalPkgActs, 16U);
     QCOMPARE(engine->progressRecord.lines, told([](Progress& model) {
-                 model.setupItemActs(9900, 24);
                  model.startItemAct("Resolve Dependencies", 1, 4);
                  model.changeItemActs(10 + 20);
                  model.startItemAct("Resolve Dependencies", 1, 10);
@@ -156,14 +152,12 @@ void TestYumIOSolver::restartAddsAPassOfAllKnownPackages()
 void TestYumIOSolver::mentionedPackagesShowWithTheNextPass()
 {
     QVERIFY(collected());
-    startProgress();
-    engine->progress->setupItemActs(9900, 4);
+    startProgress(9900, 4);
     engine->run.nPkgs = engine->run.pkgActs = engine->run.totalPkgActs = 4;
     SCRIPT("standin.world.find('available', 'hazel').local_hdr = None\n"
            "yumIOC.log(0, 'TSINFO: Updating hazel to 5')\nyumIOC.dsTsCheck()");
     QCOMPARE(engine->run.pkgActs, 4U);
     QCOMPARE(engine->progressRecord.lines, told([](Progress& model) {
-                 model.setupItemActs(9900, 4);
                  // The header shows at once, the packages don't.
                  model.changeItemActs(4 + 10);
                  model.startItemAct("Resolve Dependencies", 1, 4);

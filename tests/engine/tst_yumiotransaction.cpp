@@ -8,22 +8,6 @@ class TestYumIOTransaction final : public EngineTest
 private Q_SLOTS:
     void init();
 
-    void downloadsAreNamedByTheirFile_data();
-    void downloadsAreNamedByTheirFile();
-    void downloadsWeighTheirSize_data();
-    void downloadsWeighTheirSize();
-    void headersWeighTheSameWhateverTheirSize();
-    void downloadMovesWithinItsSize();
-    void oddNamesAndTextsAreReported();
-    void deltaRebuildEndsTheDownloads();
-
-    void testBegins();
-    void testBeginsWithoutReport();
-    void stepsOfARebuildThatNeverCameAreSpent();
-    void rebuildIsNotEndedTwice();
-    void transactionBegins();
-    void transactionBeginsWithoutTest();
-
     void callbackBits_data();
     void callbackBits();
     void callbackBitsAreDoneInOrder();
@@ -45,221 +29,12 @@ private Q_SLOTS:
 
     void outputAtTheEndIsEmpty();
     void localFilesAreTextsOrNothing();
-
-private:
-    /// The acts that the engine's Progress and a model are given.
-    void startActs();
-    QStringList toldWithActs(std::function<void(Progress&)> const& drive) const;
 };
 
 void TestYumIOTransaction::init()
 {
     EngineTest::init();
     QVERIFY(collected());
-}
-
-void TestYumIOTransaction::startActs()
-{
-    startProgress();
-    engine->progress->setupItemActs(8000, 1000000);
-}
-
-QStringList TestYumIOTransaction::toldWithActs(std::function<void(Progress&)> const& drive) const
-{
-    return told([&](Progress& model) {
-        model.setupItemActs(8000, 1000000);
-        drive(model);
-    });
-}
-
-void TestYumIOTransaction::downloadsAreNamedByTheirFile_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::newRow("'http://mirror/base/foo-1.0.rpm'") << "foo-1.0";
-    QTest::newRow("'foo-1.0.rpm'") << "foo-1.0";
-    QTest::newRow("b'foo-1.0.rpm'") << "foo-1.0";
-    QTest::newRow("'/var/cache/foo-1.0.hdr'") << "foo-1.0";
-    QTest::newRow("'foo-1.0.RPM'") << "foo-1.0.RPM";
-    QTest::newRow("'foo-1.0.rpm.rpm'") << "foo-1.0.rpm";
-    QTest::newRow("'foo-1.0.drpm'") << "foo-1.0.drpm";
-    QTest::newRow("'.rpm'") << "";
-    QTest::newRow("'rpm'") << "rpm";
-    QTest::newRow("'base/'") << "";
-    QTest::newRow("'http://h/buffet?login=me&key=k&path=foo-1.0.rpm'") << "foo-1.0";
-    QTest::newRow("'http://h/buffet?login=a/b&key=k&path=base/foo-1.0.rpm'") << "foo-1.0";
-    QTest::newRow("'http://h/Buffet?login=me&key=k&path=foo.rpm'") << "Buffet?login=me&key=k&path=foo";
-    QTest::newRow("'a\\udce9.rpm'") << QStringLiteral("a\uFFFD");
-}
-
-void TestYumIOTransaction::downloadsAreNamedByTheirFile()
-{
-    startActs();
-    engine->run.applyConfirmed = true;
-    QCOMPARE(
-        engine->script(QStringLiteral("yumIOC.applyGrabMeterStart(%1, None, None, 5, None)")
-                           .arg(QTest::currentDataTag())),
-        QString());
-    QFETCH(QString, name);
-    QVERIFY2(
-        engine->progressRecord.lines.constLast().startsWith("Downloading " + name + ", up to 5"),
-        qPrintable(engine->progressRecord.lines.constLast()));
-}
-
-void TestYumIOTransaction::downloadsWeighTheirSize_data()
-{
-    QTest::addColumn<unsigned long long>("weight");
-    QTest::newRow("50000") << 50000ULL;
-    QTest::newRow("10240") << 10240ULL;
-    QTest::newRow("10239") << 10240ULL;
-    QTest::newRow("0") << 10240ULL;
-    QTest::newRow("-5") << 10240ULL;
-    QTest::newRow("2**40") << (1ULL << 40);
-}
-
-void TestYumIOTransaction::downloadsWeighTheirSize()
-{
-    startActs();
-    engine->run.applyConfirmed = true;
-    // Where solving ended the downloads count on.
-    engine->run.actsDone = 30;
-    QCOMPARE(
-        engine->script(QStringLiteral("yumIOC.applyGrabMeterStart('x.rpm', None, None, %1, None)\n"
-                                      "yumIOC.applyGrabMeterUpdate(1)\nyumIOC.applyGrabMeterEnd(1)")
-                           .arg(QTest::currentDataTag())),
-        QString());
-    QFETCH(unsigned long long, weight);
-    QCOMPARE(engine->run.actsDone, 30 + weight);
-}
-
-void TestYumIOTransaction::headersWeighTheSameWhateverTheirSize()
-{
-    startActs();
-    SCRIPT("yumIOC.applyGrabMeterStart('/cache/foo-1.0.hdr', None, None, 3000, None)\n"
-           "yumIOC.applyGrabMeterStart('/cache/bar-1.0.hdr', None, None, 2**33, 'bar')");
-    QCOMPARE(engine->run.actsDone, 20ULL);
-    QCOMPARE(engine->progressRecord.lines, toldWithActs([](Progress& model) {
-                 model.startItemAct("Downloading foo-1.0 header", 3000, 10);
-                 model.startItemAct("Downloading bar-1.0 header", 1ULL << 33, 20);
-             }));
-}
-
-void TestYumIOTransaction::downloadMovesWithinItsSize()
-{
-    startActs();
-    engine->run.applyConfirmed = true;
-    SCRIPT("yumIOC.applyGrabMeterStart('x.rpm', None, None, 20000, None)\n"
-           "yumIOC.applyGrabMeterUpdate(30000)\nyumIOC.applyGrabMeterEnd(30000)");
-    QCOMPARE(engine->progressRecord.lines, toldWithActs([](Progress& model) {
-                 model.startItemAct("Downloading x", 20000, 20000);
-                 model.setItemValue(20000);
-             }));
-}
-
-void TestYumIOTransaction::oddNamesAndTextsAreReported()
-{
-    startActs();
-    engine->run.applyConfirmed = true;
-    SCRIPT("yumIOC.applyGrabMeterStart(None, None, None, 5, None)");
-    QCOMPARE(boxes->takeTexts(), QStringList{"Internal error: unexpected progress name"});
-    QVERIFY(engine->progressRecord.lines.constLast().startsWith("Downloading , up to 5"));
-    SCRIPT("yumIOC.applyGrabMeterStart(5, None, None, 5, 6)");
-    QCOMPARE(
-        boxes->takeTexts(),
-        (QStringList{
-            "Internal error: unexpected progress text", "Internal error: unexpected progress name"}));
-    SCRIPT("yumIOC.applyGrabMeterStart('x.rpm', None, None, 5, 6)");
-    QCOMPARE(boxes->takeTexts(), QStringList{"Internal error: unexpected progress text"});
-    QVERIFY(engine->progressRecord.lines.constLast().startsWith("Downloading x, up to 5"));
-}
-
-void TestYumIOTransaction::deltaRebuildEndsTheDownloads()
-{
-    startActs();
-    engine->run.applyConfirmed = true;
-    SCRIPT("yumIOC.applyGrabMeterStart('a.rpm', None, None, 20000, '<delta rebuild> ')\n"
-           "yumIOC.applyGrabMeterStart(None, None, None, 3, b'<delta rebuild>')\n"
-           "yumIOC.applyGrabMeterUpdate(3)");
-    QVERIFY(engine->run.deltaRebuild);
-    QCOMPARE(engine->progressRecord.lines, toldWithActs([](Progress& model) {
-                 model.startItemAct("Downloading a", 20000, 20000);
-                 model.endItemActs();
-                 model.startItem("Finishing RPM rebuild from deltas", 2000, 3);
-                 model.setItemValue(3);
-             }));
-}
-
-void TestYumIOTransaction::testBegins()
-{
-    engine->setVersion("3.2.2");
-    SCRIPT("standin.instead('usesPresto', lambda: False)");
-    startActs();
-    engine->run.actsDone = 5000;
-    engine->run.transactionActs = 40000;
-    SCRIPT("yumIOC.tsInitCallback(0)\nyumIOC.tsCallback(0x20, 0, 6, None, None)");
-    QCOMPARE(engine->run.actsDone, 2000ULL);
-    QCOMPARE(engine->progressRecord.lines, toldWithActs([](Progress& model) {
-                 model.endItemActs();
-                 model.startItem("Preparing to Test Transaction", 1000, 1);
-                 model.setupItemActs(1000, 2000);
-                 model.startItemAct("Transaction Test", 6, 2000);
-             }));
-}
-
-void TestYumIOTransaction::testBeginsWithoutReport()
-{
-    engine->setVersion("3.2.3");
-    SCRIPT("standin.instead('usesPresto', lambda: False)");
-    startActs();
-    SCRIPT("yumIOC.tsInitCallback(0)");
-    QCOMPARE(engine->progressRecord.lines, toldWithActs([](Progress& model) { model.endItemActs(); }));
-}
-
-void TestYumIOTransaction::stepsOfARebuildThatNeverCameAreSpent()
-{
-    SCRIPT("standin.instead('usesPresto', lambda: True)");
-    startActs();
-    SCRIPT("yumIOC.tsInitCallback(0)");
-    QCOMPARE(engine->progressRecord.lines, toldWithActs([](Progress& model) {
-                 model.endItemActs();
-                 model.startItem("Finishing RPM rebuild from deltas", 2000, 1);
-                 model.setItemValue(1);
-             }));
-}
-
-void TestYumIOTransaction::rebuildIsNotEndedTwice()
-{
-    SCRIPT("standin.instead('usesPresto', lambda: True)");
-    startActs();
-    engine->run.deltaRebuild = true;
-    SCRIPT("yumIOC.tsInitCallback(0)");
-    QCOMPARE(engine->progressRecord.lines, QStringList());
-}
-
-void TestYumIOTransaction::transactionBegins()
-{
-    engine->setVersion("3.2.2");
-    startActs();
-    engine->run.actsDone = 5000;
-    engine->run.transactionActs = 40000;
-    SCRIPT("yumIOC.tsInitCallback(7)\nyumIOC.tsCallback(0x20, 0, 6, None, None)");
-    QCOMPARE(engine->progressRecord.lines, toldWithActs([](Progress& model) {
-                 model.endItemActs();
-                 model.startItem("Preparing to Run Transaction", 1000, 1);
-                 model.setupItemActs(8000, 42000);
-                 model.startItemAct("Transaction Test", 6, 2000);
-             }));
-}
-
-void TestYumIOTransaction::transactionBeginsWithoutTest()
-{
-    engine->setVersion("3.2.3");
-    startActs();
-    engine->run.actsDone = 5000;
-    SCRIPT("yumIOC.tsInitCallback(-1)");
-    QCOMPARE(engine->run.actsDone, 0ULL);
-    QCOMPARE(engine->progressRecord.lines, toldWithActs([](Progress& model) {
-                 model.startItem("Preparing to Run Transaction", 1000, 1);
-             }));
 }
 
 void TestYumIOTransaction::callbackBits_data()
@@ -288,7 +63,7 @@ void TestYumIOTransaction::callbackBits_data()
 
 void TestYumIOTransaction::callbackBits()
 {
-    startActs();
+    startProgress(8000, 1000000);
     engine->progress->startItem("An item", 100, 100);
     engine->progressRecord.lines.clear();
     QFETCH(long, what);
@@ -312,9 +87,9 @@ void TestYumIOTransaction::callbackBits()
 
 void TestYumIOTransaction::callbackBitsAreDoneInOrder()
 {
-    startActs();
+    startProgress(8000, 1000000);
     SCRIPT("yumIOC.tsCallback(0x002 | 0x001, 50000, 50000, ({'name': 'hazel'}, ''), None)");
-    QCOMPARE(engine->progressRecord.lines, toldWithActs([](Progress& model) {
+    QCOMPARE(engine->progressRecord.lines, told([](Progress& model) {
                  model.startItemAct("Installing hazel", 50000, 150000);
                  model.setItemValue(50000);
              }));
@@ -322,12 +97,12 @@ void TestYumIOTransaction::callbackBitsAreDoneInOrder()
 
 void TestYumIOTransaction::callbackPutsIn()
 {
-    startActs();
+    startProgress(8000, 1000000);
     engine->run.updateNames = {"alder"};
     SCRIPT("yumIOC.tsCallback(2, 0, 7, ({'name': 'elm'}, ''), None)\n"
            "yumIOC.tsCallback(2, 0, 7, [{'name': b'hazel'}], None)\n"
            "yumIOC.tsCallback(2, 0, 7, ({'name': 'alder'}, ''), None)");
-    QCOMPARE(engine->progressRecord.lines, toldWithActs([](Progress& model) {
+    QCOMPARE(engine->progressRecord.lines, told([](Progress& model) {
                  model.startItemAct("Installing elm", 7, 10240);
                  model.startItemAct("Installing hazel", 7, 160240);
                  model.startItemAct("Updating alder", 7, 760240);
@@ -340,11 +115,11 @@ void TestYumIOTransaction::callbackPutsIn()
 
 void TestYumIOTransaction::callbackTakesOut()
 {
-    startActs();
+    startProgress(8000, 1000000);
     engine->run.updateNames = {"alder", "dogwood"};
     SCRIPT("yumIOC.tsCallback(0x100, 0, 7, 'cedar', None)\nyumIOC.tsCallback(0x100, 0, 7, b'alder', None)\n"
            "yumIOC.tsCallback(0x100, 0, 7, 'elm', None)\nyumIOC.tsCallback(0x100, 0, 7, 'dogwood', None)");
-    QCOMPARE(engine->progressRecord.lines, toldWithActs([](Progress& model) {
+    QCOMPARE(engine->progressRecord.lines, told([](Progress& model) {
                  model.startItemAct("Removing cedar", 7, 30000);
                  model.startItemAct("Completing update for: alder", 7, 50000);
                  model.startItemAct("Removing elm", 7, 60240);
@@ -356,10 +131,10 @@ void TestYumIOTransaction::callbackTakesOut()
 
 void TestYumIOTransaction::callbackOfUnknownPackages()
 {
-    startActs();
+    startProgress(8000, 1000000);
     SCRIPT("yumIOC.tsCallback(2, 0, 7, ({'name': 'nosuch'}, ''), None)\n"
            "yumIOC.tsCallback(0x100, 0, 7, 'nosuch', None)");
-    QCOMPARE(engine->progressRecord.lines, toldWithActs([](Progress& model) {
+    QCOMPARE(engine->progressRecord.lines, told([](Progress& model) {
                  model.startItemAct("Installing nosuch", 7, 0);
                  model.startItemAct("Removing nosuch", 7, 0);
              }));
@@ -383,7 +158,7 @@ void TestYumIOTransaction::oddCallbackKeysAreReported_data()
 
 void TestYumIOTransaction::oddCallbackKeysAreReported()
 {
-    startActs();
+    startProgress(8000, 1000000);
     QFETCH(QString, call);
     QFETCH(QString, report);
     // A transaction that rpm has begun must not be stopped by a callback.
@@ -402,14 +177,14 @@ void TestYumIOTransaction::eventsThatPutIn_data()
 
 void TestYumIOTransaction::eventsThatPutIn()
 {
-    startActs();
+    startProgress(8000, 1000000);
     QFETCH(QString, text);
     QCOMPARE(
         engine->script(
             QStringLiteral("yumIOC.tsEvent(standin.world.find('available', 'hazel'), %1, 9, 9, 1, 4)")
                 .arg(QTest::currentDataTag())),
         QString());
-    QCOMPARE(engine->progressRecord.lines, toldWithActs([&](Progress& model) {
+    QCOMPARE(engine->progressRecord.lines, told([&](Progress& model) {
                  model.startItemAct(text, 9, 150000);
                  model.setItemValue(9);
              }));
@@ -427,14 +202,14 @@ void TestYumIOTransaction::eventsThatTakeOut_data()
 
 void TestYumIOTransaction::eventsThatTakeOut()
 {
-    startActs();
+    startProgress(8000, 1000000);
     QFETCH(QString, text);
     QFETCH(unsigned long long, acts);
     QCOMPARE(
         engine->script(
             QStringLiteral("yumIOC.tsEvent('alder', %1, 9, 9, 1, 4)").arg(QTest::currentDataTag())),
         QString());
-    QCOMPARE(engine->progressRecord.lines, toldWithActs([&](Progress& model) {
+    QCOMPARE(engine->progressRecord.lines, told([&](Progress& model) {
                  model.startItemAct(text, 9, acts);
                  model.setItemValue(9);
              }));
@@ -443,10 +218,10 @@ void TestYumIOTransaction::eventsThatTakeOut()
 
 void TestYumIOTransaction::eventsOfOnePackageOpenOneItem()
 {
-    startActs();
+    startProgress(8000, 1000000);
     SCRIPT("for done in (0, 4, 9):\n    yumIOC.tsEvent('cedar', 40, done, 9, 3, 4)\n"
            "yumIOC.tsEvent('cedar', 40, 0, 9, 4, 4)");
-    QCOMPARE(engine->progressRecord.lines, toldWithActs([](Progress& model) {
+    QCOMPARE(engine->progressRecord.lines, told([](Progress& model) {
                  model.startItemAct("Removing cedar", 9, 30000);
                  model.setItemValue(9);
                  model.startItemAct("Removing cedar", 9, 60000);
@@ -456,7 +231,7 @@ void TestYumIOTransaction::eventsOfOnePackageOpenOneItem()
 
 void TestYumIOTransaction::availableEventIsIgnored()
 {
-    startActs();
+    startProgress(8000, 1000000);
     SCRIPT("yumIOC.tsEvent(None, 70, 9, 9, 1, 4)");
     QCOMPARE(engine->progressRecord.lines, QStringList());
     QCOMPARE(engine->run.lastEventPkg, 0ULL);
@@ -464,7 +239,7 @@ void TestYumIOTransaction::availableEventIsIgnored()
 
 void TestYumIOTransaction::unknownEventsAreWarnedOf()
 {
-    startActs();
+    startProgress(8000, 1000000);
     SCRIPT("yumIOC.tsEvent('cedar', 80, 9, 9, 1, 4)\nyumIOC.tsEvent('cedar', -1, 9, 9, 2, 4)");
     QCOMPARE(
         boxes->takeTexts(), (QStringList{
@@ -475,7 +250,7 @@ void TestYumIOTransaction::unknownEventsAreWarnedOf()
 
 void TestYumIOTransaction::oddEventPackagesAreReported()
 {
-    startActs();
+    startProgress(8000, 1000000);
     SCRIPT("yumIOC.tsEvent('cedar', 20, 9, 9, 1, 4)");
     QCOMPARE(boxes->takeTexts(), QStringList{"Internal error: pyString passed NULL python object\n"});
     SCRIPT("yumIOC.tsEvent(object(), 40, 9, 9, 2, 4)");
@@ -485,7 +260,7 @@ void TestYumIOTransaction::oddEventPackagesAreReported()
 
 void TestYumIOTransaction::valuesOutOfRangeDoNoHarm()
 {
-    startActs();
+    startProgress(8000, 1000000);
     engine->run.applyConfirmed = true;
     SCRIPT("import itertools\n"
            "edges = (-2**63, -1, 0, 1, 2**31, 2**63 - 1)\n"
@@ -506,7 +281,7 @@ void TestYumIOTransaction::valuesOutOfRangeDoNoHarm()
 
 void TestYumIOTransaction::outputAtTheEndIsEmpty()
 {
-    startActs();
+    startProgress(8000, 1000000);
     SCRIPT("import types\n"
            "from standintransaction import Member, TsInfo\n"
            "def one(kind, name): return [Member(standin.world.find(kind, name))]\n"
@@ -521,7 +296,7 @@ void TestYumIOTransaction::outputAtTheEndIsEmpty()
                        "\tInstalled: elm 1.0-1 (noarch)\n\tDependency Installed: ivy 1.0-1 (noarch)\n"
                        "\tUpdated: alder 2.0-1 (x86_64)\n\tDependency Updated: dogwood 5.0-1 (noarch)\n"
                        "\tObsoleted: fir 2:1.5-3.1 (noarch)\n"));
-    QCOMPARE(engine->progressRecord.lines, toldWithActs([](Progress& model) { model.endItemActs(); }));
+    QCOMPARE(engine->progressRecord.lines, told([](Progress& model) { model.endItemActs(); }));
     SCRIPT("holder.tsInfo.plain_lists['installed'] = [object()]");
     QVERIFY(engine->script("yumIOC.postTransactionOutput(holder)").contains("txmbr lacks pkgtup"));
     QCOMPARE(boxes->takeTexts(), QStringList{"Internal error: txmbr lacks pkgtup\n"});
