@@ -62,7 +62,8 @@ def test_newest_of_several_installed_versions_comes_first(
     for key in ("core-1.0", "core-3.0", "core-2.0"):
         estate.rpm("--install", "--oldpackage", "--force-debian", rpms[key])
     estate.repository("base", [])
-    assert names(program.collect().installed) == ["core-3.0-1.noarch", "core-2.0-1.noarch", "core-1.0-1.noarch"]
+    found = program.collect()
+    assert names(found.installed) == ["core-3.0-1.noarch", "core-2.0-1.noarch", "core-1.0-1.noarch"]
 
 
 def test_newest_comes_first_though_others_lie_between(

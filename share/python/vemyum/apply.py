@@ -10,7 +10,6 @@ from __future__ import annotations
 import contextlib
 from typing import Any, Dict, List, Optional, Sequence, Set
 
-import dnf.exceptions
 import dnf.repo
 import dnf.transaction
 import libdnf.transaction as lt
