@@ -103,9 +103,16 @@ void MainWindow::setReady(bool ready)
     cleanXmlMetadataAction->setEnabled(ready);
     cleanPickledCacheAction->setEnabled(ready && yumIO->hasPickledCache());
     cleanAllAction->setEnabled(ready);
+    if (!ready) {
+        focusWhenReady = focusWidget();
+    }
     tableArea->setEnabled(ready);
     if (ready) {
         QApplication::restoreOverrideCursor();
+        // What is disabled loses the keyboard, and doesn't get it back by itself.
+        if (focusWhenReady && !focusWidget()) {
+            focusWhenReady->setFocus();
+        }
     } else {
         QApplication::setOverrideCursor(Qt::BusyCursor);
     }

@@ -117,7 +117,8 @@ private:
     QAction* cleanXmlMetadataAction = nullptr;
     QAction* cleanPickledCacheAction = nullptr;
     QAction* cleanAllAction = nullptr;
-    QPointer<QWidget> tableArea; ///< hidden until the first collection is done
+    QPointer<QWidget> tableArea;      ///< hidden until the first collection is done
+    QPointer<QWidget> focusWhenReady; ///< had the keyboard when the window became busy
     QComboBox* modeCombo = nullptr;
     QLineEdit* regExpEdit = nullptr;
     QPushButton* filterButton = nullptr;

@@ -204,6 +204,17 @@ private Q_SLOTS:
         QVERIFY(!QApplication::overrideCursor());
     }
 
+    void theKeyboardStaysWhereItWasThroughABusyTime()
+    {
+        mode()->setCurrentIndex(1);
+        expression()->setFocus();
+        apply(QStringLiteral("elm"));
+        QCOMPARE(window->focusWidget(), expression());
+        table()->setFocus();
+        window->refresh();
+        QCOMPARE(window->focusWidget(), table());
+    }
+
     void pickledDataCanBeCleanedOnlyWhereThereIsAny()
     {
         bool const hasPickles = era() == QLatin1String("2.9.1");
