@@ -55,7 +55,8 @@ void Dialog::config(YumIO* yumIO, Package::Entry const& entry, YumConfIO* yumCon
     }
     content->setLayout(layout);
     contentLayout->addWidget(content);
-    // The size of the description before would stay otherwise.
+    // The size of the description before would stay otherwise, as well as the layout's idea of it.
+    QDialog::layout()->activate();
     adjustSize();
 }
 

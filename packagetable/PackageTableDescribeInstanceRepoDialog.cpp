@@ -57,7 +57,8 @@ void RepoDialog::config(Repo::Entry const& entry)
     addPair(row, tr("URLs"), entry.baseurl);
     addPair(row, tr("Mirror list URL"), entry.mirrorlist);
     contentLayout->addWidget(content);
-    // The size for the repository before would stay otherwise.
+    // The size for the repository before would stay otherwise, as well as the layout's idea of it.
+    QDialog::layout()->activate();
     adjustSize();
 }
 

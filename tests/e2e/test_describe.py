@@ -1,0 +1,130 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""The description of a row, on real rpms: an update from its repository, the version before it from the rpm database."""
+from __future__ import annotations
+
+from pathlib import Path
+from typing import Callable, Optional
+
+import gi
+import pytest
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi  # noqa: E402
+
+from program import NAME_COLUMN, Program, wait_for, walk  # noqa: E402
+from rpmestate import Estate, shell_spec, spec  # noqa: E402
+
+DESCRIPTION = "VEM Package Description"
+NOTE = "Show (must load extra data)"
+LIT = "* Mon Jan 06 2025 Wren <wren@beacon.example> - 1.0-1\n- Lit for the first time"
+SECOND = "* Tue Feb 04 2025 Wren <wren@beacon.example> - 1.1-1\n- A second lamp & <b>more</b>"
+Start = Callable[..., Program]
+
+
+def beacon_spec(version: str, files: list[str], changelog: str) -> str:
+    return spec(
+        "beacon", version, summary="A light for ships", description="It burns <b>all</b> night\nand is seen far off.",
+        files={path: f"of {version}" for path in files}, changelog=changelog, requires=["/bin/sh"],
+        tags={"Vendor": "Cliff & Sons", "Packager": "Wren <wren@beacon.example>", "URL": "https://beacon.example/"},
+    )
+
+
+@pytest.fixture
+def beacon(tmp_path: Path) -> Estate:
+    """Version 1.0 is installed; 1.1, with a file and a change more, is offered."""
+    estate = Estate(tmp_path / "beacon")
+    shell, old, new = estate.build(
+        [
+            shell_spec("beacon-shell"),
+            beacon_spec("1.0", ["/usr/share/beacon/lamp"], LIT),
+            beacon_spec("1.1", ["/usr/share/beacon/lamp", "/usr/share/beacon/second"], f"{SECOND}\n\n{LIT}"),
+        ]
+    )
+    estate.write_main_config()
+    estate.repository("cliff", [new], name="Cliff Station")
+    estate.install([shell, old])
+    return estate
+
+
+def buttons(window: Atspi.Accessible) -> list[Atspi.Accessible]:
+    """The buttons of a description, from above; those that are scrolled out of view too."""
+    return [node for node in walk(window) if node.get_role() == Atspi.Role.PUSH_BUTTON]
+
+
+def shows(window: Atspi.Accessible) -> list[str]:
+    names = [button.get_name() for button in buttons(window)]
+    return [name for name in names if name.startswith("Show")]
+
+
+def read_text(program: Program, description: Atspi.Accessible, number: int, title: str) -> str:
+    """Presses the description's n-th "Show" and reads the window that opens."""
+    button = [node for node in buttons(description) if node.get_name().startswith("Show")][number]
+    Atspi.Action.do_action(button, 0)
+    window = program.window(title, timeout=60)
+    edit = program.wait("Text", Atspi.Role.TEXT, inside=window)
+    text: str = Atspi.Text.get_text(edit, 0, Atspi.Text.get_character_count(edit))
+    program.shot(title.replace(" ", "-"))
+    program.press("Close", window)
+    program.wait_closed(title)
+    return text
+
+
+def test_a_row_is_described_with_files_change_log_and_repository(beacon: Estate, start: Start) -> None:
+    program = start(beacon)
+    program.wait_ready()
+    program.click_cell("beacon", NAME_COLUMN)
+    program.press("Describe", program.window("VEM - "))
+    description = program.window(DESCRIPTION)
+    lines = program.texts(description).split("\n")
+
+    def value(label: str) -> Optional[str]:
+        return lines[lines.index(label) + 1] if label in lines else None
+
+    assert lines[:2] == ["beacon", "Available for update"]
+    assert value("Version:") == "1.1-1"
+    assert value("Repository:") == "cliff"
+    assert value("Summary:") == "A light for ships"
+    assert "Description:\nIt burns <b>all</b> night\nand is seen far off." in "\n".join(lines)
+    assert value("Vendor:") == "Cliff & Sons"
+    assert value("Packager:") == "Wren <wren@beacon.example>"
+    assert value("URL:") == "https://beacon.example/"
+    assert value("Requires:") == "/bin/sh"
+    below = lines[lines.index("Installed") :]
+    assert below[1:3] == ["Version:", "1.0-1"]
+    assert [line for line in below if line.endswith(":")] == [
+        "Version:", "Size:", "Build Time:", "Packager:", "Files:", "Change Log:"
+    ]
+
+    # The installed version needs nothing loaded.
+    assert shows(description) == [NOTE, NOTE, "Show", "Show"]
+    assert read_text(program, description, 2, "beacon 1.0-1 File List") == "/usr/share/beacon/lamp"
+    assert read_text(program, description, 3, "beacon 1.0-1 Change Log") == dated(LIT)
+    assert shows(description) == [NOTE, NOTE, "Show", "Show"]
+
+    files = read_text(program, description, 0, "beacon 1.1-1 File List")
+    assert files == "/usr/share/beacon/lamp\n/usr/share/beacon/second"
+    assert shows(description) == ["Show", NOTE, "Show", "Show"]
+    changes = read_text(program, description, 1, "beacon 1.1-1 Change Log")
+    assert sorted(changes.split("\n\n")) == sorted([dated(LIT), dated(SECOND)])
+    assert shows(description) == ["Show", "Show", "Show", "Show"]
+
+    program.press("Details", description)
+    repository = program.window("VEM Repository Description")
+    words = program.texts(repository)
+    assert "cliff" in words and "Cliff Station" in words and "file://" in words
+    program.press("Close", repository)
+    program.wait_closed("VEM Repository Description")
+
+    program.window(DESCRIPTION)
+    program.key("Escape")
+    program.wait_closed(DESCRIPTION)
+    wait_for(program.is_ready, "the main window to be usable again")
+
+
+def dated(change: str) -> str:
+    """A change as the program words it: a day below ten has a blank before it."""
+    return change.replace(" 06 ", "  6 ").replace(" 04 ", "  4 ")
+
+
+if __name__ == "__main__":
+    raise SystemExit(pytest.main([__file__]))
