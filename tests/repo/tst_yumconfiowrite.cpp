@@ -265,6 +265,8 @@ void TestYumConfIOWrite::fileNamesAreThoseOfTheDisk()
     QCOMPARE(names(root(), "/etc/one"), (QList<QByteArray>{"?.repo", "\xe4.repo"}));
     QCOMPARE(content(root(), "/etc/one/?.repo"), QByteArray("[?]\n\n[?]\n"));
     QCOMPARE(root().conf.repos[0].file, QStringLiteral("/etc/one/?.repo"));
+    // The toolkit can't remove a name that isn't in its coding.
+    root().remove("/etc/one/\xe4.repo");
 }
 
 void TestYumConfIOWrite::otherOptionsWithoutALineFeedAreWrittenSo()
