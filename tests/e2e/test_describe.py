@@ -121,6 +121,21 @@ def test_a_row_is_described_with_files_change_log_and_repository(beacon: Estate,
     wait_for(program.is_ready, "the main window to be usable again")
 
 
+def test_a_package_that_was_erased_meanwhile_is_described_as_far_as_it_is_known(beacon: Estate, start: Start) -> None:
+    program = start(beacon)
+    program.wait_ready()
+    program.click_cell("beacon", NAME_COLUMN)
+    beacon.rpm("-e", "beacon")
+    program.press("Describe", program.window("VEM - "))
+    description = program.window(DESCRIPTION)
+    lines = program.texts(description).split("\n")
+    assert lines[lines.index("Installed") + 1 :][:2] == ["Version:", "1.0-1"]
+    assert read_text(program, description, 2, "beacon 1.0-1 File List") == ""
+    assert read_text(program, description, 3, "beacon 1.0-1 Change Log") == ""
+    program.press("Close", description)
+    program.wait_closed(DESCRIPTION)
+
+
 def dated(change: str) -> str:
     """A change as the program words it: a day below ten has a blank before it."""
     return change.replace(" 06 ", "  6 ").replace(" 04 ", "  4 ")
