@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "repo/RepoEditorConfigDialog.h"
+
+#include "repo/YumConfIO.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+RepoEditor::ConfigDialog::ConfigDialog(YumConfIO* conf, QWidget* parent)
+    : HDialog(parent),
+      yumConfIO(conf)
+{
+    setWindowTitle(tr("VEM Repository Configuration"));
+    setAttribute(Qt::WA_ShowModal);
+
+    auto* const layout = new QVBoxLayout(this);
+    auto* const grid = new QGridLayout;
+    config = std::make_unique<Config>(grid);
+    layout->addLayout(grid);
+
+    statusLabel = new QLabel(this);
+    initialPalette = statusLabel->palette();
+    resetButton = createButton(tr("Reset"), tr("Undo changes to this repository configuration"));
+    QPushButton* const cancelButton =
+        createButton(tr("Cancel"), tr("Undo changes to this repository configuration and close the window"));
+    QPushButton* const okButton =
+        createButton(tr("OK"), tr("Apply changes to all repository configurations, and close the window"));
+    okButton->setDefault(true);
+
+    auto* const row = new QHBoxLayout;
+    row->addWidget(statusLabel);
+    row->addStretch();
+    row->addWidget(resetButton);
+    row->addWidget(cancelButton);
+    row->addWidget(okButton);
+    layout->addLayout(row);
+
+    connect(resetButton, &QPushButton::clicked, this, &ConfigDialog::reset);
+    connect(cancelButton, &QPushButton::clicked, this, &ConfigDialog::cancel);
+    connect(okButton, &QPushButton::clicked, this, &ConfigDialog::ok);
+    connect(config.get(), &Config::changed, this, &ConfigDialog::changed);
+    config->disable();
+}
+
+RepoEditor::ConfigDialog::~ConfigDialog() = default;
+
+void RepoEditor::ConfigDialog::setEntry(Repo::Entry* edited)
+{
+    entry = edited;
+    config->setEntry(*entry);
+    updateStatusLabel();
+}
+
+void RepoEditor::ConfigDialog::setVisible(bool visible)
+{
+    if (visible) {
+        config->setDefaults(yumConfIO->mainEnabled, yumConfIO->mainGpgcheck);
+        setHasChanged(false);
+        config->setFocus();
+    }
+    HDialog::setVisible(visible);
+}
+
+void RepoEditor::ConfigDialog::changed()
+{
+    setHasChanged(true);
+}
+
+void RepoEditor::ConfigDialog::reset()
+{
+    config->setEntry(*entry);
+    setHasChanged(false);
+}
+
+void RepoEditor::ConfigDialog::cancel()
+{
+    reject();
+}
+
+void RepoEditor::ConfigDialog::ok()
+{
+    if (!hasChanged) {
+        reject();
+        return;
+    }
+    Repo::Entry const edited = config->toEntry();
+    yumConfIO->reposEnabled[edited.id] =
+        edited.enabled == Repo::Yes || (edited.enabled == Repo::Default && yumConfIO->mainEnabled);
+    *entry = edited;
+    accept();
+}
+
+QPushButton* RepoEditor::ConfigDialog::createButton(QString const& text, QString const& toolTip)
+{
+    auto* const button = new QPushButton(text, this);
+    button->setToolTip(toolTip);
+    return button;
+}
+
+void RepoEditor::ConfigDialog::updateStatusLabel()
+{
+    if (!config->setStatus(yumConfIO, statusLabel)) {
+        statusLabel->setPalette(initialPalette);
+        statusLabel->clear();
+    }
+}
+
+void RepoEditor::ConfigDialog::setHasChanged(bool value)
+{
+    hasChanged = value;
+    resetButton->setEnabled(value);
+    updateStatusLabel();
+}
