@@ -33,6 +33,7 @@ private Q_SLOTS:
     void severalInstalledVersionsMakeAChain();
     void packageWithoutMembersIsReportedAndKept();
 
+    void barsShowTheWork();
     void clearStartsAfresh();
     void failedCollectionLeavesNoRows();
 };
@@ -341,6 +342,31 @@ void TestYumIOCollect::packageWithoutMembersIsReportedAndKept()
     QVERIFY(bare);
     QCOMPARE(bare->verRel + bare->repo + bare->arch + bare->summary, QString());
     QCOMPARE(bare->sizeText, QStringLiteral("0b"));
+}
+
+void TestYumIOCollect::barsShowTheWork()
+{
+    SCRIPT("def answer():\n"
+           "    yumIOC.collectGrabMeterStart('/base/repomd.xml', '', '', 70, None)\n"
+           "    yumIOC.collectGrabMeterUpdate(70)\n"
+           "    yumIOC.collectGrabMeterStart('/base/x', '', '', 'a size', None)\n"
+           "standin.instead('setupRepos', answer)");
+    QStringList shown;
+    boxes->whileShown([&] {
+        shown = {
+            totalBar->text(), QString::number(totalBar->maximum()), QString::number(totalBar->value()),
+            itemBar->text(), QString::number(itemBar->maximum())};
+    });
+    QVERIFY(engine->collect({}));
+    QCOMPARE(boxes->take().size(), 1);
+    // Two acts of ten: 1000 + 2800 of 24000.
+    QCOMPARE(
+        shown, (QStringList{
+                   "Initializing: Total Progress (15%)", "24000", "3800",
+                   "Downloading repository contents repomd for base (100%)", "70"}));
+    QCoreApplication::sendPostedEvents();
+    QCOMPARE(totalBar->text() + itemBar->text(), QString());
+    QVERIFY(!totalBar->isEnabled() && !itemBar->isEnabled());
 }
 
 void TestYumIOCollect::clearStartsAfresh()
