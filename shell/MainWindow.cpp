@@ -8,6 +8,8 @@
 #include "packagetable/PackageTableModel.h"
 #include "packagetable/PackageTableView.h"
 #include "repo/Execute.h"
+#include "repo/RepoAuthChecker.h"
+#include "repo/RepoEditorDialog.h"
 #include "repo/YumConfIO.h"
 #include "services/LogWindow.h"
 #include "widgets/HMenu.h"
@@ -67,7 +69,16 @@ void MainWindow::initialize()
         editRepositories(true);
         return;
     }
-    readConfiguration();
+    {
+        RepoAuth::Checker const checker(this, yumConfIO);
+        if (checker.quitRequested) {
+            quit();
+            return;
+        }
+        if (checker.credentialsChanged) {
+            yumIO->clear();
+        }
+    }
     yumIO->collect(reposEnabled);
     model->reset();
     showTable();
@@ -77,11 +88,6 @@ void MainWindow::initialize()
         std::fprintf(stderr, "vem: ready %d rows\n", yumIO->count());
         quit();
     }
-}
-
-void MainWindow::readConfiguration()
-{
-    yumConfIO->read(this);
 }
 
 void MainWindow::showTable()
@@ -150,13 +156,16 @@ void MainWindow::refresh()
 
 void MainWindow::reposChanged()
 {
-    whileBusy([this] {
-        readConfiguration();
-        rebuild();
-        if (tableArea->isHidden()) {
-            showTable();
-        }
-    });
+    setReady(false);
+    if (RepoAuth::Checker(this, yumConfIO).quitRequested) {
+        quit();
+        return;
+    }
+    rebuild();
+    if (tableArea->isHidden()) {
+        showTable();
+    }
+    setReady(true);
 }
 
 void MainWindow::yumConfIOChanged()
@@ -198,10 +207,12 @@ void MainWindow::displayLog()
 
 void MainWindow::editRepositories(bool forceReposChanged)
 {
-    // There is no editor to leave yet, so what its end would bring about follows at once.
-    if (forceReposChanged) {
-        reposChanged();
+    if (!repoEditorDialog) {
+        repoEditorDialog = new RepoEditor::Dialog(yumIO, yumConfIO, this);
+        connect(repoEditorDialog, &RepoEditor::Dialog::reposChanged, this, &MainWindow::reposChanged);
     }
+    repoEditorDialog->forceReposChanged = forceReposChanged;
+    repoEditorDialog->exec();
 }
 
 void MainWindow::cleanHeaders()
@@ -402,10 +413,13 @@ void MainWindow::clearActions()
 
 void MainWindow::apply()
 {
-    whileBusy([this] {
-        if (yumIO->apply()) {
-            readConfiguration();
-            rebuild();
+    setReady(false);
+    if (yumIO->apply()) {
+        if (RepoAuth::Checker(this, yumConfIO).quitRequested) {
+            quit();
+            return;
         }
-    });
+        rebuild();
+    }
+    setReady(true);
 }

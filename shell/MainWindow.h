@@ -30,6 +30,11 @@ class Model;
 class View;
 } // namespace PackageTable
 
+namespace RepoEditor
+{
+class Dialog;
+}
+
 /// The program's one top-level window. Its constructor builds the whole widget tree and the engine object;
 /// `show` arms the start-up, which runs from the event loop. Its slots are the program's control flow on the
 /// GUI thread: short fixed sequences of calls of engine, model and view, between `setReady(false)` and
@@ -94,8 +99,6 @@ private:
     void showTable();
     /// Starts a command of the share directory, the first word, with the others as its arguments.
     void runShareCommand(QStringList const& words);
-    /// Reads the configuration, which seeds `reposEnabled`. What can't be read has been reported.
-    void readConfiguration();
     /// Search is slow enough to want the busy state; Filter isn't.
     [[nodiscard]] bool isSearching() const;
     template <typename Step>
@@ -128,5 +131,6 @@ private:
     PackageTable::View* view = nullptr;
     QPushButton* describeButton = nullptr;
     QPushButton* applyButton = nullptr;
+    RepoEditor::Dialog* repoEditorDialog = nullptr; ///< null until first used
     Log::Window* logWindow = nullptr; ///< null until first used; top-level, deleted with this window
 };
