@@ -50,6 +50,7 @@ YumIO::~YumIO()
         repos.reset();
         yumIO.reset();
         pyYumIOClass.reset();
+        internedNames.clear();
         // What the interpreter runs at its end must not reach an engine that is going.
         YumIOC::initialize(nullptr);
     } else {

@@ -14,6 +14,8 @@
 #include <QSet>
 #include <QStringList>
 #include <functional>
+#include <string_view>
+#include <unordered_map>
 
 class HProgressBar;
 class Progress;
@@ -352,7 +354,14 @@ protected:
     long long pyTime(PyObject* object);
     long long pyTimeDec(PyRef object);
     PyObject* pyDictGetItem(PyObject* dict, QString const& key);
+    /// Null, and no exception set, where there is no such attribute.
     PyRef pyAttribute(PyObject* object, char const* name);
+    /// Calls a method without argument or with one text, as cheaply as the interpreter allows: collection
+    /// asks half a million times. Empty, and nothing is reported, when anything goes wrong; the caller then
+    /// asks again by `pyMethodCall`, which reports. `method` and `argument` must be literals.
+    PyRef pyQuickCall(PyObject* object, char const* method, char const* argument = nullptr);
+    /// The text as an interned object, borrowed. Kept until the engine's end.
+    PyObject* internedName(char const* name);
     /// A text that a callback got: str, bytes and (where `none` allows it) None; else the report, and empty.
     QString pyProgressText(PyObject* object, bool noneIsEmpty, char const* report);
     QString simpleString(PyObject* pkg, char const* key);
@@ -400,8 +409,9 @@ protected:
     PyRef pyYumIOClass;                  ///< the helper script's class
     PyRef yumIO;                         ///< its one instance; set means "initialized"
     PyRef repos;                         ///< the dictionary yumIO.repos.repos
-    int jobHolds = 0;                    ///< JobHold objects alive
-    bool locked = false;                 ///< this process holds the package library's lock
+    std::unordered_map<std::string_view, PyRef> internedNames;
+    int jobHolds = 0;    ///< JobHold objects alive
+    bool locked = false; ///< this process holds the package library's lock
     bool yumVersionKnown = false;
     QString yumVersionText;
     bool sqliteKnown = false, sqlite = false;

@@ -269,7 +269,8 @@ bool YumIO::collectPkg(Package::Entry*& slot, Package::State state, PyRef packag
     entry.state = state;
     entry.kind = getPkgKind(pkg);
     entry.name = pyStringDec(pyAttribute(pkg, "name"));
-    entry.verRel = pyStringDec(pyMethodCall(pkg, "printVer", "()"));
+    PyRef version = pyQuickCall(pkg, "printVer");
+    entry.verRel = pyStringDec(version ? std::move(version) : pyMethodCall(pkg, "printVer", "()"));
     entry.repo = simpleString(pkg, "repoid");
     entry.arch = pyStringDec(pyAttribute(pkg, "arch"));
     entry.size = sizeOf(pkg);

@@ -141,22 +141,48 @@ PyObject* YumIO::pyDictGetItem(PyObject* dict, QString const& key)
     return PyDict_GetItemString(dict, key.toUtf8().constData());
 }
 
+PyObject* YumIO::internedName(char const* name)
+{
+    PyRef& known = internedNames[name];
+    if (!known) {
+        known = PyRef::steal(PyUnicode_InternFromString(name));
+    }
+    return known.get();
+}
+
 PyRef YumIO::pyAttribute(PyObject* object, char const* name)
 {
-    PyRef value = PyRef::steal(object ? PyObject_GetAttrString(object, name) : nullptr);
+    PyRef value = PyRef::steal(object ? PyObject_GetAttr(object, internedName(name)) : nullptr);
     if (!value) {
         PyErr_Clear();
     }
     return value;
 }
 
+PyRef YumIO::pyQuickCall(PyObject* object, char const* method, char const* argument)
+{
+    if (!object || PyErr_Occurred()) {
+        return {};
+    }
+    PyRef answer = PyRef::steal(
+        argument ? PyObject_CallMethodOneArg(object, internedName(method), internedName(argument))
+                 : PyObject_CallMethodNoArgs(object, internedName(method)));
+    if (!answer) {
+        PyErr_Clear();
+    }
+    return answer;
+}
+
 QString YumIO::simpleString(PyObject* pkg, char const* key)
 {
     PyGILStateWrapper const lock(true);
-    pyExceptStart();
-    pyExceptExpect(PyExc_KeyError);
-    PyRef value = pyMethodCall(pkg, "returnSimple", "(s)", key);
-    pyExceptClear();
+    PyRef value = pyQuickCall(pkg, "returnSimple", key);
+    if (!value) {
+        pyExceptStart();
+        pyExceptExpect(PyExc_KeyError);
+        value = pyMethodCall(pkg, "returnSimple", "(s)", key);
+        pyExceptClear();
+    }
     if (!value || value.get() == Py_None) {
         return QString();
     }
@@ -203,7 +229,8 @@ unsigned long long YumIO::sizeOf(PyObject* pkg)
 
 long long YumIO::buildTimeOf(PyObject* pkg)
 {
-    return pyTimeDec(pyMethodCall(pkg, "returnSimple", "(s)", "buildtime"));
+    PyRef time = pyQuickCall(pkg, "returnSimple", "buildtime");
+    return pyTimeDec(time ? std::move(time) : pyMethodCall(pkg, "returnSimple", "(s)", "buildtime"));
 }
 
 QString YumIO::bytesFormat(unsigned long long bytes)
