@@ -31,8 +31,8 @@ QString value(YumIO& yumIO, Package::Entry const& entry)
 
 struct Field
 {
-    char const* label;
-    Value value;
+    char const* label = nullptr;
+    Value value = nullptr;
     bool inBrief = false; ///< also shown of an installed version below another entry
 };
 
@@ -167,7 +167,7 @@ void Area::addPair(int& row, QString const& label, QString const& text)
 Area::Button Area::addButton(int& row, QString const& label, QString const& buttonText)
 {
     addLabel(row, label);
-    Button const result{buttonText, makeButton(buttonText), row};
+    Button result{buttonText, makeButton(buttonText), row};
     grid->addWidget(result.button, row, valueColumn, Qt::AlignLeft | Qt::AlignTop);
     ++row;
     return result;
@@ -180,7 +180,7 @@ Area::Button Area::addPairButton(
         return {};
     }
     addLabel(row, label);
-    Button const result{buttonText, makeButton(buttonText), row};
+    Button result{buttonText, makeButton(buttonText), row};
     auto* const cell = new QHBoxLayout;
     cell->addWidget(makeText(text), 0, Qt::AlignTop);
     cell->addWidget(result.button, 0, Qt::AlignTop);

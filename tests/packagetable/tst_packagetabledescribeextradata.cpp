@@ -2,6 +2,7 @@
 // File lists and change logs in the description dialog, and the loading of the data behind them.
 #include "DescribeTest.h"
 
+#include <QScopeGuard>
 #include <QTimer>
 
 class TestDescribeExtraData final : public DescribeTest
@@ -111,6 +112,7 @@ private Q_SLOTS:
             }
             poll.stop();
             tried = true;
+            auto const end = qScopeGuard([this] { letGo(); });
             auto const closeButtons = dialog->findChildren<QPushButton*>();
             for (QPushButton const* const pushButton : closeButtons) {
                 QVERIFY(!pushButton->isEnabled());
@@ -127,7 +129,6 @@ private Q_SLOTS:
                 QTest::keyClick(button(*dialog, label), Qt::Key_Space);
             }
             QCOMPARE(engine->calls(), QStringList(QStringLiteral("collectFileLists")));
-            letGo();
         });
         boxes->whileShown([&] {
             if (QApplication::activeModalWidget() == dialog.get() && !tried) {
