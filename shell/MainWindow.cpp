@@ -8,7 +8,6 @@
 #include "packagetable/PackageTableModel.h"
 #include "packagetable/PackageTableView.h"
 #include "repo/Execute.h"
-#include "repo/RepoAuthChecker.h"
 #include "repo/RepoEditorDialog.h"
 #include "repo/YumConfIO.h"
 #include "services/LogWindow.h"
@@ -69,16 +68,7 @@ void MainWindow::initialize()
         editRepositories(true);
         return;
     }
-    {
-        RepoAuth::Checker const checker(this, yumConfIO);
-        if (checker.quitRequested) {
-            quit();
-            return;
-        }
-        if (checker.credentialsChanged) {
-            yumIO->clear();
-        }
-    }
+    readConfiguration();
     yumIO->collect(reposEnabled);
     model->reset();
     showTable();
@@ -88,6 +78,11 @@ void MainWindow::initialize()
         std::fprintf(stderr, "vem: ready %d rows\n", yumIO->count());
         quit();
     }
+}
+
+void MainWindow::readConfiguration()
+{
+    yumConfIO->read(this);
 }
 
 void MainWindow::showTable()
@@ -156,16 +151,13 @@ void MainWindow::refresh()
 
 void MainWindow::reposChanged()
 {
-    setReady(false);
-    if (RepoAuth::Checker(this, yumConfIO).quitRequested) {
-        quit();
-        return;
-    }
-    rebuild();
-    if (tableArea->isHidden()) {
-        showTable();
-    }
-    setReady(true);
+    whileBusy([this] {
+        readConfiguration();
+        rebuild();
+        if (tableArea->isHidden()) {
+            showTable();
+        }
+    });
 }
 
 void MainWindow::yumConfIOChanged()
@@ -413,13 +405,10 @@ void MainWindow::clearActions()
 
 void MainWindow::apply()
 {
-    setReady(false);
-    if (yumIO->apply()) {
-        if (RepoAuth::Checker(this, yumConfIO).quitRequested) {
-            quit();
-            return;
+    whileBusy([this] {
+        if (yumIO->apply()) {
+            readConfiguration();
+            rebuild();
         }
-        rebuild();
-    }
-    setReady(true);
+    });
 }
