@@ -8,6 +8,7 @@
 #include "packagetable/PackageTableModel.h"
 #include "packagetable/PackageTableView.h"
 #include "repo/Execute.h"
+#include "repo/RepoAuthChecker.h"
 #include "repo/RepoEditorDialog.h"
 #include "repo/YumConfIO.h"
 #include "services/LogWindow.h"
@@ -68,7 +69,16 @@ void MainWindow::initialize()
         editRepositories(true);
         return;
     }
-    readConfiguration();
+    {
+        RepoAuth::Checker const checker(this, yumConfIO);
+        if (checker.quitRequested) {
+            quit();
+            return;
+        }
+        if (checker.credentialsChanged) {
+            yumIO->clear();
+        }
+    }
     yumIO->collect(reposEnabled);
     model->reset();
     showTable();
@@ -78,11 +88,6 @@ void MainWindow::initialize()
         std::fprintf(stderr, "vem: ready %d rows\n", yumIO->count());
         quit();
     }
-}
-
-void MainWindow::readConfiguration()
-{
-    yumConfIO->read(this);
 }
 
 void MainWindow::showTable()
@@ -151,13 +156,16 @@ void MainWindow::refresh()
 
 void MainWindow::reposChanged()
 {
-    whileBusy([this] {
-        readConfiguration();
-        rebuild();
-        if (tableArea->isHidden()) {
-            showTable();
-        }
-    });
+    setReady(false);
+    if (RepoAuth::Checker(this, yumConfIO).quitRequested) {
+        quit();
+        return;
+    }
+    rebuild();
+    if (tableArea->isHidden()) {
+        showTable();
+    }
+    setReady(true);
 }
 
 void MainWindow::yumConfIOChanged()
@@ -405,10 +413,13 @@ void MainWindow::clearActions()
 
 void MainWindow::apply()
 {
-    whileBusy([this] {
-        if (yumIO->apply()) {
-            readConfiguration();
-            rebuild();
+    setReady(false);
+    if (yumIO->apply()) {
+        if (RepoAuth::Checker(this, yumConfIO).quitRequested) {
+            quit();
+            return;
         }
-    });
+        rebuild();
+    }
+    setReady(true);
 }

@@ -99,8 +99,6 @@ private:
     void showTable();
     /// Starts a command of the share directory, the first word, with the others as its arguments.
     void runShareCommand(QStringList const& words);
-    /// Reads the configuration, which seeds `reposEnabled`. What can't be read has been reported.
-    void readConfiguration();
     /// Search is slow enough to want the busy state; Filter isn't.
     [[nodiscard]] bool isSearching() const;
     template <typename Step>
