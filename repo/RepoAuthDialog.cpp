@@ -64,7 +64,8 @@ RepoAuth::Dialog::Dialog(QWidget* parent)
 
 QLabel* RepoAuth::Dialog::addValue(QGridLayout* grid, QString const& caption)
 {
-    int const row = grid->isEmpty() ? 0 : grid->rowCount();
+    // An empty grid has a row already.
+    int const row = grid->count() == 0 ? 0 : grid->rowCount();
     auto* const value = new QLabel(this);
     // What a configuration says is never markup.
     value->setTextFormat(Qt::PlainText);

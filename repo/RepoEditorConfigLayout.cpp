@@ -39,7 +39,8 @@ QLabel* labelOf(QWidget* field, QString const& text, QWidget* parent)
 
 void addRow(QGridLayout* layout, QString const& text, QWidget* field, QString const& toolTip)
 {
-    int const row = layout->rowCount() == 1 && layout->isEmpty() ? 0 : layout->rowCount();
+    // An empty grid has a row already.
+    int const row = layout->count() == 0 ? 0 : layout->rowCount();
     field->setToolTip(toolTip);
     layout->addWidget(labelOf(field, text, field->parentWidget()), row, 0);
     layout->addWidget(field, row, 1);

@@ -422,6 +422,32 @@ private Q_SLOTS:
                  QStringLiteral("Reset"), QStringLiteral("Cancel"), QStringLiteral("OK")}));
     }
 
+    void fieldsStandBelowEachOtherBesideTheirNames()
+    {
+        openBuffet(buffet(QStringLiteral("u=me&p=pw")));
+        int above = 0;
+        for (QWidget const* const field :
+             {static_cast<QWidget*>(id()), static_cast<QWidget*>(name()), static_cast<QWidget*>(urls()),
+              static_cast<QWidget*>(mirrors()), static_cast<QWidget*>(authName(QStringLiteral("u"))),
+              static_cast<QWidget*>(authPassword(QStringLiteral("p"))), static_cast<QWidget*>(enabledBox()),
+              static_cast<QWidget*>(gpgcheckBox()), static_cast<QWidget*>(otherOptions()),
+              static_cast<QWidget*>(file())}) {
+            int const top = field->mapTo(dialog.get(), QPoint(0, 0)).y();
+            QVERIFY2(top >= above, qPrintable(field->accessibleName()));
+            above = top + field->height();
+        }
+        for (QLabel const* const label : dialog->findChildren<QLabel*>()) {
+            if (QWidget const* const field = label->buddy(); field && field != otherOptions()) {
+                QRect const beside(label->mapTo(dialog.get(), QPoint(0, 0)), label->size());
+                QRect const place(field->mapTo(dialog.get(), QPoint(0, 0)), field->size());
+                QVERIFY2(place.left() > beside.right(), qPrintable(label->text()));
+                QVERIFY2(
+                    place.top() < beside.bottom() && place.bottom() > beside.top(),
+                    qPrintable(label->text()));
+            }
+        }
+    }
+
     void onlyTheFormsOwnFieldsAreOnTheScreen()
     {
         openBuffet(buffet(QStringLiteral("u=me&p=secret")));
