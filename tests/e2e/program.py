@@ -173,7 +173,10 @@ class Program:
 
     def is_ready(self) -> bool:
         """The table is filled and enabled."""
-        button = self.find("Refresh", Atspi.Role.PUSH_BUTTON)
+        return self.is_enabled("Refresh")
+
+    def is_enabled(self, name: str) -> bool:
+        button = self.find(name, Atspi.Role.PUSH_BUTTON)
         return button is not None and has_state(button, Atspi.StateType.ENABLED)
 
     def wait_ready(self, timeout: float = 60.0) -> None:
