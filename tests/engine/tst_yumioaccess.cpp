@@ -9,6 +9,7 @@ private Q_SLOTS:
     void fieldsOfAnEntry();
     void keysOfGroupsAndPackagesDiffer();
     void textsOfStatesAndKinds();
+    void packageWhoseMembersRaiseIsReportedAndKept();
     void rowsAreReadInOrder();
     void rowsAppearWhenTheCollectionHasEnded();
     void variablesOfTheConfiguration();
@@ -64,6 +65,32 @@ void TestYumIOAccess::textsOfStatesAndKinds()
     entry.kind = Package::Suite;
     QCOMPARE(engine->getState(entry), QStringLiteral("Available for update"));
     QCOMPARE(engine->getKind(entry), QStringLiteral("Suite of packages"));
+}
+
+void TestYumIOAccess::packageWhoseMembersRaiseIsReportedAndKept()
+{
+    SCRIPT("class Thorn:\n"
+           "    name = 'thorn'\n"
+           "    def fail(self, *args): raise ValueError('prickly')\n"
+           "    arch = size = hdr = prco = files = changelog = property(fail)\n"
+           "    printVer = returnSimple = localPkg = localHdr = fail\n"
+           "standin.world.available = [Thorn()]\nstandin.world.groups = {}");
+    QVERIFY(engine->collect({}));
+    QVERIFY(!boxes->take().isEmpty());
+    Package::Entry const& thorn = *package("thorn");
+    QCOMPARE(thorn.kind, Package::Ordinary);
+    QCOMPARE(thorn.verRel + thorn.arch + thorn.repo + thorn.summary, QString());
+    // Each text is asked anew, and reported anew.
+    QCOMPARE(engine->getLicense(thorn), QString());
+    QCOMPARE(boxes->takeTexts(), QStringList{"Internal error: python exception occurred from C code\n"});
+    // What isn't there is no error, for whatever reason.
+    QCOMPARE(engine->getFiles(thorn) + engine->getChangeLog(thorn) + engine->getProvides(thorn), QString());
+    QCOMPARE(engine->getInstallTime(thorn) + engine->getRelocations(thorn), QString());
+    package("thorn")->action = Package::Install;
+    SCRIPT("standin.instead('apply', lambda *lists: None)");
+    QVERIFY(!engine->apply());
+    QCOMPARE(boxes->takeTexts(), QStringList{"Internal error: python exception occurred from C code\n"});
+    QCOMPARE(engine->run.nHdrs, 1U);
 }
 
 void TestYumIOAccess::rowsAreReadInOrder()

@@ -30,6 +30,7 @@ private Q_SLOTS:
     void otherExceptionsEndWellForTheEngine();
     void unexpectedExceptionAfterConsentStillRebuilds();
     void missingApplyIsReported();
+    void failedFlushChangesNothing();
     void applyWorksAgainAfterAFailure();
     void everyApplyStartsFromNothing();
 
@@ -296,6 +297,17 @@ void TestYumIOApply::missingApplyIsReported()
     SCRIPT("standin.without('apply')");
     QVERIFY(!engine->apply());
     QCOMPARE(boxes->takeTexts(), QStringList{"Internal error: method apply not found\n"});
+}
+
+void TestYumIOApply::failedFlushChangesNothing()
+{
+    applyDoes("yumIOC.userconfirm()");
+    SCRIPT("standin.fail('flush', ValueError('odd'))");
+    QVERIFY(engine->apply());
+    QCOMPARE(boxes->take().size(), 2);
+    engine->clear();
+    QCOMPARE(boxes->takeTexts(), QStringList{"Internal error: python exception occurred from C code\n"});
+    QVERIFY(engine->collect({}));
 }
 
 void TestYumIOApply::applyWorksAgainAfterAFailure()
