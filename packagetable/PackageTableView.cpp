@@ -7,7 +7,6 @@
 #include "packagetable/PackageTableOtherContextMenu.h"
 #include "packagetable/PackageTableSortFilterProxyModel.h"
 
-#include <QAccessible>
 #include <QEvent>
 #include <QHeaderView>
 #include <limits>
@@ -151,24 +150,9 @@ void View::currentChanged(QModelIndex const& current, QModelIndex const& previou
 
 // What a user of the keyboard sees and hears of the move: the frame of the current cell, which stays in
 // sight, and the focus of the screen reader.
-void View::showMoveOfCurrent(QModelIndex const& current, QModelIndex const& previous)
+bool View::showsTextOnly(int column) const
 {
-    if (previous.isValid()) {
-        update(previous);
-    }
-    if (!current.isValid()) {
-        return;
-    }
-    update(current);
-    if (isVisible() && hasAutoScroll()) {
-        scrollTo(current);
-    }
-    if (QAccessible::isActive()) {
-        // A table's children are its cells, row by row, and a table has a row and a column of headers.
-        QAccessibleEvent event(this, QAccessible::Focus);
-        event.setChild((current.row() + 1) * (proxy->columnCount() + 1) + current.column() + 1);
-        QAccessible::updateAccessibility(&event);
-    }
+    return column >= NameColumn;
 }
 
 } // namespace PackageTable

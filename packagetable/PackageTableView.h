@@ -59,10 +59,9 @@ public Q_SLOTS:
 protected:
     void changeEvent(QEvent* event) override;
     void currentChanged(QModelIndex const& current, QModelIndex const& previous) override;
+    [[nodiscard]] bool showsTextOnly(int column) const override;
 
 private:
-    void showMoveOfCurrent(QModelIndex const& current, QModelIndex const& previous);
-
     Model* packages; ///< not the view's own model(), which is the proxy
     SortFilterProxyModel* proxy;
     std::unique_ptr<ActionContextMenu> actionContextMenu; ///< null until first used, like the other one

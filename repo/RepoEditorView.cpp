@@ -4,7 +4,6 @@
 #include "repo/RepoEditorContextMenu.h"
 #include "repo/RepoEditorModel.h"
 
-#include <QAccessible>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QSortFilterProxyModel>
@@ -133,24 +132,4 @@ void View::keyPressEvent(QKeyEvent* event)
 
 // What a user of the keyboard sees and hears of the move: the frame of the current cell, which stays in
 // sight, and the focus of the screen reader.
-void View::showMoveOfCurrent(QModelIndex const& current, QModelIndex const& previous)
-{
-    if (previous.isValid()) {
-        update(previous);
-    }
-    if (!current.isValid()) {
-        return;
-    }
-    update(current);
-    if (isVisible() && hasAutoScroll()) {
-        scrollTo(current);
-    }
-    if (QAccessible::isActive()) {
-        // A table's children are its cells, row by row, and a table has a row and a column of headers.
-        QAccessibleEvent event(this, QAccessible::Focus);
-        event.setChild((current.row() + 1) * (proxy->columnCount() + 1) + current.column() + 1);
-        QAccessible::updateAccessibility(&event);
-    }
-}
-
 } // namespace RepoEditor

@@ -52,8 +52,6 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    void showMoveOfCurrent(QModelIndex const& current, QModelIndex const& previous);
-
     Model* repositories; ///< not the view's own model(), which is the proxy
     QSortFilterProxyModel* proxy;
     std::unique_ptr<ContextMenu> contextMenu; ///< null until first used

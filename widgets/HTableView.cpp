@@ -5,6 +5,7 @@
 #include "widgets/HItemDelegate.h"
 #include "widgets/Sizing.h"
 
+#include <QAccessible>
 #include <QHeaderView>
 #include <QScrollBar>
 #include <algorithm>
@@ -117,4 +118,24 @@ QList<QModelIndex> HTableView::selectedRows() const
         }
     }
     return rows;
+}
+
+void HTableView::showMoveOfCurrent(QModelIndex const& current, QModelIndex const& previous)
+{
+    if (previous.isValid()) {
+        update(previous);
+    }
+    if (!current.isValid()) {
+        return;
+    }
+    update(current);
+    if (isVisible() && hasAutoScroll()) {
+        scrollTo(current);
+    }
+    if (QAccessible::isActive()) {
+        // A table's children are its cells, row by row, and a table has a row and a column of headers.
+        QAccessibleEvent event(this, QAccessible::Focus);
+        event.setChild((current.row() + 1) * (model()->columnCount() + 1) + current.column() + 1);
+        QAccessible::updateAccessibility(&event);
+    }
 }

@@ -49,6 +49,10 @@ protected:
     /// time; false in this class.
     [[nodiscard]] virtual bool showsTextOnly(int column) const;
 
+    /// What the toolkit does when the current cell moves, for a view whose `currentChanged` is its own:
+    /// repaints both cells, scrolls to the new one and tells it to screen readers.
+    void showMoveOfCurrent(QModelIndex const& current, QModelIndex const& previous);
+
 private:
     [[nodiscard]] int rowHeightForHint() const;
 
