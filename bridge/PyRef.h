@@ -3,7 +3,7 @@
 
 #include <utility>
 
-struct _object;
+struct _object; // NOLINT(bugprone-reserved-identifier): the interpreter's own name
 using PyObject = _object;
 
 /// The owner of one reference to a Python object, or of none. Every reference count of this program that

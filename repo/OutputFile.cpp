@@ -22,7 +22,7 @@ bool OutputFile::open(QByteArray const& name, bool isPrivate)
     descriptor = ::open(name.constData(), O_WRONLY | O_CREAT | O_CLOEXEC, isPrivate ? 0600 : 0666);
     if (descriptor < 0)
         return false;
-    struct stat status;
+    struct stat status = {};
     if (fstat(descriptor, &status) != 0)
         return false;
     isRegular = S_ISREG(status.st_mode);

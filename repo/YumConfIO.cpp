@@ -21,14 +21,14 @@ char const* YumConfIO::fileName()
     static constexpr char const* preferred = "/etc/yum/yum.conf";
     static constexpr char const* fallback = "/etc/yum.conf";
 
-    struct stat status;
+    struct stat status = {};
     return stat(diskName(QString::fromLatin1(preferred)).constData(), &status) == 0 ? preferred : fallback;
 }
 
 QByteArray YumConfIO::diskName(QString const& path)
 {
     QByteArray const root = qgetenv("VEMROOT");
-    QByteArray const name = path.toLatin1();
+    QByteArray name = path.toLatin1();
     if (root.isEmpty())
         return name;
     return name.startsWith('/') ? root + name : root + '/' + name;

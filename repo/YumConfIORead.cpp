@@ -97,7 +97,7 @@ bool YumConfIO::readDirectoryFile(QString const& path)
 {
     unfinishedFile = path;
     QByteArray const name = diskName(path);
-    struct stat status;
+    struct stat status = {};
     if (stat(name.constData(), &status) != 0) {
         error(tr("Unable to stat repository configuration file %1").arg(path));
         return false;

@@ -240,7 +240,7 @@ bool YumConfIO::removeUnusedFilesOf(QString const& directory, QSet<QString> cons
     while (dirent const* const item = ::readdir(stream.get())) {
         QString const path = directory + u'/' + QString::fromLatin1(item->d_name);
         QByteArray const name = diskName(path);
-        struct stat status;
+        struct stat status = {};
         if (stat(name.constData(), &status) != 0) {
             error(tr("Unable to stat repository configuration file %1").arg(path));
             return false;

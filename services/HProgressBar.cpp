@@ -23,7 +23,7 @@ void HProgressBar::reset()
 
 QString HProgressBar::text() const
 {
-    QString const base = QProgressBar::text();
+    QString base = QProgressBar::text();
     if (activity.isEmpty()) {
         return base;
     }
