@@ -39,12 +39,12 @@ YumIO::~YumIO()
         if (locked) {
             PyObject* const lockError = pyLookup("yum.Errors.LockError");
             pyExceptStart();
-            pyExceptExpect(lockError);
+            YumIO::pyExceptExpect(lockError);
             PyRef const result = pyMethodCall(yumIO.get(), "unlock", "()");
             if (pyExceptMatches(result.get(), lockError)) {
                 pythonException(tr("Unable to release yum lock"));
             }
-            pyExceptClear();
+            YumIO::pyExceptClear();
         }
         dropEntries();
         repos.reset();

@@ -106,13 +106,13 @@ private:
     QWidget* parent;
     Model* model;
     View* view;
-    QPushButton* browseButton;
-    QPushButton* editButton;
-    QPushButton* copyButton;
-    QPushButton* removeButton;
-    QLabel* statusLabel;
-    QPushButton* resetAllButton;
-    QPushButton* applyButton;
+    QPushButton* browseButton = nullptr;
+    QPushButton* editButton = nullptr;
+    QPushButton* copyButton = nullptr;
+    QPushButton* removeButton = nullptr;
+    QLabel* statusLabel = nullptr;
+    QPushButton* resetAllButton = nullptr;
+    QPushButton* applyButton = nullptr;
     ConfigDialog* configDialog; ///< serves every edit
     QPalette initialPalette;    ///< of the status label
     YumIO* yumIO;
