@@ -8,6 +8,12 @@
 
 constexpr unsigned long long minimumWeight = 10240;
 
+/// Acts of a header that is fetched while solving: as much as ten packages of one solver pass.
+constexpr unsigned int actsPerHeader = 10;
+
+/// Steps of the total that are set aside for rebuilding packages from deltas.
+constexpr unsigned long long deltaSteps = 2000;
+
 /// Downloading or removing a package.
 constexpr unsigned long long weightOfSize(unsigned long long size)
 {

@@ -5,6 +5,7 @@
 
 #include "engine/YumIO.h"
 
+#include "engine/TransactionWeight.h"
 #include "services/Progress.h"
 #include "services/ProgressUser.h"
 #include "services/YumIOCapturersUser.h"
@@ -20,12 +21,9 @@ namespace
 // Steps of the first run of the bars: preparing, then solving with its header downloads.
 constexpr Steps preparingSteps = 100;
 constexpr Steps solverSteps = 9900;
-/// A header weighs as much as ten packages of one solver pass.
-constexpr unsigned int actsPerHeader = 10;
 
 // Steps of the second run.
 constexpr unsigned long long downloadSteps = 24000;
-constexpr Steps deltaSteps = 2000;
 constexpr Steps testSteps = 2000;
 /// Preparing 100, getting ready 1000, the transaction 8000.
 constexpr Steps transactionSteps = 9100;

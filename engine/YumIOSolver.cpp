@@ -5,16 +5,10 @@
 
 #include "engine/YumIO.h"
 
+#include "engine/TransactionWeight.h"
 #include "services/Progress.h"
 
 #include <QFile>
-
-namespace
-{
-
-constexpr unsigned int actsPerHeader = 10;
-
-} // namespace
 
 PyObject* YumIO::dsTsCheck(PyObject*, PyObject*)
 {

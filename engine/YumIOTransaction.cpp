@@ -12,13 +12,11 @@
 namespace
 {
 
-constexpr Steps deltaSteps = 2000;
 constexpr Steps getReadySteps = 1000;
 constexpr Steps testSteps = 1000;
 constexpr Steps runSteps = 8000;
 /// The test is worth this part of the transaction's work.
 constexpr unsigned long long testShare = 20;
-constexpr unsigned int actsPerHeader = 10;
 
 // Bits of rpm's rpmCallbackType.
 constexpr long instProgress = 0x001;
