@@ -2,11 +2,12 @@
 # SPDX-License-Identifier: GPL-2.0-or-later
 """Makes a large estate to measure on: N packages in repository metadata, a part of them installed.
 
-    make_estate.py [--packages N] [--installed N] [--updates N] DIRECTORY
+    make_estate.py [--packages N] [--installed N] [--updates N] [--real-updates] DIRECTORY
 
 The metadata are written straight as XML: there are no rpms behind them, so packages can be listed, searched
-and solved for, not downloaded. The installed packages are real entries of a real rpm database. The
-same numbers always give the same estate; one that is complete is kept.
+and solved for, not downloaded. With --real-updates, there are (empty) rpms behind the updates, which can be
+installed. The installed packages are real entries of a real rpm database. The same numbers always give the
+same estate; one that is complete is kept.
 """
 
 from __future__ import annotations
@@ -31,6 +32,8 @@ sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "estate"))
 from rpmestate import Estate, EstateError  # noqa: E402
 
 STAMP = "complete"
+FORMAT = 1
+"""To be raised when the same numbers begin to mean another estate."""
 INSTALL_AT_ONCE = 400
 GROUPS = 150
 
@@ -252,6 +255,7 @@ def database_spec(items: Sequence[Package], number: int, tree: Path) -> str:
     """One spec file with a subpackage for each item: a build of many is far faster than many builds."""
     lines = [f"Name: measuring-estate-{number}", "Version: 1", "Release: 1", "License: MIT"]
     lines += ["Summary: Carrier of many packages", "%description", "Not a package by itself."]
+    tree.mkdir(parents=True, exist_ok=True)
     lines += ["%install", f'cp -a "{tree}/." %{{buildroot}}']
     for p in items:
         lines += [f"%package -n {p.name}", f"Version: {p.version}", f"Release: {p.release}"]
@@ -271,24 +275,37 @@ def database_spec(items: Sequence[Package], number: int, tree: Path) -> str:
     return "\n".join(lines) + "\n"
 
 
-def fill_database(estate: Estate, items: Sequence[Package]) -> None:
+def build(estate: Estate, items: Sequence[Package]) -> list[Path]:
     trees = estate.directory / "trees"
     halves = (items[0::2], items[1::2])
     specs = [database_spec(half, number, trees / str(number)) for number, half in enumerate(halves)]
     rpms = estate.build(specs, "x86_64")
+    shutil.rmtree(trees)
+    return rpms
+
+
+def fill_database(estate: Estate, items: Sequence[Package]) -> None:
+    rpms = build(estate, items)
     options = ["--justdb", "--nodeps", "--noscripts", "--nosignature", "--nodigest"]
     for start in range(0, len(rpms), INSTALL_AT_ONCE):
         estate.install(rpms[start : start + INSTALL_AT_ONCE], options)
-    shutil.rmtree(trees)
-    shutil.rmtree(estate.build_dir)
 
 
-def make(directory: Path, count: int, installed: int, updates: int) -> Estate:
+@dataclass(frozen=True)
+class Numbers:
+    packages: int
+    installed: int
+    updates: int
+    real_updates: bool = False
+
+    def valid(self) -> bool:
+        return 0 <= self.updates <= self.installed <= self.packages - self.updates
+
+
+def make(directory: Path, numbers: Numbers) -> Estate:
     """Makes the estate, or opens the one of these numbers that is there."""
     directory = directory.resolve()
-    # With a changed generator, the same numbers would mean something else.
-    generator = hashlib.sha256(Path(__file__).read_bytes()).hexdigest()[:12]
-    mark = f"{directory} {count} {installed} {updates} {generator}"
+    mark = f"{directory} {numbers} format {FORMAT}"
     stamp = directory / STAMP
     if stamp.exists() and stamp.read_text(encoding="utf-8") == mark:
         return Estate(directory)
@@ -297,37 +314,44 @@ def make(directory: Path, count: int, installed: int, updates: int) -> Estate:
             raise EstateError(f"{directory} is not empty and holds no estate: left alone.")
         shutil.rmtree(directory)
     estate = Estate(directory)
-    base = packages(count - updates)
-    write_repository(estate.repos_dir / "base", base, groups=True)
-    write_repository(estate.repos_dir / "updates", [newer(p) for p in base[:updates]], groups=False)
+    base = packages(numbers.packages - numbers.updates)
+    installed = base[: numbers.installed]
+    updates = [newer(p) for p in base[: numbers.updates]]
+    # An update of a group would install what the group has beyond the installed packages.
+    write_repository(estate.repos_dir / "base", base, groups=not numbers.real_updates)
+    if numbers.real_updates:
+        installed = [dataclasses.replace(p, files=()) for p in installed]
+        rpms = build(estate, [dataclasses.replace(p, files=()) for p in updates])
+        estate.repository("updates", rpms, name="Measuring estate, updates")
+    else:
+        write_repository(estate.repos_dir / "updates", updates, groups=False)
+        estate.write_repo_file("updates", "Measuring estate, updates")
     estate.write_main_config()
     estate.write_repo_file("base", "Measuring estate")
-    estate.write_repo_file("updates", "Measuring estate, updates")
-    fill_database(estate, base[:installed])
+    fill_database(estate, installed)
+    shutil.rmtree(estate.build_dir)
     stamp.write_text(mark, encoding="utf-8")
     return estate
 
 
-def add_number_options(parser: argparse.ArgumentParser) -> None:
+def main() -> int:
+    parser = argparse.ArgumentParser(description="Makes a large estate to measure on.")
     parser.add_argument("--packages", type=int, default=66_000, help="packages in all repositories")
     parser.add_argument("--installed", type=int, default=2_300, help="installed packages")
     parser.add_argument("--updates", type=int, default=1_900, help="installed packages that have an update")
-
-
-def main() -> int:
-    parser = argparse.ArgumentParser(description="Makes a large estate to measure on.")
-    add_number_options(parser)
+    parser.add_argument("--real-updates", action="store_true", help="the updates can be installed")
     parser.add_argument("directory", type=Path)
     arguments = parser.parse_args()
-    if not 0 <= arguments.updates <= arguments.installed <= arguments.packages - arguments.updates:
+    numbers = Numbers(arguments.packages, arguments.installed, arguments.updates, arguments.real_updates)
+    if not numbers.valid():
         parser.error("numbers must hold: updates <= installed <= packages - updates")
     start = time.monotonic()
     try:
-        estate = make(arguments.directory, arguments.packages, arguments.installed, arguments.updates)
+        estate = make(arguments.directory, numbers)
     except (EstateError, OSError) as error:
         print(f"make_estate.py: {error}", file=sys.stderr)
         return 1
-    print(f"Estate of {arguments.packages} packages: {estate.root} ({time.monotonic() - start:.0f} s)")
+    print(f"Estate of {numbers.packages} packages: {estate.root} ({time.monotonic() - start:.0f} s)")
     return 0
 
 

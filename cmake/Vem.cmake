@@ -3,6 +3,7 @@
 # and the two functions by which a folder declares its library and its tests.
 
 option(VEM_TESTS "Build the tests" ON)
+option(VEM_FUZZ "Build the fuzz targets, with clang" OFF)
 option(VEM_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" ON)
 set(VEM_SANITIZE "" CACHE STRING "Sanitizers to build with, as -fsanitize= takes them")
 

@@ -17,6 +17,26 @@ void WorkThread::run()
     loop.exit(0);
 }
 
+PreloadThread::PreloadThread(YumIO* engine, QEventLoop& callersLoop)
+    : WorkThread(engine, callersLoop)
+{
+}
+
+bool PreloadThread::work()
+{
+    return yumIO->preloadReal();
+}
+
+ClearThread::ClearThread(YumIO* engine, QEventLoop& callersLoop)
+    : WorkThread(engine, callersLoop)
+{
+}
+
+bool ClearThread::work()
+{
+    return yumIO->clearReal();
+}
+
 CollectThread::CollectThread(YumIO* engine, QEventLoop& callersLoop, QHash<QString, bool> const& repoStates)
     : WorkThread(engine, callersLoop),
       repos(repoStates)

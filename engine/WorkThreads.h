@@ -29,6 +29,30 @@ private:
     QEventLoop& loop;
 };
 
+/// Imports what the helper script will need.
+class PreloadThread final : public WorkThread
+{
+    Q_OBJECT
+
+public:
+    PreloadThread(YumIO* engine, QEventLoop& callersLoop);
+
+protected:
+    bool work() override;
+};
+
+/// Frees what the last collection has made, and replaces the script's object.
+class ClearThread final : public WorkThread
+{
+    Q_OBJECT
+
+public:
+    ClearThread(YumIO* engine, QEventLoop& callersLoop);
+
+protected:
+    bool work() override;
+};
+
 class CollectThread final : public WorkThread
 {
     Q_OBJECT

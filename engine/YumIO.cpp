@@ -10,6 +10,7 @@
 #include "bridge/YumIOC.h"
 #include "engine/WorkThreads.h"
 #include "services/YumIODialogs.h"
+#include "services/YumIODialogsUser.h"
 
 #include <QEventLoop>
 #include <QFile>
@@ -46,6 +47,7 @@ YumIO::~YumIO()
             }
             YumIO::pyExceptClear();
         }
+        detachEntries();
         dropEntries();
         repos.reset();
         yumIO.reset();
@@ -54,6 +56,7 @@ YumIO::~YumIO()
         // What the interpreter runs at its end must not reach an engine that is going.
         YumIOC::initialize(nullptr);
     } else {
+        detachEntries();
         dropEntries();
     }
     delete ownDialogs;
@@ -72,7 +75,7 @@ void YumIO::setup(QWidget* dialogParent, HProgressBar* total, HProgressBar* item
 bool YumIO::initialize()
 {
     Python::initialize();
-    PyGILStateWrapper const lock(initialized);
+    PyGILStateWrapper lock(initialized);
     if (yumIO) {
         return true;
     }
@@ -90,6 +93,12 @@ bool YumIO::initialize()
 
     PyRef const argv = PyRef::steal(Py_BuildValue("[s,s]", program, "info"));
     pyAssign("sys", "argv", argv.get());
+
+    // The thread that imports it first is taken for the main one, and is waited for at the end.
+    py("import threading");
+    lock.release();
+    preload();
+    lock.ensure();
 
     PyRef const rpm = PyRef::steal(PyImport_ImportModule("rpm"));
     if (!rpm) {
@@ -136,12 +145,48 @@ bool YumIO::initialize()
     return true;
 }
 
+void YumIO::preload()
+{
+    if (QFile::exists(Share::absolute(QStringLiteral("python/preload.py")))) {
+        QEventLoop loop;
+        PreloadThread thread(this, loop);
+        execWorkThread(loop, thread);
+    }
+}
+
+bool YumIO::preloadReal()
+{
+    PyGILStateWrapper const lock(true);
+    QByteArray const path = QFile::encodeName(Share::absolute(QStringLiteral("python/preload.py")));
+    std::unique_ptr<std::FILE, int (*)(std::FILE*)> const file(
+        std::fopen(path.constData(), "re"), &std::fclose);
+    PyRef const name = PyRef::steal(PyUnicode_DecodeFSDefault(path.constData()));
+    PyRef const globals = PyRef::steal(PyDict_New());
+    bool done = false;
+    if (file && name && globals && PyDict_SetItemString(globals.get(), "__file__", name.get()) == 0 &&
+        PyDict_SetItemString(globals.get(), "__builtins__", PyEval_GetBuiltins()) == 0) {
+        done = bool(PyRef::steal(
+            PyRun_File(file.get(), path.constData(), Py_file_input, globals.get(), globals.get())));
+    }
+    PyErr_Clear();
+    return done;
+}
+
 void YumIO::clear()
 {
-    PyGILStateWrapper const lock(initialized);
     if (!initialized || !pyYumIOClass) {
         return;
     }
+    detachEntries();
+    QEventLoop loop;
+    ClearThread thread(this, loop);
+    execWorkThread(loop, thread);
+}
+
+bool YumIO::clearReal()
+{
+    YumIODialogsUser const dialogsUser(dialogs, parent);
+    PyGILStateWrapper const lock(true);
     pyMethodCall(yumIO.get(), "flush", "()");
     dropEntries();
     repos.reset();
@@ -152,17 +197,21 @@ void YumIO::clear()
         handleException();
         PyErr_Clear();
     }
+    return bool(yumIO);
+}
+
+void YumIO::detachEntries()
+{
+    // After a failed collection the entries stand in the hash alone.
+    detached += entries.isEmpty() ? entryHash.values() : entries;
+    entries.clear();
+    entryHash.clear();
 }
 
 void YumIO::dropEntries()
 {
-    // After a failed collection the entries stand in the hash alone.
-    if (entries.isEmpty()) {
-        qDeleteAll(entryHash);
-    }
-    qDeleteAll(entries);
-    entries.clear();
-    entryHash.clear();
+    qDeleteAll(detached);
+    detached = {};
 }
 
 void YumIO::execWorkThread(QEventLoop& loop, QThread& thread)

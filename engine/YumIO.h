@@ -60,12 +60,14 @@ public:
     };
 
     /// For its life, no accessor starts a job of its own: what isn't loaded stays empty. For callers that
-    /// can't have events served in the middle of their work, such as a table that is testing its rows.
+    /// can't have events served in the middle of their work, such as a table that is testing its rows. It
+    /// holds the interpreter lock, so that reading many fields takes it once.
     class JobHold
     {
     public:
         explicit JobHold(YumIO& engine)
-            : yumIO(engine)
+            : yumIO(engine),
+              lock(initialized)
         {
             ++yumIO.jobHolds;
         }
@@ -75,6 +77,7 @@ public:
 
     private:
         YumIO& yumIO;
+        PyGILStateWrapper const lock;
     };
 
     /// Builds the members; no Python work is done before `initialize`.
@@ -89,7 +92,7 @@ public:
     /// (again true at a second call, which does nothing); false after a report. GUI thread.
     bool initialize();
 
-    /// Drops all entries and replaces the script's object, so that the next collection starts afresh.
+    /// Job: drops all entries and replaces the script's object, so that the next collection starts afresh.
     void clear();
 
     /// Job: fills the list of entries. `repos` maps repository ids to whether this session uses them.
@@ -241,6 +244,8 @@ protected:
         PyRef updated, installed, removed, obsoleted, depupdated, depinstalled, depremoved;
     };
 
+    friend class PreloadThread;
+    friend class ClearThread;
     friend class CollectThread;
     friend class CollectFileListsThread;
     friend class CollectOtherDataThread;
@@ -248,6 +253,11 @@ protected:
 
     // Jobs.
     void execWorkThread(QEventLoop& loop, QThread& thread);
+    /// Job: runs the file "python/preload.py" of the share directory, if there is one, which imports what the
+    /// helper script needs; the window is drawn meanwhile. What goes wrong is left to the script to tell.
+    void preload();
+    bool preloadReal();
+    bool clearReal();
     bool collectReal(QHash<QString, bool> const& repoStates);
     bool collectFileListsReal();
     bool collectOtherDataReal();
@@ -262,10 +272,20 @@ protected:
     QStringList collectRepos(PyObject* reposDict);
     bool collectField(EntryHash& hash, PyObject* object, char const* field, Package::State state);
     bool collectSet(EntryHash& hash, PyObject* iterable, Package::State state);
-    bool collectPkg(Package::Entry*& slot, Package::State state, PyRef package);
+    void collectPkg(
+        Package::Entry*& slot, Package::State state, PyRef package, PyObject* plain, QString name);
+    /// The object behind a package that has the same values as plain attributes, where the package's class
+    /// promises one by an attribute "plain" (see share/python/vemyum/packages.py); else empty.
+    PyRef plainForm(PyObject* pkg);
+    /// The name of a package; `plain` as `plainForm` gave it.
+    QString pkgName(PyObject* pkg, PyObject* plain);
+    /// One text for all entries that show the same: there are few architectures, repositories and sizes.
+    QString sharedText(QString const& text);
     bool collectGroups(EntryHash& hash, PyObject* groupResult);
     bool collectGroup(Package::Entry*& slot, PyObject* groupObject, QString const& name);
     void dropEntries();
+    /// Takes the entries from the table; `dropEntries` frees them.
+    void detachEntries();
     /// Makes the collected entries the rows of the table.
     void takeEntries();
     /// The entry of the package of this name; null when the table has none.
@@ -344,6 +364,7 @@ protected:
     QString getLocalPkg(PyObject* pkg);
     QString getLocalHdr(PyObject* pkg);
     Package::Kind getPkgKind(PyObject* pkg);
+    static Package::Kind pkgKind(QString const& group);
 
     // Conversions of Python values. Those ending in Dec take over the reference.
     QString pyString(PyObject* object);
@@ -365,6 +386,7 @@ protected:
     /// A text that a callback got: str, bytes and (where `none` allows it) None; else the report, and empty.
     QString pyProgressText(PyObject* object, bool noneIsEmpty, char const* report);
     QString simpleString(PyObject* pkg, char const* key);
+    static QString trimmedField(QString text); ///< without the line feeds at its end
     unsigned long long sizeOf(PyObject* pkg);
     long long buildTimeOf(PyObject* pkg);
 
@@ -400,6 +422,7 @@ protected:
     PyObject* postTransactionOutput(PyObject* self, PyObject* args) override;
 
     Package::EntryList entries;
+    QList<Package::Entry*> detached;     ///< the rows of the last collection, still to be freed
     EntryHash entryHash;                 ///< the same entries by key; while collecting, the only holder
     qsizetype logMark = -1;              ///< first log line of the guarded call in progress; -1: none
     QWidget* parent = nullptr;           ///< parent of every dialog
@@ -410,8 +433,11 @@ protected:
     PyRef yumIO;                         ///< its one instance; set means "initialized"
     PyRef repos;                         ///< the dictionary yumIO.repos.repos
     std::unordered_map<std::string_view, PyRef> internedNames;
-    int jobHolds = 0;    ///< JobHold objects alive
-    bool locked = false; ///< this process holds the package library's lock
+    void const* plainAsked = nullptr; ///< the class that `plainForm` was asked for last
+    bool plainOffered = false;        ///< its answer
+    QSet<QString> sharedTexts;        ///< of the collection in progress
+    int jobHolds = 0;                 ///< JobHold objects alive
+    bool locked = false;              ///< this process holds the package library's lock
     bool yumVersionKnown = false;
     QString yumVersionText;
     bool sqliteKnown = false, sqlite = false;

@@ -27,6 +27,27 @@ constexpr Steps collectionSteps =
     preparingSteps + setupSteps + repositorySteps + updatesSteps + packagesSteps + groupsSteps;
 constexpr Steps actsPerRepository = 5;
 
+/// The text of a field as a plain attribute tells it; false for anything but a text or None, which is to be
+/// asked for, and reported, the long way.
+bool plainText(PyRef const& value, QString& text)
+{
+    if (value.get() == Py_None) {
+        text = QString();
+        return true;
+    }
+    Py_ssize_t length = 0;
+    if (!value || !PyUnicode_CheckExact(value.get())) {
+        return false;
+    }
+    char const* const utf8 = PyUnicode_AsUTF8AndSize(value.get(), &length);
+    if (!utf8) {
+        PyErr_Clear();
+        return false;
+    }
+    text = QString::fromUtf8(utf8, length);
+    return true;
+}
+
 } // namespace
 
 bool YumIO::collectReal(QHash<QString, bool> const& repoStates)
@@ -42,6 +63,7 @@ bool YumIO::collectReal(QHash<QString, bool> const& repoStates)
 
     bool const collected =
         takeLock() && readRepositories(repoStates) && collectPackages() && collectGroupData();
+    sharedTexts = {};
     // An expected exception that was reported without being fetched must not meet the next call.
     PyErr_Clear();
     return collected;
@@ -240,16 +262,25 @@ bool YumIO::collectSet(EntryHash& hash, PyObject* iterable, Package::State state
         handleException();
         return false;
     }
+    Py_ssize_t const expected = PyObject_LengthHint(iterable, 0);
+    if (expected < 0) {
+        PyErr_Clear();
+    } else {
+        hash.reserve(hash.size() + expected);
+    }
+    plainAsked = nullptr;
     while (PyRef package = PyRef::steal(PyIter_Next(iterator.get()))) {
-        Package::Entry*& slot = hash[EntryKey(false, pyStringDec(pyAttribute(package.get(), "name")))];
+        PyRef const plain = plainForm(package.get());
+        QString const name = pkgName(package.get(), plain.get());
+        Package::Entry*& slot = hash[EntryKey(false, name)];
         if (!slot) {
-            collectPkg(slot, state, std::move(package));
+            collectPkg(slot, state, std::move(package), plain.get(), name);
         } else if (slot->state == Package::OutOfDate && state == Package::UpToDate) {
             Package::Entry* last = slot;
             while (last->installed) {
                 last = last->installed;
             }
-            collectPkg(last->installed, state, std::move(package));
+            collectPkg(last->installed, state, std::move(package), plain.get(), name);
         }
     }
     if (PyErr_Occurred()) {
@@ -260,26 +291,68 @@ bool YumIO::collectSet(EntryHash& hash, PyObject* iterable, Package::State state
     return true;
 }
 
-bool YumIO::collectPkg(Package::Entry*& slot, Package::State state, PyRef package)
+PyRef YumIO::plainForm(PyObject* pkg)
+{
+    // The class is asked, and not the package: one of an older library may answer to any name.
+    if (plainAsked != Py_TYPE(pkg)) {
+        plainAsked = Py_TYPE(pkg);
+        plainOffered = bool(pyAttribute(reinterpret_cast<PyObject*>(Py_TYPE(pkg)), "plain"));
+    }
+    return plainOffered ? pyAttribute(pkg, "plain") : PyRef();
+}
+
+QString YumIO::pkgName(PyObject* pkg, PyObject* plain)
+{
+    QString name;
+    return plain && plainText(pyAttribute(plain, "name"), name) ? name
+                                                                : pyStringDec(pyAttribute(pkg, "name"));
+}
+
+QString YumIO::sharedText(QString const& text)
+{
+    return *sharedTexts.insert(text);
+}
+
+void YumIO::collectPkg(
+    Package::Entry*& slot, Package::State state, PyRef package, PyObject* plain, QString name)
 {
     slot = std::make_unique<Package::Entry>().release();
     Package::Entry& entry = *slot;
     PyObject* const pkg = package.get();
+    auto const plainField = [&](char const* field, QString& text) {
+        return plain && plainText(pyAttribute(plain, field), text);
+    };
+    auto const plainNumber = [&](char const* field, long long& number) {
+        PyRef const value = plain ? pyAttribute(plain, field) : PyRef();
+        if (!value || !PyLong_CheckExact(value.get())) {
+            return false;
+        }
+        int overflow = 0;
+        number = PyLong_AsLongLongAndOverflow(value.get(), &overflow);
+        return overflow == 0;
+    };
+
+    QString text;
+    long long number = 0;
     entry.action = Package::None;
     entry.state = state;
-    entry.kind = getPkgKind(pkg);
-    entry.name = pyStringDec(pyAttribute(pkg, "name"));
-    PyRef version = pyQuickCall(pkg, "printVer");
-    entry.verRel = pyStringDec(version ? std::move(version) : pyMethodCall(pkg, "printVer", "()"));
-    entry.repo = simpleString(pkg, "repoid");
-    entry.arch = pyStringDec(pyAttribute(pkg, "arch"));
-    entry.size = sizeOf(pkg);
-    entry.sizeText = bytesFormat(entry.size);
-    entry.summary = simpleString(pkg, "summary");
-    entry.buildTime = buildTimeOf(pkg);
+    entry.kind = plainField("group", text) ? pkgKind(trimmedField(std::move(text))) : getPkgKind(pkg);
+    entry.name = std::move(name);
+    if (!plainField("evr", entry.verRel)) {
+        PyRef version = pyQuickCall(pkg, "printVer");
+        entry.verRel = pyStringDec(version ? std::move(version) : pyMethodCall(pkg, "printVer", "()"));
+    }
+    entry.repo = sharedText(
+        plain && plainText(pyAttribute(pkg, "repoid"), text) ? trimmedField(std::move(text))
+                                                             : simpleString(pkg, "repoid"));
+    entry.arch = sharedText(plainField("arch", text) ? text : pyStringDec(pyAttribute(pkg, "arch")));
+    entry.size = plainNumber("size", number) ? static_cast<unsigned long long>(number) : sizeOf(pkg);
+    entry.sizeText = sharedText(bytesFormat(entry.size));
+    entry.summary =
+        plainField("summary", text) ? trimmedField(std::move(text)) : simpleString(pkg, "summary");
+    entry.buildTime = plainNumber("buildtime", number) ? number : buildTimeOf(pkg);
     entry.buildTimeText = timeFormat(entry.buildTime);
     entry.pyObject = std::move(package);
-    return true;
 }
 
 bool YumIO::collectGroups(EntryHash& hash, PyObject* groupResult)
@@ -370,5 +443,10 @@ bool YumIO::collectGroup(Package::Entry*& slot, PyObject* groupObject, QString c
 
 Package::Kind YumIO::getPkgKind(PyObject* pkg)
 {
-    return simpleString(pkg, "group") == QLatin1String("Suite") ? Package::Suite : Package::Ordinary;
+    return pkgKind(simpleString(pkg, "group"));
+}
+
+Package::Kind YumIO::pkgKind(QString const& group)
+{
+    return group == QLatin1String("Suite") ? Package::Suite : Package::Ordinary;
 }

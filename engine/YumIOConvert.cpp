@@ -6,6 +6,7 @@
 #include "engine/YumIO.h"
 
 #include <QRegularExpression>
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdlib>
@@ -186,7 +187,11 @@ QString YumIO::simpleString(PyObject* pkg, char const* key)
     if (!value || value.get() == Py_None) {
         return QString();
     }
-    QString text = pyStringXDec(std::move(value));
+    return trimmedField(pyStringXDec(std::move(value)));
+}
+
+QString YumIO::trimmedField(QString text)
+{
     while (text.endsWith(QLatin1Char('\n'))) {
         text.chop(1);
     }
@@ -263,15 +268,48 @@ QString YumIO::bytesFormat(unsigned long long bytes)
 
 QString YumIO::timeFormat(long long time)
 {
+    // As ctime(3) writes it, in the digits of the C locale; its own way through printf takes three times as
+    // long, and a collection asks tens of thousands of times.
+    static constexpr std::array<char const*, 7> days{"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"};
+    static constexpr std::array<char const*, 12> months{"Jan", "Feb", "Mar", "Apr", "May", "Jun",
+                                                        "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
     std::time_t const seconds = static_cast<std::time_t>(time);
-    // ctime_r needs 26 bytes for years of four digits; longer years take more.
-    std::array<char, 128> buffer{};
-    if (!ctime_r(&seconds, buffer.data())) {
+    std::tm parts{};
+    if (!localtime_r(&seconds, &parts)) {
         return QString();
     }
-    QString text = QString::fromLatin1(buffer.data());
-    text.chop(1);
-    return text;
+    long const year = parts.tm_year + 1900L;
+    if (year < 1000 || year > 9999) {
+        // ctime_r needs 26 bytes for years of four digits; longer years take more.
+        std::array<char, 128> buffer{};
+        if (!ctime_r(&seconds, buffer.data())) {
+            return QString();
+        }
+        QString text = QString::fromLatin1(buffer.data());
+        text.chop(1);
+        return text;
+    }
+
+    // "Thu Jan  1 00:00:00 1970"
+    std::array<char, 24> text;
+    text.fill(' ');
+    auto const put = [&text](std::size_t at, std::size_t digits, long number) {
+        for (std::size_t place = at + digits; place-- > at; number /= 10) {
+            text.at(place) = static_cast<char>('0' + number % 10);
+        }
+    };
+    std::copy_n(days.at(std::size_t(parts.tm_wday)), 3, text.begin());
+    std::copy_n(months.at(std::size_t(parts.tm_mon)), 3, text.begin() + 4);
+    put(8, 2, parts.tm_mday);
+    if (parts.tm_mday < 10) {
+        text.at(8) = ' ';
+    }
+    put(11, 2, parts.tm_hour);
+    put(14, 2, parts.tm_min);
+    put(17, 2, parts.tm_sec);
+    text.at(13) = text.at(16) = ':';
+    put(20, 4, year);
+    return QString::fromLatin1(text.data(), qsizetype(text.size()));
 }
 
 QString YumIO::dateFormat(long long time)

@@ -180,9 +180,11 @@ Area::Button Area::addPairButton(
         return {};
     }
     addLabel(row, label);
+    // Made in the order in which they stand, which is the order in which they are read out.
+    QLabel* const value = makeText(text);
     Button result{buttonText, makeButton(buttonText), row};
     auto* const cell = new QHBoxLayout;
-    cell->addWidget(makeText(text), 0, Qt::AlignTop);
+    cell->addWidget(value, 0, Qt::AlignTop);
     cell->addWidget(result.button, 0, Qt::AlignTop);
     grid->addLayout(cell, row, valueColumn, Qt::AlignLeft | Qt::AlignTop);
     ++row;

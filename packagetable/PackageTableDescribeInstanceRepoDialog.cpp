@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "packagetable/PackageTableDescribeInstanceRepoDialog.h"
 
+#include "repo/Buffet.h"
 #include "repo/RepoBrowse.h"
 #include "widgets/Fonts.h"
 #include "widgets/HSeparator.h"
@@ -54,8 +55,9 @@ void RepoDialog::config(Repo::Entry const& entry)
     layout->addLayout(grid);
     int row = 0;
     addPair(row, tr("Name"), entry.name);
-    addPair(row, tr("URLs"), entry.baseurl);
-    addPair(row, tr("Mirror list URL"), entry.mirrorlist);
+    // Who describes a package doesn't expect a password on the screen.
+    addPair(row, tr("URLs"), Repo::Buffet::maskPasswords(entry.baseurl));
+    addPair(row, tr("Mirror list URL"), Repo::Buffet::maskPasswords(entry.mirrorlist));
     contentLayout->addWidget(content);
     // The size for the repository before would stay otherwise, as well as the layout's idea of it.
     QDialog::layout()->activate();

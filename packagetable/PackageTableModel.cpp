@@ -82,10 +82,9 @@ Model::Model(YumIO* engine, QObject* parent)
       removeBoxIcon(Share::icon(QStringLiteral("icons/removeBox.png"))),
       suiteIcon(Share::icon(QStringLiteral("icons/suite.png"))),
       groupIcon(Share::icon(QStringLiteral("icons/group.png"))),
-      packageIcon(Share::icon(QStringLiteral("icons/package.png"))),
-      outOfDateColors{QColor(Colors::error()), QColor(Colors::errorDisabled())},
-      availableColors{QColor(Colors::minor()), QColor(Colors::minorDisabled())}
+      packageIcon(Share::icon(QStringLiteral("icons/package.png")))
 {
+    setPalette(QPalette());
 }
 
 void Model::setYumConfIO(YumConfIO* configuration)
@@ -281,6 +280,17 @@ Package::State Model::getState(int row) const
     return row >= 0 && row < yumIO->count() ? (*yumIO)[row]->state : Package::UpToDate;
 }
 
+QString const& Model::text(int row, int column) const
+{
+    static QString const none;
+    return row >= 0 && row < yumIO->count() ? columnText(*(*yumIO)[row], column) : none;
+}
+
+int Model::picture(int row, int column) const
+{
+    return row >= 0 && row < yumIO->count() ? columnNumber(*(*yumIO)[row], column) : 0;
+}
+
 void Model::setAction(QModelIndex const& index, Package::Action action)
 {
     Package::Entry* const entry = entryAt(index);
@@ -332,6 +342,14 @@ void Model::browse(QModelIndex const& index, QWidget* parent)
 void Model::setEnabled(bool enable)
 {
     enabled = enable;
+}
+
+void Model::setPalette(QPalette const& palette)
+{
+    outOfDateColors = {
+        Colors::onBase(Colors::error(), palette), Colors::onDisabledBase(Colors::errorDisabled(), palette)};
+    availableColors = {
+        Colors::onBase(Colors::minor(), palette), Colors::onDisabledBase(Colors::minorDisabled(), palette)};
 }
 
 void Model::setSelected(QList<QModelIndex> const& rows)

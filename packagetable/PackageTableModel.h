@@ -9,6 +9,7 @@
 #include <QList>
 #include <QPointer>
 
+class QPalette;
 class QWidget;
 class YumConfIO;
 class YumIO;
@@ -48,6 +49,13 @@ public:
     /// The state of the entry of that row; `UpToDate` when there is no such row.
     [[nodiscard]] Package::State getState(int row) const;
 
+    /// The text that the cell shows, without the detour of a QVariant; empty when there is no such row. The
+    /// column is one from NameColumn on.
+    [[nodiscard]] QString const& text(int row, int column) const;
+    /// The picture that the cell shows, as a number from 0 to 3; 0 when there is no such row. The column is
+    /// one before NameColumn.
+    [[nodiscard]] int picture(int row, int column) const;
+
     /// Marks the entry of the index's row. Emits nothing: the caller sees to the repaint.
     void setAction(QModelIndex const& index, Package::Action action);
     /// What a click in the Action cell does: goes on to the next action that fits the entry's state.
@@ -64,6 +72,8 @@ public:
 
     /// Chooses the colours of an enabled or disabled table. Emits nothing: the next repaint takes them up.
     void setEnabled(bool enabled);
+    /// Chooses the colours that can be read on the rows of a table with this palette. Emits nothing either.
+    void setPalette(QPalette const& palette);
 
 public Q_SLOTS:
     /// Marks each row of the list that can be updated or installed for just that, whatever its mark was;

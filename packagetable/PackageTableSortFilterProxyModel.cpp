@@ -5,9 +5,13 @@
 #include "packagetable/PackageTableColumns.h"
 #include "widgets/HAbstractTableModel.h"
 
+#include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QRegularExpression>
 #include <algorithm>
 #include <array>
+#include <utility>
+#include <vector>
 
 namespace PackageTable
 {
@@ -22,6 +26,9 @@ QString field(YumIO& yumIO, Package::Entry const& entry)
 {
     return (yumIO.*Accessor)(entry);
 }
+
+/// How long rows are tested before events are served.
+constexpr int sliceMilliseconds = 15;
 
 // What Search looks at, the dearest last: most fields come through the interpreter, the last two of a
 // package need extra data.
@@ -54,7 +61,8 @@ SortFilterProxyModel::SortFilterProxyModel(
     : HSortFilterProxyModel(NameColumn, parent),
       stateFilter(initialStateFilter),
       groups(showGroups),
-      yumIO(engine)
+      yumIO(engine),
+      ranks(engine)
 {
     // A row whose mark changes stays where it is, also in a table that is sorted by Action: it would
     // leave the mouse between two clicks, and marking all of 66,000 rows would move each by itself.
@@ -88,13 +96,48 @@ void SortFilterProxyModel::setGroupsFilter(bool showGroups)
 void SortFilterProxyModel::forgetVerdicts()
 {
     acceptCache.clear();
+    searchAllRows();
     clear();
+}
+
+// A search takes seconds. It is done before the reset, while the table stands whole, so that the window can
+// be painted in between; the reset then finds every verdict.
+void SortFilterProxyModel::searchAllRows()
+{
+    if (!filter || mode != Search || expressionText.isEmpty()) {
+        return;
+    }
+    // In the order in which they were collected, which is nearly that of the package library's memory: what
+    // it keeps in compressed pages is unpacked once and not for each package.
+    std::vector<std::pair<quint64, int>> rows;
+    rows.reserve(static_cast<std::size_t>(yumIO->count()));
+    for (int row = 0; row < yumIO->count(); ++row) {
+        rows.emplace_back(entryAt(row)->serial, row);
+    }
+    std::ranges::sort(rows);
+
+    QElapsedTimer slice;
+    slice.start();
+    bool served = false;
+    for (auto const& [serial, row] : rows) {
+        static_cast<void>(filterAcceptsRow(row, QModelIndex()));
+        if (slice.elapsed() >= sliceMilliseconds) {
+            QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+            served = true;
+            slice.restart();
+        }
+    }
+    if (served) {
+        // What the user has tried meanwhile meets the controls while they are still disabled.
+        QCoreApplication::processEvents();
+    }
 }
 
 void SortFilterProxyModel::setFilter(bool enable)
 {
     if (enable != filter) {
         filter = enable;
+        searchAllRows();
         clear();
     }
 }
@@ -115,11 +158,13 @@ void SortFilterProxyModel::setFilterRegExp(QString const& pattern)
         text.chop(anything.size());
     }
     regex.compile(text.toUtf8());
+    expressionText = text;
 
     QRegularExpression const expression(text);
     if (expression != filterRegExp()) {
         acceptCache.clear();
     }
+    searchAllRows();
     HSortFilterProxyModel::setFilterRegExp(expression);
 
     // Whatever a search costs is paid here, where the caller shows that the program is busy, and not
@@ -144,13 +189,15 @@ bool SortFilterProxyModel::filterAcceptsRow(int sourceRow, QModelIndex const& so
     if (!entry) {
         return false;
     }
-    auto const known = acceptCache.constFind(entry);
-    if (known != acceptCache.constEnd() && known->serial == entry->serial) {
-        return known->accepted;
+    auto const place = static_cast<std::size_t>(sourceRow);
+    if (place >= acceptCache.size()) {
+        acceptCache.resize(static_cast<std::size_t>(yumIO->count()));
     }
-    bool const accepted = acceptRow(entry, sourceRow, sourceParent);
-    acceptCache.insert(entry, {entry->serial, accepted});
-    return accepted;
+    Verdict& verdict = acceptCache[place];
+    if (verdict.serial != entry->serial) {
+        verdict = {entry->serial, acceptRow(entry, sourceRow, sourceParent)};
+    }
+    return verdict.accepted;
 }
 
 bool SortFilterProxyModel::matches(QString const& text) const
@@ -163,7 +210,7 @@ bool SortFilterProxyModel::acceptRow(Package::Entry* entry, int, QModelIndex con
     if (!entry || !passesState(entry->state) || (!groups && entry->kind == Package::Group)) {
         return false;
     }
-    if (filterRegExp().pattern().isEmpty()) {
+    if (expressionText.isEmpty()) {
         return true;
     }
     return mode == Search ? matchesAnyField(*entry) : matchesShownTexts(*entry);
@@ -208,23 +255,48 @@ bool SortFilterProxyModel::matchesAnyField(Package::Entry const& entry) const
                                         : std::ranges::any_of(packageFields, matchesField);
 }
 
-// What the cells' values would give, read from the records: sorting 66,000 rows asks a million times.
+void SortFilterProxyModel::sourceWasRefilled()
+{
+    ranks.forget();
+    comparedWithoutRanks = 0;
+}
+
+// What the cells' values would give, read from the records or from ranks: sorting 66,000 rows asks a million
+// times. Ranks aren't worth their price while few rows show.
 bool SortFilterProxyModel::lessThan(QModelIndex const& left, QModelIndex const& right) const
 {
+    int const column = left.column();
     Package::Entry const* const leftEntry = left.isValid() ? entryAt(left.row()) : nullptr;
     Package::Entry const* const rightEntry = right.isValid() ? entryAt(right.row()) : nullptr;
     if (!leftEntry || !rightEntry) {
-        return !isNumericColumn(left.column()) && HSortFilterProxyModel::lessThan(left, right);
+        return !isNumericColumn(column) && HSortFilterProxyModel::lessThan(left, right);
+    }
+    if (comparedWithoutRanks < yumIO->count() || column != right.column()) {
+        ++comparedWithoutRanks;
+        return isLower(*leftEntry, column, *rightEntry, right.column());
     }
 
-    if (isNumericColumn(left.column())) {
-        int const leftNumber = columnNumber(*leftEntry, left.column());
-        int const rightNumber = columnNumber(*rightEntry, right.column());
-        return leftNumber != rightNumber ? leftNumber < rightNumber : leftEntry->name < rightEntry->name;
+    int rankedColumn = column;
+    if (column == ActionColumn) {
+        if (leftEntry->action != rightEntry->action) {
+            return leftEntry->action < rightEntry->action;
+        }
+        rankedColumn = NameColumn;
     }
+    RowRanks::Ranks const& places = ranks.of(rankedColumn);
+    return places[static_cast<std::size_t>(left.row())] < places[static_cast<std::size_t>(right.row())];
+}
 
-    int const order = columnText(*leftEntry, left.column()).compare(columnText(*rightEntry, right.column()));
-    return order != 0 ? order < 0 : leftEntry->name < rightEntry->name;
+bool SortFilterProxyModel::isLower(
+    Package::Entry const& left, int leftColumn, Package::Entry const& right, int rightColumn)
+{
+    if (isNumericColumn(leftColumn)) {
+        int const leftNumber = columnNumber(left, leftColumn);
+        int const rightNumber = columnNumber(right, rightColumn);
+        return leftNumber != rightNumber ? leftNumber < rightNumber : left.name < right.name;
+    }
+    int const order = columnText(left, leftColumn).compare(columnText(right, rightColumn));
+    return order != 0 ? order < 0 : left.name < right.name;
 }
 
 QVariant SortFilterProxyModel::data(QModelIndex const& index, int role) const

@@ -3,10 +3,11 @@
 
 #include "engine/Package.h"
 #include "packagetable/PackageTable.h"
+#include "packagetable/PackageTableRowRanks.h"
 #include "packagetable/PosixRegex.h"
 #include "widgets/HSortFilterProxyModel.h"
 
-#include <QHash>
+#include <vector>
 
 class YumIO;
 
@@ -19,7 +20,8 @@ namespace PackageTable
 /// Search, testing a row takes the interpreter lock.
 ///
 /// Each operation that changes what shows resets the table, so that selection and current index are gone,
-/// and sorts it as before. None of them touches the marks.
+/// and sorts it as before. None of them touches the marks. In mode Search they test all rows before the
+/// reset, and serve events in between: the caller sees to it that the user can't start anything meanwhile.
 class SortFilterProxyModel final : public HSortFilterProxyModel
 {
     Q_OBJECT
@@ -54,13 +56,16 @@ public:
     /// reader.
     [[nodiscard]] QVariant data(QModelIndex const& index, int role = Qt::DisplayRole) const override;
 
+protected:
+    void sourceWasRefilled() override;
+
 private:
-    /// Entries come and go with each rebuild of the engine's list and their addresses are used again: a
-    /// verdict holds only for the entry of the same serial.
+    /// Rows get other entries with each rebuild of the engine's list: a verdict holds only for the entry of
+    /// the same serial. None has the serial 0.
     struct Verdict
     {
-        quint64 serial;
-        bool accepted;
+        quint64 serial = 0;
+        bool accepted = false;
     };
 
     Package::Entry* entryAt(int sourceRow) const;
@@ -68,14 +73,20 @@ private:
     bool matchesShownTexts(Package::Entry const& entry) const;
     bool matchesAnyField(Package::Entry const& entry) const;
     void forgetVerdicts();
+    void searchAllRows();
+    static bool isLower(
+        Package::Entry const& left, int leftColumn, Package::Entry const& right, int rightColumn);
 
     Mode mode = Filter;
     bool filter = true;
     StateFilter stateFilter;
     bool groups;
     YumIO* yumIO;
-    mutable QHash<Package::Entry const*, Verdict> acceptCache;
+    mutable std::vector<Verdict> acceptCache; ///< row by row
     PosixRegex regex;
+    QString expressionText; ///< of `regex`; the base has it only once the rows have been tested
+    mutable RowRanks ranks;
+    mutable int comparedWithoutRanks = 0;
 };
 
 } // namespace PackageTable

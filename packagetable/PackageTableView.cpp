@@ -6,9 +6,14 @@
 #include "packagetable/PackageTableModel.h"
 #include "packagetable/PackageTableOtherContextMenu.h"
 #include "packagetable/PackageTableSortFilterProxyModel.h"
+#include "widgets/ColumnWidth.h"
 
 #include <QEvent>
 #include <QHeaderView>
+#include <QKeyEvent>
+#include <QScopedValueRollback>
+#include <algorithm>
+#include <array>
 #include <limits>
 
 namespace PackageTable
@@ -20,6 +25,7 @@ View::View(Model* tableModel, StateFilter stateFilter, bool groups, YumIO* yumIO
       proxy(new SortFilterProxyModel(stateFilter, groups, yumIO, parent ? parent : this))
 {
     setAccessibleName(tr("Packages"));
+    packages->setPalette(palette());
     proxy->setSourceModel(packages);
     setModel(proxy);
 
@@ -28,6 +34,8 @@ View::View(Model* tableModel, StateFilter stateFilter, bool groups, YumIO* yumIO
     setSelectionBehavior(SelectRows);
     setAlternatingRowColors(true);
     setContextMenuPolicy(Qt::CustomContextMenu);
+    // The keyboard has to get out again; the arrows go from cell to cell.
+    setTabKeyNavigation(false);
     verticalHeader()->hide();
 
     auto* const header = new QHeaderView(Qt::Horizontal, this);
@@ -87,10 +95,41 @@ QList<QModelIndex> View::selectedRows() const
 
 void View::resizeColumnsToContents()
 {
-    bool const filter = proxy->getFilter();
-    proxy->setFilter(false);
-    HTableView::resizeColumnsToContents();
-    proxy->setFilter(filter);
+    {
+        QScopedValueRollback const guard(fitsAllRows, true);
+        HTableView::resizeColumnsToContents();
+    }
+    // What a table that shows all rows for a moment goes through, in one pass of two.
+    if (proxy->getFilter()) {
+        proxy->clear();
+    }
+}
+
+int View::rowsForHint() const
+{
+    return fitsAllRows ? packages->rowCount() : HTableView::rowsForHint();
+}
+
+int View::widestCell(ColumnWidth const& width, int column) const
+{
+    int const rows = rowsForHint();
+    auto const modelRow = [&](int row) {
+        return fitsAllRows ? row : proxy->mapToSource(proxy->index(row, 0)).row();
+    };
+    auto const cell = [&](int row) { return packages->index(modelRow(row), column); };
+    if (column >= NameColumn) {
+        return width.widestText(
+            rows, [&](int row) -> QString const& { return packages->text(modelRow(row), column); }, cell);
+    }
+    // One row of each picture stands for the others.
+    std::array<int, 4> rowOf{-1, -1, -1, -1};
+    for (int row = 0; row < rows; ++row) {
+        rowOf.at(static_cast<std::size_t>(packages->picture(modelRow(row), column))) = row;
+    }
+    auto const end = std::remove(rowOf.begin(), rowOf.end(), -1);
+    return width.walked(static_cast<int>(end - rowOf.begin()), [&](int number) {
+        return cell(rowOf[static_cast<std::size_t>(number)]);
+    });
 }
 
 void View::describe()
@@ -135,6 +174,8 @@ void View::changeEvent(QEvent* event)
     QFrame::changeEvent(event);
     if (event->type() == QEvent::EnabledChange) {
         packages->setEnabled(isEnabled());
+    } else if (event->type() == QEvent::PaletteChange) {
+        packages->setPalette(palette());
     }
 }
 
@@ -148,11 +189,15 @@ void View::currentChanged(QModelIndex const& current, QModelIndex const& previou
     }
 }
 
-// What a user of the keyboard sees and hears of the move: the frame of the current cell, which stays in
-// sight, and the focus of the screen reader.
-bool View::showsTextOnly(int column) const
+// The marks are pictures that the toolkit knows no key for.
+void View::keyPressEvent(QKeyEvent* event)
 {
-    return column >= NameColumn;
+    if (event->key() == Qt::Key_Space && event->modifiers() == Qt::NoModifier &&
+        currentIndex().column() == ActionColumn) {
+        handleActivated(currentIndex());
+    } else {
+        HTableView::keyPressEvent(event);
+    }
 }
 
 } // namespace PackageTable

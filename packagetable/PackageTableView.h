@@ -16,9 +16,10 @@ class Model;
 class OtherContextMenu;
 class SortFilterProxyModel;
 
-/// The table of packages that the user sees. It turns a click in the Action column into a change of the
-/// row's mark and offers two context menus. Columns can be sorted by a click on their header and moved.
-/// Owned by its parent widget; GUI thread. All row numbers and indexes that it hands out are the model's.
+/// The table of packages that the user sees. It turns a click in the Action column, or the space bar on its
+/// cells, into a change of the row's mark and offers two context menus. Columns can be sorted by a click on
+/// their header and moved. Owned by its parent widget; GUI thread. All row numbers and indexes that it hands
+/// out are the model's.
 class View final : public HTableView
 {
     Q_OBJECT
@@ -59,11 +60,14 @@ public Q_SLOTS:
 protected:
     void changeEvent(QEvent* event) override;
     void currentChanged(QModelIndex const& current, QModelIndex const& previous) override;
-    [[nodiscard]] bool showsTextOnly(int column) const override;
+    void keyPressEvent(QKeyEvent* event) override;
+    [[nodiscard]] int widestCell(ColumnWidth const& width, int column) const override;
+    [[nodiscard]] int rowsForHint() const override;
 
 private:
     Model* packages; ///< not the view's own model(), which is the proxy
     SortFilterProxyModel* proxy;
+    bool fitsAllRows = false; ///< sizes follow all rows of the engine, and not only those that show
     std::unique_ptr<ActionContextMenu> actionContextMenu; ///< null until first used, like the other one
     std::unique_ptr<OtherContextMenu> otherContextMenu;
 };

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <memory>
 #include <regex.h>
 
 /// A compiled POSIX extended regular expression (regcomp(3)), case-sensitive, which only answers whether
@@ -9,11 +10,6 @@
 class PosixRegex final
 {
 public:
-    PosixRegex() = default;
-    ~PosixRegex();
-    PosixRegex(PosixRegex const&) = delete;
-    PosixRegex& operator=(PosixRegex const&) = delete;
-
     /// Takes `pattern`, in UTF-8, in place of the present expression. False when it doesn't compile; the
     /// present expression is gone even so.
     bool compile(QByteArray const& pattern);
@@ -23,6 +19,20 @@ public:
     [[nodiscard]] bool matches(QByteArray const& text) const;
 
 private:
-    int regCompResult = -1; ///< what regcomp(3) answered last; 0: `regex` holds a compiled expression
-    regex_t regex{};
+    struct Free
+    {
+        void operator()(regex_t* regex) const;
+    };
+    using Compiled = std::unique_ptr<regex_t, Free>;
+
+    /// What regcomp(3) makes of the pattern in the locale of this thread; null when it doesn't compile.
+    static Compiled compiled(QByteArray const& pattern);
+    static Compiled compiledForBytes(QByteArray const& pattern);
+    /// Letters that stand in every text that `pattern` matches; may be fewer than there are.
+    static QByteArray neededLetters(QByteArray const& pattern);
+
+    QByteArray needed;       ///< of the present expression
+    bool onlyNeeded = false; ///< the expression is nothing but them
+    Compiled regex;
+    Compiled forBytes; ///< the same for texts of ASCII; null where it might mean something else
 };

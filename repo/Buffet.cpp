@@ -71,6 +71,13 @@ QString Repo::Buffet::replaceAuth(QString const& urls, QString const& password)
     return replaceAuth(urls, keyName, name, keyPassword, password);
 }
 
+QString Repo::Buffet::maskPasswords(QString urls)
+{
+    static QRegularExpression const password(
+        QStringLiteral("(/buffet\\?[^&\\s]*=[^&\\s]*&[^&\\s=]*=)[^&\\s]+(?=&path=)"), unicode);
+    return urls.replace(password, QStringLiteral("\\1***"));
+}
+
 QRegularExpression Repo::Buffet::oneUrlRegExp()
 {
     return QRegularExpression(
@@ -81,6 +88,7 @@ QRegularExpression Repo::Buffet::oneUrlRegExp()
 
 QRegularExpression Repo::Buffet::urlsRegExp()
 {
+    // Something has to follow, be it the slash that most paths begin with: a password must not show there.
     return QRegularExpression(
-        QStringLiteral("/buffet\\?[^&\\s]*=[^&\\s]*&[^&\\s]*=([^&\\s]*)&path=[\\s]*\\b"), unicode);
+        QStringLiteral("/buffet\\?[^&\\s]*=[^&\\s]*&[^&\\s]*=([^&\\s]*)&path=[\\s]*(?=\\S)"), unicode);
 }

@@ -27,7 +27,9 @@ bool OutputFile::open(QByteArray const& name, bool isPrivate)
         return false;
     isRegular = S_ISREG(status.st_mode);
     oldSize = isRegular ? status.st_size : 0;
-    return true;
+    // Whoever shut a file off from the others has chosen its permissions; any other holds no secret yet.
+    bool const isOpenToAll = (status.st_mode & S_IRWXO) != 0;
+    return !(isPrivate && isRegular && isOpenToAll) || fchmod(descriptor, S_IRUSR | S_IWUSR) == 0;
 }
 
 bool OutputFile::write(QByteArray const& content)

@@ -3,8 +3,8 @@
 
 #include <QByteArray>
 
-/// One file that is written anew, in place: links, owner and permissions of a file that exists stay. A value
-/// on the stack of the writer; any thread.
+/// One file that is written anew, in place: links, owner and permissions of a file that exists stay, but for
+/// those that would let everybody read a secret. A value on the stack of the writer; any thread.
 ///
 /// What the file held is kept until there is room for what it is to hold, so that a full disk does not cost
 /// the user the file. Each operation answers false with errno saying why; nothing is reported here.
@@ -17,8 +17,8 @@ public:
     /// Closes what a failure left open.
     ~OutputFile();
 
-    /// Opens for writing and creates what isn't there, readable by its owner only where `isPrivate` says so.
-    /// The content stays.
+    /// Opens for writing and creates what isn't there. The content stays. Where `isPrivate` says so, a file
+    /// that is new or open to everybody is its owner's only from here on.
     [[nodiscard]] bool open(QByteArray const& name, bool isPrivate);
 
     /// Makes `content` all that the file holds.

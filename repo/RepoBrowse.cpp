@@ -17,7 +17,7 @@
 namespace
 {
 
-/// The longer name comes first, which the shorter one begins.
+/// In the order of filling in: a value may hold a later variable.
 constexpr std::array<char const*, 3> variables{"basearch", "arch", "releasever"};
 
 QString firstAddress(Repo::Entry const& entry)

@@ -3,6 +3,7 @@
 
 #include "repo/YumConfIO.h"
 
+#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -22,6 +23,7 @@ RepoEditor::ConfigDialog::ConfigDialog(YumConfIO* conf, QWidget* parent)
 
     statusLabel = new QLabel(this);
     initialPalette = statusLabel->palette();
+    statusLabel->installEventFilter(this);
     resetButton = createButton(tr("Reset"), tr("Undo changes to this repository configuration"));
     QPushButton* const cancelButton =
         createButton(tr("Cancel"), tr("Undo changes to this repository configuration and close the window"));
@@ -97,6 +99,15 @@ QPushButton* RepoEditor::ConfigDialog::createButton(QString const& text, QString
     auto* const button = new QPushButton(text, this);
     button->setToolTip(toolTip);
     return button;
+}
+
+// The colours of the status line are those for the ground that it stands on.
+bool RepoEditor::ConfigDialog::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == statusLabel && event->type() == QEvent::PaletteChange) {
+        updateStatusLabel();
+    }
+    return HDialog::eventFilter(watched, event);
 }
 
 void RepoEditor::ConfigDialog::updateStatusLabel()

@@ -31,6 +31,8 @@ public:
 
     void setVisible(bool visible) override;
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private Q_SLOTS:
     void changed();
     void reset();

@@ -10,6 +10,7 @@
 #include "widgets/Colors.h"
 #include "widgets/HSeparator.h"
 
+#include <QEvent>
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
@@ -39,6 +40,7 @@ Dialog::Dialog(YumIO* engine, YumConfIO* configuration, QWidget* parentWindow)
     layout->addWidget(new HSeparator(this));
     layout->addLayout(createDialogButtons());
     initialPalette = statusLabel->palette();
+    statusLabel->installEventFilter(this);
 
     connect(model, &Model::useChanged, this, &Dialog::useChanged);
     connect(model, &Model::configChanged, this, &Dialog::configChanged);
@@ -330,6 +332,15 @@ QString Dialog::getDuplicateId() const
         later.insert(entry->id);
     }
     return duplicate;
+}
+
+// The colours of the status line are those for the ground that it stands on.
+bool Dialog::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == statusLabel && event->type() == QEvent::PaletteChange) {
+        updateStatusLabel();
+    }
+    return HDialog::eventFilter(watched, event);
 }
 
 void Dialog::updateStatusLabel()

@@ -79,6 +79,8 @@ public Q_SLOTS:
     bool apply();
     void ok();
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     QHBoxLayout* createEntryButtons();
     QHBoxLayout* createDialogButtons();

@@ -81,6 +81,8 @@ QVariant Model::data(QModelIndex const& index, int role) const
         return decoration(*entry, column);
     case Qt::ToolTipRole:
         return column <= PermanentColumn ? QVariant(toolTip(*entry, column)) : QVariant();
+    case Qt::AccessibleTextRole:
+        return column <= PermanentColumn ? QVariant(spoken(*entry, column)) : QVariant();
     case Qt::FontRole:
         return column == IdentifierColumn && entry->id.isEmpty() ? QVariant(italicFont) : QVariant();
     default:
@@ -103,13 +105,24 @@ QVariant Model::decoration(Repo::Entry const& entry, int column) const
 // Both columns ask the session: the tips turn together, and the icon alone tells the permanent state.
 QString Model::toolTip(Repo::Entry const& entry, int column) const
 {
-    bool const isUsed = yumConfIO->reposEnabled[entry.id];
+    return stateText(column, yumConfIO->reposEnabled[entry.id]);
+}
+
+// Who does not see the icon gets to hear what it shows.
+QString Model::spoken(Repo::Entry const& entry, int column) const
+{
+    bool const isOn = column == SessionColumn ? yumConfIO->reposEnabled[entry.id] : isEnabled(entry);
+    return stateText(column, isOn);
+}
+
+QString Model::stateText(int column, bool isOn)
+{
     if (column == SessionColumn) {
-        return isUsed ? tr("Repository is enabled for this session")
-                      : tr("Repository is not enabled for this session");
+        return isOn ? tr("Repository is enabled for this session")
+                    : tr("Repository is not enabled for this session");
     }
-    return isUsed ? tr("Repository is configured to be enabled")
-                  : tr("Repository is not configured to be enabled");
+    return isOn ? tr("Repository is configured to be enabled")
+                : tr("Repository is not configured to be enabled");
 }
 
 bool Model::isEnabled(Repo::Entry const& entry) const

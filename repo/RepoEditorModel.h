@@ -82,6 +82,8 @@ private:
     [[nodiscard]] Repo::Entry* entryAt(QModelIndex const& index) const;
     [[nodiscard]] QVariant decoration(Repo::Entry const& entry, int column) const;
     [[nodiscard]] QString toolTip(Repo::Entry const& entry, int column) const;
+    [[nodiscard]] QString spoken(Repo::Entry const& entry, int column) const;
+    [[nodiscard]] static QString stateText(int column, bool isOn);
     [[nodiscard]] bool isEnabled(Repo::Entry const& entry) const;
     void cellChanged(int row, int column);
 

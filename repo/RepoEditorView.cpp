@@ -130,6 +130,4 @@ void View::keyPressEvent(QKeyEvent* event)
     }
 }
 
-// What a user of the keyboard sees and hears of the move: the frame of the current cell, which stays in
-// sight, and the focus of the screen reader.
 } // namespace RepoEditor

@@ -1,12 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-// The configuration's object: where its files are, how its faults are told, what the command line does
-// to the session flags. The reading of the files stands in YumConfIORead.cpp.
+// The configuration's object: where its files are, what the command line does to the session flags. The
+// reading of the files stands in YumConfIORead.cpp, the writing in YumConfIOWrite.cpp.
 #include "repo/YumConfIO.h"
-
-#include <QMessageBox>
-
-#include <cerrno>
-#include <cstring>
 
 #include <sys/stat.h>
 
@@ -40,18 +35,4 @@ void YumConfIO::applyUsedOptions(Repo::Entry const& entry)
         if (request.matches(entry.id))
             reposEnabled[entry.id] = request.enabled;
     }
-}
-
-void YumConfIO::error(QString const& message)
-{
-    int const cause = errno;
-    // Composed apart from the message, which may hold anything that a file or its name holds.
-    QString const suffix =
-        tr("; errno = %1 (%2).").arg(QString::number(cause), QString::fromLocal8Bit(std::strerror(cause)));
-
-    QMessageBox box(
-        QMessageBox::Critical, tr("VEM Repository Editor Error"), message + suffix, QMessageBox::Ok, parent);
-    // A line of a file is never markup.
-    box.setTextFormat(Qt::PlainText);
-    box.exec();
 }

@@ -108,6 +108,8 @@ private:
 
     /// Shows `message` with errno behind it, in a critical box over `parent`.
     void error(QString const& message);
+    /// Asks in a critical box over `parent`; whether the answer was Yes.
+    bool confirm(QString const& question);
 
     /// The name of `path` for system calls: its bytes, below VEMROOT when that is set.
     [[nodiscard]] static QByteArray diskName(QString const& path);

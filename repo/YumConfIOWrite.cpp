@@ -5,8 +5,6 @@
 #include "repo/Buffet.h"
 #include "repo/OutputFile.h"
 
-#include <QMessageBox>
-
 #include <algorithm>
 #include <cerrno>
 #include <cstdlib>
@@ -109,13 +107,7 @@ bool YumConfIO::checkErrors()
     if (message.isEmpty())
         return true;
     message += tr("  Proceed?");
-
-    QMessageBox box(
-        QMessageBox::Critical, tr("Repository Editor"), message, QMessageBox::Yes | QMessageBox::No, parent);
-    box.setTextFormat(Qt::PlainText);
-    box.setDefaultButton(QMessageBox::No);
-    box.setEscapeButton(QMessageBox::No);
-    if (box.exec() != QMessageBox::Yes)
+    if (!confirm(message))
         return false;
 
     QList<Repo::Entry> kept;

@@ -12,12 +12,13 @@ void HProgressBar::setActivity(QString const& newActivity)
         return;
     }
     activity = newActivity;
+    setAccessibleDescription(activity);
     update();
 }
 
 void HProgressBar::reset()
 {
-    activity.clear();
+    setActivity(QString());
     QProgressBar::reset();
 }
 

@@ -12,7 +12,8 @@ class HProgressBar final : public QProgressBar
 public:
     explicit HProgressBar(QWidget* parent = nullptr);
 
-    /// Sets the words that stand in front of the bar's own text; an empty text takes them away.
+    /// Sets the words that stand in front of the bar's own text; an empty text takes them away. They are
+    /// the bar's accessible description, too.
     void setActivity(QString const& newActivity);
 
     /// Takes the words away and rewinds the bar, which then shows no text at all.

@@ -80,3 +80,5 @@ private:
 };
 
 } // namespace Log
+
+Q_DECLARE_TYPEINFO(Log::Entry, Q_RELOCATABLE_TYPE);

@@ -1,19 +1,21 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "services/LogWindow.h"
 
-#include "widgets/Colors.h"
+#include "services/LogLineWriter.h"
 #include "widgets/HTextEdit.h"
 
+#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMutexLocker>
+#include <QPointer>
 #include <QPushButton>
-#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QSpinBox>
-#include <QTextCursor>
+#include <QTextDocument>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace Log
@@ -25,8 +27,20 @@ namespace
 constexpr int maximumLevel = 10;
 constexpr int defaultLevel = 2;
 
-/// From this level up the package library's lines are debug information.
-constexpr unsigned debugLevel = 10;
+/// Nanoseconds of rendering in one turn of the event loop. With the painting that it brings about, the
+/// rest of the program gets its turn well before a user feels a halt.
+constexpr qint64 turnShare = 10'000'000;
+
+/// So many records are taken from the log at a time: the writers wait meanwhile, and the clock is looked
+/// at in between.
+constexpr int batch = 100;
+
+QElapsedTimer startedClock()
+{
+    QElapsedTimer clock;
+    clock.start();
+    return clock;
+}
 
 } // namespace
 
@@ -34,10 +48,13 @@ Window::Window(EntryList& log, QWidget* owner)
     : parent(owner),
       levelBox(new QSpinBox(this)),
       entries(&log),
-      textEdit(new HTextEdit(100, 24, this))
+      textEdit(new HTextEdit(100, 24, this)),
+      writer(std::make_unique<LineWriter>(*textEdit)),
+      turn(new QTimer(this))
 {
     setWindowTitle(tr("VEM Log"));
 
+    textEdit->installEventFilter(this);
     textEdit->setReadOnly(true);
     textEdit->setUndoRedoEnabled(false);
     textEdit->setLineWrapMode(QTextEdit::NoWrap);
@@ -77,63 +94,128 @@ Window::Window(EntryList& log, QWidget* owner)
     lower->addWidget(close);
     setTabOrder(textEdit, levelBox);
     setTabOrder(levelBox, close);
+
+    // The document tells its new size when it has been laid out, which may be a while after a line came.
+    QScrollBar* const bar = textEdit->verticalScrollBar();
+    connect(
+        bar, &QScrollBar::valueChanged, this, [this, bar](int value) { atEnd = value >= bar->maximum(); });
+    connect(bar, &QScrollBar::rangeChanged, this, [this] {
+        if (atEnd) {
+            scrollToEnd();
+        }
+    });
+
+    turn->setSingleShot(true);
+    connect(turn, &QTimer::timeout, this, &Window::nextTurn);
 }
+
+Window::~Window() = default;
 
 void Window::setVisible(bool visible)
 {
     bool const wasVisible = isVisible();
     if (visible && !wasVisible) {
-        textEdit->clear();
-        shownCount = 0;
+        following = true;
+        startOver();
         appended();
         {
             QMutexLocker<QMutex> const locker(entries);
-            connect(entries, &EntryList::appended, this, &Window::appended);
+            connect(entries, &EntryList::appended, this, &Window::appended, Qt::UniqueConnection);
         }
         // What was filed while this window wasn't connected yet has told nobody.
         appended();
+        atEnd = true;
         scrollToEnd();
     }
     QWidget::setVisible(visible);
-    if (visible && !wasVisible) {
-        // The window has got its size only now.
-        scrollToEnd();
-    }
     if (!visible && wasVisible) {
         {
             QMutexLocker<QMutex> const locker(entries);
             disconnect(entries, &EntryList::appended, this, &Window::appended);
         }
-        shownCount = 0;
-        textEdit->clear();
+        following = false;
+        startOver();
     }
+}
+
+void Window::startOver()
+{
+    shownCount = 0;
+    // Dropping a long text takes its time of this turn, too.
+    QElapsedTimer const clock = startedClock();
+    textEdit->clear();
+    spend(clock.nsecsElapsed());
 }
 
 void Window::appended()
 {
-    QList<Entry> news;
-    {
-        QMutexLocker<QMutex> const locker(entries);
-        news = entries->mid(shownCount);
-        shownCount = static_cast<int>(entries->count());
+    // Workers' signals that were on their way when the window was hidden still arrive.
+    if (following && renderShare()) {
+        letPaint();
     }
-    if (news.isEmpty()) {
-        return;
-    }
-    render(news);
+}
 
+bool Window::renderShare()
+{
+    if (!isBehind()) {
+        return false;
+    }
+    QElapsedTimer const clock = startedClock();
+    qint64 const share = turnShare - (turn->isActive() ? turnSpent : 0);
+    auto const threshold = static_cast<unsigned>(levelBox->value());
+    while (clock.nsecsElapsed() < share && isBehind()) {
+        QList<Entry> news;
+        {
+            QMutexLocker<QMutex> const locker(entries);
+            news = entries->mid(shownCount, batch);
+        }
+        shownCount += static_cast<int>(news.count());
+        writer->append(news, threshold);
+    }
+    spend(clock.nsecsElapsed());
+    return true;
+}
+
+bool Window::isBehind() const
+{
+    QMutexLocker<QMutex> const locker(entries);
+    return shownCount < entries->count();
+}
+
+void Window::spend(qint64 nanoseconds)
+{
+    if (!turn->isActive()) {
+        turnSpent = 0;
+        turn->start(0);
+    }
+    turnSpent += nanoseconds;
+}
+
+void Window::nextTurn()
+{
+    if (following) {
+        renderShare();
+    }
+}
+
+void Window::letPaint()
+{
     // A worker that writes faster than this renders would nest one round of events in another without
     // end: what comes during a round is rendered in it and painted by it.
-    if (!painting) {
-        QScopedValueRollback<bool> const inside(painting, true);
-        QEventLoop().processEvents(QEventLoop::ExcludeUserInputEvents);
+    if (painting) {
+        return;
+    }
+    painting = true;
+    QPointer<Window> const self(this);
+    QEventLoop().processEvents(QEventLoop::ExcludeUserInputEvents);
+    if (self) {
+        painting = false;
     }
 }
 
 void Window::levelChanged(int)
 {
-    shownCount = 0;
-    textEdit->clear();
+    startOver();
     appended();
 }
 
@@ -155,53 +237,14 @@ void Window::keyPressEvent(QKeyEvent* event)
     }
 }
 
-void Window::render(QList<Entry> const& news)
+// Lines keep the colours that they were written in.
+bool Window::eventFilter(QObject* watched, QEvent* event)
 {
-    auto const threshold = static_cast<unsigned>(levelBox->value());
-    QString const coloured = tr("<font color=\"%1\">");
-    QString const end = tr("</font>");
-    QString const plain = tr("<font>");
-    QString const minor = coloured.arg(Colors::minor());
-    QString const output = coloured.arg(Colors::ok());
-    QString const warning = coloured.arg(Colors::warning());
-    QString const error = coloured.arg(Colors::error());
-    QString const action = tr("<h2><font color=\"%1\">").arg(Colors::action());
-    QString const actionEnd = tr("</font></h2>");
-
-    QScrollBar const* const bar = textEdit->verticalScrollBar();
-    bool const wasAtEnd = bar->value() >= bar->maximum();
-    // One edit block, so that the document is laid out once and not once per line.
-    QTextCursor block(textEdit->document());
-    block.beginEditBlock();
-    for (Entry const& entry : news) {
-        if (entry.level > threshold) {
-            continue;
-        }
-        QString text = entry.text;
-        htmlProtect(text);
-        switch (entry.kind) {
-        case Info:
-            textEdit->appendCompact((entry.level < debugLevel ? plain : minor) + text + end);
-            break;
-        case Output:
-            textEdit->appendCompact(output + text + end);
-            break;
-        case Warning:
-            textEdit->appendCompact(warning + text + end);
-            break;
-        case Action:
-            textEdit->appendCompact(action + text + actionEnd);
-            break;
-        case Error:
-        default:
-            textEdit->appendCompact(error + text + end);
-            break;
-        }
+    if (watched == textEdit && event->type() == QEvent::PaletteChange && following) {
+        startOver();
+        renderShare();
     }
-    block.endEditBlock();
-    if (wasAtEnd) {
-        scrollToEnd();
-    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void Window::scrollToEnd()

@@ -3,6 +3,8 @@
 
 #include "services/HProgressBar.h"
 
+#include <array>
+
 namespace
 {
 
@@ -10,6 +12,32 @@ int cut(Steps steps)
 {
     return static_cast<int>(static_cast<unsigned>(steps));
 }
+
+/// A bar paints itself at once for each new value, and again for each other change, which takes longer
+/// than a quick job's steps. While one of these stands, it doesn't: it paints all changes in one go when
+/// the GUI thread has served what is waiting.
+class PaintLater final
+{
+    Q_DISABLE_COPY_MOVE(PaintLater)
+
+public:
+    PaintLater(HProgressBar* firstBar, HProgressBar* secondBar)
+        : bars{firstBar, secondBar}
+    {
+        for (HProgressBar* const bar : bars) {
+            bar->setUpdatesEnabled(false);
+        }
+    }
+    ~PaintLater()
+    {
+        for (HProgressBar* const bar : bars) {
+            bar->setUpdatesEnabled(true);
+        }
+    }
+
+private:
+    std::array<HProgressBar*, 2> bars;
+};
 
 } // namespace
 
@@ -21,6 +49,7 @@ ProgressMinion::ProgressMinion(HProgressBar* total, HProgressBar* item)
 
 void ProgressMinion::startTotal(QString const& name, Steps max)
 {
+    PaintLater const paintLater(totalBar, itemBar);
     totalBar->setActivity(name);
     totalBar->setMaximum(cut(max));
     totalBar->setValue(0);
@@ -31,6 +60,7 @@ void ProgressMinion::startTotal(QString const& name, Steps max)
 
 void ProgressMinion::startItem(QString const& name, Steps total, Steps max)
 {
+    PaintLater const paintLater(totalBar, itemBar);
     totalBar->setValue(cut(total));
     itemBar->setActivity(name);
     itemBar->setMaximum(cut(max));
@@ -40,27 +70,32 @@ void ProgressMinion::startItem(QString const& name, Steps total, Steps max)
 
 void ProgressMinion::changeItemActs(Steps total)
 {
+    PaintLater const paintLater(totalBar, itemBar);
     totalBar->setValue(cut(total));
 }
 
 void ProgressMinion::setItemValue(Steps total, Steps value)
 {
+    PaintLater const paintLater(totalBar, itemBar);
     totalBar->setValue(cut(total));
     itemBar->setValue(cut(value));
 }
 
 void ProgressMinion::endItemActs(Steps total)
 {
+    PaintLater const paintLater(totalBar, itemBar);
     totalBar->setValue(cut(total));
 }
 
 void ProgressMinion::setTotalValue(Steps total)
 {
+    PaintLater const paintLater(totalBar, itemBar);
     totalBar->setValue(cut(total));
 }
 
 void ProgressMinion::reset()
 {
+    PaintLater const paintLater(totalBar, itemBar);
     for (HProgressBar* const bar : {totalBar, itemBar}) {
         bar->setMinimum(0);
         bar->setMaximum(1);

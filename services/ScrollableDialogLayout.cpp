@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "services/ScrollableDialogLayout.h"
 
+#include "services/TextLabel.h"
 #include "widgets/HScrollArea.h"
 
 #include <QDialog>
@@ -26,7 +27,7 @@ QLabel* layOutScrollableDialog(
 
     auto* const area = new HScrollArea(dialog);
     area->setFrameStyle(QFrame::Plain);
-    auto* const textLabel = new QLabel(text, area);
+    auto* const textLabel = new TextLabel(text, area);
     area->setWidget(textLabel);
     upper->addWidget(area);
 

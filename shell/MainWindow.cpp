@@ -24,7 +24,6 @@
 #include <QPushButton>
 #include <QTimer>
 #include <algorithm>
-#include <cstdio>
 #include <utility>
 
 namespace
@@ -83,11 +82,6 @@ void MainWindow::initialize()
     model->reset();
     showTable();
     setReady(true);
-    if (qEnvironmentVariableIsSet("VEM_BENCH")) {
-        // The end of what a start-up benchmark measures.
-        std::fprintf(stderr, "vem: ready %d rows\n", yumIO->count());
-        quit();
-    }
 }
 
 void MainWindow::showTable()
@@ -136,11 +130,8 @@ void MainWindow::whileBusy(Step const& step)
 void MainWindow::rebuild()
 {
     yumIO->clear();
-    bool const collected = yumIO->collect(reposEnabled);
-    if (collected && isSearching() && view->hasExpression()) {
-        // A search in force tests the new rows, and needs their data before.
-        loadExtraData();
-    }
+    // A search in force tests the new rows, and needs their data before.
+    prepareFilterSearch(yumIO->collect(reposEnabled) && view->hasExpression());
     model->reset();
 }
 
@@ -305,23 +296,30 @@ bool MainWindow::isSearching() const
 void MainWindow::filtersearch()
 {
     auto const step = [this] {
-        prepareFilterSearch();
+        prepareFilterSearch(lineHoldsExpression());
         view->filtersearch(regExpEdit->text());
     };
     isSearching() ? whileBusy(step) : step();
 }
 
-void MainWindow::prepareFilterSearch()
+bool MainWindow::lineHoldsExpression() const
 {
     QString const text = regExpEdit->text();
-    if (text.isEmpty() || text == QLatin1String(".*") || !isSearching()) {
-        return;
+    return !text.isEmpty() && text != QLatin1String(".*");
+}
+
+void MainWindow::prepareFilterSearch(bool hasExpression)
+{
+    if (hasExpression && isSearching()) {
+        loadExtraData();
     }
-    loadExtraData();
 }
 
 void MainWindow::loadExtraData()
 {
+    if (yumIO->fileListsCollected && yumIO->otherDataCollected) {
+        return;
+    }
     // No row is tested while the engine works.
     view->setFilter(false);
     yumIO->collectFileLists();
@@ -355,10 +353,8 @@ void MainWindow::modeChanged(int mode)
         search ? tr("Perform the search for the regular expression specified to the left")
                : tr("Apply the filter specified to the left"));
     auto const step = [this, mode] {
-        prepareFilterSearch();
-        if (isSearching() && view->hasExpression()) {
-            loadExtraData();
-        }
+        // The expression in force is tried in the new way, whatever the line holds.
+        prepareFilterSearch(lineHoldsExpression() || view->hasExpression());
         view->setMode(static_cast<PackageTable::Mode>(mode));
     };
     search ? whileBusy(step) : step();

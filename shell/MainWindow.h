@@ -92,8 +92,10 @@ private:
     QHBoxLayout* createButtonRow();
     /// Switches between busy and idle. Calls must pair, since each busy one pushes a cursor.
     void setReady(bool ready);
-    /// Loads the extra data that a search for the present expression needs.
-    void prepareFilterSearch();
+    /// Whether the line holds more than what matches everything.
+    [[nodiscard]] bool lineHoldsExpression() const;
+    /// Loads the extra data that a search needs, if there is an expression to search for.
+    void prepareFilterSearch(bool hasExpression);
     void loadExtraData();
     void rebuild();
     void showTable();

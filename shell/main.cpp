@@ -13,6 +13,8 @@ int main(int argc, char** argv)
     DefaultStyle const defaultStyle(argc, argv);
     QApplication app(argc, argv);
     defaultStyle.set(app, QStringLiteral("plastique"));
+    // Wayland has no window icons: the compositor takes that of the desktop entry.
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.example.vem"));
     app.setWindowIcon(Share::icon(QStringLiteral("pixmaps/vem.icon.png")));
     application = &app;
     program = basename(argv[0]);

@@ -5,6 +5,7 @@
 
 #include <QDateTime>
 #include <QRegularExpression>
+#include <QScopedValueRollback>
 #include <QSignalBlocker>
 
 namespace
@@ -59,9 +60,20 @@ HSortFilterProxyModel::HSortFilterProxyModel(int secondarySortColumnToUse, QObje
 
 void HSortFilterProxyModel::setSourceModel(HAbstractTableModel* model)
 {
+    disconnect(refilling);
     QSortFilterProxyModel::setSourceModel(model);
     sourceModel = model;
+    if (model) {
+        refilling = connect(model, &QAbstractItemModel::modelAboutToBeReset, this, [this] {
+            if (!rebuilding) {
+                sourceWasRefilled();
+            }
+        });
+    }
+    sourceWasRefilled();
 }
+
+void HSortFilterProxyModel::sourceWasRefilled() {}
 
 void HSortFilterProxyModel::filterChanged()
 {
@@ -121,11 +133,28 @@ void HSortFilterProxyModel::changeExpression(Expression const& expression)
     rebuild();
 }
 
-// The reset makes the base drop its mapping and leaves the rows to be filtered anew at the first question.
+void HSortFilterProxyModel::sort(int column, Qt::SortOrder order)
+{
+    bool const stands = sortedByReset && column == sortColumn() && order == sortOrder();
+    if (stands) {
+        // Without a view nobody has asked yet; the rows are filtered now and not at some later question.
+        static_cast<void>(rowCount());
+    } else {
+        QSortFilterProxyModel::sort(column, order);
+    }
+    knownColumns = sourceModel ? sourceModel->columnCount() : 0;
+}
+
+// The reset makes the base drop its mapping and leaves the rows to be filtered and sorted anew at the first
+// question, by the column that it knew before. Only a column that has come with the reset isn't sorted by
+// yet.
 void HSortFilterProxyModel::rebuild()
 {
+    bool const known = sortColumn() < knownColumns;
     if (sourceModel) {
+        QScopedValueRollback const guard(rebuilding, true);
         sourceModel->forceSortColumnRediscovery();
     }
+    QScopedValueRollback const guard(sortedByReset, known);
     sort(sortColumn(), sortOrder());
 }

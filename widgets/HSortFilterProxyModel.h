@@ -36,9 +36,18 @@ public:
     /// one; equal cells by their rows' cells in the secondary column.
     [[nodiscard]] bool lessThan(QModelIndex const& left, QModelIndex const& right) const override;
 
+    /// Sorts the rows that show, unless they stand in that order since a moment ago, after a change of
+    /// filter.
+    void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
+
     /// The cell of the secondary column in the row of `index`, in the model of `index`. Invalid when the
     /// index has no model or the model has no such column.
     [[nodiscard]] QModelIndex createSecondarySortIndex(QModelIndex const& index) const;
+
+protected:
+    /// Called when the source has got other rows by a reset that isn't one of this proxy's own, just before
+    /// the rows are filtered and sorted anew. Does nothing here.
+    virtual void sourceWasRefilled();
 
 private:
     // A plain item model has no forceSortColumnRediscovery(); giving one is a mistake the compiler finds.
@@ -49,6 +58,10 @@ private:
     void rebuild();
 
     int const secondarySortColumn;
+    QMetaObject::Connection refilling;
+    int knownColumns = 0;       ///< how many the source had when this was sorted
+    bool rebuilding = false;    ///< the source is being reset by this proxy
+    bool sortedByReset = false; ///< that reset has sorted as before
     // Hides the base's operation of the same name, which is QAbstractProxyModel::sourceModel() here.
     HAbstractTableModel* sourceModel = nullptr;
 };

@@ -37,7 +37,7 @@ int HTableView::frameOnlyAroundContentsPixels() const
 QSize HTableView::sizeHint() const
 {
     if (minimumRows != maximumRows) {
-        minimumRows = std::min(std::max(model()->rowCount(), minimumRows), maximumRows);
+        minimumRows = std::min(std::max(rowsForHint(), minimumRows), maximumRows);
         maximumRows = minimumRows;
     }
     int const last = model()->columnCount() - 1;
@@ -66,14 +66,17 @@ int HTableView::sizeHintForColumn(int column) const
     }
     QStyleOptionViewItem options;
     initViewItemOption(&options);
-    ColumnWidth const width(*itemDelegate(), options);
-    auto const cells = showsTextOnly(column) ? ColumnWidth::Cells::TextOnly : ColumnWidth::Cells::Any;
-    return width.widest(*model(), rootIndex(), column, cells) + (showGrid() ? 1 : 0);
+    return widestCell(ColumnWidth(*itemDelegate(), options), column) + (showGrid() ? 1 : 0);
 }
 
-bool HTableView::showsTextOnly(int /*column*/) const
+int HTableView::widestCell(ColumnWidth const& width, int column) const
 {
-    return false;
+    return width.widest(*model(), rootIndex(), column);
+}
+
+int HTableView::rowsForHint() const
+{
+    return model()->rowCount();
 }
 
 void HTableView::sortByColumn(int column)

@@ -4,6 +4,8 @@
 #include <QStyleOptionViewItem>
 #include <QTableView>
 
+class ColumnWidth;
+
 /// The base of every table: asks for exactly the size that its columns and a number of its rows need, and
 /// draws cells with HItemDelegate. All rows have the height that the vertical header gives a section by
 /// default. Owned by its parent widget, GUI thread.
@@ -44,10 +46,11 @@ public:
 protected:
     void initViewItemOption(QStyleOptionViewItem* option) const override;
 
-    /// Whether the cells of the column show their text and nothing else: no icon, check box, font or size
-    /// hint of their own. A view that knows its model says so and has such a column measured in half the
-    /// time; false in this class.
-    [[nodiscard]] virtual bool showsTextOnly(int column) const;
+    /// Pixels that the widest cell of the column needs, without a grid line. Asks the model for every row; a
+    /// view that knows its model better answers the same in less time.
+    [[nodiscard]] virtual int widestCell(ColumnWidth const& width, int column) const;
+    /// The rows that the size hint counts at its first call: those of the model.
+    [[nodiscard]] virtual int rowsForHint() const;
 
     /// What the toolkit does when the current cell moves, for a view whose `currentChanged` is its own:
     /// repaints both cells, scrolls to the new one and tells it to screen readers.

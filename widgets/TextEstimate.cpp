@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "widgets/TextEstimate.h"
 
+#include <algorithm>
+#include <cmath>
 #include <limits>
 
 namespace
@@ -22,28 +24,40 @@ TextEstimate::TextEstimate(QFont const& font)
     : metrics(font),
       em(metrics.height())
 {
-    for (std::size_t i = 0; i < printables; ++i) {
-        advances[i] = metrics.horizontalAdvance(QChar(static_cast<char16_t>(first + i)));
+    advances.fill(unknown);
+    for (char16_t printable = first; printable <= last; ++printable) {
+        advances[printable] =
+            static_cast<qint64>(std::ceil(metrics.horizontalAdvance(QChar(printable)) * partsOfPixel));
     }
 }
 
 TextEstimate::Bounds TextEstimate::bounds(QString const& text) const
 {
-    qreal sum = 0;
+    qint64 parts = 0;
     for (QChar const character : text) {
-        if (character < first || character > last) {
-            return {0, std::numeric_limits<qreal>::infinity()};
-        }
-        sum += advances[static_cast<std::size_t>(character.unicode() - first)];
+        parts += advances[std::min<std::size_t>(character.unicode(), advances.size() - 1)];
     }
+    if (parts >= unknown) {
+        return {0, std::numeric_limits<qreal>::infinity()};
+    }
+    qreal const sum = static_cast<qreal>(parts) / partsOfPixel;
     // The last letter of a slanted font hangs over its advance, by less than half an em.
     return {sum * mostNarrowing - em / 2, sum * mostWidening + em / 2};
 }
 
-QString TextEstimate::representative(QString const& text)
+qreal TextEstimate::closeLeast(QString const& text) const
 {
-    QString result = text;
+    // What the rounding of each glyph and the hanging of the last one may take away is far less.
+    return std::max(
+        bounds(text).least, bounds(text).least > 0 ? metrics.horizontalAdvance(text) - em / 4 : 0);
+}
+
+QStringView TextEstimate::representative(QString const& text)
+{
+    folded.resize(text.size());
+    QChar* const letters = folded.data();
     for (qsizetype i = 0; i < text.size(); ++i) {
+        letters[i] = text.at(i);
         if (!isDigit(text.at(i))) {
             continue;
         }
@@ -52,9 +66,9 @@ QString TextEstimate::representative(QString const& text)
         if (!hasLikeDigitsBeside(before) || !hasLikeDigitsBeside(after)) {
             return text;
         }
-        result[i] = u'0';
+        letters[i] = u'0';
     }
-    return result;
+    return folded;
 }
 
 bool TextEstimate::hasLikeDigitsBeside(QChar neighbour)

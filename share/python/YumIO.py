@@ -9,6 +9,7 @@ All methods may be called on any thread, one at a time.
 
 from __future__ import annotations
 
+import gc
 import os
 import sys
 from typing import Any, List, Optional, Sequence, Tuple
@@ -34,6 +35,11 @@ from vemyum.session import Session  # noqa: E402
 
 yum = surroundings.make_yum_module()
 messages.install_handler()
+
+if not gc.get_freeze_count():
+    # dnf has the garbage collector look through everything each time it fills a sack; what has been imported
+    # stays for good, and is passed over from here on.
+    gc.freeze()
 
 
 def usesSqlite() -> bool:

@@ -5,6 +5,7 @@ VEM_PROGRAM names the binary and VEMSHARE the share directory; VEM_SHOTS, if set
 """
 from __future__ import annotations
 
+import contextlib
 import os
 import shutil
 import subprocess
@@ -16,9 +17,11 @@ import pytest
 
 HERE = Path(__file__).resolve().parent
 sys.path[:0] = [str(HERE), str(HERE.parents[1] / "estate")]
+sys.path.append(str(HERE.parent / "python"))
 
 from program import Program  # noqa: E402
 from rpmestate import Estate, shell_spec, spec  # noqa: E402
+from web import Web  # noqa: E402
 
 
 @pytest.fixture(scope="session")
@@ -61,6 +64,13 @@ def pytest_runtest_makereport(item: pytest.Item) -> Iterator[None]:
         picture = Path(os.environ["VEM_SHOTS"]) / f"{item.name}.png"
         picture.parent.mkdir(parents=True, exist_ok=True)
         subprocess.run(["import", "-window", "root", str(picture)], check=False)
+
+
+@pytest.fixture
+def serve(tmp_path: Path) -> Iterator[Callable[[Estate], Web]]:
+    """Serves an estate's repositories on loopback."""
+    with contextlib.ExitStack() as stack:
+        yield lambda estate: stack.enter_context(Web(estate.repos_dir, tmp_path / "web"))
 
 
 @pytest.fixture

@@ -204,13 +204,18 @@ class Program:
         self.click_at(*self.centre(node), button)
 
     def press(self, name: str, inside: Optional[Atspi.Accessible] = None, timeout: float = 30.0) -> None:
-        """Clicks a push button or check box once it shows and is enabled."""
+        """Clicks a push button or check box once it shows, is enabled and stands still.
+
+        A new window is first where the toolkit puts it, and then where the window manager wants it.
+        """
+        seen: list[tuple[int, int]] = []
 
         def look() -> Optional[Atspi.Accessible]:
             for role in (Atspi.Role.PUSH_BUTTON, Atspi.Role.CHECK_BOX):
                 found = self.find(name, role, inside)
                 if found is not None and has_state(found, Atspi.StateType.ENABLED):
-                    return found
+                    seen.append(self.centre(found))
+                    return found if seen[-2:-1] == seen[-1:] else None
             return None
 
         self.click(wait_for(look, f"the button {name!r}", timeout))
@@ -259,8 +264,10 @@ class Program:
 
     def log_text(self) -> str:
         """What the log window shows; opens it if need be."""
-        if not self.find_window("VEM Log"):
-            self.key("ctrl+l")
+        # A key is lost while a dialog that has just gone hasn't given the keyboard back.
+        wait_for(
+            lambda: self.find_window("VEM Log") or self.key("ctrl+l"), "the log's window", timeout=60, interval=2
+        )
         edit = self.wait("Log", Atspi.Role.TEXT, inside=self.window("VEM Log"))
         return Atspi.Text.get_text(edit, 0, Atspi.Text.get_character_count(edit))
 

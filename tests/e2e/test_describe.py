@@ -22,16 +22,17 @@ Start = Callable[..., Program]
 
 
 def beacon_spec(version: str, files: list[str], changelog: str) -> str:
-    return spec(
+    text = spec(
         "beacon", version, summary="A light for ships", description="It burns <b>all</b> night\nand is seen far off.",
         files={path: f"of {version}" for path in files}, changelog=changelog, requires=["/bin/sh"],
         tags={"Vendor": "Cliff & Sons", "Packager": "Wren <wren@beacon.example>", "URL": "https://beacon.example/"},
     )
+    return text.replace("%files\n", "%files\n%dir /usr/share/beacon\n")
 
 
 @pytest.fixture
 def beacon(tmp_path: Path) -> Estate:
-    """Version 1.0 is installed; 1.1, with a file and a change more, is offered."""
+    """Version 1.0 is installed; 1.1, with a file and a change more, is offered. Both own a directory."""
     estate = Estate(tmp_path / "beacon")
     shell, old, new = estate.build(
         [
@@ -97,7 +98,9 @@ def test_a_row_is_described_with_files_change_log_and_repository(beacon: Estate,
 
     # The installed version needs nothing loaded.
     assert shows(description) == [NOTE, NOTE, "Show", "Show"]
-    assert read_text(program, description, 2, "beacon 1.0-1 File List") == "/usr/share/beacon/lamp"
+    # Headers tell directories too, repositories are asked for files alone.
+    owned = read_text(program, description, 2, "beacon 1.0-1 File List")
+    assert owned == "/usr/share/beacon\n/usr/share/beacon/lamp"
     assert read_text(program, description, 3, "beacon 1.0-1 Change Log") == dated(LIT)
     assert shows(description) == [NOTE, NOTE, "Show", "Show"]
 
@@ -105,7 +108,7 @@ def test_a_row_is_described_with_files_change_log_and_repository(beacon: Estate,
     assert files == "/usr/share/beacon/lamp\n/usr/share/beacon/second"
     assert shows(description) == ["Show", NOTE, "Show", "Show"]
     changes = read_text(program, description, 1, "beacon 1.1-1 Change Log")
-    assert sorted(changes.split("\n\n")) == sorted([dated(LIT), dated(SECOND)])
+    assert changes.split("\n\n") == [dated(SECOND), dated(LIT)]
     assert shows(description) == ["Show", "Show", "Show", "Show"]
 
     program.press("Details", description)

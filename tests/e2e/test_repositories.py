@@ -7,6 +7,7 @@ from typing import Callable
 
 import pytest
 
+from keyboard import Keyboard
 from program import NAME_COLUMN, Atspi, Program, wait_for, walk
 from rpmestate import Estate, spec
 
@@ -69,3 +70,33 @@ def test_the_editor_opens_first_where_asked_and_the_table_follows(quays: Estate,
     program.wait_ready()
     program.choose("View All")
     assert program.names() == ["anchor", "barge", "crane"]
+
+
+def test_an_umlaut_in_the_name_of_a_repository_keeps_nothing_out(quays: Estate, start: Start) -> None:
+    program = start(quays)
+    program.wait_ready()
+    program.key("ctrl+e")
+    editor = program.window(EDITOR)
+    table = next(node for node in walk(editor) if node.get_role() == Atspi.Role.TABLE)
+    program.click(Atspi.Table.get_accessible_at(table, 0, 2))
+    keyboard = Keyboard(program)
+    keyboard.activate("Edit")
+    wait_for(lambda: keyboard.focused_name() == "Identifier", "the keyboard in the form")
+    keyboard.tab_to("Name")
+    # The screen's keyboard has no such key.
+    assert Atspi.EditableText.set_text_contents(keyboard.focused(), "B\u00fcro")
+    keyboard.activate("OK")
+    program.wait("Unapplied Configuration Changes", inside=editor)
+    program.press("OK", editor)
+    program.wait_closed(EDITOR)
+    program.wait_ready()
+    written = (quays.root / "etc/yum.repos.d/north.repo").read_bytes()
+    assert "B\u00fcro".encode("latin-1") in written
+    program.choose("View All")
+    assert program.names() == ["anchor", "barge", "crane"]
+    program.close()
+
+    again = start(quays)
+    again.wait_ready()
+    again.choose("View All")
+    assert again.names() == ["anchor", "barge", "crane"]

@@ -33,6 +33,8 @@ private Q_SLOTS:
     void severalInstalledVersionsMakeAChain();
     void packageWithoutMembersIsReportedAndKept();
 
+    void plainAttributesStandForMethods();
+    void oddPlainValuesAreAskedForTheLongWay();
     void barsShowTheWork();
     void clearStartsAfresh();
     void failedCollectionLeavesNoRows();
@@ -342,6 +344,51 @@ void TestYumIOCollect::packageWithoutMembersIsReportedAndKept()
     QVERIFY(bare);
     QCOMPARE(bare->verRel + bare->repo + bare->arch + bare->summary, QString());
     QCOMPARE(bare->sizeText, QStringLiteral("0b"));
+}
+
+void TestYumIOCollect::plainAttributesStandForMethods()
+{
+    // What isn't there can't be asked for without a report.
+    SCRIPT("class Plain:\n"
+           "    name, evr, arch, size, group, summary, buildtime = (\n"
+           "        'rowan', '1:2-3', 'noarch', 2048, 'Suite', 'A tree\\n\\n', 0)\n"
+           "class Quick:\n"
+           "    repoid = 'hedge'\n"
+           "    plain = Plain()\n"
+           "standin.world.updates = []\nstandin.world.installed = []\nstandin.world.available = [Quick()]\n"
+           "standin.world.groups = {}");
+    QVERIFY(engine->collect({}));
+    Package::Entry const* const rowan = package("rowan");
+    QVERIFY(rowan);
+    QCOMPARE(
+        (QStringList{rowan->verRel, rowan->arch, rowan->repo, rowan->summary, rowan->sizeText}),
+        (QStringList{"1:2-3", "noarch", "hedge", "A tree", "2.0Kb"}));
+    QCOMPARE(rowan->size, 2048ULL);
+    QCOMPARE(rowan->kind, Package::Suite);
+    QCOMPARE(rowan->buildTimeText, QStringLiteral("Thu Jan  1 00:00:00 1970"));
+}
+
+void TestYumIOCollect::oddPlainValuesAreAskedForTheLongWay()
+{
+    SCRIPT("class Plain:\n"
+           "    name, evr, arch, size, group, summary, buildtime = b'rowan', 5, 5, '2048', 5, 5, '86400'\n"
+           "class Slow:\n"
+           "    name, arch, size, repoid, plain = 'rowan', 'noarch', '2048', 5, Plain()\n"
+           "    def printVer(self):\n"
+           "        return '2-3'\n"
+           "    def returnSimple(self, key):\n"
+           "        return {'group': 'Suite', 'repoid': 'hedge', 'summary': 'A tree', 'buildtime': "
+           "'86400'}[key]\n"
+           "standin.world.updates = []\nstandin.world.installed = []\nstandin.world.available = [Slow()]\n"
+           "standin.world.groups = {}");
+    QVERIFY(engine->collect({}));
+    Package::Entry const* const rowan = package("rowan");
+    QVERIFY(rowan);
+    QCOMPARE(
+        (QStringList{rowan->verRel, rowan->arch, rowan->repo, rowan->summary, rowan->sizeText}),
+        (QStringList{"2-3", "noarch", "hedge", "A tree", "2.0Kb"}));
+    QCOMPARE(rowan->kind, Package::Suite);
+    QCOMPARE(rowan->buildTime, 86400LL);
 }
 
 void TestYumIOCollect::barsShowTheWork()

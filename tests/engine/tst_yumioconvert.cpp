@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "EngineTest.h"
 
+#include <array>
+#include <ctime>
 #include <limits>
 
 class TestYumIOConvert final : public EngineTest
@@ -12,6 +14,7 @@ private Q_SLOTS:
     void sizesForPeople();
     void timesForPeople();
     void absurdTimesDoNoHarm();
+    void timesAreThoseOfTheCLibrary();
 
     void textsOfAnyKind_data();
     void textsOfAnyKind();
@@ -87,6 +90,16 @@ void TestYumIOConvert::timesForPeople()
     QCOMPARE(TestEngine::timeFormat(1234567890), QStringLiteral("Fri Feb 13 23:31:30 2009"));
     QCOMPARE(TestEngine::dateFormat(1234567890), QStringLiteral("Fri Feb 13 2009"));
     QCOMPARE(TestEngine::timeFormat(-1), QStringLiteral("Wed Dec 31 23:59:59 1969"));
+}
+
+void TestYumIOConvert::timesAreThoseOfTheCLibrary()
+{
+    // From the year 1 to 9999; the steps meet every hour, weekday and month.
+    for (std::time_t time = -62135596800; time < 253402214400; time += 86400 * 365 * 2 + 36683921) {
+        std::array<char, 64> expected{};
+        QVERIFY(ctime_r(&time, expected.data()));
+        QCOMPARE(TestEngine::timeFormat(time), QString::fromLatin1(expected.data()).chopped(1));
+    }
 }
 
 void TestYumIOConvert::absurdTimesDoNoHarm()

@@ -17,6 +17,9 @@ private Q_SLOTS:
     void headerFlagsAndVersions_data();
     void headerFlagsAndVersions();
     void headerValuesThatAreNotThere();
+    void headersThatRaiseLeaveEmptyTexts_data();
+    void headersThatRaiseLeaveEmptyTexts();
+    void headerThatVanishesWhileItIsRead();
 
     void capabilitiesOfARepository_data();
     void capabilitiesOfARepository();
@@ -169,6 +172,77 @@ void TestYumIODetails::headerValuesThatAreNotThere()
     // A header that doesn't know the tag, or can't be asked.
     QVERIFY(!engine->getRpmHdrValue(package.get(), "BASENAMES"));
     QVERIFY(!engine->getRpmHdrValue(engine->object("types.SimpleNamespace(hdr=5)").get(), "BASENAMES"));
+}
+
+void TestYumIODetails::headersThatRaiseLeaveEmptyTexts_data()
+{
+    QTest::addColumn<QString>("header");
+    QTest::newRow("the header") << "property(lambda self: 1/0)";
+    QTest::newRow("its items") << "type('H', (), {'__getitem__': lambda self, tag: 1/0})()";
+    QTest::newRow("the lists") << "type('H', (), {'__getitem__': lambda self, tag: List()})()";
+    QTest::newRow("lists of none") << "type('H', (), {'__getitem__': lambda self, tag: [None, None]})()";
+    QTest::newRow("numbers") << "type('H', (), {'__getitem__': lambda self, tag: -2**70})()";
+    QTest::newRow("no header") << "None";
+}
+
+void TestYumIODetails::headersThatRaiseLeaveEmptyTexts()
+{
+    QFETCH(QString, header);
+    SCRIPT("class List(list):\n"
+           "    def __len__(self):\n"
+           "        return 2\n"
+           "    def __getitem__(self, at):\n"
+           "        raise ValueError('no item')\n");
+    EntryOwner entry(new Package::Entry);
+    {
+        TestEngine::PyGILStateWrapper const lock(true);
+        entry->pyObject = engine->object("type('P', (), {'hdr': " + header + "})()");
+        QVERIFY(entry->pyObject);
+    }
+    // Names that can't be read are no names: at most empty lines.
+    for (auto const accessor :
+         {&YumIO::getProvides, &YumIO::getRequires, &YumIO::getConflicts, &YumIO::getObsoletes,
+          &YumIO::getFiles, &YumIO::getRelocations}) {
+        QCOMPARE((engine.get()->*accessor)(*entry).remove(QLatin1Char('\n')), QString());
+    }
+    QString const changes = engine->getChangeLog(*entry);
+    QVERIFY(changes.isEmpty() || changes.startsWith("* "));
+    engine->getInstallTime(*entry);
+    QCOMPARE(engine->calls(), QStringList());
+    boxes->take();
+}
+
+void TestYumIODetails::headerThatVanishesWhileItIsRead()
+{
+    SCRIPT("class Erased:\n"
+           "    def __init__(self, left):\n"
+           "        self.left = left\n"
+           "    @property\n"
+           "    def hdr(self):\n"
+           "        self.left -= 1\n"
+           "        if self.left < 0:\n"
+           "            raise AttributeError('erased meanwhile')\n"
+           "        return Header(standin.world.alder_tags())\n");
+    QString const report = "getRpmHdrValue called for package with no hdr (i.e. not installed)";
+    for (auto const& [accessor, reads] :
+         {std::pair{&YumIO::getRequires, 4},
+          {&YumIO::getFiles, 4},
+          {&YumIO::getChangeLog, 4},
+          {&YumIO::getRelocations, 2},
+          {&YumIO::getInstallTime, 2}}) {
+        for (int left = 0; left <= reads; ++left) {
+            EntryOwner entry(new Package::Entry);
+            {
+                TestEngine::PyGILStateWrapper const lock(true);
+                entry->pyObject = engine->object(QStringLiteral("Erased(%1)").arg(left));
+            }
+            QString const text = (engine.get()->*accessor)(*entry);
+            // Without a header it isn't installed; once reading has begun, each value that is gone is told.
+            QCOMPARE(boxes->takeTexts(), QStringList(left == 0 ? 0 : reads - left, report));
+            QVERIFY(left < reads || !text.isEmpty());
+            QVERIFY(left > 1 || text.isEmpty());
+        }
+    }
 }
 
 void TestYumIODetails::capabilitiesOfARepository_data()

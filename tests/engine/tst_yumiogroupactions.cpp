@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "EngineTest.h"
 
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
 #include <algorithm>
 
 class TestYumIOGroupActions final : public EngineTest
@@ -334,7 +337,13 @@ void TestYumIOGroupActions::canceledConflictEndsTheApply()
     group("Grove")->action = Package::Install;
     package("elm")->action = Package::Remove;
     boxes->press({button});
+    QString byReturn;
+    boxes->whileShown([&byReturn] {
+        auto const* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        byReturn = box && box->defaultButton() ? box->defaultButton()->text() : QString();
+    });
     QVERIFY(!engine->apply());
+    QCOMPARE(byReturn, QStringLiteral("Cancel"));
     QCOMPARE(boxes->take().size(), 1);
     QCOMPARE(engine->calls(), QStringList());
     QCOMPARE(package("elm")->action, Package::Remove);

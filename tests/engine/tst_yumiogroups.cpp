@@ -13,6 +13,7 @@ private Q_SLOTS:
     void missingListsAreReported();
     void missingListsByNameAreReported();
     void namesOfOddTypes();
+    void groupsWhoseListsRaiseAreReported();
 
     void stateOfAnInstalledGroup_data();
     void stateOfAnInstalledGroup();
@@ -137,6 +138,31 @@ void TestYumIOGroups::namesOfOddTypes()
     QCOMPARE(names(engine->object("(1/0 if n else 'x' for n in (0, 1, 0))")), QStringList{"x"});
     QCOMPARE(names(engine->object("[5]")), QStringList{""});
     QCOMPARE(boxes->takeTexts(), QStringList{"Internal error: YumIO::pyString did not understand type"});
+}
+
+void TestYumIOGroups::groupsWhoseListsRaiseAreReported()
+{
+    SCRIPT("class Raising:\n"
+           "    name = groupid = 'Grove'\n"
+           "    user_visible = installed = True\n"
+           "    default_packages = {'x': 'x'}\n"
+           "    optional_packages = conditional_packages = 5\n"
+           "    @property\n"
+           "    def mandatory_packages(self):\n"
+           "        raise RuntimeError('not today')\n"
+           "standin.instead('collectGroupInfo', lambda: [Raising()])");
+    engine->clear();
+    QVERIFY(engine->collect({}));
+    QString const report = "Internal error: group mandatory_packages.Grove not evaluable";
+    QCOMPARE(boxes->takeTexts(), QStringList{report});
+    // A group with bad data doesn't show as out of date.
+    QCOMPARE(group("Grove")->state, Package::UpToDate);
+    QCOMPARE(engine->getMandatoryPkgs(*group("Grove")), QString());
+    QCOMPARE(boxes->takeTexts(), QStringList{report});
+    QCOMPARE(engine->getDefaultPkgs(*group("Grove")), QStringLiteral("x"));
+    QCOMPARE(engine->getOptionalPkgs(*group("Grove")), QString());
+    QCOMPARE(engine->getConditionalPkgs(*group("Grove")), QString());
+    QCOMPARE(boxes->takeTexts(), QStringList());
 }
 
 void TestYumIOGroups::stateOfAnInstalledGroup_data()

@@ -35,6 +35,7 @@ private Q_SLOTS:
     void jobRunsToItsEndAfterTheEventLoopsWereEnded();
     void failedRenewalLeavesAnEngineThatReports();
     void exitInARenewalIsQuiet();
+    void renewalServesEvents();
 };
 
 void TestYumIOLifecycle::endGivesTheLockBack()
@@ -291,6 +292,28 @@ void TestYumIOLifecycle::exitInARenewalIsQuiet()
     engine->clear();
     QVERIFY(!engine->collect({}));
     QCOMPARE(boxes->takeTexts(), QStringList{"Internal error: method lock call attemped with NULL self\n"});
+}
+
+void TestYumIOLifecycle::renewalServesEvents()
+{
+    writeScript();
+    QVERIFY(engine->initialize());
+    QVERIFY(engine->collect({}));
+    QString const gate = directory.filePath("gate");
+    engine->script(QStringLiteral("import os, time\n"
+                                  "construct = YumIO.__init__\n"
+                                  "def wait(self):\n"
+                                  "    end = time.monotonic() + 20\n"
+                                  "    while not os.path.exists('%1') and time.monotonic() < end:\n"
+                                  "        time.sleep(0.01)\n"
+                                  "    standin.note(str(os.path.exists('%1')))\n"
+                                  "    construct(self)\n"
+                                  "YumIO.__init__ = wait")
+                       .arg(gate));
+    QTimer::singleShot(0, this, [&gate] { QVERIFY(QFile(gate).open(QIODevice::WriteOnly)); });
+    engine->clear();
+    QCOMPARE(calls().filter("True").size(), 1);
+    QVERIFY(engine->collect({}));
 }
 
 int main(int argc, char* argv[])

@@ -3,6 +3,8 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFile>
+#include <QTimer>
 #include <csignal>
 
 class TestYumIOStart final : public LifecycleTest
@@ -12,6 +14,8 @@ class TestYumIOStart final : public LifecycleTest
 private Q_SLOTS:
     void startGivesTheScriptItsSurroundings();
     void secondStartDoesNothing();
+    void preloadingServesEvents();
+    void failedPreloadIsLeftToTheScript();
     void missingScript();
     void scriptWithASyntaxError();
     void scriptThatRaises();
@@ -44,6 +48,42 @@ void TestYumIOStart::secondStartDoesNothing()
     QVERIFY(engine->initialize());
     QVERIFY(engine->initialize());
     QCOMPARE(calls(), (QStringList{"script", "YumIO()"}));
+}
+
+void TestYumIOStart::preloadingServesEvents()
+{
+    writeScript("standin.note(str(preloaded))");
+    QString const gate = directory.filePath("gate");
+    QFile preload(directory.filePath("python/preload.py"));
+    QVERIFY(preload.open(QIODevice::WriteOnly));
+    preload.write(QStringLiteral("import os, threading, time, __main__\n"
+                                 "end = time.monotonic() + 20\n"
+                                 "while not os.path.exists('%1') and time.monotonic() < end:\n"
+                                 "    time.sleep(0.01)\n"
+                                 "__main__.preloaded = (\n"
+                                 "    os.path.exists('%1'),\n"
+                                 "    threading.current_thread() is threading.main_thread(),\n"
+                                 "    os.path.basename(__file__), 'YumIO' in globals())\n")
+                      .arg(gate)
+                      .toUtf8());
+    preload.close();
+    QTimer::singleShot(0, this, [&gate] { QVERIFY(QFile(gate).open(QIODevice::WriteOnly)); });
+    QVERIFY(engine->initialize());
+    QCOMPARE(calls(), (QStringList{"(True, False, 'preload.py', False)", "YumIO()"}));
+    QVERIFY(preload.remove());
+}
+
+void TestYumIOStart::failedPreloadIsLeftToTheScript()
+{
+    writeScript();
+    QFile preload(directory.filePath("python/preload.py"));
+    QVERIFY(preload.open(QIODevice::WriteOnly));
+    preload.write("import no_such_module\n");
+    preload.close();
+    QVERIFY(engine->initialize());
+    QCOMPARE(calls(), QStringList{"YumIO()"});
+    QVERIFY(engine->collect({}));
+    QVERIFY(preload.remove());
 }
 
 void TestYumIOStart::missingScript()

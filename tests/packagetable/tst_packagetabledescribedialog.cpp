@@ -3,6 +3,7 @@
 #include "DescribeTest.h"
 
 #include "packagetable/PackageTableModel.h"
+#include "widgets/Sizing.h"
 
 class TestDescribeDialog final : public DescribeTest
 {
@@ -256,6 +257,40 @@ private Q_SLOTS:
         boxes->take();
     }
 
+    void anInstalledPackageThatRaisesLeavesItsFieldsEmpty()
+    {
+        QVERIFY(collected());
+        SCRIPT("def refuse(*args):\n"
+               "    raise RuntimeError('not today')\n"
+               "birch = standin.world.find('installed', 'birch')\n"
+               "birch.returnSimple = refuse\n"
+               "birch.hdr = type('Refusing', (), {'__getitem__': refuse})()");
+        config(entry(QStringLiteral("birch")));
+        QVERIFY(!boxes->take().isEmpty());
+        QCOMPARE(
+            labels(rows(*dialog)),
+            QStringList(
+                {QStringLiteral("Installed"), QStringLiteral("Kind"), QStringLiteral("Version"),
+                 QStringLiteral("Architecture"), QStringLiteral("Size"), QStringLiteral("Summary"),
+                 QStringLiteral("Build Time"), QStringLiteral("Files"), QStringLiteral("Change Log")}));
+        QCOMPARE(show(QStringLiteral("Files")).text, QString());
+        QCOMPARE(show(QStringLiteral("Change Log")).text, QString());
+        QCOMPARE(boxes->take().size(), 2);
+    }
+
+    void theWordsOfARowAreMadeInTheirOrder()
+    {
+        // The order in which a screen reader tells them.
+        QVERIFY(collected());
+        config(entry(QStringLiteral("elm")));
+        QObjectList const made = areas(*dialog).first()->widget()->children();
+        QPushButton const* const details = button(*dialog, QStringLiteral("Repository"));
+        qsizetype const at = made.indexOf(const_cast<QPushButton*>(details));
+        QVERIFY(at > 1);
+        QCOMPARE(qobject_cast<QLabel*>(made.at(at - 2))->text(), QStringLiteral("Repository:"));
+        QCOMPARE(qobject_cast<QLabel*>(made.at(at - 1))->text(), QStringLiteral("base"));
+    }
+
     void theDialogIsModalAndNamesItsEntryOnTop()
     {
         QVERIFY(collected());
@@ -274,6 +309,17 @@ private Q_SLOTS:
         });
         dialog->exec();
         QCOMPARE(boxes->take().size(), 1);
+    }
+
+    void aLongAreaTakesEightyCharactersByTwentyFourLinesWithoutAFrame()
+    {
+        SCRIPT("standin.world.find('available', 'elm').simple.update(\n"
+               "    description='\\n'.join(['wide ' * 60] * 60))");
+        QVERIFY(collected());
+        config(entry(QStringLiteral("elm")));
+        HScrollArea const* const area = areas(*dialog).first();
+        QCOMPARE(area->sizeHint(), QSize(Sizing::columns(area, 80), 24 * area->fontMetrics().height()));
+        QCOMPARE(area->frameShape(), QFrame::NoFrame);
     }
 
     void eachDescriptionBeginsWithNothingOfTheOneBefore()

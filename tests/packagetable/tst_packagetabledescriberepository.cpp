@@ -87,6 +87,22 @@ private Q_SLOTS:
         QCOMPARE(boxes->take().size(), 1);
     }
 
+    void passwordsInAddressesStayHidden()
+    {
+        addRepository(
+            QStringLiteral("base"), {}, QStringLiteral("http://a/buffet?u=me&p=hush&path=/os"),
+            QStringLiteral("http://m/buffet?u=me&p=hush&path=/os"));
+        QVERIFY(collected());
+        config(entry(QStringLiteral("elm")));
+        boxes->press({QStringLiteral("Close")});
+        QCOMPARE(
+            details().rows, QStringList({
+                                QStringLiteral("URLs: http://a/buffet?u=me&p=***&path=/os"),
+                                QStringLiteral("Mirror list URL: http://m/buffet?u=me&p=***&path=/os"),
+                            }));
+        QCOMPARE(boxes->take().size(), 1);
+    }
+
     void nothingOfAnEarlierRepositoryRemains()
     {
         addRepository(

@@ -6,7 +6,10 @@
 #include "packagetable/PackageTableModel.h"
 #include "packagetable/PackageTableSortFilterProxyModel.h"
 
+#include <QSet>
 #include <QTest>
+#include <QTimer>
+#include <memory>
 
 using PackageTable::Model;
 using PackageTable::SortFilterProxyModel;
@@ -16,6 +19,8 @@ namespace
 
 // The lists of a group answer any question, so that none ends in a failure.
 constexpr char const* recorder = R"(
+import time
+
 asked = []
 
 class Recorder:
@@ -29,6 +34,12 @@ class Recorder:
     def __getattr__(self, name):
         asked.append(name)
         raise AttributeError(name)
+
+class Slow(Recorder):
+    def returnSimple(self, key):
+        if key == "description":
+            time.sleep(0.004)
+        return self.__dict__.get(key)
 
 class Names(Recorder):
     def __getattribute__(self, name):
@@ -100,6 +111,15 @@ private:
     std::unique_ptr<SortFilterProxyModel> proxy;
 
     bool accepts() const { return proxy->acceptRow(engine->entries[0], 0, QModelIndex()); }
+
+    // Rows whose description takes some time each, so that a search of them is a long one.
+    void addSlowRows(int count)
+    {
+        for (int row = 0; row < count; ++row) {
+            engine->addObject(row % 3 == 0 ? "Slow(url='wanted')" : "Slow()");
+        }
+        model->reset();
+    }
 
 private Q_SLOTS:
     void initTestCase() { engine = std::make_unique<InterpretedEngine>(); }
@@ -234,6 +254,128 @@ private Q_SLOTS:
         proxy->setStateFilter(PackageTable::Removable);
         QVERIFY(!accepts());
         QCOMPARE(engine->takeAsked(), QStringList());
+    }
+
+    void agreesWithTheRuleForEachRow_data()
+    {
+        QTest::addColumn<QString>("pattern");
+        for (char const* const pattern : {"wanted", "^name$", "matches nothing", "w.nted$", "(", ""}) {
+            QTest::newRow(pattern) << QString(pattern);
+        }
+    }
+
+    void agreesWithTheRuleForEachRow()
+    {
+        QFETCH(QString const, pattern);
+        addSlowRows(12);
+        engine->addObject("Names(others=[], optional_packages=['wanted'])", Package::Group);
+        engine->entries[4]->state = Package::OutOfDate;
+        model->reset();
+        auto const check = [this] {
+            QSet<int> expected;
+            for (int row = 0; row < engine->count(); ++row) {
+                if (proxy->acceptRow(engine->entries[row], row, QModelIndex())) {
+                    expected.insert(row);
+                }
+            }
+            QSet<int> shown;
+            for (int row = 0; row < proxy->rowCount(); ++row) {
+                shown.insert(proxy->mapToSource(proxy->index(row, 0)).row());
+            }
+            QCOMPARE(shown, expected);
+        };
+        proxy->setFilterRegExp(pattern);
+        check();
+        proxy->setStateFilter(PackageTable::Installable);
+        check();
+        proxy->setGroupsFilter(false);
+        check();
+        proxy->setMode(PackageTable::Filter);
+        check();
+        proxy->setMode(PackageTable::Search);
+        check();
+    }
+
+    void eventsAreServedWhileTheTableStillStandsWhole()
+    {
+        addSlowRows(60);
+        QCOMPARE(proxy->rowCount(), 60);
+        int ticks = 0;
+        int resets = 0;
+        QTimer timer;
+        connect(&timer, &QTimer::timeout, this, [&] {
+            ++ticks;
+            QCOMPARE(resets, 0);
+            QCOMPARE(proxy->rowCount(), 60);
+            QCOMPARE(proxy->index(59, 3).data().toString(), "name");
+        });
+        connect(proxy.get(), &SortFilterProxyModel::modelAboutToBeReset, this, [&] { ++resets; });
+        timer.start(0);
+        proxy->setFilterRegExp("wanted");
+        timer.stop();
+        QVERIFY2(ticks >= 5, qPrintable(QString::number(ticks)));
+        QVERIFY(resets > 0);
+        QCOMPARE(proxy->rowCount(), 20);
+    }
+
+    // The reset would test rows without serving events, had it to.
+    void everyVerdictStandsBeforeTheReset_data()
+    {
+        QTest::addColumn<int>("change");
+        QTest::newRow("expression") << 0;
+        QTest::newRow("mode") << 1;
+        QTest::newRow("state") << 2;
+        QTest::newRow("groups") << 3;
+        QTest::newRow("filter") << 4;
+    }
+
+    void everyVerdictStandsBeforeTheReset()
+    {
+        QFETCH(int const, change);
+        engine->addObject("Recorder(simple={'url': 'wanted'})");
+        proxy->setMode(change == 1 ? PackageTable::Filter : PackageTable::Search);
+        proxy->setFilter(change != 4);
+        if (change != 0) {
+            proxy->setFilterRegExp("wanted");
+        }
+        model->reset();
+        static_cast<void>(proxy->rowCount());
+        engine->takeAsked();
+        QStringList asked;
+        connect(proxy.get(), &SortFilterProxyModel::modelAboutToBeReset, this, [&] {
+            asked += engine->takeAsked();
+        });
+        switch (change) {
+        case 0:
+            proxy->setFilterRegExp("wanted");
+            break;
+        case 1:
+            proxy->setMode(PackageTable::Search);
+            break;
+        case 2:
+            proxy->setStateFilter(PackageTable::Installable);
+            break;
+        case 3:
+            proxy->setGroupsFilter(false);
+            break;
+        default:
+            proxy->setFilter(true);
+        }
+        QVERIFY(asked.contains("url"));
+        QCOMPARE(engine->takeAsked(), QStringList());
+        QCOMPARE(proxy->rowCount(), 1);
+    }
+
+    void aFilterServesNoEvents()
+    {
+        addSlowRows(3);
+        proxy->setMode(PackageTable::Filter);
+        bool served = false;
+        QTimer::singleShot(0, this, [&] { served = true; });
+        proxy->setFilterRegExp("name");
+        proxy->setStateFilter(PackageTable::Installable);
+        QVERIFY(!served);
+        QTRY_VERIFY(served);
     }
 
     void aRowIsSearchedOnceForEachExpression()

@@ -7,6 +7,8 @@
 
 #include <QRandomGenerator>
 #include <QTest>
+#include <algorithm>
+#include <numeric>
 
 using PackageTable::Model;
 using PackageTable::SortFilterProxyModel;
@@ -39,6 +41,41 @@ bool plainLessThan(QModelIndex const& left, QModelIndex const& right)
         return plainLessThan(leftName, rightName);
     }
     return leftText < rightText;
+}
+
+/// The model's rows as the proxy shows them.
+QList<int> rowsOf(QAbstractProxyModel const& proxy)
+{
+    QList<int> rows;
+    for (int row = 0; row < proxy.rowCount(); ++row) {
+        rows.append(proxy.mapToSource(proxy.index(row, 0)).row());
+    }
+    return rows;
+}
+
+/// The rows in the order of the cells' values; equal ones stay as they stand in the model.
+QList<int> plainOrder(Model const& model, int column, Qt::SortOrder order)
+{
+    QList<int> rows(model.rowCount());
+    std::iota(rows.begin(), rows.end(), 0);
+    std::stable_sort(rows.begin(), rows.end(), [&](int left, int right) {
+        bool const ascends = order == Qt::AscendingOrder;
+        return plainLessThan(
+            model.index(ascends ? left : right, column), model.index(ascends ? right : left, column));
+    });
+    return rows;
+}
+
+/// Whether each row may stand where it does; equal ones may stand in any order.
+bool standsInOrder(QAbstractProxyModel const& proxy, int column, Qt::SortOrder order)
+{
+    QList<int> rows(proxy.rowCount());
+    std::iota(rows.begin(), rows.end(), 0);
+    return std::is_sorted(rows.begin(), rows.end(), [&](int left, int right) {
+        bool const ascends = order == Qt::AscendingOrder;
+        return plainLessThan(
+            proxy.index(ascends ? left : right, column), proxy.index(ascends ? right : left, column));
+    });
 }
 
 } // namespace
@@ -90,6 +127,56 @@ private Q_SLOTS:
                 }
             }
         }
+    }
+
+    void manyRowsStandAsTheValuesOfTheCellsTell()
+    {
+        QRandomGenerator random(1742);
+        // Beginnings of every length that others share, ends of all kinds, and characters beyond Latin-1.
+        QStringList pieces{"lib",           "python3-", "a", "A", "-", "0", "12", QString(1, QChar(0)),
+                           QString(40, 'x')};
+        for (int const unit : {0xfc, 0xff, 0x100, 0x1fd, 0x1fe, 0x1ff, 0x200, 0xd83d, 0xe000, 0xffff}) {
+            pieces.append(QString(QChar(unit)));
+        }
+        auto const text = [&](int most) {
+            QString result;
+            for (int count = random.bounded(most + 1); count > 0; --count) {
+                result += pieces[random.bounded(int(pieces.size()))];
+            }
+            return result;
+        };
+        auto const fill = [&] {
+            for (int row = 0; row < 1500; ++row) {
+                Package::Entry& entry = engine.add(
+                    text(4), static_cast<Package::State>(random.bounded(3)),
+                    static_cast<Package::Kind>(random.bounded(3)));
+                entry.action = static_cast<Package::Action>(random.bounded(4));
+                entry.verRel = text(3);
+                entry.repo = text(1);
+                entry.arch = text(1);
+                entry.size = random.bounded(100) + (quint64(random.bounded(4)) << 31);
+                entry.buildTime = random.bounded(-100, 100);
+            }
+        };
+        for (int filling = 0; filling < 2; ++filling) {
+            engine.drop();
+            fill();
+            model.reset();
+            for (int column = 0; column < 9; ++column) {
+                for (Qt::SortOrder const order : {Qt::AscendingOrder, Qt::DescendingOrder}) {
+                    proxy.sort(column, order);
+                    QVERIFY(standsInOrder(proxy, column, order));
+                    proxy.clear();
+                    QCOMPARE(rowsOf(proxy), plainOrder(model, column, order));
+                }
+            }
+        }
+        // Marks come and go without a reset.
+        for (Package::Entry* const entry : engine.entries) {
+            entry->action = static_cast<Package::Action>(random.bounded(4));
+        }
+        proxy.sort(0);
+        QVERIFY(standsInOrder(proxy, 0, Qt::AscendingOrder));
     }
 
     void numbersSortByValueAndNotByText()

@@ -3,9 +3,13 @@
 
 #include "packagetable/PackageTableModel.h"
 #include "packagetable/PackageTableView.h"
+#include "tests/widgets/Contrast.h"
 #include "widgets/Colors.h"
 
+#include <QApplication>
 #include <QHeaderView>
+#include <QLineEdit>
+#include <QRandomGenerator>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
@@ -136,6 +140,39 @@ private Q_SLOTS:
             rows.append(emission[0].toInt());
         }
         QCOMPARE(rows, (QList<int>{0, 0, 0, 0, 1, 2}));
+    }
+
+    void theSpaceBarDoesWhatAClickDoes()
+    {
+        QSignalSpy const stateChanges(view, &View::stateChanged);
+        view->setCurrentIndex(cell(0, 0));
+        for (Package::Action const expected : {Package::Update, Package::Remove, Package::None}) {
+            QTest::keyClick(view, Qt::Key_Space);
+            QCOMPARE(action(0), expected);
+        }
+        QCOMPARE(stateChanges.count(), 3);
+        QTest::keyClick(view, Qt::Key_Right);
+        QTest::keyClick(view, Qt::Key_Space);
+        QCOMPARE(action(0), Package::None);
+        view->setCurrentIndex(QModelIndex());
+        QTest::keyClick(view, Qt::Key_Space);
+        QCOMPARE(stateChanges.count(), 3);
+    }
+
+    void tabLeavesTheTable()
+    {
+        auto* const field = new QLineEdit(window.get());
+        window->layout()->addWidget(field);
+        field->show();
+        window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(window.get()));
+        view->setFocus();
+        view->setCurrentIndex(cell(0, 0));
+        QTest::keyClick(view, Qt::Key_Tab);
+        QVERIFY(field->hasFocus());
+        QTest::keyClick(field, Qt::Key_Backtab);
+        QVERIFY(view->hasFocus());
+        QCOMPARE(view->currentIndex(), cell(0, 0));
     }
 
     void rowsDoNotMoveBelowTheMouseWhenSortedByAction()
@@ -296,6 +333,92 @@ private Q_SLOTS:
         QCOMPARE(names(), (QStringList{"everything", "audit", "coreutils"}));
     }
 
+    void resizedColumnsAreAsWideAsTheCellsOfAllRowsNeed()
+    {
+        QRandomGenerator random(20);
+        for (int row = 0; row < 300; ++row) {
+            Package::Entry& entry =
+                engine->add(QString(random.bounded(30), QChar('a' + random.bounded(26))), Package::Available);
+            entry.state = static_cast<Package::State>(random.bounded(3));
+            entry.action = static_cast<Package::Action>(random.bounded(4));
+            entry.verRel = QString::number(random.generate());
+            entry.repo = QString(random.bounded(20), QChar(random.bounded(0x20, 0x250)));
+            entry.arch = random.bounded(2) ? "noarch" : "x86_64";
+            entry.sizeText = QStringLiteral("%1Kb").arg(random.bounded(1000) / 10.0);
+            entry.buildTimeText = QStringLiteral("Thu Jan %1 1970").arg(random.bounded(32), 2);
+        }
+        model->reset();
+        HTableView plain(QStyleOptionViewItem::Left, 10, 10, window.get());
+        plain.setShowGrid(false);
+        plain.setModel(model.get());
+        for (int column = 0; column < 9; ++column) {
+            QCOMPARE(view->sizeHintForColumn(column), plain.sizeHintForColumn(column));
+        }
+        view->stateFilterChanged(PackageTable::Updatable);
+        view->groupsFilterChanged(false);
+        view->filtersearch("nothing is called so");
+        view->resizeColumnsToContents();
+        for (int column = 0; column < 9; ++column) {
+            QCOMPARE(
+                view->columnWidth(column),
+                std::max(plain.sizeHintForColumn(column), view->horizontalHeader()->sectionSizeHint(column)));
+        }
+    }
+
+    void resizeCountsTheRowsThatDoNotShowForTheHeight()
+    {
+        for (int row = 0; row < 30; ++row) {
+            engine->add(QString::number(row), Package::UpToDate);
+        }
+        View other(model.get(), PackageTable::Updatable, true, engine.get(), nullptr);
+        QVERIFY(other.model()->rowCount() < 30);
+        other.resizeColumnsToContents();
+        int const around = 2 * other.frameWidth() + other.horizontalHeader()->sizeHint().height();
+        QCOMPARE(other.sizeHint().height(), around + 35 * other.verticalHeader()->defaultSectionSize());
+    }
+
+    void resizeWhileTheRowsAreBeingMadeAnewIsHarmless()
+    {
+        engine->drop();
+        for (int column = 0; column < 9; ++column) {
+            QVERIFY(view->sizeHintForColumn(column) >= 0);
+        }
+        view->resizeColumnsToContents();
+        QCOMPARE(names(), QStringList());
+    }
+
+    void resizeFiltersAndSortsOnce()
+    {
+        QSignalSpy const resets(view->model(), &QAbstractItemModel::modelReset);
+        view->resizeColumnsToContents();
+        QCOMPARE(resets.count(), 1);
+    }
+
+    void updateAllAlsoMarksWhatTheFilterHides()
+    {
+        view->filtersearch("nothing is called so");
+        QCOMPARE(names(), QStringList());
+        model->setUpdateAll();
+        QCOMPARE(action(0), Package::Update);
+        QCOMPARE(action(1), Package::None);
+        QCOMPARE(action(4), Package::Update);
+    }
+
+    // No interpreter runs in this test: whatever asked Python would end it.
+    void cellsAndPaintingNeedNoInterpreter()
+    {
+        QVERIFY(!window->grab().isNull());
+        for (int row = 0; row < view->model()->rowCount(); ++row) {
+            for (int column = 0; column < 9; ++column) {
+                for (int role = 0; role <= Qt::UserRole; ++role) {
+                    static_cast<void>(view->model()->index(row, column).data(role));
+                }
+            }
+        }
+        clickHeader(7);
+        QCOMPARE(names().size(), 5);
+    }
+
     void resizeKeepsTheFilterOffThatWasOff()
     {
         view->stateFilterChanged(PackageTable::Removable);
@@ -322,6 +445,53 @@ private Q_SLOTS:
         QCOMPARE(colour(), QColor(Colors::errorDisabled()));
         window->setEnabled(true);
         QCOMPARE(colour(), QColor(Colors::error()));
+    }
+
+    void coloursFollowThePalette()
+    {
+        auto const colour = [this](int row) {
+            return qvariant_cast<QColor>(cell(row, 3).data(Qt::ForegroundRole));
+        };
+        QPalette const light = QApplication::palette();
+        QPalette const dark = Contrast::darkPalette();
+        QApplication::setPalette(dark);
+        QTRY_COMPARE(view->palette().color(QPalette::Base), dark.color(QPalette::Base));
+        for (bool const enabled : {true, false}) {
+            window->setEnabled(enabled);
+            for (QColor const& ground : Contrast::rowGrounds(dark)) {
+                QVERIFY(Contrast::ratio(colour(0), ground) >= Contrast::legible);
+                QVERIFY(Contrast::ratio(colour(1), ground) >= Contrast::legible);
+            }
+        }
+        QApplication::setPalette(light);
+        window->setEnabled(true);
+        QTRY_COMPARE(colour(0), QColor(Colors::error()));
+        QCOMPARE(colour(1), QColor(Colors::minor()));
+    }
+
+    void selectedRowsHaveTheColourOfSelections()
+    {
+        QPalette palette = window->palette();
+        palette.setColor(QPalette::Highlight, Qt::black);
+        palette.setColor(QPalette::HighlightedText, Qt::white);
+        window->setPalette(palette);
+        click(cell(1, 3));
+        QRect const row = view->visualRect(cell(0, 3));
+        auto const hasRed = [&] {
+            QImage const picture = view->viewport()->grab(row).toImage();
+            for (int y = 0; y < picture.height(); ++y) {
+                for (int x = 0; x < picture.width(); ++x) {
+                    QColor const pixel = picture.pixelColor(x, y);
+                    if (pixel.red() > pixel.green() + 100) {
+                        return true;
+                    }
+                }
+            }
+            return false;
+        };
+        QVERIFY(hasRed());
+        view->selectRow(cell(0, 3).row());
+        QVERIFY(!hasRed());
     }
 
     void columnsStayWhereTheUserMovedThem()

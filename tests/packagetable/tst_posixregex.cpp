@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "packagetable/PosixRegex.h"
 
+#include <QRandomGenerator>
 #include <QTest>
 
 class TestPosixRegex : public QObject
@@ -58,6 +59,44 @@ private Q_SLOTS:
             QVERIFY2(regex.matches("foo"), pattern);
             QVERIFY2(regex.matches(""), pattern);
         }
+    }
+
+    // Texts without the letters that an expression needs are refused without regexec(3), and texts of ASCII
+    // are met byte by byte where that is the same.
+    void agreesWithTheSystemsMatcher()
+    {
+        QRandomGenerator random(20261121);
+        QList<QByteArray> const parts{
+            "a",     "ab",    "ba",    "\xc3\xa9",      "*",     "+",       "?",   ".", "^",   "$",
+            "(",     ")",     "|",     "[ab]",          "{",     "}",       "{2}", "]", "\\.", "\\b",
+            "[a-b]", "[^b-]", "[]-a]", "[[:alpha:]-z]", "[!-~]", "[[=a=]]", "-"};
+        QList<QByteArray> const letters{"a", "b",  "\xc3\xa9", "\xc3\xa8", ".", "*",
+                                        "{", "\n", " ",        "]",        "-", "B"};
+        auto const joined = [&random](QList<QByteArray> const& from, int most) {
+            QByteArray text;
+            for (int left = random.bounded(most + 1); left > 0; --left) {
+                text += from[random.bounded(int(from.size()))];
+            }
+            return text;
+        };
+        int compiled = 0;
+        for (int round = 0; round < 20000; ++round) {
+            QByteArray const pattern = joined(parts, 5);
+            PosixRegex regex;
+            regex_t plain;
+            bool const compiles = regcomp(&plain, pattern.constData(), REG_EXTENDED | REG_NOSUB) == 0;
+            QCOMPARE(regex.compile(pattern), compiles);
+            for (int text = 0; compiles && text < 5; ++text) {
+                QByteArray const tried = joined(letters, 6);
+                bool const expected = regexec(&plain, tried.constData(), 0, nullptr, 0) == 0;
+                QVERIFY2(regex.matches(tried) == expected, (pattern + " on " + tried).constData());
+            }
+            if (compiles) {
+                ++compiled;
+                regfree(&plain);
+            }
+        }
+        QVERIFY(compiled > 5000);
     }
 
     void aNewPatternTakesThePlaceOfTheOld()

@@ -3,6 +3,7 @@
 
 from __future__ import annotations
 
+import os
 import subprocess
 import sys
 from pathlib import Path
@@ -18,14 +19,26 @@ from rpmestate import Estate  # noqa: E402
 
 NUMBERS = ["--packages=300", "--installed=40", "--updates=25"]
 
-READY_PROGRAM = """#!/usr/bin/python3
-import os, sys
-assert os.environ["VEM_BENCH"] == "1" and os.path.isdir(os.environ["VEMROOT"])
-block = bytearray(64 << 20)
-print("vem: ready 275 rows", file=sys.stderr)
+PROGRAM = """#!/usr/bin/python3
+import json, os, time
+assert os.path.isdir(os.environ["VEMROOT"]) and os.environ["LD_PRELOAD"].endswith("/driver.so")
+with open(os.environ["VEM_BENCH_STEPS"]) as file:
+    steps = json.load(file)
+first = {"name": "start", "at": time.monotonic(), "gap": 1.5, "peak": 66 * 1024, "entries": 275}
+lines = [first] + [{**step, "ms": 250, "gap": 2.5} for step in steps]
+with open(os.environ["VEM_BENCH_OUTPUT"], "w") as file:
+    file.writelines(json.dumps(line) + "\\n" for line in lines)
+"""
+
+FAULTY_PROGRAM = """#!/usr/bin/python3
+import os
+with open(os.environ["VEM_BENCH_OUTPUT"], "w") as file:
+    print('{"error": "no enabled button \\\\"Refresh\\\\""}', file=file)
+raise SystemExit(3)
 """
 
 SILENT_PROGRAM = """#!/usr/bin/python3
+print("an older one")
 """
 
 
@@ -36,18 +49,21 @@ def fixture_estate(tmp_path_factory: pytest.TempPathFactory) -> Estate:
     return Estate(directory)
 
 
-def run_bench(estate: Estate, text: str) -> "subprocess.CompletedProcess[str]":
+def run_bench(estate: Estate, text: str, *more: str) -> "subprocess.CompletedProcess[str]":
     program = estate.directory / "build/shell/vem"
     program.parent.mkdir(parents=True, exist_ok=True)
     program.write_text(text)
     program.chmod(0o755)
-    results = estate.directory / "results.md"
-    places = ["--program", str(program), "--estate", str(estate.directory), "--results", str(results)]
+    (estate.directory / "driver.so").touch()
+    places = ["--program", str(program), "--driver", str(estate.directory / "driver.so")]
+    places += ["--estate", str(estate.directory)]
+    rows = ["--only", "start", "refresh", "memory", *more]
     return subprocess.run(
-        [str(TOP / "bench/run"), "--runs=2", *NUMBERS, *places],
+        [str(TOP / "bench/run"), "--runs=2", *NUMBERS, *places, *rows],
         stdout=subprocess.PIPE,
         stderr=subprocess.PIPE,
         encoding="utf-8",
+        env={**os.environ, "QT_QPA_PLATFORM": "offscreen"},
     )
 
 
@@ -69,21 +85,59 @@ def test_a_complete_estate_is_kept(estate: Estate) -> None:
     assert (estate.root / "var/lib/rpm/rpmdb.sqlite").stat().st_ino == before
 
 
-def test_reports_time_and_memory_as_ratios(estate: Estate) -> None:
-    done = run_bench(estate, READY_PROGRAM)
+def test_updates_can_be_installed_where_that_was_asked_for(tmp_path: Path) -> None:
+    command = [str(TOP / "bench/make_estate.py"), "--packages=60", "--installed=20", "--updates=15"]
+    subprocess.run([*command, "--real-updates", str(tmp_path / "estate")], check=True)
+    estate = Estate(tmp_path / "estate")
+    rpms = sorted((estate.repos_dir / "updates").glob("*.rpm"))
+    assert len(rpms) == 15
+    estate.install(rpms)
+    assert len(estate.installed()) == 20
+    assert dnf_report(estate)["upgrades"] == []
+
+
+def test_reports_ratios_to_dnf_and_writes_them_where_it_is_told(estate: Estate, tmp_path: Path) -> None:
+    done = run_bench(estate, PROGRAM, "--results", str(tmp_path))
     assert done.returncode == 0, done.stderr
-    text = (estate.directory / "results.md").read_text(encoding="utf-8")
-    assert text.strip() == done.stdout.strip().split("\n", 1)[1].strip()
+    text = (tmp_path / "results.md").read_text(encoding="utf-8")
+    assert text.strip() == done.stdout.strip()
     table = [line.split("|") for line in text.splitlines() if line.startswith("|")]
-    rows = {cells[1].strip(): cells for cells in table}
-    seconds = float(rows["wall clock, from exec"][3].split()[0])
-    mebibytes = float(rows["peak memory"][3].split()[0])
-    assert 0 < seconds < 60
-    assert 64 < mebibytes < 128
-    assert rows["lines listed, rows shown"][3].strip() == "275"
+    rows = {cells[1].strip(): [cell.strip() for cell in cells] for cells in table}
+    dnf_seconds = float(rows["`dnf -q list -C`"][2].split()[0])
+    dnf_mebibytes = float(rows["its peak memory"][2].split()[0])
+    assert float(rows["refresh"][2]) == 0.25
+    assert float(rows["Re&fresh"][2].split()[0]) == pytest.approx(0.25 / dnf_seconds, rel=0.05)
+    ratio = float(rows["peak memory after the first collection"][2].split()[0])
+    assert ratio == pytest.approx(66 / dnf_mebibytes, abs=0.02)
+    assert 0 < float(rows["start"][2]) < 60
+    assert (tmp_path / "results.svg").read_text(encoding="utf-8").startswith("<svg")
 
 
-def test_a_program_without_the_mark_is_reported(estate: Estate) -> None:
+def test_two_programs_take_turns(estate: Estate) -> None:
+    done = run_bench(estate, PROGRAM, "--against", str(estate.directory / "build/shell/vem"))
+    assert done.returncode == 0, done.stderr
+    (row,) = [line.split("|") for line in done.stdout.splitlines() if line.startswith("| Re&fresh")]
+    assert row[-2].strip() == "1.00"
+
+
+def test_what_went_wrong_in_the_program_is_reported(estate: Estate) -> None:
+    done = run_bench(estate, FAULTY_PROGRAM)
+    assert done.returncode == 1
+    assert 'no enabled button "Refresh"' in done.stderr
+
+
+def test_a_scenario_that_fails_leaves_the_others_their_values(estate: Estate) -> None:
+    refusal = 'if "View" in str(steps):\n    raise SystemExit("no view")\n'
+    failing = PROGRAM.replace("first = ", refusal + "first = ")
+    done = run_bench(estate, failing, "sort")
+    assert done.returncode == 0, done.stderr
+    assert "| refresh | 0.25 |" in done.stdout
+    assert "Not measured: " in done.stdout
+    assert "no view" in done.stdout
+
+
+def test_a_program_that_does_no_steps_is_reported(estate: Estate) -> None:
     done = run_bench(estate, SILENT_PROGRAM)
     assert done.returncode == 1
-    assert 'never said "vem: ready"' in done.stderr
+    assert "0 lines for 0 steps" in done.stderr
+    assert "an older one" in done.stderr

@@ -16,6 +16,7 @@ import dnf.cli.commands.clean
 import dnf.comps
 import dnf.conf
 import dnf.conf.config
+import dnf.conf.read
 import dnf.const
 import dnf.exceptions
 import dnf.lock
@@ -24,6 +25,7 @@ import dnf.package
 import dnf.repo
 import dnf.rpm
 import dnf.rpm.miscutils
+import dnf.sack
 import dnf.transaction
 import dnf.util
 import dnf.yum.rpmtrans
@@ -37,6 +39,8 @@ import rpm
 NAMES = [
     (dnf.const, "VERSION"),
     (dnf.logging, "ALL"),
+    (dnf.sack, "Sack"),
+    (dnf.sack, "_build_sack"),
     (dnf.callback, "DownloadProgress"),
     (dnf.callback, "STATUS_OK"),
     (dnf.callback, "STATUS_ALREADY_EXISTS"),
@@ -56,6 +60,7 @@ NAMES = [
     (dnf.comps.Comps, "groups"),
     (dnf.conf, "Conf"),
     (dnf.conf, "MainConf"),
+    (dnf.conf.read.RepoReader, "_get_repos"),
     (dnf.conf.config, "PRIO_DEFAULT"),
     (dnf.conf.config, "PRIO_MAINCONFIG"),
     (dnf.conf.MainConf, "_has_option"),

@@ -122,3 +122,38 @@ def test_translated_name(estate: Estate, rpms: Catalogue, program: Program) -> N
     estate.repository("base", rpms.some("lib-1.0"), comps=text)
     (one,) = program.collect().groups
     assert one.name in ("Light", "Licht \u2014 Leuchten")
+
+
+def test_members_without_a_name_are_no_packages(estate: Estate, rpms: Catalogue, program: Program) -> None:
+    estate.install(rpms.some("lib-1.0"))
+    members = (
+        "<packagereq type='mandatory'/><packagereq type='mandatory'>  </packagereq>"
+        "<packagereq type='mandatory'>\n lib\n</packagereq><packagereq type='optional'/>"
+        "<packagereq type='conditional' requires='lib'/>"
+    )
+    text = comps(group("gaps", "\n Gaps ").replace("<packagelist>", f"<packagelist>{members}"))
+    estate.repository("base", rpms.some("lone-1.0"), comps=text)
+    (one,) = program.collect().groups
+    assert one.name == "Gaps"
+    assert one.mandatory_packages == {"lib": "lib"}
+    assert one.optional_packages == one.conditional_packages == {}
+    assert one.installed
+
+
+def test_groups_that_name_themselves_or_nothing_that_is_known(
+    estate: Estate, rpms: Catalogue, program: Program
+) -> None:
+    text = comps(group("mirror", "Mirror", mandatory="Mirror mirror"), group("far", "Far", default="nowhere"))
+    estate.repository("base", rpms.some("lib-1.0"), comps=text)
+    found = program.collect()
+    assert {one.name: one.installed for one in found.groups} == {"Mirror": False, "Far": False}
+    assert found.merged() == {"lib": "Available"}
+
+
+def test_group_without_list_id_and_name_is_not_shown(
+    estate: Estate, rpms: Catalogue, program: Program
+) -> None:
+    text = comps("<group><uservisible>true</uservisible></group>", "<group><id>bare</id></group>")
+    estate.repository("base", rpms.some("lib-1.0"), comps=text)
+    (one,) = program.collect().groups
+    assert (one.groupid, one.name, one.mandatory_packages) == ("bare", "bare", {})

@@ -4,7 +4,7 @@
 from __future__ import annotations
 
 import time
-from typing import Any, Tuple
+from typing import Any, List, Tuple
 
 import pytest
 import rpm
@@ -192,13 +192,58 @@ def test_files_of_an_available_package_are_files_only(
     assert found.offered("lamp").returnFileEntries("dir") == []
 
 
+def test_packages_of_the_table_have_no_dictionary_and_know_their_repository(
+    lamp: Tuple[Estate, Program],
+) -> None:
+    found = lamp[1].collect()
+    for package in (found.offered("lamp"), found.there("lamp")):
+        # In 66,000 rows a dictionary each would be 22 MB.
+        assert not vars(package.po)
+        assert package.po.base is found.yumio._session.base
+    offered = found.offered("lamp").po
+    assert offered.repo is found.yumio._session.base.repos[offered.reponame]
+
+
+def test_shorter_way_to_the_values_tells_the_same(lamp: Tuple[Estate, Program]) -> None:
+    found = lamp[1].collect()
+    for package in (found.offered("lamp"), found.there("lamp")):
+        plain = package.plain
+        assert (plain.name, plain.arch, plain.size) == (package.name, package.arch, package.size)
+        assert plain.evr == package.printVer()
+        assert package.repoid == package.returnSimple("repoid")
+        for key in ("group", "summary", "buildtime"):
+            assert getattr(plain, key) == package.returnSimple(key)
+
+
+def test_lists_are_read_when_they_are_used_and_not_before(lamp: Tuple[Estate, Program], monkeypatch: Any) -> None:
+    from vemyum.details import PackageDetails
+
+    found = lamp[1].collect()
+    found.yumio.collectFileLists()
+    read: List[str] = []
+    files = PackageDetails.files
+    monkeypatch.setattr(PackageDetails, "files", lambda *args: read.append("files") or files(*args))
+    changelog = PackageDetails.changelog
+    monkeypatch.setattr(PackageDetails, "changelog", lambda *args: read.append("changelog") or changelog(*args))
+    package = found.offered("lamp")
+    listed, changes = package.files, package.changelog
+    assert read == []
+    assert sorted(listed) == ["/etc/lamp.conf", "/usr/share/lamp/bulb", "/usr/share/lamp/shade"]
+    assert list(changes) == [] and read == ["files", "changelog"]
+
+
 def test_directories_are_no_files() -> None:
     from vemyum.packages import AvailablePackage
 
     class Po:
         files = ["/a", "/a/b", "/a/b/c", "/d"]
 
-    package = AvailablePackage(Po(), None)  # type: ignore[arg-type]
+    class NotLoaded:
+        @staticmethod
+        def files(po: Any) -> None:
+            return None
+
+    package = AvailablePackage(Po(), NotLoaded())  # type: ignore[arg-type]
     assert package.returnFileEntries("file") == ["/a/b/c", "/d"]
 
 
@@ -208,7 +253,7 @@ def test_changelog_comes_with_the_extra_data(lamp: Tuple[Estate, Program]) -> No
     assert package.returnChangelog() == []
     found.yumio.collectOtherData()
     entries = package.returnChangelog()
-    assert package.changelog == entries
+    assert list(package.changelog) == entries
     days = [(time.strftime("%Y-%m-%d", time.localtime(when)), author, text) for when, author, text in entries]
     assert days == [
         ("2024-03-05", "Ada Nilsson <ada@estate.example> - 1.1-1", "- Brighter"),

@@ -15,7 +15,7 @@ from catalogue import Catalogue
 from fake_host import FakeHost
 from program import Program
 from rpmestate import Estate
-from web import Web
+from web import Web, metalink
 
 
 def acts(host: FakeHost) -> List[Tuple[str, str]]:
@@ -75,28 +75,10 @@ def test_acts_of_a_metalink(
     directory = estate.repository(
         "base", rpms.some("battery-1.0"), extra={"baseurl": None, "metalink": f"{web.url}/link"}
     )
-    web.page("/link", metalink(directory, web.url))
+    web.page("/link", metalink(directory, f"{web.url}/base"))
     program.start().setupRepos()
     kinds = [("mirrors", "base"), ("repomd", "base"), ("download", "base"), ("convert", ""), ("read", "base")]
     assert acts(host) == kinds
-
-
-def metalink(directory: Path, url: str) -> bytes:
-    repomd = (directory / "repodata/repomd.xml").read_bytes()
-    stamp = re.search(rb"<timestamp>(\d+)", repomd)
-    assert stamp is not None
-    return f"""<?xml version="1.0" encoding="utf-8"?>
-<metalink version="3.0" xmlns="http://www.metalinker.org/" xmlns:mm0="http://fedorahosted.org/mirrormanager">
- <files><file name="repomd.xml">
-  <mm0:timestamp>{stamp.group(1).decode()}</mm0:timestamp>
-  <size>{len(repomd)}</size>
-  <verification><hash type="sha256">{hashlib.sha256(repomd).hexdigest()}</hash></verification>
-  <resources maxconnections="1">
-   <url protocol="http" type="http" location="US" preference="100">{url}/base/repodata/repomd.xml</url>
-  </resources>
- </file></files>
-</metalink>
-""".encode()
 
 
 def test_second_reading_downloads_and_converts_nothing(

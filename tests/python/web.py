@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: GPL-2.0-or-later
-"""A web server on loopback that notes requests and can fail on demand.
+"""A web server on loopback that notes requests, and can fail or be slow on demand.
 
 It is a process of its own: dnf keeps the interpreter lock while it fetches metadata, and a thread of
 this interpreter could not answer.
@@ -8,9 +8,12 @@ this interpreter could not answer.
 from __future__ import annotations
 
 import base64
+import hashlib
 import json
+import re
 import subprocess
 import sys
+import time
 from http.server import SimpleHTTPRequestHandler, ThreadingHTTPServer
 from pathlib import Path
 from typing import Any, Dict, List, Set
@@ -23,6 +26,7 @@ class Web:
         self._state = state
         self._state.mkdir()
         self._missing: Set[str] = set()
+        self._held: Set[str] = set()
         self._pages: Dict[str, bytes] = {}
         self._tell()
         self._process = subprocess.Popen(
@@ -46,6 +50,16 @@ class Web:
         self._pages[path] = body
         self._tell()
 
+    def hold(self, *parts: str) -> None:
+        """Paths that contain one of these are answered only after `let_go`."""
+        self._held.update(parts)
+        self._tell()
+
+    def let_go(self, *parts: str) -> None:
+        """Answers these; without an argument, everything that is held."""
+        self._held -= set(parts) or self._held
+        self._tell()
+
     def requests(self) -> List[str]:
         """All paths that were asked for, in order."""
         log = self._state / "requests"
@@ -66,8 +80,28 @@ class Web:
     def _tell(self) -> None:
         pages = {path: base64.b64encode(body).decode() for path, body in self._pages.items()}
         new = self._state / "new"
-        new.write_text(json.dumps({"missing": sorted(self._missing), "pages": pages}))
+        state = {"missing": sorted(self._missing), "held": sorted(self._held), "pages": pages}
+        new.write_text(json.dumps(state))
         new.rename(self._state / "state.json")
+
+
+def metalink(directory: Path, url: str) -> bytes:
+    """The metalink file of a repository that lies in `directory` and is served at `url`."""
+    repomd = (directory / "repodata/repomd.xml").read_bytes()
+    stamp = re.search(rb"<timestamp>(\d+)", repomd)
+    assert stamp is not None
+    return f"""<?xml version="1.0" encoding="utf-8"?>
+<metalink version="3.0" xmlns="http://www.metalinker.org/" xmlns:mm0="http://fedorahosted.org/mirrormanager">
+ <files><file name="repomd.xml">
+  <mm0:timestamp>{stamp.group(1).decode()}</mm0:timestamp>
+  <size>{len(repomd)}</size>
+  <verification><hash type="sha256">{hashlib.sha256(repomd).hexdigest()}</hash></verification>
+  <resources maxconnections="1">
+   <url protocol="http" type="http" location="US" preference="100">{url}/repodata/repomd.xml</url>
+  </resources>
+ </file></files>
+</metalink>
+""".encode()
 
 
 def serve(directory: str, state: Path) -> None:
@@ -78,7 +112,11 @@ def serve(directory: str, state: Path) -> None:
         def do_GET(self) -> None:
             with open(state / "requests", "a", encoding="utf-8") as log:
                 log.write(self.path + "\n")
-            orders = json.loads((state / "state.json").read_text())
+            orders = self.orders()
+            deadline = time.monotonic() + 60
+            while any(part in self.path for part in orders["held"]) and time.monotonic() < deadline:
+                time.sleep(0.02)
+                orders = self.orders()
             if self.path in orders["missing"]:
                 self.send_error(404)
             elif self.path in orders["pages"]:
@@ -89,6 +127,10 @@ def serve(directory: str, state: Path) -> None:
                 self.wfile.write(body)
             else:
                 super().do_GET()
+
+        @staticmethod
+        def orders() -> Any:
+            return json.loads((state / "state.json").read_text())
 
         def log_message(self, *args: Any) -> None:
             """Quiet."""

@@ -42,6 +42,19 @@ public:
         QCOMPARE(std::fclose(file), 0);
     }
 
+    /// Lets any user look below the root; what stands there keeps its own permissions.
+    void openToAll() const
+    {
+        QVERIFY(QFile::setPermissions(
+            directory.path(),
+            QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther));
+    }
+
+    void setPermissions(QByteArray const& path, QFile::Permissions permissions) const
+    {
+        QVERIFY(QFile::setPermissions(QFile::decodeName(onDisk(path)), permissions));
+    }
+
     void remove(QByteArray const& path) const { QCOMPARE(std::remove(onDisk(path).constData()), 0); }
 
     /// Reads a system of a main file alone.

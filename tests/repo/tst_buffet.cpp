@@ -47,6 +47,8 @@ private Q_SLOTS:
     void escapesAreRewrittenInLowerCase();
     void reservedCharactersSurvive();
     void everyPartThatFitsIsReplaced();
+    void passwordsAreMasked_data();
+    void passwordsAreMasked();
     void replacementIsTakenAsItStands();
     void fieldOfOneAddress_data();
     void fieldOfOneAddress();
@@ -207,6 +209,26 @@ void TestBuffet::replacingKeepsKeysOrName()
         QStringLiteral("/buffet?a=&c=&path=\n/buffet?a=&c=&path="));
 }
 
+void TestBuffet::passwordsAreMasked_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("masked");
+    auto const row = [](char const* text, char const* masked) {
+        QTest::newRow(text) << QString::fromLatin1(text) << QString::fromLatin1(masked);
+    };
+    row("http://h/buffet?u=me&p=p%26w&path=/os", "http://h/buffet?u=me&p=***&path=/os");
+    row("/buffet?u=me&p=a=b&path=/os", "/buffet?u=me&p=***&path=/os");
+    row("/buffet?u=&p=1&path=\n/buffet?=&=2&path=", "/buffet?u=&p=***&path=\n/buffet?=&=***&path=");
+    row("/buffet?u=me&p=&path=/os", "/buffet?u=me&p=&path=/os");
+    row("http://h/os?u=me&p=pw", "http://h/os?u=me&p=pw");
+}
+
+void TestBuffet::passwordsAreMasked()
+{
+    QFETCH(QString, text);
+    QTEST(Repo::Buffet::maskPasswords(text), "masked");
+}
+
 void TestBuffet::textWithoutBuffetAddressStays()
 {
     for (char const* const text :
@@ -292,7 +314,7 @@ void TestBuffet::fieldOfManyAddresses_data()
     row("/buffet?a=b&c=d&path=\xe4", {QStringLiteral("d")});
     row("/buffet?a=b&c=d&path=", {});
     row("/buffet?a=b&c=d&path= \n", {});
-    row("/buffet?a=b&c=d&path=/x", {});
+    row("/buffet?a=b&c=d&path=/x", {QStringLiteral("d")});
     row("http://plain", {});
 }
 

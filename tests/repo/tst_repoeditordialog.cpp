@@ -4,9 +4,12 @@
 #include "ConfFiles.h"
 #include "RepoEditorTest.h"
 
+#include "tests/widgets/Contrast.h"
 #include "widgets/Colors.h"
 #include "widgets/HSeparator.h"
 
+#include <QAccessible>
+#include <QApplication>
 #include <QSignalSpy>
 
 class RepoEditorDialogTest : public RepoEditorTest
@@ -159,6 +162,47 @@ private Q_SLOTS:
         table()->setCurrentRow(0);
         QCOMPARE(status()->text(), QString());
         QCOMPARE(statusColor(), plain);
+    }
+
+    void statusFollowsThePalette()
+    {
+        QPalette const light = QApplication::palette();
+        QPalette const dark = Contrast::darkPalette();
+        QColor const ground = dark.color(QPalette::Window);
+        clickCell("fen", 1);
+        QApplication::setPalette(dark);
+        QTRY_COMPARE(status()->palette().color(QPalette::Window), ground);
+        QVERIFY(Contrast::ratio(statusColor(), ground) >= Contrast::legible);
+        QVERIFY(statusColor().green() > statusColor().red() + 50);
+        root->conf.repos[3].id.clear();
+        table()->setCurrentRow(0);
+        QVERIFY(Contrast::ratio(statusColor(), ground) >= Contrast::legible);
+        QVERIFY(statusColor().red() > statusColor().green() + 50);
+        click("Reset All");
+        QCOMPARE(status()->text(), QString());
+        QCOMPARE(statusColor(), dark.color(QPalette::WindowText));
+        clickCell("fen", 1);
+        QApplication::setPalette(light);
+        QTRY_COMPARE(statusColor(), QColor(Colors::ok()));
+        click("Reset All");
+        QCOMPARE(statusColor(), light.color(QPalette::WindowText));
+    }
+
+    void screenReadersGetToHearTheBoxes()
+    {
+        QAccessible::setActive(true);
+        QAccessibleInterface* const interface = QAccessible::queryAccessibleInterface(table());
+        QVERIFY(interface && interface->tableInterface());
+        QModelIndex const box = cell("moor", 0);
+        QAccessibleInterface* const spoken = interface->tableInterface()->cellAt(box.row(), 0);
+        QVERIFY(spoken);
+        QCOMPARE(spoken->text(QAccessible::Name), "Repository is not enabled for this session");
+        clickCell("moor", 0);
+        QCOMPARE(spoken->text(QAccessible::Name), "Repository is enabled for this session");
+        QAccessibleInterface* const lasting = interface->tableInterface()->cellAt(box.row(), 1);
+        QVERIFY(lasting);
+        QCOMPARE(lasting->text(QAccessible::Name), "Repository is not configured to be enabled");
+        QAccessible::setActive(false);
     }
 
     void identifiersAreNotMarkup() { QCOMPARE(status()->textFormat(), Qt::PlainText); }

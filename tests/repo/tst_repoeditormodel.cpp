@@ -2,6 +2,7 @@
 // The editor's table of repositories, without a window.
 #include "BoxReader.h"
 #include "ConfRoot.h"
+#include "Launches.h"
 
 #include "repo/RepoEditorModel.h"
 #include "tests/packagetable/TestEngine.h"
@@ -127,6 +128,25 @@ private Q_SLOTS:
         QCOMPARE(at(1, 0, Qt::ToolTipRole).toString(), "Repository is enabled for this session");
         QCOMPARE(at(1, 1, Qt::ToolTipRole).toString(), "Repository is configured to be enabled");
         QVERIFY(!at(1, 2, Qt::ToolTipRole).isValid());
+    }
+
+    void screenReadersHearWhatTheBoxesShow()
+    {
+        root->reposEnabled[QStringLiteral("on")] = false;
+        auto const spoken = [this](int row, int column) {
+            return at(row, column, Qt::AccessibleTextRole).toString();
+        };
+        QCOMPARE(spoken(0, 0), "Repository is enabled for this session");
+        QCOMPARE(spoken(2, 0), "Repository is not enabled for this session");
+        // Other than the tip, which asks the session.
+        QCOMPARE(spoken(2, 1), "Repository is configured to be enabled");
+        QCOMPARE(spoken(1, 1), "Repository is not configured to be enabled");
+        QCOMPARE(spoken(0, 1), "Repository is configured to be enabled");
+        root->conf.mainEnabled = false;
+        QCOMPARE(spoken(0, 1), "Repository is not configured to be enabled");
+        // The others are read out as they stand there.
+        QVERIFY(!at(0, 2, Qt::AccessibleTextRole).isValid());
+        QVERIFY(!at(0, 3, Qt::AccessibleTextRole).isValid());
     }
 
     void anUnknownIdentifierBecomesKnownAsNotUsed()
@@ -258,6 +278,25 @@ private Q_SLOTS:
         QCOMPARE(boxes.texts, QStringList());
         model->browse(model->index(0, 2), nullptr);
         QCOMPARE(boxes.texts, QStringList{QStringLiteral("Repository configuration has no URL")});
+    }
+
+    void browsingReachesTheBrowser()
+    {
+        QVERIFY(engine->initialize());
+        Launches const launches;
+        launches.add(QStringLiteral("webbrowser"));
+        QByteArray const share = qgetenv("VEMSHARE");
+        qputenv("VEMSHARE", QFile::encodeName(launches.path(QString())));
+        engine->add(QStringLiteral("one"), Package::Available);
+        engine->add(QStringLiteral("two"), Package::Available);
+        repos()[1].baseurl = QStringLiteral("http://moor/os\nhttp://fen/os");
+
+        model->browse(model->index(1, 3), nullptr);
+        QTRY_COMPARE(
+            launches.started(),
+            (QByteArrayList{
+                QFile::encodeName(launches.path(QStringLiteral("webbrowser"))), "http://moor/os"}));
+        qputenv("VEMSHARE", share);
     }
 };
 

@@ -5,6 +5,7 @@
 #include "ConfRoot.h"
 #include "FormUser.h"
 #include "repo/Buffet.h"
+#include "tests/widgets/Contrast.h"
 #include "widgets/Colors.h"
 #include "widgets/HTextEdit.h"
 #include "widgets/PasswdLineEdit.h"
@@ -291,6 +292,33 @@ private Q_SLOTS:
         QTest::keyClicks(urls(), QStringLiteral("http://a/"));
         QCOMPARE(status()->text(), QString());
         QCOMPARE(status()->palette(), QLabel().palette());
+    }
+
+    void darkPalettesCanBeRead()
+    {
+        QPalette const light = QApplication::palette();
+        QPalette const dark = Contrast::darkPalette();
+        QColor const ground = dark.color(QPalette::Window);
+        auto const statusColor = [this] { return status()->palette().color(QPalette::WindowText); };
+        open(Repo::Entry());
+        QApplication::setPalette(dark);
+        QTRY_COMPARE(status()->palette().color(QPalette::Window), ground);
+        QCOMPARE(status()->text(), QStringLiteral("No Identifier specified"));
+        QVERIFY(Contrast::ratio(statusColor(), ground) >= Contrast::legible);
+        QTest::keyClicks(id(), QStringLiteral("x"));
+        QCOMPARE(status()->text(), QStringLiteral("No URLs or Mirror list URL specified"));
+        QVERIFY(Contrast::ratio(statusColor(), ground) >= Contrast::legible);
+        // A required field stays light.
+        for (QPalette::ColorGroup const group : {QPalette::Active, QPalette::Inactive}) {
+            QPalette const field = id()->palette();
+            QCOMPARE(field.color(group, QPalette::Base), QColor(Colors::required()));
+            QVERIFY(
+                Contrast::ratio(field.color(group, QPalette::Text), field.color(group, QPalette::Base)) >=
+                Contrast::legible);
+        }
+        QApplication::setPalette(light);
+        QTRY_COMPARE(status()->palette().color(QPalette::WindowText), QColor(Colors::warning()));
+        verifyStatus(QStringLiteral("No URLs or Mirror list URL specified"), Colors::warning());
     }
 
     void okWithoutAChangeIsARejection()

@@ -2,6 +2,7 @@
 // What the user is told when a file can't be read, and what stands in memory after it.
 #include "BoxReader.h"
 #include "ConfRoot.h"
+#include "Unprivileged.h"
 
 #include <QTest>
 
@@ -51,6 +52,7 @@ private Q_SLOTS:
     void unreadableMainFileIsTold();
     void repositoryFileThatCannotBeLookedAtIsTold();
     void repositoryFileThatCannotBeOpenedIsTold();
+    void filesThatMayNotBeReadAreTold();
     void readErrorOfARepositoryFileIsTold();
     void malformedHeadIsTold_data();
     void malformedHeadIsTold();
@@ -118,6 +120,39 @@ void TestYumConfIOFaults::repositoryFileThatCannotBeOpenedIsTold()
         QStringList(
             told("Unable to read repository configuration file /etc/yum/repos.d/socket.repo", ENXIO)));
     QCOMPARE(root.ids(), QStringList(QStringLiteral("a")));
+}
+
+void TestYumConfIOFaults::filesThatMayNotBeReadAreTold()
+{
+    BoxReader boxes;
+    ConfRoot root;
+    root.write("/etc/yum.conf", "[a]\n");
+    root.write("/etc/yum.repos.d/secret.repo", "[secret]\n");
+    root.openToAll();
+    root.setPermissions("/etc/yum.repos.d/secret.repo", {});
+    bool isRead = true;
+    {
+        Unprivileged const user;
+        if (!user)
+            QSKIP("Root can't become another user here.");
+        isRead = root.conf.read(nullptr);
+    }
+    QVERIFY(!isRead);
+    QCOMPARE(
+        boxes.texts,
+        QStringList(
+            told("Unable to read repository configuration file /etc/yum.repos.d/secret.repo", EACCES)));
+    QCOMPARE(root.ids(), QStringList(QStringLiteral("a")));
+
+    boxes.texts.clear();
+    root.setPermissions("/etc/yum.conf", {});
+    {
+        Unprivileged const user;
+        isRead = root.conf.read(nullptr);
+    }
+    QVERIFY(!isRead);
+    QCOMPARE(boxes.texts, QStringList(told("Unable to read yum configuration file /etc/yum.conf", EACCES)));
+    QCOMPARE(root.ids(), QStringList());
 }
 
 void TestYumConfIOFaults::readErrorOfARepositoryFileIsTold()

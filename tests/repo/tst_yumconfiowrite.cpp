@@ -58,6 +58,8 @@ private Q_SLOTS:
     void otherSpellingOfThePathDoesNotProtectAFile();
     void allBytesSurvive();
     void linksOwnersAndPermissionsStay();
+    void fileThatEverybodyReadsBecomesItsOwnersWithCredentials_data();
+    void fileThatEverybodyReadsBecomesItsOwnersWithCredentials();
     void newFileWithCredentialsIsForItsOwnerOnly_data();
     void newFileWithCredentialsIsForItsOwnerOnly();
     void fileThatGetsShorterLosesItsOldEnd();
@@ -355,11 +357,29 @@ void TestYumConfIOWrite::linksOwnersAndPermissionsStay()
     QCOMPARE(::chmod(root().onDisk("/etc/kept").constData(), 0664), 0);
     QVERIFY(root().conf.read(nullptr));
     root().conf.repos[0].name = QStringLiteral("A");
-    root().conf.repos[0].mirrorlist = QString::fromLatin1(buffetUrl);
     QVERIFY(root().conf.write(nullptr));
     QVERIFY(QFileInfo(QFile::decodeName(link)).isSymLink());
-    QCOMPARE(content(root(), "/etc/kept"), QByteArray("[a]\nname=A\nmirrorlist=") + buffetUrl + "\n");
+    QCOMPARE(content(root(), "/etc/kept"), QByteArray("[a]\nname=A\n"));
     QCOMPARE(permissions(root(), "/etc/kept"), 0664);
+}
+
+void TestYumConfIOWrite::fileThatEverybodyReadsBecomesItsOwnersWithCredentials_data()
+{
+    QTest::addColumn<int>("before");
+    QTest::addColumn<int>("after");
+    QTest::newRow("open to all") << 0664 << 0600;
+    QTest::newRow("open to a group, which somebody has chosen") << 0640 << 0640;
+}
+
+void TestYumConfIOWrite::fileThatEverybodyReadsBecomesItsOwnersWithCredentials()
+{
+    QFETCH(int, before);
+    QVERIFY(root().readRepoFile("[a]\n"));
+    char const* const file = "/etc/yum.repos.d/some.repo";
+    QCOMPARE(::chmod(root().onDisk(file).constData(), static_cast<mode_t>(before)), 0);
+    root().conf.repos[0].mirrorlist = QString::fromLatin1(buffetUrl);
+    QVERIFY(root().conf.write(nullptr));
+    QTEST(permissions(root(), file), "after");
 }
 
 void TestYumConfIOWrite::newFileWithCredentialsIsForItsOwnerOnly_data()

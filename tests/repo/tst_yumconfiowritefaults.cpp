@@ -2,6 +2,7 @@
 // What the user is asked and told while the configuration is written, and what is on the disk after it.
 #include "BoxAnswer.h"
 #include "ConfFiles.h"
+#include "Unprivileged.h"
 
 #include <QTest>
 
@@ -77,6 +78,7 @@ private Q_SLOTS:
 
     void missingDirectoryIsTold();
     void directoryInPlaceOfAFileIsTold();
+    void fileThatMayNotBeWrittenIsTold();
     void fullDiskIsTold();
     void fullDiskOfTheMainFileIsTold();
     void fullDiskKeepsWhatTheFileHeld();
@@ -243,6 +245,31 @@ void TestYumConfIOWriteFaults::directoryInPlaceOfAFileIsTold()
     QCOMPARE(
         boxes.texts, QStringList(BoxAnswer::told(
                          "Unable to write repository configuration file /etc/yum.repos.d/x.repo", EISDIR)));
+}
+
+void TestYumConfIOWriteFaults::fileThatMayNotBeWrittenIsTold()
+{
+    BoxAnswer boxes;
+    ConfRoot root;
+    root.write("/etc/yum.repos.d/unused", "x");
+    QVERIFY(root.readRepoFile("[a]\n"));
+    root.openToAll();
+    root.setPermissions("/etc/yum.repos.d/some.repo", QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
+    root.conf.repos[0].name = QStringLiteral("changed");
+    bool isWritten = true;
+    {
+        Unprivileged const user;
+        if (!user)
+            QSKIP("Root can't become another user here.");
+        isWritten = root.conf.write(nullptr);
+    }
+    QVERIFY(!isWritten);
+    QCOMPARE(
+        boxes.texts,
+        QStringList(BoxAnswer::told(
+            "Unable to write repository configuration file /etc/yum.repos.d/some.repo", EACCES)));
+    QCOMPARE(content(root, "/etc/yum.repos.d/some.repo"), "[a]\n");
+    QCOMPARE(names(root, "/etc/yum.repos.d"), (QList<QByteArray>{"some.repo", "unused"}));
 }
 
 void TestYumConfIOWriteFaults::fullDiskIsTold()

@@ -27,6 +27,14 @@ private Q_SLOTS:
         QCOMPARE(bar.text(), QStringLiteral("Downloading (25%)"));
     }
 
+    void activityIsTheAccessibleDescription()
+    {
+        bar.setActivity(QStringLiteral("Downloading"));
+        QCOMPARE(bar.accessibleDescription(), QStringLiteral("Downloading"));
+        bar.reset();
+        QCOMPARE(bar.accessibleDescription(), QString());
+    }
+
     void activityWithAPlaceMarkerShowsAsItIs()
     {
         bar.setValue(50);

@@ -82,6 +82,7 @@ private Q_SLOTS:
     void workerMovesTheBarsOnTheGuiThread();
     void workerDoesNotFloodTheGuiThread();
     void workersGuardEmptiesTheBars();
+    void manyStepsPaintTheBarsOnce();
 
 private:
     /// Drives the item to `value`, waiting for the interval to pass.
@@ -486,6 +487,41 @@ void TestProgress::workersGuardEmptiesTheBars()
     QVERIFY(!member);
     QCOMPARE(totalBar->text(), QString());
     QVERIFY(!totalBar->isEnabled());
+}
+
+void TestProgress::manyStepsPaintTheBarsOnce()
+{
+    struct PaintCounter final : QObject
+    {
+        bool eventFilter(QObject*, QEvent* event) override
+        {
+            count += event->type() == QEvent::Paint ? 1 : 0;
+            return false;
+        }
+        int count = 0;
+    };
+    ProgressMinion minion(totalBar.get(), itemBar.get());
+    for (HProgressBar* const bar : {totalBar.get(), itemBar.get()}) {
+        bar->show();
+        QVERIFY(QTest::qWaitForWindowExposed(bar));
+    }
+    QCoreApplication::processEvents();
+    PaintCounter paints;
+    totalBar->installEventFilter(&paints);
+    itemBar->installEventFilter(&paints);
+    minion.startTotal(QStringLiteral("Job"), 1000);
+    for (Steps step = 1; step <= 100; ++step) {
+        minion.startItem(QStringLiteral("Item %1").arg(step), step, 10);
+        minion.setItemValue(step, 5);
+    }
+    minion.endItemActs(200);
+    QCOMPARE(paints.count, 0);
+    QCOMPARE(totalBar->value(), 200);
+    QCOMPARE(itemBar->text(), QStringLiteral("Item 100 (50%)"));
+    QTRY_COMPARE(paints.count, 2);
+    minion.reset();
+    QCOMPARE(paints.count, 2);
+    QTRY_COMPARE(paints.count, 4);
 }
 
 QTEST_MAIN(TestProgress)

@@ -143,6 +143,18 @@ private Q_SLOTS:
         QCOMPARE(calls().count(QStringLiteral("collectFileLists")), 1);
     }
 
+    void extraDataThatCannotBeLoadedAreToldOfOnce()
+    {
+        apply(QStringLiteral("^elm"));
+        script(QStringLiteral("for name in 'collectFileLists', 'collectOtherData':\n"
+                              "    standin.fail(name, standin.YumBaseError('the cellar is locked'))"));
+        mode()->setCurrentIndex(1);
+        QCOMPARE(boxes->take().size(), 2);
+        QCOMPARE(calls().count(QStringLiteral("collectFileLists")), 1);
+        QCOMPARE(calls().count(QStringLiteral("collectOtherData")), 1);
+        QCOMPARE(names(), QStringList{QStringLiteral("elm")});
+    }
+
     void theExpressionInForceStaysWhenTheModeChanges()
     {
         apply(QStringLiteral("^elm"));

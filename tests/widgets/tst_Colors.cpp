@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "widgets/Colors.h"
 
+#include "Contrast.h"
+
 #include <QColor>
 #include <QPalette>
 #include <QTest>
+
+#include <cstdlib>
 
 class tst_Colors : public QObject
 {
@@ -14,6 +18,11 @@ private Q_SLOTS:
     void requiredChangesTheBaseOfEnabledFields();
     void labelsTakeTheColourInAllGroups_data();
     void labelsTakeTheColourInAllGroups();
+    void lightRowsKeepTheColours_data();
+    void lightRowsKeepTheColours();
+    void darkPaletteColoursCanBeRead_data();
+    void darkPaletteColoursCanBeRead();
+    void darkDisabledRowsAreFainter();
 };
 
 void tst_Colors::namesStandForTheirColours()
@@ -65,6 +74,77 @@ void tst_Colors::labelsTakeTheColourInAllGroups()
         QCOMPARE(after.color(group, QPalette::WindowText), color);
         QCOMPARE(after.color(group, QPalette::Base), before.color(group, QPalette::Base));
     }
+}
+
+void tst_Colors::lightRowsKeepTheColours_data()
+{
+    QTest::addColumn<QPalette>("palette");
+    QTest::newRow("white") << QPalette(Qt::lightGray);
+    QTest::newRow("grey") << QPalette(Qt::gray, Qt::gray);
+}
+
+void tst_Colors::lightRowsKeepTheColours()
+{
+    QFETCH(QPalette, palette);
+
+    for (QString const& name :
+         {Colors::action(), Colors::error(), Colors::warning(), Colors::minor(), Colors::ok()}) {
+        QCOMPARE(Colors::onBase(name, palette), QColor(name));
+    }
+    for (QString const& name : {Colors::errorDisabled(), Colors::minorDisabled()}) {
+        QCOMPARE(Colors::onDisabledBase(name, palette), QColor(name));
+    }
+}
+
+void tst_Colors::darkPaletteColoursCanBeRead_data()
+{
+    QTest::addColumn<QPalette>("palette");
+    QTest::newRow("usual") << Contrast::darkPalette();
+    QTest::newRow("black") << Contrast::darkPalette(Qt::black, Qt::black, QColor(20, 20, 20));
+    QTest::newRow("slate") << Contrast::darkPalette(
+        QColor(0x40, 0x46, 0x55), QColor(0x30, 0x36, 0x42), QColor(0x40, 0x46, 0x55));
+    QTest::newRow("greenish") << Contrast::darkPalette(QColor(0, 60, 30), QColor(0, 50, 0), QColor(0, 60, 0));
+}
+
+void tst_Colors::darkPaletteColoursCanBeRead()
+{
+    QFETCH(QPalette, palette);
+    auto const verify = [](QColor const& found, QString const& name, QColor const& ground) {
+        QVERIFY2(
+            Contrast::ratio(found, ground) >= Contrast::legible,
+            qPrintable(
+                name + QStringLiteral(" as ") + found.name() + QStringLiteral(" on ") + ground.name()));
+        int const turned = std::abs(found.hslHue() - QColor(name).hslHue());
+        QVERIFY2(std::min(turned, 360 - turned) <= 2, qPrintable(name + QStringLiteral(" has another hue")));
+    };
+
+    for (QColor const& ground : Contrast::rowGrounds(palette)) {
+        for (QString const& name :
+             {Colors::action(), Colors::error(), Colors::warning(), Colors::minor(), Colors::ok()}) {
+            verify(Colors::onBase(name, palette), name, ground);
+        }
+        for (QString const& name : {Colors::errorDisabled(), Colors::minorDisabled()}) {
+            verify(Colors::onDisabledBase(name, palette), name, ground);
+        }
+    }
+    QColor const window = palette.color(QPalette::Window);
+    auto const words = [](QPalette const& label) { return label.color(QPalette::WindowText); };
+    verify(words(Colors::makeError(palette)), Colors::error(), window);
+    verify(words(Colors::makeWarning(palette)), Colors::warning(), window);
+    verify(words(Colors::makeOK(palette)), Colors::ok(), window);
+}
+
+void tst_Colors::darkDisabledRowsAreFainter()
+{
+    QPalette const dark = Contrast::darkPalette();
+    QColor const ground = dark.color(QPalette::Base);
+
+    QVERIFY(
+        Contrast::ratio(Colors::onDisabledBase(Colors::errorDisabled(), dark), ground) <
+        Contrast::ratio(Colors::onBase(Colors::error(), dark), ground));
+    QVERIFY(
+        Contrast::ratio(Colors::onDisabledBase(Colors::minorDisabled(), dark), ground) <
+        Contrast::ratio(Colors::onBase(Colors::minor(), dark), ground));
 }
 
 QTEST_MAIN(tst_Colors)

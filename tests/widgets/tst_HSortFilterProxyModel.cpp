@@ -43,10 +43,20 @@ public:
         HSortFilterProxyModel::sort(column, order);
     }
 
+    [[nodiscard]] bool lessThan(QModelIndex const& left, QModelIndex const& right) const override
+    {
+        ++comparisons;
+        return HSortFilterProxyModel::lessThan(left, right);
+    }
+
     QList<std::pair<int, Qt::SortOrder>> sorts;
+    int refills = 0;
     mutable int questions = 0;
+    mutable int comparisons = 0;
 
 protected:
+    void sourceWasRefilled() override { ++refills; }
+
     [[nodiscard]] bool filterAcceptsRow(int row, QModelIndex const& parent) const override
     {
         ++questions;
@@ -93,6 +103,9 @@ private Q_SLOTS:
     void changeOfFilterRemovesNoRowsOneByOne();
     void changeOfFilterAsksOnceForEachRow();
     void changeOfFilterSortsThroughTheVirtualOperation();
+    void changeOfFilterSortsOnce();
+    void sortsByAColumnThatComesWithAReset();
+    void aRefilledSourceIsTold();
     void persistentIndexesEndWithAChangeOfFilter();
     void worksWithoutASource();
 };
@@ -382,6 +395,68 @@ void tst_HSortFilterProxyModel::changeOfFilterSortsThroughTheVirtualOperation()
     proxy.setFilterRegExp(QRegularExpression(QStringLiteral("even")));
 
     QCOMPARE(proxy.sorts, decltype(proxy.sorts)(4, {1, Qt::DescendingOrder}));
+}
+
+void tst_HSortFilterProxyModel::changeOfFilterSortsOnce()
+{
+    TableModel model(numberedRows(100));
+    Watched proxy(1, nullptr);
+    proxy.setDynamicSortFilter(false);
+    proxy.setSourceModel(&model);
+    QTableView view;
+    view.setModel(&proxy);
+    proxy.comparisons = 0;
+    proxy.sort(1, Qt::DescendingOrder);
+    int const once = proxy.comparisons;
+    QVERIFY(once > 0);
+
+    proxy.comparisons = 0;
+    proxy.clear();
+    QCOMPARE(column(proxy, 1).first(), QStringLiteral("99"));
+    QCOMPARE(proxy.comparisons, once);
+
+    proxy.comparisons = 0;
+    proxy.setFilterRegExp(QStringLiteral("odd|even"));
+    QCOMPARE(column(proxy, 1).first(), QStringLiteral("99"));
+    QCOMPARE(proxy.comparisons, once);
+
+    // Whoever asks for a sort gets it.
+    proxy.sort(1, Qt::DescendingOrder);
+    QVERIFY(proxy.comparisons > once);
+}
+
+void tst_HSortFilterProxyModel::sortsByAColumnThatComesWithAReset()
+{
+    TableModel model({{QStringLiteral("a")}, {QStringLiteral("b")}});
+    HSortFilterProxyModel proxy(0, nullptr);
+    proxy.setDynamicSortFilter(false);
+    proxy.setSourceModel(&model);
+    QTableView view;
+    view.setModel(&proxy);
+    proxy.sort(1);
+    model.silentlyTakeRows({{QStringLiteral("a"), 2}, {QStringLiteral("b"), 1}});
+
+    proxy.clear();
+
+    QCOMPARE(column(proxy, 1), QStringList({"1", "2"}));
+}
+
+void tst_HSortFilterProxyModel::aRefilledSourceIsTold()
+{
+    TableModel model(numberedRows(4));
+    TableModel other(numberedRows(4));
+    Watched proxy(1, nullptr);
+    proxy.setSourceModel(&other);
+    proxy.setSourceModel(&model);
+    proxy.refills = 0;
+
+    proxy.clear();
+    proxy.setFilterRegExp(QStringLiteral("odd"));
+    other.setRows(numberedRows(6));
+    QCOMPARE(proxy.refills, 0);
+
+    model.setRows(numberedRows(5));
+    QCOMPARE(proxy.refills, 1);
 }
 
 void tst_HSortFilterProxyModel::persistentIndexesEndWithAChangeOfFilter()

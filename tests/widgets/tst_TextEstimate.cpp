@@ -80,7 +80,7 @@ void tst_TextEstimate::digitsStandForEachOther()
     QFETCH(QString, text);
     TextEstimate estimate(QFont(QStringLiteral("DejaVu Sans"), 11));
 
-    QTEST(estimate.representative(text), "representative");
+    QTEST(estimate.representative(text).toString(), "representative");
 }
 
 QTEST_MAIN(tst_TextEstimate)

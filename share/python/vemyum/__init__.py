@@ -7,7 +7,8 @@ The engine runs `YumIO.py`, whose class `YumIO` is the face; the work is done he
     errors, surroundings            exceptions as the engine expects them, the modules that it looks up
     configuration, database, lock   where things lie, and who may touch them
     base, repositories, metadata    dnf's Base, the repositories and the progress of reading them
-    packages, headers, details      what the engine reads from a package
+    sack, packages, headers,
+    details, records                what the engine reads from a package
     lists, groups                   what a collection hands over
     transaction, solver, download,
     signatures, display, apply      one apply, from the marks to the new rpm database

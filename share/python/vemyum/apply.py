@@ -127,6 +127,7 @@ def _present(root: str) -> Dict[str, Set[str]]:
 def _not_as_asked(base: Base) -> List[str]:
     """Compares the rpm database with what the transaction was to do."""
     present = _present(base.conf.installroot)
+    incoming = {str(package) for package in base.transaction.install_set}
     wrong = []
     for item in base.transaction:
         if item.action == lt.TransactionItemAction_REASON_CHANGE:
@@ -135,15 +136,11 @@ def _not_as_asked(base: Base) -> List[str]:
         there = _package_nevra(package) in present.get(package.name, ())
         if item.action in dnf.transaction.FORWARD_ACTIONS and not there:
             wrong.append(f"{package} was not installed")
-        elif item.action in dnf.transaction.BACKWARD_ACTIONS and there and not _comes_back(base, package):
+        elif item.action in dnf.transaction.BACKWARD_ACTIONS and there and str(package) not in incoming:
             wrong.append(f"{package} was not removed")
         elif item.state == lt.TransactionItemState_ERROR:
             wrong.append(f"{package} failed")
     return wrong
-
-
-def _comes_back(base: Base, package: Any) -> bool:
-    return any(str(incoming) == str(package) for incoming in base.transaction.install_set)
 
 
 def _nevra(header: Any) -> str:

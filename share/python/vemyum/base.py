@@ -4,18 +4,21 @@
 from __future__ import annotations
 
 import contextlib
+import logging
 import os
 from typing import Any, Callable, Dict, Iterable, List, Optional
 
 import dnf
 import dnf.conf
+import dnf.exceptions
 import dnf.repo
 
-from .configuration import repository_files, undecodable_named
 from .database import point_rpm_at
+from .encoding import RepositoryReader
 from .errors import RepoError, YumBaseError
 from .messages import heard
 from .metadata import ReadingProgress, RepositoryProgress
+from .queries import MetadataFetcher, ask_by_complete_address, base_addresses, rounds
 
 _SCARCE = 1 << 20
 """So few free bytes are worth a word when a repository cannot be read."""
@@ -30,10 +33,18 @@ class Base(dnf.Base):
     def __init__(self, conf: dnf.conf.MainConf, progress: bool = True) -> None:
         super().__init__(conf)
         self._report = ReadingProgress(conf.cachedir) if progress else None
+        self._read: Optional[Callable[[dnf.repo.Repo], None]] = None
         self.before_run: Optional[Callable[[], None]] = None
         """Called when the test transaction is over and the real one begins."""
         self.args = ["vem"]
         """The command line that dnf's history tells."""
+
+    def read_all_repos(self, opts: Any = None) -> None:
+        for repo in RepositoryReader(self.conf, opts):
+            try:
+                self.repos.add(repo)
+            except dnf.exceptions.ConfigError as error:
+                logging.getLogger("dnf").warning("%s", error)
 
     def load_everything(self) -> None:
         """Reads the enabled repositories and the rpm database.
@@ -41,12 +52,25 @@ class Base(dnf.Base):
         Raises RepoError that names the repository, its address and the cause; other dnf errors and
         OSError for the rest. The Base is of no use after a failure.
         """
+        self._fill(True)
+
+    def load_metadata(self, read: Callable[[dnf.repo.Repo], None]) -> None:
+        """Fetches what the enabled repositories are asked for, and gives each to `read`; the sack stays empty.
+
+        Raises like `load_everything`, and for an OSError of `read` too.
+        """
+        self._read = read
+        self._fill(False)
+
+    def _fill(self, with_system: bool) -> None:
         point_rpm_at(self.conf.installroot)
         if self._report is not None:
             for repo in self.repos.iter_enabled():
-                repo.set_progress_bar(RepositoryProgress(repo, self.conf.cachedir))
+                # What is fetched by query shows a progress of its own.
+                if not base_addresses(repo):
+                    repo.set_progress_bar(RepositoryProgress(repo, self.conf.cachedir))
         try:
-            self.fill_sack()
+            self.fill_sack(load_system_repo=with_system)
         except OSError as error:
             if "RPMDB" in str(error):
                 root = self.conf.installroot
@@ -56,11 +80,12 @@ class Base(dnf.Base):
     def _add_repo_to_sack(self, repo: dnf.repo.Repo) -> None:
         with heard() as causes:
             try:
+                self._fetch_by_query(repo)
                 # Fetches; the call inherited below finds it done and only reads.
                 repo.load()
                 if self._report is not None:
                     self._report.begin(repo)
-                super()._add_repo_to_sack(repo)
+                (self._read or super()._add_repo_to_sack)(repo)
             except RepoError as error:
                 if error.__context__ is not None:
                     causes.append(str(error.__context__))
@@ -70,6 +95,24 @@ class Base(dnf.Base):
             finally:
                 if self._report is not None:
                     self._report.end(repo)
+
+    def _fetch_by_query(self, repo: dnf.repo.Repo) -> None:
+        """Fetches what dnf's library could not find, see `queries`."""
+        if not base_addresses(repo):
+            return
+        meter = self.conf.cachedir if self._report is not None else None
+        lazy = repo._repo.getSyncStrategy() != dnf.repo.SYNC_TRY_CACHE
+        MetadataFetcher(repo, meter).fetch(lazy)
+
+    def _download_remote_payloads(self, payloads: Any, *rest: Any, **options: Any) -> Any:
+        for turn in range(rounds(payloads) - 1):
+            ask_by_complete_address(payloads, turn)
+            try:
+                return super()._download_remote_payloads(payloads, *rest, **options)
+            except dnf.exceptions.DownloadError as error:
+                logging.getLogger("dnf").warning("%s", error)
+        ask_by_complete_address(payloads, rounds(payloads) - 1)
+        return super()._download_remote_payloads(payloads, *rest, **options)
 
     def _run_transaction(self, cb: Any) -> Any:
         if self.before_run is not None:
@@ -111,8 +154,7 @@ def open_base(
     with contextlib.ExitStack() as on_failure:
         base = Base(conf, progress)
         on_failure.callback(base.close)
-        with undecodable_named(lambda: [conf.config_file_path, *repository_files(conf)]):
-            base.read_all_repos()
+        base.read_all_repos()
         for repo in base.repos.values():
             if enabled is not None and repo.id in enabled:
                 (repo.enable if enabled[repo.id] else repo.disable)()

@@ -12,7 +12,7 @@ import contextlib
 import glob
 import logging
 import os
-from typing import Callable, Dict, Iterable, Iterator, List
+from typing import Dict, Iterator, List
 
 import dnf.conf
 import dnf.conf.config
@@ -60,7 +60,7 @@ def read_configuration() -> dnf.conf.MainConf:
     conf = dnf.conf.Conf()
     conf.installroot = root
     _set_defaults(conf, root)
-    with undecodable_named(lambda: [main_file(root)]):
+    with undecodable_named(main_file(root)):
         conf.read(main_file(root), dnf.conf.config.PRIO_MAINCONFIG)
     point_rpm_at(root)
     conf.substitutions.update_from_etc(root, varsdir=conf.varsdir)
@@ -77,25 +77,21 @@ def read_configuration() -> dnf.conf.MainConf:
 
 
 @contextlib.contextmanager
-def undecodable_named(files: Callable[[], Iterable[str]]) -> Iterator[None]:
-    """Names the file that isn't UTF-8 where dnf stumbles over its bytes with an error of its own inside."""
+def undecodable_named(file: str) -> Iterator[None]:
+    """Names a main file that isn't UTF-8 where dnf stumbles over its bytes with an error of its own inside.
+
+    Paths may be among what it says; they are not to be guessed.
+    """
     try:
         yield
     except TypeError as error:
-        for file in filter(os.path.isfile, files()):
-            with open(file, "rb") as stream:
-                try:
-                    stream.read().decode("utf-8")
-                except UnicodeDecodeError as fault:
-                    line = fault.object.count(b"\n", 0, fault.start) + 1
-                    raise YumBaseError(f"{file}, line {line}: the text is not in UTF-8") from error
+        with open(file, "rb") as stream:
+            try:
+                stream.read().decode("utf-8")
+            except UnicodeDecodeError as fault:
+                line = fault.object.count(b"\n", 0, fault.start) + 1
+                raise YumBaseError(f"{file}, line {line}: the text is not in UTF-8") from error
         raise
-
-
-def repository_files(conf: dnf.conf.MainConf) -> List[str]:
-    """The files below the repository directories, as dnf finds them."""
-    patterns = [f"{glob.escape(directory)}/*.repo" for directory in conf.reposdir]
-    return [file for pattern in patterns for file in sorted(glob.glob(pattern))]
 
 
 def _release(root: str) -> str:

@@ -1,24 +1,24 @@
 # SPDX-License-Identifier: GPL-2.0-or-later
-"""What packages tell beyond the sack: changelogs, build hosts, the file of their metadata."""
+"""What packages tell beyond the sack: file lists, changelogs, build hosts, the file of their metadata."""
 
 from __future__ import annotations
 
 import html
 import re
 import sys
-import time
 from typing import Dict, Iterator, List, Optional, Tuple
 
 import dnf.conf
 import dnf.package
-import rpm
+import dnf.repo
 
+from . import host
 from .base import Base, open_base
+from .metadata import reading_reported
+from .records import Records, changes, chunks, files
 from .text import valid
 
-_CHUNK = 1 << 20
 _HOSTS = re.compile(rb'<checksum[^>]*\bpkgid="YES"[^>]*>\s*([0-9a-f]+)\s*<|<rpm:buildhost>([^<]*)<')
-_COMPRESSIONS = {".gz": "gzdio", ".xz": "xzdio", ".bz2": "bzdio", ".zst": "zstdio", ".xml": "ufdio"}
 
 
 class PackageDetails:
@@ -26,36 +26,53 @@ class PackageDetails:
 
     def __init__(self, base: Base) -> None:
         self._base = base
-        self._changelogs: Optional[Base] = None
+        self._file_lists: Dict[str, Records] = {}
+        self._changelogs: Dict[str, Records] = {}
         self._hosts: Dict[str, Dict[str, str]] = {}
         self._metadata_files: Dict[str, Optional[str]] = {}
 
-    def load_changelogs(self, conf: dnf.conf.MainConf, enabled: Dict[str, bool]) -> None:
-        """Loads the changelogs of the enabled repositories, with progress. Raises as Base does.
+    def load_file_lists(self) -> None:
+        """Makes the file lists of the enabled repositories quick to reach, with progress.
 
-        They lie in a Base of their own: dnf takes them in only when a repository is first loaded.
+        They came with the repositories. What cannot be read here is left to the sack, which is slow.
         """
-        self._close_changelogs()
+        _close_all(self._file_lists)
+        for repo in self._base.repos.iter_enabled():
+            with reading_reported(repo):
+                path = repo.get_metadata_path("filelists")
+                try:
+                    if path:
+                        self._file_lists[repo.id] = Records(path)
+                except OSError as error:
+                    host.errorlog(host.LEVEL_NOTICE, f"The file lists of {repo.id} are read slowly: {error}")
+
+    def load_changelogs(self, conf: dnf.conf.MainConf, enabled: Dict[str, bool]) -> None:
+        """Loads the changelogs of the enabled repositories, with progress. Raises as Base does, and OSError.
+
+        A Base of its own fetches them: dnf does so only when a repository is first loaded.
+        """
+        _close_all(self._changelogs)
         base = open_base(conf, enabled)
         try:
             for repo in base.repos.iter_enabled():
                 repo.load_metadata_other = True
-            base.load_everything()
-        except BaseException:
+            base.load_metadata(self._read_changelogs)
+        finally:
             base.close()
-            raise
-        self._changelogs = base
+
+    def _read_changelogs(self, repo: dnf.repo.Repo) -> None:
+        path = repo.get_metadata_path("other")
+        if path:
+            self._changelogs[repo.id] = Records(path)
+
+    def files(self, package: dnf.package.Package) -> Optional[List[str]]:
+        """The names of a package's files, without directories; None where only the sack knows them."""
+        record = _record(self._file_lists, package)
+        return None if record is None else files(record)
 
     def changelog(self, package: dnf.package.Package) -> List[Tuple[int, str, str]]:
-        if self._changelogs is None:
-            return []
-        query = self._changelogs.sack.query().available()
-        query = query.filter(name=package.name, evr=package.evr, arch=package.arch, reponame=package.reponame)
-        return [
-            (int(time.mktime(entry["timestamp"].timetuple())), valid(entry["author"]), valid(entry["text"]))
-            for found in list(query)[:1]
-            for entry in found.changelogs
-        ]
+        record = _record(self._changelogs, package)
+        return [] if record is None else changes(record)
 
     def build_host(self, package: dnf.package.Package) -> Optional[str]:
         """The build host of an available package, None where the metadata doesn't tell it.
@@ -80,34 +97,32 @@ class PackageDetails:
         return self._metadata_files[repository]
 
     def close(self) -> None:
-        self._close_changelogs()
+        _close_all(self._file_lists)
+        _close_all(self._changelogs)
         self._hosts.clear()
 
-    def _close_changelogs(self) -> None:
-        if self._changelogs is not None:
-            self._changelogs.close()
-            self._changelogs = None
+
+def _record(records: Dict[str, Records], package: dnf.package.Package) -> Optional[bytes]:
+    found, checksum = records.get(package.reponame), package.chksum
+    return found.record(checksum[1]) if found is not None and checksum is not None else None
+
+
+def _close_all(records: Dict[str, Records]) -> None:
+    while records:
+        records.popitem()[1].close()
 
 
 def _build_hosts(file: str) -> Iterator[Tuple[str, str]]:
     """Pairs of a package's checksum and its build host, from a repository's primary metadata."""
-    suffix = file[file.rfind(".") :]
-    stream = rpm.fd(file, "r", _COMPRESSIONS.get(suffix, "ufdio"))
-    try:
-        checksum, rest = None, b""
-        while True:
-            chunk = stream.read(_CHUNK)
-            if not chunk:
-                return
-            data = rest + chunk
-            end = 0
-            for match in _HOSTS.finditer(data):
-                end = match.end()
-                if match.group(1):
-                    checksum = match.group(1).decode("ascii")
-                elif checksum:
-                    yield checksum, sys.intern(html.unescape(valid(match.group(2))))
-            # A tag may be cut in two by the end of the chunk.
-            rest = data[max(end, data.rfind(b">", 0, max(0, len(data) - 1024))) :]
-    finally:
-        stream.close()
+    checksum, rest = None, b""
+    for chunk in chunks(file):
+        data = rest + chunk
+        end = 0
+        for match in _HOSTS.finditer(data):
+            end = match.end()
+            if match.group(1):
+                checksum = match.group(1).decode("ascii")
+            elif checksum:
+                yield checksum, sys.intern(html.unescape(valid(match.group(2))))
+        # A tag may be cut in two by the end of the chunk.
+        rest = data[max(end, data.rfind(b">", 0, max(0, len(data) - 1024))) :]

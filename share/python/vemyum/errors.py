@@ -15,6 +15,8 @@ import hawkey
 import libdnf.error
 import rpm
 
+from .credentials import masked
+
 YumBaseError = dnf.exceptions.Error
 RepoError = dnf.exceptions.RepoError
 LockError = dnf.exceptions.LockError
@@ -43,8 +45,9 @@ def os_error_text(error: OSError) -> str:
 class reported_as:
     """Context manager: lets the block fail with `kind` only, whatever library failed.
 
-    `doing` starts the text. BrokenPipeError passes: the engine has words of its own for it. So do
-    exceptions that no library raises (faults of this package), which the engine shows as internal errors.
+    `doing` starts the text, from which passwords are taken out. BrokenPipeError passes: the engine has
+    words of its own for it. So do exceptions that no library raises (faults of this package), which the
+    engine shows as internal errors.
     """
 
     # Not a generator: contextlib's frames would tie an exception to itself, and with it everything that
@@ -66,9 +69,9 @@ class reported_as:
             raise self._kind(_text(self._doing, os_error_text(error))) from error
         if isinstance(error, _LIBRARY_ERRORS):
             # The engine shows `value`, which some of dnf's classes leave empty.
-            if not (isinstance(error, self._kind) and error.value == str(error)):
+            if not (isinstance(error, self._kind) and error.value == masked(str(error))):
                 raise self._kind(_text(self._doing, str(error))) from error
 
 
 def _text(doing: str, cause: str) -> str:
-    return f"{doing}: {cause}" if doing else cause
+    return masked(f"{doing}: {cause}" if doing else cause)

@@ -3,7 +3,8 @@
 
 from __future__ import annotations
 
-from typing import AbstractSet, Any, Dict, Iterable, List, Optional
+from operator import attrgetter
+from typing import AbstractSet, Any, Callable, Dict, Iterable, List, Optional
 
 import dnf.comps
 
@@ -23,17 +24,15 @@ class Group:
     """
 
     def __init__(self, comps_group: dnf.comps.Group, installed_names: AbstractSet[str]) -> None:
-        self.groupid = valid(comps_group.id)
+        self.groupid = valid(comps_group.id or "")
         # A group file may lack a name, and the engine cannot do without one.
-        self.name = valid(comps_group.ui_name or comps_group.name or comps_group.id)
+        self.name = _trimmed(comps_group.ui_name or comps_group.name) or self.groupid
         self.description = valid(comps_group.ui_description or "")
         self.user_visible = bool(comps_group.visible)
         self.mandatory_packages = _by_name(comps_group.mandatory_packages)
         self.default_packages = _by_name(comps_group.default_packages)
         self.optional_packages = _by_name(comps_group.optional_packages)
-        self.conditional_packages = {
-            valid(member.name): valid(member.requires or "") for member in comps_group.conditional_packages
-        }
+        self.conditional_packages = _by_name(comps_group.conditional_packages, attrgetter("requires"))
         self.installed = self._is_installed(installed_names)
 
     def _is_installed(self, installed_names: AbstractSet[str]) -> bool:
@@ -44,8 +43,18 @@ class Group:
         return any(name in installed_names for name in others)
 
 
-def _by_name(members: Iterable[Any]) -> Dict[str, str]:
-    return {name: name for name in (valid(member.name) for member in members)}
+def _by_name(
+    members: Iterable[Any], value: Callable[[Any], Optional[str]] = attrgetter("name")
+) -> Dict[str, str]:
+    """The members by name; those of an empty element name no package and are left out."""
+    named = {_trimmed(member.name): _trimmed(value(member)) for member in members}
+    named.pop("", None)
+    return named
+
+
+def _trimmed(text: Optional[str]) -> str:
+    """What an element holds, without the line feeds and blanks of a laid out file."""
+    return valid(text).strip() if text else ""
 
 
 def read_groups(base: Base) -> dnf.comps.Comps:
@@ -57,5 +66,6 @@ def read_groups(base: Base) -> dnf.comps.Comps:
 
 
 def groups_of(comps: Optional[dnf.comps.Comps], installed_names: AbstractSet[str]) -> List[Group]:
-    """All groups, in the order in which the group files want them shown."""
-    return [] if comps is None else [Group(group, installed_names) for group in comps.groups]
+    """All groups that have a name, in the order in which the group files want them shown."""
+    groups = [] if comps is None else [Group(group, installed_names) for group in comps.groups]
+    return [group for group in groups if group.name]

@@ -1,8 +1,8 @@
 # SPDX-License-Identifier: GPL-2.0-or-later
 """The engine's module `yumIOC`, with arguments that its formats take.
 
-Nothing here raises for odd texts or numbers. Errors of the host itself (a refused argument) come
-through as they are. All functions run on the caller's thread.
+Nothing here raises for odd texts or numbers, and no password goes along with a text. Errors of the host
+itself (a refused argument) come through as they are. All functions run on the caller's thread.
 """
 
 from __future__ import annotations
@@ -11,6 +11,7 @@ from typing import Any, Iterable, Optional
 
 import yumIOC  # type: ignore[import-not-found]
 
+from .credentials import masked
 from .text import valid, whole
 
 LEVEL_ERROR = 0
@@ -23,19 +24,19 @@ LEVEL_TRACE = 7
 
 
 def stdout_write(text: str) -> None:
-    yumIOC.stdoutWrite(valid(text))
+    yumIOC.stdoutWrite(masked(valid(text)))
 
 
 def stderr_write(text: str) -> None:
-    yumIOC.stderrWrite(valid(text))
+    yumIOC.stderrWrite(masked(valid(text)))
 
 
 def log(level: int, text: str) -> None:
-    yumIOC.log(level, valid(text))
+    yumIOC.log(level, masked(valid(text)))
 
 
 def errorlog(level: int, text: str) -> None:
-    yumIOC.errorlog(level, valid(text))
+    yumIOC.errorlog(level, masked(valid(text)))
 
 
 def collect_progress(value: Any, total: Any, name: Optional[str]) -> None:

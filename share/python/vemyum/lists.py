@@ -8,6 +8,7 @@ within each list is part of the result: native architecture first, newest versio
 from __future__ import annotations
 
 from functools import cmp_to_key
+from operator import attrgetter
 from typing import Any, Dict, FrozenSet, Iterable, List, Set
 
 import hawkey
@@ -16,6 +17,10 @@ from .base import Base
 from .database import damage, unlisted
 from .errors import YumBaseError
 from .packages import AvailablePackage, Details, InstalledPackage
+
+
+def _names(packages: Iterable[Any]) -> FrozenSet[str]:
+    return frozenset(map(attrgetter("name"), packages))
 
 
 class PackageLists:
@@ -47,7 +52,7 @@ class Collector:
         if self._base.conf.obsoletes:
             packages += self._obsoleters({package.name for package in packages})
         packages = self._best_first(packages)
-        self.updatable = frozenset(package.name for package in packages)
+        self.updatable = _names(packages)
         return [AvailablePackage(package, self._details) for package in packages]
 
     def everything(self) -> PackageLists:
@@ -56,10 +61,10 @@ class Collector:
         Raises YumBaseError when the rpm database lists less than it should.
         """
         installed = self._best_first(self._base.sack.query(flags=hawkey.IGNORE_EXCLUDES).installed())
-        self.installed_names = frozenset(package.name for package in installed)
+        self.installed_names = _names(installed)
         self._check_installed(len(installed))
         available = self._available()
-        self.available_names = frozenset(package.name for package in available)
+        self.available_names = _names(available)
         return PackageLists(
             [InstalledPackage(package, self._details) for package in installed],
             [AvailablePackage(package, self._details) for package in available],
@@ -87,20 +92,35 @@ class Collector:
         query = sack.query().available().filter(latest_per_arch_by_priority=True)
         return self._best_first(query.filter(arch=sack.list_arches()))
 
-    def _best_first(self, packages: Iterable[Any]) -> List[Any]:
+    def _best_first(self, found: Iterable[Any]) -> List[Any]:
         """The packages with those of one name side by side: native ones first, newest ones first."""
-        by_name: Dict[str, List[Any]] = {}
-        for package in packages:
-            by_name.setdefault(package.name, []).append(package)
+        packages = list(found)
+        names = list(map(attrgetter("name"), packages))
+        last = dict(zip(names, packages))
+        if len(last) == len(packages):
+            return packages
+        # Most names stand for one package even so; only the others are compared.
+        several: Dict[str, List[Any]] = {}
+        for name, package in zip(names, packages):
+            if last[name] is not package:
+                several.setdefault(name, []).append(package)
         native = set(self._native())
 
         def compare(a: Any, b: Any) -> int:
             return (a.arch not in native) - (b.arch not in native) or b.evr_cmp(a)
 
-        for same in by_name.values():
-            if len(same) > 1:
-                same.sort(key=cmp_to_key(compare))
-        return [package for same in by_name.values() for package in same]
+        for name, same in several.items():
+            same.append(last[name])
+            same.sort(key=cmp_to_key(compare))
+        ordered: List[Any] = []
+        for name, package in zip(names, packages):
+            if name not in several:
+                ordered.append(package)
+            elif several[name]:
+                # At the place of the first.
+                ordered += several[name]
+                several[name] = []
+        return ordered
 
     def _check_installed(self, count: int) -> None:
         root = self._base.conf.installroot

@@ -8,10 +8,11 @@ dnf doesn't tell which file it fetches; the files that stand in its temporary di
 
 from __future__ import annotations
 
+import contextlib
 import os
 import re
 import time
-from typing import Any, Dict, List, Optional
+from typing import Any, Dict, Iterator, Optional
 
 import dnf.callback
 import dnf.repo
@@ -146,8 +147,9 @@ class ReadingProgress:
         return converted < fetched
 
 
-def report_reading(repos: List[dnf.repo.Repo]) -> None:
-    """Reports the reading of data that is in memory already."""
-    for repo in repos:
-        host.collect_progress(0, 1, repo.id)
-        host.collect_progress(1, 1, repo.id)
+@contextlib.contextmanager
+def reading_reported(repo: dnf.repo.Repo) -> Iterator[None]:
+    """Reports what is done in this block as the reading of data that has been fetched."""
+    host.collect_progress(0, 1, repo.id)
+    yield
+    host.collect_progress(1, 1, repo.id)

@@ -3,6 +3,11 @@
 
 Some ten thousand are made and read in one go, so the members that every row of the table needs are
 plain attribute look-ups. All texts are as libsolv gives them; what it cannot hold is read on demand.
+
+A class with the attribute `plain` promises the engine a shorter way to the same values: `plain` of a
+package is an object whose attributes name, arch, size and evr are what the package's own members (for evr
+`printVer()`) tell, and whose attributes group, summary and buildtime are what `returnSimple` tells.
+`repoid` is an attribute of the package itself.
 """
 
 from __future__ import annotations
@@ -30,6 +35,8 @@ _KINDS = ("provides", "requires", "conflicts", "obsoletes")
 
 class Details(Protocol):
     """What a package asks of the session that it belongs to, for members outside the sack."""
+
+    def files(self, package: dnf.package.Package) -> Optional[List[str]]: ...
 
     def changelog(self, package: dnf.package.Package) -> List[Tuple[int, str, str]]: ...
 
@@ -64,10 +71,6 @@ class Package:
     def pkgtup(self) -> PkgTup:
         return (self.po.name, self.po.arch, str(self.po.epoch), self.po.version, self.po.release)
 
-    @property
-    def repoid(self) -> str:
-        return self.returnSimple("repoid")
-
     _fields: Dict[str, Callable[[Any], Any]] = {}
 
     def returnSimple(self, key: str) -> Any:
@@ -85,6 +88,9 @@ class Package:
         return f"<{type(self).__name__} {self.po}>"
 
 
+# The slot's descriptor under a second name.
+setattr(Package, "plain", Package.po)
+
 _SOLV_KEYS = "summary description group vendor sourcerpm license packager url buildtime".split()
 _SOLV_FIELDS: Dict[str, Callable[[Any], Any]] = {key: attrgetter("po." + key) for key in _SOLV_KEYS}
 
@@ -93,6 +99,8 @@ class AvailablePackage(Package):
     """A package of a repository."""
 
     __slots__ = ()
+
+    repoid = property(attrgetter("po.reponame"))
 
     @property
     def prco(self) -> "Prco":
@@ -105,21 +113,24 @@ class AvailablePackage(Package):
         return [dependency(reldep) for reldep in getattr(self.po, kind)]
 
     @property
-    def files(self) -> List[str]:
-        return self.returnFileEntries("file")
+    def files(self) -> "Listed":
+        return Listed(lambda: self.returnFileEntries("file"))
 
     def returnFileEntries(self, kind: str) -> List[str]:
-        """The file names; of the kinds only "file" is told apart, by leaving out surely-directories."""
-        names = list(self.po.files)
+        """The file names; the sack, asked before the file lists are loaded, tells directories by what they hold."""
         if kind != "file":
             return []
+        listed = self._details.files(self.po)
+        if listed is not None:
+            return listed
+        names = list(self.po.files)
         # The sack keeps bare names; what other names lie below cannot be a file.
         directories = {os.path.dirname(name) for name in names}
         return [valid(name) for name in names if name not in directories]
 
     @property
-    def changelog(self) -> List[Tuple[int, str, str]]:
-        return self.returnChangelog()
+    def changelog(self) -> "Listed":
+        return Listed(self.returnChangelog)
 
     def returnChangelog(self) -> List[Tuple[int, str, str]]:
         """Tuples of time, author and text; empty before the changelogs are loaded."""
@@ -153,6 +164,8 @@ class InstalledPackage(Package):
     """A package of the rpm database."""
 
     __slots__ = ()
+
+    repoid = INSTALLED
 
     @property
     def hdr(self) -> Header:
@@ -210,6 +223,18 @@ class Prco:
 
     def keys(self) -> Iterable[str]:
         return _KINDS
+
+
+class Listed:
+    """A list that a package tells, evaluated when it is read: the engine often only asks whether there is one."""
+
+    __slots__ = ("_tell",)
+
+    def __init__(self, tell: Callable[[], List[Any]]) -> None:
+        self._tell = tell
+
+    def __iter__(self) -> Iterator[Any]:
+        return iter(self._tell())
 
 
 def dependency(reldep: Any) -> Dependency:

@@ -20,8 +20,8 @@ from .errors import RepoError, YumBaseError, reported_as
 from .groups import Group, groups_of, read_groups
 from .lists import Collector, PackageLists
 from .lock import LOCK
-from .metadata import report_reading
 from .repositories import Repositories, UnreadableRepositories
+from .sack import light_packages
 
 _NOT_READ = "The repositories are not read"
 
@@ -75,7 +75,7 @@ class Session:
         try:
             for repo in self._base.repos.values():
                 (repo.enable if self.repositories.repos[repo.id].enabled else repo.disable)()
-            with reported_as(RepoError):
+            with reported_as(RepoError), light_packages():
                 self._base.load_everything()
         except BaseException:
             self.end_bulk()
@@ -105,8 +105,9 @@ class Session:
     # Extra data ------------------------------------------------------------------------------------------
 
     def load_file_lists(self) -> None:
-        """They came with the repositories; only the progress of it is still owed."""
-        report_reading(list(self.base.repos.iter_enabled()))
+        if self._details is None:
+            raise YumBaseError(_NOT_READ)
+        self._details.load_file_lists()
 
     def load_changelogs(self) -> None:
         if self._details is None or self._conf is None:

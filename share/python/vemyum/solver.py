@@ -3,7 +3,7 @@
 
 from __future__ import annotations
 
-from typing import Any, List, Sequence
+from typing import Any, Dict, List, Sequence, Tuple
 
 import dnf.package
 import hawkey
@@ -24,32 +24,38 @@ def mark(base: Base, installs: Sequence[Any], updates: Sequence[Any], removes: S
     Raises YumBaseError for a package that isn't there any more, or that cannot be marked.
     """
     marks = Marks()
-    for wanted in (*installs, *(pair[0] for pair in updates)):
-        package = _available(base, wanted)
+    incoming = [*installs, *(pair[0] for pair in updates)]
+    available = _of_names(base.sack.query().available(), incoming)
+    for wanted in incoming:
+        package = available.get((wanted.po.reponame, *_identity(wanted.po)))
+        if package is None:
+            raise YumBaseError(_GONE.format(wanted, f"in the repository {wanted.po.reponame}"))
         # Also for updates: dnf's own "upgrade" gives way silently where dependencies are in the way.
         base.package_install(package)
         marks.incoming.append(package)
+    installed = _of_names(base.sack.query(flags=hawkey.IGNORE_EXCLUDES).installed(), removes)
     for unwanted in removes:
-        package = _installed(base, unwanted)
+        package = installed.get((hawkey.SYSTEM_REPO_NAME, *_identity(unwanted.po)))
+        if package is None:
+            raise YumBaseError(_GONE.format(unwanted, "installed"))
         base.package_remove(package)
         marks.removed.append(package)
     return marks
 
 
-def _available(base: Base, wanted: Package) -> dnf.package.Package:
-    query = base.sack.query().available().filter(reponame=wanted.po.reponame)
-    return _one(query, wanted, f"in the repository {wanted.po.reponame}")
+def _of_names(query: Any, wanted: Sequence[Package]) -> Dict[Tuple[str, ...], dnf.package.Package]:
+    """The packages of a query that have one of the names, by repository, name, architecture and version.
+
+    One query for all: each walks over all packages there are.
+    """
+    found: Dict[Tuple[str, ...], dnf.package.Package] = {}
+    for package in query.filter(name=[one.name for one in wanted]):
+        found.setdefault((package.reponame, *_identity(package)), package)
+    return found
 
 
-def _installed(base: Base, wanted: Package) -> dnf.package.Package:
-    return _one(base.sack.query(flags=hawkey.IGNORE_EXCLUDES).installed(), wanted, "installed")
-
-
-def _one(query: Any, wanted: Package, where: str) -> dnf.package.Package:
-    found = list(query.filter(name=wanted.name, arch=wanted.arch, evr=wanted.printVer()))
-    if not found:
-        raise YumBaseError(_GONE.format(wanted, where))
-    return found[0]
+def _identity(package: dnf.package.Package) -> Tuple[str, str, str]:
+    return (package.name, package.arch, package.evr)
 
 
 def solve(base: Base, marks: Marks, collector: Collector) -> TransactionInfo:

@@ -1,0 +1,209 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""What is done in the program while it is measured, and which values that gives."""
+
+from __future__ import annotations
+
+import json
+import os
+import shutil
+import tempfile
+from pathlib import Path
+from typing import Any, Sequence
+
+from rpmestate import Estate
+
+from .running import BenchError, Build, Ground, Line, Step
+from .samples import Samples, slope
+
+COLUMNS = ("Action", "State", "Kind", "Name", "Version", "Repository", "Architecture", "Size", "Build Time")
+STATES = ("View Removable", "View Installable", "View Updatable", "View All")
+EXPRESSIONS = (
+    # Names of the estate begin with one of 20 words, then one of 19 others.
+    ("alder(bank|bark|bell|bridge)-", "1 %"),
+    ("(alder|ash|beck|birch|brine|bracken|clay|cove|curlew|dune)[a-z]+-", "50 %"),
+    ("[a-z]-[a-z]", "100 %"),
+)
+NOTHING = "no such words anywhere"
+REFRESHES = 50
+SETTLING_REFRESHES = 10
+LOG_LINES = 100_000
+IN_MEMORY = "/dev/shm" if os.access("/dev/shm", os.W_OK) else None
+"""For the roots of the applies: waiting for a disk would hide what is measured."""
+
+EVERYTHING: tuple[Step, ...] = (
+    {"do": "choose", "value": ["View", "View All"]},
+    {"do": "check", "value": ["Include Groups", True]},
+)
+"""Brings all rows into the table."""
+
+
+def start(ground: Ground, build: Build, estate: Estate, samples: Samples) -> None:
+    """exec to table, memory after it, and one refresh."""
+    first, refresh = ground.program(build, estate, [{"do": "press", "value": "Refresh"}])
+    samples.add("start", first["seconds"])
+    samples.add("memory", first["peak"] / 1024)
+    samples.add("entries", first["entries"])
+    samples.add("gap/start", first["gap"])
+    samples.add("refresh", refresh["ms"] / 1000)
+    samples.add("gap/refresh", refresh["gap"])
+
+
+def listing(ground: Ground, estate: Estate, samples: Samples) -> None:
+    """What start, refresh and memory are compared with."""
+    run = ground.dnf(estate, "list", "-C")
+    samples.add("seconds", run.seconds)
+    samples.add("mebibytes", run.mebibytes)
+    samples.add("lines", run.lines)
+
+
+def filter_steps() -> list[Step]:
+    steps: list[Step] = []
+    for selected in (False, True):
+        mark = ", all rows selected" if selected else ""
+        # What was selected is gone after each change.
+        select: list[Step] = [{"do": "select", "value": True}] if selected else []
+        for state in STATES:
+            steps += select
+            steps.append({"do": "choose", "value": ["View", state], "name": f"filter/{state}{mark}"})
+        for on in (False, True):
+            steps += select
+            name = f"filter/groups {'on' if on else 'off'}{mark}"
+            steps.append({"do": "check", "value": ["Include Groups", on], "name": name})
+        for expression, share in EXPRESSIONS:
+            steps.append({"do": "type", "value": expression})
+            steps += select
+            name = f"filter/expression that keeps {share}{mark}"
+            steps.append({"do": "press", "value": "Filter", "name": name})
+            steps.append({"do": "type", "value": ".*"})
+            steps += select
+            name = f"filter/no expression after {share}{mark}"
+            steps.append({"do": "press", "value": "Filter", "name": name})
+    return steps
+
+
+def sort_steps() -> list[Step]:
+    steps: list[Step] = []
+    for number, title in enumerate(COLUMNS):
+        steps.append({"do": "reveal", "value": number})
+        for turn in ("first", "second"):
+            steps.append({"do": "header", "value": number, "name": f"sort/{title}, {turn} click"})
+    return steps
+
+
+def table(ground: Ground, build: Build, estate: Estate, samples: Samples, walk: bool = False) -> None:
+    """Everything that a click in the table's surroundings does without a job, over all rows.
+
+    `walk` also compares the column widths with those of a walk over all cells, which takes seconds.
+    """
+    steps: list[Step] = [*EVERYTHING, *filter_steps(), *sort_steps()]
+    steps.append({"do": "press", "value": "Resize", "name": "resize"})
+    if walk:
+        steps.append({"do": "walk"})
+    for button in ("Set Update of All Out-of-Date", "Clear Actions"):
+        steps.append({"do": "press", "value": button, "name": f"marks/{button}"})
+    for line in ground.program(build, estate, steps)[1:]:
+        if "name" in line:
+            samples.add(line["name"], line["ms"])
+        if line.get("do") == "walk":
+            differ = [a != b for a, b in zip(line["widths"], line["walked"])]
+            samples.add("widths", sum(differ))
+
+
+def search(ground: Ground, build: Build, estate: Estate, samples: Samples) -> None:
+    steps: list[Step] = [
+        # Loads the extra data, while few rows are there to be searched.
+        {"do": "choose", "value": ["View", "View Updatable"]},
+        {"do": "choose", "value": ["Filter or Search", "Search"]},
+        {"do": "type", "value": f"{NOTHING} (1)"},
+        {"do": "press", "value": "Search", "name": "load"},
+        {"do": "type", "value": ".*"},
+        {"do": "press", "value": "Search"},
+        *EVERYTHING,
+        {"do": "type", "value": f"{NOTHING} (2)"},
+        {"do": "press", "value": "Search", "name": "search"},
+    ]
+    for line in ground.program(build, estate, steps)[1:]:
+        if line.get("name") == "search":
+            if line["rows"] != 0:
+                raise BenchError(f"The search found {line['rows']} rows, it should find none.")
+            samples.add("search", line["ms"] / 1000)
+            samples.add("gap/search", line["gap"])
+        elif line.get("name") == "load":
+            samples.add("gap/loading of the extra data", line["gap"])
+
+
+def growth(ground: Ground, build: Build, estate: Estate, samples: Samples) -> None:
+    steps: list[Step] = [{"do": "press", "value": "Refresh"}] * REFRESHES
+    lines = ground.program(build, estate, steps)[1:]
+    add_growth(lines, samples)
+
+
+def add_growth(lines: Sequence[Line], samples: Samples) -> None:
+    """The first refreshes fill caches; from then on nothing may grow."""
+    settled = lines[SETTLING_REFRESHES:]
+    samples.add("growth/memory, KiB a refresh", max(0.0, slope([line["resident"] for line in settled])))
+    samples.add("growth/descriptors a refresh", max(0.0, slope([line["descriptors"] for line in settled])))
+
+
+def log(ground: Ground, build: Build, estate: Estate, samples: Samples) -> None:
+    steps: list[Step] = [
+        {"do": "menu", "value": "Log"},
+        {"do": "press", "value": "Refresh", "name": "log"},
+    ]
+    lines = ground.program(build, estate, steps, {"VEM_BENCH_LINES": str(LOG_LINES)})
+    samples.add("log", lines[-1]["gap"])
+    samples.add("log seconds", lines[-1]["ms"] / 1000)
+
+
+def apply(ground: Ground, build: Build, estate: Estate, samples: Samples) -> None:
+    """All updates of a copy of the estate. `estate` stays as it is."""
+    with tempfile.TemporaryDirectory(dir=IN_MEMORY) as directory:
+        place = Path(directory)
+        copy = copied(estate, place / "estate")
+        steps: list[Step] = [
+            {"do": "press", "value": "Set Update of All Out-of-Date"},
+            {"do": "press", "value": "Apply Actions", "name": "apply"},
+        ]
+        lines = ground.program(build, copy, steps, {"VEM_BENCH_TIMES": str(place / "times")})
+        times: dict[str, Any] = json.loads((place / "times").read_text(encoding="utf-8"))
+    if lines[-1]["rows"] != 0:
+        raise BenchError(f"{lines[-1]['rows']} packages were not updated.")
+    ours = times["feedback"] + times["rest"]
+    samples.add("apply", ours / times["dnf"])
+    samples.add("apply seconds/dnf's own work in the program", times["dnf"])
+    samples.add("apply seconds/feedback to the window", times["feedback"])
+    samples.add("apply seconds/marks, listing, checks", times["rest"])
+    samples.add("apply seconds/click to question", lines[-1]["asked"] / 1000)
+    samples.add("upgrade", lines[-1]["ms"] / 1000)
+    samples.add("gap/apply", lines[-1]["gap"])
+
+
+def upgrade(ground: Ground, estate: Estate, samples: Samples) -> None:
+    """The same transaction by dnf, on a copy of its own."""
+    with tempfile.TemporaryDirectory(dir=IN_MEMORY) as directory:
+        copy = copied(estate, Path(directory) / "estate")
+        samples.add("upgrade", ground.dnf(copy, "-C", "-y", "upgrade").seconds)
+
+
+def copied(estate: Estate, directory: Path) -> Estate:
+    """An estate with a copy of the root, and with the same repositories."""
+    shutil.copytree(estate.root, directory / "root", symlinks=True)
+    return Estate(directory)
+
+
+def costs(samples: Samples) -> dict[str, float]:
+    """Seconds of what is compared between estates of several sizes, as far as it was measured."""
+    result = {}
+    for row, what, unit in (
+        ("start", "start", 1),
+        ("refresh", "refresh", 1),
+        ("filter", "worst filter", 1000),
+        ("sort", "worst sort", 1000),
+        ("marks", "all marks", 1000),
+        ("resize", "resize", 1000),
+        ("search", "search", 1),
+    ):
+        names = samples.names_of(row)
+        if names:
+            result[what] = max(samples.median(name) for name in names) / unit
+    return result

@@ -1,0 +1,20 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""Keeps passwords that stand in addresses out of every text that a user, or whoever looks on, gets to see.
+
+A buffet address is ".../buffet?<key>=<name>&<key>=<password>&path=...". Libraries put whole addresses into
+their messages.
+"""
+
+from __future__ import annotations
+
+import re
+
+MASK = "***"
+"""Always as long, since the length of a password tells something, too."""
+
+_PASSWORD = re.compile(r"(/buffet[^?\s]*\?[^&\s]*=[^&\s]*&[^&\s=]*=)[^&\s]+(?=&path=)")
+
+
+def masked(text: str) -> str:
+    """`text` with the password of each buffet address replaced."""
+    return _PASSWORD.sub(rf"\1{MASK}", text) if "/buffet" in text else text

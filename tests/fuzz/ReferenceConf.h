@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include <QByteArray>
+#include <QByteArrayList>
+#include <QList>
+
+/// What one configuration file means and what a write has to make of it, found out in the plainest way: over
+/// the whole text in memory, with no thought of speed. A second opinion to hold the reader and writer
+/// against.
+class ReferenceConf
+{
+public:
+    struct Section
+    {
+        QByteArray id;
+        QByteArray written;  ///< as it is to stand in the file, without the blank line between two
+        QList<bool> enabled; ///< what its `enabled` lines say, in their order
+    };
+
+    enum Kind
+    {
+        MainFile,
+        RepoFile
+    };
+
+    ReferenceConf(QByteArray const& text, Kind kind);
+
+    bool isWellFormed = true; ///< every section head has its closing bracket
+    QByteArray mainOptions;   ///< of a main file, as it is to stand there
+    QByteArrayList reposdirs{"/etc/yum/repos.d", "/etc/yum.repos.d"};
+    bool mainEnabled = true;
+    QList<Section> sections; ///< up to the first head that isn't well formed
+
+private:
+    void readMainOption(QByteArray const& line);
+    void readSections(QByteArrayList const& lines);
+};

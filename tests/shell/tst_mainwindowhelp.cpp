@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+// The Help menu: which outside commands it starts, and with what.
+#include "ShellTest.h"
+#include "tests/repo/Launches.h"
+
+#include <QAction>
+#include <QKeySequence>
+#include <QTest>
+
+class MainWindowHelpTest : public ShellTest
+{
+    Q_OBJECT
+
+    Launches launches;
+
+    QByteArray command(char const* name) const
+    {
+        return QFile::encodeName(launches.path(QString::fromLatin1(name)));
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        makeWindow();
+        QVERIFY(openWindow());
+        launches.add(QStringLiteral("webbrowser"));
+        launches.add(QStringLiteral("mimeviewer"));
+        qputenv("VEMSHARE", QFile::encodeName(launches.path(QString())));
+    }
+
+    void cleanupTestCase() { delete window; }
+
+    void init() { launches.forget(); }
+
+    void manualOpensInTheBrowser()
+    {
+        action(QStringLiteral("Manual (html)"))->trigger();
+        QTRY_VERIFY(!launches.started().isEmpty());
+        verifyManualInTheBrowser();
+    }
+
+    void helpKeyOpensTheSame()
+    {
+        QCOMPARE(action(QStringLiteral("Manual (html)"))->shortcut(), QKeySequence(Qt::Key_F1));
+        window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(window));
+        QTest::keyClick(window, Qt::Key_F1);
+        QTRY_VERIFY(!launches.started().isEmpty());
+        verifyManualInTheBrowser();
+    }
+
+    void manualOpensInTheViewerOfItsType()
+    {
+        action(QStringLiteral("Manual (PDF)"))->trigger();
+        QTRY_VERIFY(!launches.started().isEmpty());
+        QCOMPARE(
+            launches.started(),
+            (QByteArrayList{
+                command("mimeviewer"), "application/pdf", "/usr/share/doc/vem-1.7.2/manual.pdf"}));
+    }
+
+    // A command that isn't there is told on the terminal; the window goes on.
+    void commandsThatAreMissingAreHarmless()
+    {
+        QByteArray const share = qgetenv("VEMSHARE");
+        qputenv("VEMSHARE", "/nowhere");
+        action(QStringLiteral("Manual (html)"))->trigger();
+        action(QStringLiteral("Manual (PDF)"))->trigger();
+        qputenv("VEMSHARE", share);
+        QCOMPARE(launches.started(), QByteArrayList());
+        QVERIFY(window->isVisible() && window->isEnabled());
+    }
+
+private:
+    void verifyManualInTheBrowser() const
+    {
+        QCOMPARE(
+            launches.started(),
+            (QByteArrayList{command("webbrowser"), "/usr/share/doc/vem-1.7.2/html/index.html"}));
+    }
+};
+
+QTEST_MAIN(MainWindowHelpTest)
+#include "tst_mainwindowhelp.moc"
