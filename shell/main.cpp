@@ -4,6 +4,7 @@
 #include "shell/CommandLine.h"
 #include "shell/DefaultStyle.h"
 #include "shell/MainWindow.h"
+#include "shell/Translations.h"
 
 #include <QApplication>
 #include <libgen.h>
@@ -13,6 +14,7 @@ int main(int argc, char** argv)
     DefaultStyle const defaultStyle(argc, argv);
     QApplication app(argc, argv);
     defaultStyle.set(app, QStringLiteral("plastique"));
+    installTranslations(app);
     // Wayland has no window icons: the compositor takes that of the desktop entry.
     QGuiApplication::setDesktopFileName(QStringLiteral("org.example.vem"));
     app.setWindowIcon(Share::icon(QStringLiteral("pixmaps/vem.icon.png")));
