@@ -107,7 +107,8 @@ public:
     /// and table stay as they are.
     bool apply();
 
-    /// Empties a cache of the package library. True when the script reports success. GUI thread.
+    /// Empties a cache of the package library. True when the script reports success. A user who isn't allowed
+    /// to is told so. GUI thread.
     bool cleanHeaders();
     bool cleanPackages();
     bool cleanXmlMetadata();
@@ -325,7 +326,8 @@ protected:
     PyRef pkgTree(Package::Entry const* group);
     PyRef allPkgs(Package::Entry const* group);
 
-    bool cleanCache(char const* method);
+    // Logs the heading and calls the methods; a refusal by the script is reported and ends it.
+    bool cleanCaches(QString const& heading, QList<char const*> const& methods);
 
     // Marks on groups become marks on packages; false stops the apply.
     bool applyGroups();

@@ -4,13 +4,16 @@
 
 #include "engine/YumIO.h"
 
-bool YumIO::cleanCache(char const* method)
+namespace
 {
-    PyRef const answer = pyMethodCall(yumIO.get(), method, "()");
-    if (!answer || !PyTuple_Check(answer.get()) || PyTuple_GET_SIZE(answer.get()) < 1) {
+
+/// Whether a cleaning method's answer, a tuple, begins with the code for success.
+bool isSuccess(PyObject* answer)
+{
+    if (!answer || !PyTuple_Check(answer) || PyTuple_GET_SIZE(answer) < 1) {
         return false;
     }
-    long const code = PyLong_AsLong(PyTuple_GET_ITEM(answer.get(), 0));
+    long const code = PyLong_AsLong(PyTuple_GET_ITEM(answer, 0));
     if (PyErr_Occurred()) {
         PyErr_Clear();
         return false;
@@ -18,42 +21,57 @@ bool YumIO::cleanCache(char const* method)
     return code == 0;
 }
 
+} // namespace
+
+bool YumIO::cleanCaches(QString const& heading, QList<char const*> const& methods)
+{
+    log(Log::Action, 0, heading);
+    PyGILStateWrapper const lock(true);
+    PyObject* const baseError = pyLookup("yum.Errors.YumBaseError");
+    pyExceptStart();
+    pyExceptExpect(baseError);
+    bool areClean = true;
+    // Every cache is cleaned, whatever the others answer.
+    for (char const* const method : methods) {
+        PyRef const answer = pyMethodCall(yumIO.get(), method, "()");
+        if (pyExceptMatches(answer.get(), baseError)) {
+            // Whoever may not clean one may clean none, and is to be told once.
+            error(pyString(pyExceptValuef().get()));
+            areClean = false;
+            break;
+        }
+        areClean = isSuccess(answer.get()) && areClean;
+    }
+    pyExceptClear();
+    return areClean;
+}
+
 bool YumIO::cleanHeaders()
 {
-    log(Log::Action, 0, tr("Cleaning Headers"));
-    PyGILStateWrapper const lock(true);
-    return cleanCache("cleanHeaders");
+    return cleanCaches(tr("Cleaning Headers"), {"cleanHeaders"});
 }
 
 bool YumIO::cleanPackages()
 {
-    log(Log::Action, 0, tr("Cleaning Packages"));
-    PyGILStateWrapper const lock(true);
-    return cleanCache("cleanPackages");
+    return cleanCaches(tr("Cleaning Packages"), {"cleanPackages"});
 }
 
 bool YumIO::cleanXmlMetadata()
 {
-    log(Log::Action, 0, tr("Cleaning Xml Metadata"));
-    PyGILStateWrapper const lock(true);
-    return cleanCache("cleanMetadata");
+    return cleanCaches(tr("Cleaning Xml Metadata"), {"cleanMetadata"});
 }
 
 bool YumIO::cleanPickledCache()
 {
-    log(Log::Action, 0, tr("Cleaning Pickled Cache"));
-    PyGILStateWrapper const lock(true);
-    return cleanCache("cleanPickles");
+    return cleanCaches(tr("Cleaning Pickled Cache"), {"cleanPickles"});
 }
 
 bool YumIO::cleanAll()
 {
-    log(Log::Action, 0, tr("Cleaning All"));
     PyGILStateWrapper const lock(true);
-    // Every cache is cleaned, whatever the others answer.
-    bool const headers = cleanCache("cleanHeaders");
-    bool const packages = cleanCache("cleanPackages");
-    bool const metadata = cleanCache("cleanMetadata");
-    bool const pickles = !hasPickledCache() || cleanCache("cleanPickles");
-    return headers && packages && metadata && pickles;
+    QList<char const*> methods{"cleanHeaders", "cleanPackages", "cleanMetadata"};
+    if (hasPickledCache()) {
+        methods.append("cleanPickles");
+    }
+    return cleanCaches(tr("Cleaning All"), methods);
 }

@@ -28,7 +28,7 @@ streams.replace_streams()
 
 import bdb  # noqa: E402,F401
 
-from vemyum import clean, host, messages, surroundings  # noqa: E402
+from vemyum import clean, host, messages, rights, surroundings  # noqa: E402
 from vemyum.apply import Apply  # noqa: E402
 from vemyum.errors import LockError, RepoError, YumBaseError, reported_as  # noqa: E402
 from vemyum.session import Session  # noqa: E402
@@ -130,6 +130,7 @@ class YumIO:
     def apply(self, installs: Sequence[Any], updates: Sequence[Any], removes: Sequence[Any]) -> None:
         """Solves, lists, asks, downloads and runs. YumBaseError; OSError only for a broken pipe."""
         with reported_as(YumBaseError):
+            rights.require_administrator("install, update or remove packages")
             Apply(self._session).run(installs, updates, removes)
 
     def usesPresto(self) -> bool:
@@ -141,14 +142,21 @@ class YumIO:
         packages; after a refused apply, which ends with this call too, the object serves the next one."""
 
     def cleanHeaders(self) -> Tuple[int, List[str]]:
-        """There are no header files to remove."""
-        return (0, [])
+        """YumBaseError. There are no header files to remove."""
+        return self._clean()
 
     def cleanPackages(self) -> Tuple[int, List[str]]:
-        return clean.clean(self._session.cache_directory, "packages")
+        """YumBaseError."""
+        return self._clean("packages")
 
     def cleanMetadata(self) -> Tuple[int, List[str]]:
-        return clean.clean(self._session.cache_directory, "metadata", "dbcache")
+        """YumBaseError."""
+        return self._clean("metadata", "dbcache")
 
     def cleanPickles(self) -> Tuple[int, List[str]]:
-        return clean.clean(self._session.cache_directory, "dbcache")
+        """YumBaseError."""
+        return self._clean("dbcache")
+
+    def _clean(self, *kinds: str) -> Tuple[int, List[str]]:
+        rights.require_administrator("clean the caches")
+        return clean.clean(self._session.cache_directory, *kinds) if kinds else (0, [])

@@ -4,10 +4,11 @@
 from __future__ import annotations
 
 import json
+import os
 import shutil
 import subprocess
 from pathlib import Path
-from typing import Dict, List
+from typing import Dict, List, Optional
 
 import pytest
 
@@ -41,14 +42,16 @@ class Installed:
         file.write_text(text)
         file.chmod(0o755)
 
-    def add_pkexec(self) -> None:
-        self.write(self.tools / "pkexec", PKEXEC)
+    def add_pkexec(self, text: str = PKEXEC) -> None:
+        self.write(self.tools / "pkexec", text)
 
-    def launch(self, *options: str, uid: int = 1000, **environment: str) -> subprocess.CompletedProcess[str]:
+    def launch(
+        self, *options: str, uid: int = 1000, launcher: Optional[Path] = None, **environment: str
+    ) -> subprocess.CompletedProcess[str]:
         """Runs the launcher, which takes itself for this user."""
         self.write(self.tools / "id", f"#!/bin/sh\necho {uid}\n")
         return subprocess.run(
-            [str(self.share / "launch"), *options],
+            [str(launcher or self.share / "launch"), *options],
             env={"PATH": str(self.tools), **environment},
             capture_output=True,
             text=True,
@@ -89,13 +92,12 @@ def test_anybody_else_is_sent_through_pkexec(installed: Installed) -> None:
     assert arguments(run) == ["--log", "DISPLAY=:9", "a b"]
 
 
-def test_display_style_and_language_arrive(installed: Installed) -> None:
+def test_display_and_language_arrive(installed: Installed) -> None:
     installed.add_pkexec()
     wanted = {
         "DISPLAY": ":3",
         "XAUTHORITY": "/run/user/1000/.mutter-Xwaylandauth.Q3",
         "WAYLAND_DISPLAY": "/run/user/1000/wayland-0",
-        "QT_STYLE_OVERRIDE": "Fusion",
         "QT_SCALE_FACTOR": "1.5",
         "LANG": "de_DE.UTF-8",
         "LANGUAGE": "de_DE:en",
@@ -126,6 +128,79 @@ def test_the_usual_key_file_of_the_x_server_is_named(installed: Installed, tmp_p
     assert environment(installed.launch(DISPLAY=":3", HOME=str(tmp_path)))["XAUTHORITY"] == str(key)
 
 
+def test_a_key_file_of_any_name_is_found_from_any_folder(installed: Installed, tmp_path: Path) -> None:
+    installed.add_pkexec()
+    there = environment(installed.launch(DISPLAY=":3", XAUTHORITY="/home/j\u00f6rg b/.Xauth'or$ity"))
+    assert there["XAUTHORITY"] == "/home/j\u00f6rg b/.Xauth'or$ity"
+    there = environment(installed.launch(DISPLAY=":3", XAUTHORITY="keys/x"))
+    assert there["XAUTHORITY"] == f"{os.getcwd()}/keys/x"
+
+
+def test_a_remote_display_keeps_its_name(installed: Installed) -> None:
+    installed.add_pkexec()
+    assert environment(installed.launch(DISPLAY="localhost:10.0"))["DISPLAY"] == "localhost:10.0"
+
+
+def test_launcher_finds_its_place_through_a_link(installed: Installed, tmp_path: Path) -> None:
+    installed.add_pkexec()
+    link = tmp_path / "a link"
+    link.symlink_to(installed.share / "launch")
+    assert arguments(installed.launch("--log", launcher=link)) == ["--log"]
+
+
+@pytest.mark.parametrize(
+    ("text", "style"),
+    [
+        ("[Qt]\nstyle=Windows\n", "Windows"),
+        ("[General]\nstyle=other\n\n[Qt]\nfont=x\nstyle = \"GTK+\"", "GTK+"),
+        ("[Qt]\nstyle=Windows\n[More]\nstyle=other\n", "Windows"),
+        ("[Qt]\nstylesheet=x\n[General]\nstyle=other\n", None),
+        ("[Qt]\nstyle=/tmp/x.so\n", None),
+        ("[Qt]\nstyle=-platform\n", None),
+        ("[Qt]\nstyle=$(id) a\n", None),
+        ("[Qt]\nstyle=\n", None),
+        ("", None),
+    ],
+)
+def test_the_style_of_the_users_settings_becomes_an_option(
+    installed: Installed, tmp_path: Path, text: str, style: Optional[str]
+) -> None:
+    installed.add_pkexec()
+    settings = tmp_path / ".config/Trolltech.conf"
+    settings.parent.mkdir()
+    settings.write_text(text)
+    expected = ["-style", style] if style else []
+    assert arguments(installed.launch("--log", HOME=str(tmp_path))) == [*expected, "--log"]
+    assert arguments(installed.launch("--log", XDG_CONFIG_HOME=str(settings.parent))) == [*expected, "--log"]
+
+
+def test_a_style_named_for_the_session_counts_before_the_settings(installed: Installed, tmp_path: Path) -> None:
+    installed.add_pkexec()
+    settings = tmp_path / ".config/Trolltech.conf"
+    settings.parent.mkdir()
+    settings.write_text("[Qt]\nstyle=Windows\n")
+    run = installed.launch(HOME=str(tmp_path), QT_STYLE_OVERRIDE="Fusion")
+    assert arguments(run) == ["-style", "Fusion"]
+    # The toolkit takes the last one.
+    run = installed.launch("-style", "mine", HOME=str(tmp_path))
+    assert arguments(run) == ["-style", "Windows", "-style", "mine"]
+
+
+def test_who_gets_no_rights_may_look(installed: Installed) -> None:
+    installed.add_pkexec("#!/bin/sh\nexit 127\n")
+    run = installed.launch("--log", "a b", DISPLAY=":3")
+    assert arguments(run) == ["--log", "a b"]
+    assert "without the rights" in run.stderr
+    assert environment(run)["DISPLAY"] == ":3"
+
+
+@pytest.mark.parametrize("status", [0, 1, 126])
+def test_who_dismisses_the_question_or_quits_is_done(installed: Installed, status: int) -> None:
+    installed.add_pkexec(f"#!/bin/sh\nexit {status}\n")
+    run = installed.launch()
+    assert (run.returncode, run.stdout) == (status, "")
+
+
 def test_without_pkexec_the_program_starts_for_looking_only(installed: Installed) -> None:
     run = installed.launch("--log")
     assert arguments(run) == ["--log"]
@@ -145,7 +220,7 @@ def test_as_root_wants_the_end_of_the_variables(installed: Installed) -> None:
 
 
 @pytest.mark.parametrize(
-    "word", ["QT_STYLE_OVERRIDE=/tmp/x", "QT_QPA_PLATFORM=xcb /tmp", "LANG=$(id)", "DISPLAY=:1\nPATH=/tmp"]
+    "word", ["QT_QPA_PLATFORMTHEME=/tmp/x", "QT_QPA_PLATFORM=xcb /tmp", "LANG=$(id)", "DISPLAY=:1\nPATH=/tmp"]
 )
 def test_as_root_leaves_out_a_value_with_other_characters(installed: Installed, word: str) -> None:
     assert word.partition("=")[0] not in environment(installed.as_root(word, "--"))

@@ -11,6 +11,7 @@ private Q_SLOTS:
     void codeZeroIsSuccess();
     void allCachesAreCleanedWhateverOneAnswers();
     void picklesAreCleanedWhereThereAre();
+    void refusalIsReportedOnceInItsOwnWords();
 };
 
 void TestYumIOClean::eachCleanCallsItsMethod()
@@ -86,6 +87,24 @@ void TestYumIOClean::picklesAreCleanedWhereThereAre()
     engine->setVersion("2.9.1");
     QVERIFY(!engine->cleanAll());
     QVERIFY(engine->calls().contains("cleanPickles"));
+}
+
+void TestYumIOClean::refusalIsReportedOnceInItsOwnWords()
+{
+    SCRIPT("def refuse():\n"
+           "    raise yum.Errors.YumBaseError('Not for you.')\n"
+           "for name in 'Headers', 'Packages', 'Metadata', 'Pickles':\n"
+           "    standin.instead('clean' + name, refuse)");
+    Boxes::Box const report{"VEM Yum Error", "Not for you.", {"OK"}};
+    QVERIFY(!engine->cleanPackages());
+    QCOMPARE(boxes->take(), QList{report});
+    QVERIFY(!engine->cleanAll());
+    QCOMPARE(boxes->take(), QList{report});
+    QCOMPARE(engine->logLines(Log::Error), QStringList(2, "Not for you."));
+
+    // The next call starts anew.
+    SCRIPT("standin.instead('cleanPackages', lambda: (0, []))");
+    QVERIFY(engine->cleanPackages());
 }
 
 QTEST_MAIN(TestYumIOClean)

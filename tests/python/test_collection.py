@@ -301,6 +301,17 @@ def test_main_file_that_is_not_utf8_is_named_with_its_line(
     assert f"/etc/yum.conf, line {line}: the text is not in UTF-8" in host.text("errorlog")
 
 
+def test_variable_that_is_not_utf8_is_named(lamp: Tuple[Estate, Program], host: FakeHost) -> None:
+    estate, program = lamp
+    variables = estate.root / "etc/yum/vars"
+    variables.mkdir(parents=True)
+    (variables / "branch").write_text("north\n")
+    (variables / "office").write_bytes("B\u00fcro\n".encode("latin-1"))
+    with pytest.raises(SystemExit):
+        program.namespace["YumIO"]()
+    assert "/etc/yum/vars/office, line 1: the text is not in UTF-8" in host.text("errorlog")
+
+
 def test_later_configuration_that_cannot_be_read_is_told_by_the_repositories(
     lamp: Tuple[Estate, Program]
 ) -> None:

@@ -5,7 +5,8 @@ The engine runs `YumIO.py`, whose class `YumIO` is the face; the work is done he
 
     text, host, streams, messages   what goes to the engine: texts, host functions, printing, log lines
     errors, surroundings            exceptions as the engine expects them, the modules that it looks up
-    configuration, database, lock   where things lie, and who may touch them
+    configuration, rights,
+    database, lock                  where things lie, and who may touch them
     base, repositories, metadata    dnf's Base, the repositories and the progress of reading them
     sack, packages, headers,
     details, records                what the engine reads from a package

@@ -21,6 +21,7 @@ import dnf.rpm
 import dnf.util
 import libdnf.conf
 
+from . import rights
 from .database import point_rpm_at
 from .errors import YumBaseError
 
@@ -53,20 +54,24 @@ def main_file(root: str) -> str:
 def read_configuration() -> dnf.conf.MainConf:
     """Reads the main file of the managed root.
 
-    Makes the log and cache directories where they are missing. Raises dnf.exceptions.Error for a file
-    that cannot be understood, or for a root that cannot be used, OSError.
+    Makes the log and cache directories where they are missing; whoever isn't the administrator has them
+    below a folder of the user. Raises dnf.exceptions.Error for a file that cannot be understood, or for a
+    root or a home that cannot be used, OSError.
     """
     root = managed_root()
+    own = None if rights.is_administrator() else rights.own_directory(root)
     conf = dnf.conf.Conf()
     conf.installroot = root
     _set_defaults(conf, root)
     with undecodable_named(main_file(root)):
         conf.read(main_file(root), dnf.conf.config.PRIO_MAINCONFIG)
     point_rpm_at(root)
-    conf.substitutions.update_from_etc(root, varsdir=conf.varsdir)
+    _read_variables(conf, root)
     if "releasever" not in conf.substitutions:
         conf.substitutions["releasever"] = _release(root)
     _put_below_root(conf, root)
+    if own is not None:
+        rights.use_directories(conf, own)
     conf.exit_on_lock = True
     # The rebuild of delta packages waits for any child of the process, and so takes the exit codes of
     # children that are not its own.
@@ -85,13 +90,32 @@ def undecodable_named(file: str) -> Iterator[None]:
     try:
         yield
     except TypeError as error:
-        with open(file, "rb") as stream:
-            try:
-                stream.read().decode("utf-8")
-            except UnicodeDecodeError as fault:
-                line = fault.object.count(b"\n", 0, fault.start) + 1
-                raise YumBaseError(f"{file}, line {line}: the text is not in UTF-8") from error
+        _require_utf8(file, error)
         raise
+
+
+def _read_variables(conf: dnf.conf.MainConf, root: str) -> None:
+    """The variables that the managed system defines, a file each. YumBaseError names one that isn't UTF-8."""
+    try:
+        conf.substitutions.update_from_etc(root, varsdir=conf.varsdir)
+    except UnicodeDecodeError as error:
+        for directory in conf.varsdir:
+            for file in sorted(glob.glob(glob.escape(below(root, directory)) + "/*")):
+                if os.path.isfile(file):
+                    _require_utf8(file, error)
+        raise
+
+
+def _require_utf8(file: str, stumble: Exception) -> None:
+    try:
+        with open(file, "rb") as stream:
+            stream.read().decode("utf-8")
+    except OSError:
+        # Nobody can have stumbled over it.
+        return
+    except UnicodeDecodeError as fault:
+        line = fault.object.count(b"\n", 0, fault.start) + 1
+        raise YumBaseError(f"{file}, line {line}: the text is not in UTF-8") from stumble
 
 
 def _release(root: str) -> str:
@@ -106,10 +130,11 @@ def _release(root: str) -> str:
 def _set_defaults(conf: dnf.conf.MainConf, root: str) -> None:
     defaults = {
         "reposdir": list(REPOSITORY_DIRECTORIES),
-        "protected_packages": _protected_packages(root),
+        # Whoever can't remove packages may not even be able to read which ones are protected.
+        "protected_packages": _protected_packages(root) if rights.is_administrator() else [],
+        "cachedir": CACHE_DIRECTORY,
+        "logdir": LOG_DIRECTORY,
     }
-    if dnf.util.am_i_root() or root != "/":
-        defaults.update(cachedir=CACHE_DIRECTORY, logdir=LOG_DIRECTORY)
     for name, value in defaults.items():
         conf._set_value(name, value, dnf.conf.config.PRIO_DEFAULT)
     if conf._has_option("optional_metadata_types"):

@@ -15,6 +15,7 @@ from typing import Any, Iterator, Optional, Tuple
 
 import dnf.conf.read
 
+from .errors import os_error_text
 from .text import valid
 
 _UTF8_ELSE_LATIN1 = "vem.latin1"
@@ -43,12 +44,15 @@ class RepositoryReader(dnf.conf.read.RepoReader):
 def _utf8_file(path: str) -> Iterator[str]:
     """The name of a file in UTF-8 with the text of `path`: `path` itself, or else a copy for the time being.
 
-    Only those bytes that can't be UTF-8 count as Latin-1. A file that can't be opened is left to the reader.
+    Only those bytes that can't be UTF-8 count as Latin-1. A file that can't be opened is left to the reader,
+    for whom it is an empty one.
     """
     try:
         with open(path, "rb") as file:
             content = file.read()
-    except OSError:
+    except OSError as error:
+        if not isinstance(error, FileNotFoundError):
+            logging.getLogger("dnf").warning("%s", os_error_text(error))
         yield path
         return
     fault = _fault(path, content)

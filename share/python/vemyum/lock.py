@@ -50,7 +50,7 @@ class ProcessLock:
                 for name in _BUILDERS:
                     where = conf.persistdir if name == "build_rpmdb_lock" else conf.cachedir
                     lock = self._originals[name](where, True)
-                    lock.__enter__()
+                    _enter(lock)
                     taken.append(lock)
         except dnf.exceptions.ProcessLockError as error:
             self._leave(taken)
@@ -78,6 +78,16 @@ class ProcessLock:
             # another one; what counts for others is the file.
             with contextlib.suppress(FileNotFoundError, NotADirectoryError):
                 os.unlink(lock.target)
+
+
+def _enter(lock: Any) -> None:
+    try:
+        lock.__enter__()
+    except OSError as error:
+        # A full disk is met where no path is told.
+        if error.filename is None:
+            error.filename = lock.target
+        raise
 
 
 def _program(pid: int) -> str:

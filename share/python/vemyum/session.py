@@ -12,7 +12,7 @@ from typing import Any, List, Optional, Sequence
 import dnf.comps
 import dnf.conf
 
-from . import host
+from . import host, rights
 from .base import Base, open_base
 from .configuration import Configuration, main_file, managed_root, read_configuration
 from .details import PackageDetails
@@ -56,8 +56,11 @@ class Session:
     # Lock ------------------------------------------------------------------------------------------------
 
     def lock(self) -> None:
-        if self._conf is not None:
-            LOCK.acquire(self._conf)
+        if self._conf is None or LOCK.held:
+            return
+        LOCK.acquire(self._conf)
+        if not rights.is_administrator():
+            host.log(host.LEVEL_NOTICE, rights.LOOK_ONLY)
 
     def unlock(self) -> None:
         LOCK.release()

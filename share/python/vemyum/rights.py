@@ -1,0 +1,73 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""Who may change the system, and where the program keeps things for a user who may only look.
+
+dnf locks, caches and logs in directories of the system. For anybody but the administrator they all lie in a
+folder of the user's own, one for each root that is looked at, and nothing of the system is touched.
+"""
+
+from __future__ import annotations
+
+import contextlib
+import errno
+import hashlib
+import os
+
+import dnf.conf
+import dnf.util
+import dnf.yum.misc
+
+from .errors import YumBaseError, os_error_text
+
+LOOK_ONLY = "Started without administrator rights: packages can be looked at, not changed."
+
+_DIRECTORIES = {"cachedir": "cache", "persistdir": "persist", "logdir": "log"}
+
+
+def is_administrator() -> bool:
+    """rpm lets nobody else change a system, not even one whose files belong to the user."""
+    return bool(dnf.util.am_i_root())
+
+
+def require_administrator(action: str) -> None:
+    """YumBaseError, one sentence that names the action, for anybody else."""
+    if not is_administrator():
+        raise YumBaseError(f"Only the administrator can {action}: start the program with administrator rights.")
+
+
+def own_directory(root: str) -> str:
+    """The user's folder for this root, made if it is missing. YumBaseError when it cannot be used."""
+    caches = os.environ.get("XDG_CACHE_HOME", "")
+    if not os.path.isabs(caches):
+        caches = os.path.join(os.path.expanduser("~"), ".cache")
+    name = hashlib.sha256(os.fsencode(os.path.realpath(root))).hexdigest()[:16]
+    own = os.path.join(caches, "vem", name)
+    try:
+        for kind in _DIRECTORIES.values():
+            _make_usable(os.path.join(own, kind))
+    except OSError as error:
+        raise YumBaseError(
+            "Without administrator rights the program needs a cache of the user's own, which cannot be used:\n"
+            f"{os_error_text(error)}"
+        ) from error
+    # What dnf itself keeps for a user, its locks above all; it would make a folder of a random name.
+    dnf.yum.misc.getCacheDir = lambda: own
+    return own
+
+
+def use_directories(conf: dnf.conf.MainConf, own: str) -> None:
+    """Puts cache, persistent data and log below the user's folder, whatever the configuration says."""
+    for option, kind in _DIRECTORIES.items():
+        conf._set_value(option, os.path.join(own, kind))
+
+
+def _make_usable(folder: str) -> None:
+    """Makes the folder, and those above it, for this user's eyes only where they are missing. OSError."""
+    if not os.path.isabs(folder):
+        raise FileNotFoundError(errno.ENOENT, "The user has no home directory", folder)
+    if not os.path.isdir(folder):
+        _make_usable(os.path.dirname(folder))
+        # Another copy of the program may be as far.
+        with contextlib.suppress(FileExistsError):
+            os.mkdir(folder, 0o700)
+    elif not os.access(folder, os.X_OK):
+        raise PermissionError(errno.EACCES, os.strerror(errno.EACCES), folder)
