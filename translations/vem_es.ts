@@ -5,92 +5,92 @@
     <name>Colors</name>
     <message>
         <source>#fffacd</source>
-        <translation type="unfinished"></translation>
+        <translation>#fffacd</translation>
     </message>
     <message>
         <source>blue</source>
-        <translation type="unfinished"></translation>
+        <translation>blue</translation>
     </message>
     <message>
         <source>red</source>
-        <translation type="unfinished"></translation>
+        <translation>red</translation>
     </message>
     <message>
         <source>#ffa9b8</source>
-        <translation type="unfinished"></translation>
+        <translation>#ffa9b8</translation>
     </message>
     <message>
         <source>darkorange</source>
-        <translation type="unfinished"></translation>
+        <translation>darkorange</translation>
     </message>
     <message>
         <source>#8b5a2b</source>
-        <translation type="unfinished"></translation>
+        <translation>#8b5a2b</translation>
     </message>
     <message>
         <source>#ffbd94</source>
-        <translation type="unfinished"></translation>
+        <translation>#ffbd94</translation>
     </message>
     <message>
         <source>green</source>
-        <translation type="unfinished"></translation>
+        <translation>green</translation>
     </message>
 </context>
 <context>
     <name>Execute</name>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
     </message>
     <message>
         <source>fork() failed; errno = %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Error de fork(); errno = %1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>Fonts</name>
     <message>
         <source>Helvetica</source>
-        <translation type="unfinished"></translation>
+        <translation>Helvetica</translation>
     </message>
     <message>
         <source>Courier</source>
-        <translation type="unfinished"></translation>
+        <translation>Courier</translation>
     </message>
 </context>
 <context>
     <name>Log::Window</name>
     <message>
         <source>&lt;font color=&quot;%1&quot;&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;font color=&quot;%1&quot;&gt;</translation>
     </message>
     <message>
         <source>&lt;/font&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;/font&gt;</translation>
     </message>
     <message>
         <source>&lt;font&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;font&gt;</translation>
     </message>
     <message>
         <source>&lt;h2&gt;&lt;font color=&quot;%1&quot;&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h2&gt;&lt;font color=&quot;%1&quot;&gt;</translation>
     </message>
     <message>
         <source>&lt;/font&gt;&lt;/h2&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;/font&gt;&lt;/h2&gt;</translation>
     </message>
     <message>
         <source>VEM Log</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM - Registro</translation>
     </message>
     <message>
         <source>Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Registro</translation>
     </message>
     <message>
         <source>Detail level</source>
-        <translation type="unfinished"></translation>
+        <translation>Nivel de detalle</translation>
     </message>
     <message>
         <source>Threshold beyond which more detailed log messages are omitted.
@@ -99,1585 +99,1631 @@ The valid range is 0 .. %1.
 The default is %2.
 Higher levels contain debug information.
 This corresponds to yum&apos;s debuglevel (-d) option.</source>
-        <translation type="unfinished"></translation>
+        <translation>Umbral a partir del cual se omiten los mensajes de registro más detallados.
+Los niveles más altos muestran más detalle.
+El intervalo válido es 0 .. %1.
+El valor predeterminado es %2.
+Los niveles más altos contienen información de depuración.
+Corresponde a la opción debuglevel (-d) de yum.</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cerrar</translation>
     </message>
     <message>
         <source>Close the Log Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar la ventana del registro</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>Clean RPM package headers cached locally in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpiar las cabeceras de paquetes RPM de la caché local en %1</translation>
     </message>
     <message>
         <source>Clean RPM packages cached locally in %1
 (useful for recovering disk space)</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpiar los paquetes RPM de la caché local en %1
+(útil para recuperar espacio en disco)</translation>
     </message>
     <message>
         <source>Clean XML metadata cached locally in %1
 (useful along with Clean Pickled Data for
  forcing download of new available package lists)</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpiar los metadatos XML de la caché local en %1
+(útil junto con Limpiar datos serializados para
+ forzar la descarga de nuevas listas de paquetes disponibles)</translation>
     </message>
     <message>
         <source>Clean pickled data cached locally in %1
 (useful along with Clean XML Metadata for
  forcing download of new available package lists)</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpiar los datos serializados (pickle) de la caché local en %1
+(útil junto con Limpiar metadatos XML para
+ forzar la descarga de nuevas listas de paquetes disponibles)</translation>
     </message>
     <message>
         <source>Clean all data cached locally in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpiar todos los datos de la caché local en %1</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>Acerca de</translation>
     </message>
     <message>
         <source>&lt;h3&gt;VEM %1&lt;/h3&gt;&lt;hr&gt;&lt;p&gt;VEM, Verified Estate Manager, is a graphical user interface which allows a user to make modifications to the installed rpm packages on a system.&lt;/p&gt;&lt;p&gt;Capabilities:&lt;p&gt;&lt;ul&gt;&lt;li&gt;Install new packages or update existing packages by downloading them from a yum package repository&lt;/li&gt;&lt;li&gt;Remove existing packages.&lt;/li&gt;&lt;li&gt;Configure sets of repositories from which to obtain new and updated packages.&lt;/li&gt;&lt;li&gt;Examine installed packages or packages available for installation or update&lt;/li&gt;&lt;li&gt;Install, update, or remove groups of packages&lt;/li&gt;&lt;li&gt;Install or update suites of packages&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;Web page: &lt;a href=&quot;https://vem.example.org/&quot;&gt;https://vem.example.org/&lt;/a&gt;&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h3&gt;VEM %1&lt;/h3&gt;&lt;hr&gt;&lt;p&gt;VEM, Verified Estate Manager, es una interfaz gráfica que permite modificar los paquetes rpm instalados en un sistema.&lt;/p&gt;&lt;p&gt;Funciones:&lt;p&gt;&lt;ul&gt;&lt;li&gt;Instalar paquetes nuevos o actualizar los existentes descargándolos de un repositorio de paquetes yum&lt;/li&gt;&lt;li&gt;Eliminar paquetes existentes&lt;/li&gt;&lt;li&gt;Configurar los repositorios de los que se obtienen paquetes nuevos y actualizados&lt;/li&gt;&lt;li&gt;Examinar los paquetes instalados o disponibles para instalar o actualizar&lt;/li&gt;&lt;li&gt;Instalar, actualizar o eliminar grupos de paquetes&lt;/li&gt;&lt;li&gt;Instalar o actualizar suites de paquetes&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;Página web: &lt;a href=&quot;https://vem.example.org/&quot;&gt;https://vem.example.org/&lt;/a&gt;&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtrar</translation>
     </message>
     <message>
         <source>Regular expression to compare to all fields of a package</source>
-        <translation type="unfinished"></translation>
+        <translation>Expresión regular que se compara con todos los campos de cada paquete</translation>
     </message>
     <message>
         <source>Regular expression filter matching textual fields visible in the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Expresión regular que filtra por los campos de texto visibles en la tabla</translation>
     </message>
     <message>
         <source>Perform the search for the regular expression specified to the left</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar la expresión regular indicada a la izquierda</translation>
     </message>
     <message>
         <source>Apply the filter specified to the left</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicar el filtro indicado a la izquierda</translation>
     </message>
     <message>
         <source>Specify the method for using a regular expression to select packages in the table:
 	Filter uses the textual fields visible in the table, as if they were separated by spaces.
 	Search uses all fields in packages, including list of Files, Change Log, Requires, etc.,
 	independently.  It is considerably slower.</source>
-        <translation type="unfinished"></translation>
+        <translation>Método con el que una expresión regular selecciona los paquetes de la tabla:
+	Filtrar usa los campos de texto visibles en la tabla, como si estuvieran separados por espacios.
+	Buscar usa todos los campos de los paquetes, incluidos la lista de archivos, el registro de cambios,
+	las dependencias, etc., cada uno por separado.  Es bastante más lento.</translation>
     </message>
     <message>
         <source>%1 (Must load extra data.)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (Requiere cargar datos adicionales.)</translation>
     </message>
     <message>
         <source>VEM - %1</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM - %1</translation>
     </message>
     <message>
         <source>&amp;Program</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Programa</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Salir</translation>
     </message>
     <message>
         <source>Ctrl+Q</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Q</translation>
     </message>
     <message>
         <source>&amp;Windows</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ventanas</translation>
     </message>
     <message>
         <source>&amp;Log</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Registro</translation>
     </message>
     <message>
         <source>Ctrl+L</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+L</translation>
     </message>
     <message>
         <source>&amp;Repositories</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Repositorios</translation>
     </message>
     <message>
         <source>&amp;Edit Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Editar configuración</translation>
     </message>
     <message>
         <source>Ctrl+E</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+E</translation>
     </message>
     <message>
         <source>&amp;Cache</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Caché</translation>
     </message>
     <message>
         <source>Clean Headers</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpiar cabeceras</translation>
     </message>
     <message>
         <source>Clean Packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpiar paquetes</translation>
     </message>
     <message>
         <source>Clean XML Metadata</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpiar metadatos XML</translation>
     </message>
     <message>
         <source>Clean Pickled Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpiar datos serializados</translation>
     </message>
     <message>
         <source>Clean All</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpiar todo</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;yuda</translation>
     </message>
     <message>
         <source>Manual (html)</source>
-        <translation type="unfinished"></translation>
+        <translation>Manual (html)</translation>
     </message>
     <message>
         <source>F1</source>
-        <translation type="unfinished"></translation>
+        <translation>F1</translation>
     </message>
     <message>
         <source>Manual (PDF)</source>
-        <translation type="unfinished"></translation>
+        <translation>Manual (PDF)</translation>
     </message>
     <message>
         <source>&amp;About</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Acerca de</translation>
     </message>
     <message>
         <source>Filter or Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtrar o buscar</translation>
     </message>
     <message>
         <source>Regular expression</source>
-        <translation type="unfinished"></translation>
+        <translation>Expresión regular</translation>
     </message>
     <message>
         <source>View Updatable</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver actualizables</translation>
     </message>
     <message>
         <source>View Installable</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver instalables</translation>
     </message>
     <message>
         <source>View Removable</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver eliminables</translation>
     </message>
     <message>
         <source>View All</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver todos</translation>
     </message>
     <message>
         <source>Filter for those packages which are eligible for updating,
 for installing, or for removing; or show all packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar solo los paquetes que se pueden actualizar,
+instalar o eliminar, o mostrar todos los paquetes</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista</translation>
     </message>
     <message>
         <source>Include Groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Incluir grupos</translation>
     </message>
     <message>
         <source>Whether or not filter should include package groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Indica si el filtro incluye los grupos de paquetes</translation>
     </message>
     <message>
         <source>&amp;Describe</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Describir</translation>
     </message>
     <message>
         <source>Pop up a window with a detailed description of the currently selected package</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir una ventana con la descripción detallada del paquete seleccionado</translation>
     </message>
     <message>
         <source>Re&amp;size</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajus&amp;tar</translation>
     </message>
     <message>
         <source>Resize the columns and window to optimal values</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustar las columnas y la ventana al tamaño óptimo</translation>
     </message>
     <message>
         <source>Re&amp;fresh</source>
-        <translation type="unfinished"></translation>
+        <translation>Recar&amp;gar</translation>
     </message>
     <message>
         <source>Refresh the list of installed packages and packages available for update.
 Use this to check for new updates in repositories, or if any packages were installed manually.</source>
-        <translation type="unfinished"></translation>
+        <translation>Recargar la lista de paquetes instalados y de paquetes disponibles para actualizar.
+Úselo para comprobar si hay nuevas actualizaciones en los repositorios o si se han instalado paquetes manualmente.</translation>
     </message>
     <message>
         <source>Set &amp;Install/Update of Selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcar &amp;selección (instalar/actualizar)</translation>
     </message>
     <message>
         <source>Sets the Action for all selected packages which are Not Installed to Install, and
 sets the Action for all selected packages which are Installed but Out-of-date to Update.
 Does not Apply Actions automatically.</source>
-        <translation type="unfinished"></translation>
+        <translation>Asigna la acción Instalar a todos los paquetes seleccionados que no están instalados
+y la acción Actualizar a todos los seleccionados que están instalados pero desactualizados.
+No aplica las acciones automáticamente.</translation>
     </message>
     <message>
         <source>Set &amp;Update of All Out-of-Date</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Marcar todas las actualizaciones</translation>
     </message>
     <message>
         <source>Sets the Action for all packages which are Installed but Out-of-date to Update.
 Does not Apply Actions automatically.</source>
-        <translation type="unfinished"></translation>
+        <translation>Asigna la acción Actualizar a todos los paquetes instalados pero desactualizados.
+No aplica las acciones automáticamente.</translation>
     </message>
     <message>
         <source>&amp;Clear Actions</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Borrar acciones</translation>
     </message>
     <message>
         <source>Clears all specified Actions (Updates, Installs, and Removals)</source>
-        <translation type="unfinished"></translation>
+        <translation>Borra todas las acciones indicadas (actualizar, instalar y eliminar)</translation>
     </message>
     <message>
         <source>&amp;Apply Actions</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aplicar acciones</translation>
     </message>
     <message>
         <source>Applies the specified Actions (Updates, Installs, and Removals)</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplica las acciones indicadas (actualizar, instalar y eliminar)</translation>
     </message>
     <message>
         <source>Item Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Progreso del elemento</translation>
     </message>
     <message>
         <source>Total Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Progreso total</translation>
     </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>
     <message>
         <source>&amp;Update</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Actualizar</translation>
     </message>
     <message>
         <source>&amp;Install</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Instalar</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Eliminar</translation>
     </message>
     <message>
         <source>&amp;No Action</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sin acción</translation>
     </message>
 </context>
 <context>
     <name>PackageTable::Describe::Dialog</name>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar</translation>
     </message>
     <message>
         <source>VEM Package Description</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM - Descripción del paquete</translation>
     </message>
 </context>
 <context>
     <name>PackageTable::Describe::Instance::Area</name>
     <message>
         <source>Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Versión</translation>
     </message>
     <message>
         <source>Repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Repositorio</translation>
     </message>
     <message>
         <source>Details</source>
-        <translation type="unfinished"></translation>
+        <translation>Detalles</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar</translation>
     </message>
     <message>
         <source>Change Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Registro de cambios</translation>
     </message>
     <message>
         <source>%1:</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:</translation>
     </message>
     <message>
         <source>%1 (must load extra data)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (requiere cargar datos adicionales)</translation>
     </message>
     <message>
         <source>%1 %2 File List</source>
-        <translation type="unfinished"></translation>
+        <translation>Lista de archivos de %1 %2</translation>
     </message>
     <message>
         <source>%1 %2 Change Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Registro de cambios de %1 %2</translation>
     </message>
 </context>
 <context>
     <name>PackageTable::Describe::Instance::RepoDialog</name>
     <message>
         <source>VEM Repository Description</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM - Descripción del repositorio</translation>
     </message>
     <message>
         <source>Browse Repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Explorar repositorio</translation>
     </message>
     <message>
         <source>Browse the first URL specified for the selected repository using an external web browser</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir la primera URL indicada para el repositorio seleccionado en un navegador web externo</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre</translation>
     </message>
     <message>
         <source>URLs</source>
-        <translation type="unfinished"></translation>
+        <translation>URL</translation>
     </message>
     <message>
         <source>Mirror list URL</source>
-        <translation type="unfinished"></translation>
+        <translation>URL de lista de espejos</translation>
     </message>
     <message>
         <source>%1:</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:</translation>
     </message>
 </context>
 <context>
     <name>PackageTable::Model</name>
     <message>
         <source>Action</source>
-        <translation type="unfinished"></translation>
+        <translation>Acción</translation>
     </message>
     <message>
         <source>Action to be performed on the package, if any: Update, Install, Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Acción que se realizará con el paquete, si la hay: actualizar, instalar, eliminar</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado</translation>
     </message>
     <message>
         <source>Indicates whether the package is Installed or not and, if installed, whether it is Up-to-date or not</source>
-        <translation type="unfinished"></translation>
+        <translation>Indica si el paquete está instalado o no y, si lo está, si está actualizado o no</translation>
     </message>
     <message>
         <source>Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo</translation>
     </message>
     <message>
         <source>Whether the package is an ordinary package, a suite of packages, or a group of packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Indica si se trata de un paquete ordinario, una suite de paquetes o un grupo de paquetes</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre</translation>
     </message>
     <message>
         <source>Name of the package</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre del paquete</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Versión</translation>
     </message>
     <message>
         <source>Version and release of the package as version-release;
 If the Epoch is non-zero, includes it as epoch:version-release</source>
-        <translation type="unfinished"></translation>
+        <translation>Versión y lanzamiento del paquete con el formato versión-lanzamiento;
+si el epoch no es cero, se incluye con el formato epoch:versión-lanzamiento</translation>
     </message>
     <message>
         <source>Repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Repositorio</translation>
     </message>
     <message>
         <source>Repository from which the most recent version of the package is available</source>
-        <translation type="unfinished"></translation>
+        <translation>Repositorio en el que está disponible la versión más reciente del paquete</translation>
     </message>
     <message>
         <source>Architecture</source>
-        <translation type="unfinished"></translation>
+        <translation>Arquitectura</translation>
     </message>
     <message>
         <source>Architecture for which the package is applicable, or &quot;noarch&quot; for general-purpose packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Arquitectura a la que se destina el paquete, o &quot;noarch&quot; si sirve para cualquiera</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño</translation>
     </message>
     <message>
         <source>Size of the package</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño del paquete</translation>
     </message>
     <message>
         <source>Build Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha de compilación</translation>
     </message>
     <message>
         <source>Date and time at which the package was created</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha y hora en que se creó el paquete</translation>
     </message>
     <message>
         <source>Update package</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualizar el paquete</translation>
     </message>
     <message>
         <source>Install package</source>
-        <translation type="unfinished"></translation>
+        <translation>Instalar el paquete</translation>
     </message>
     <message>
         <source>Remove package</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar el paquete</translation>
     </message>
     <message>
         <source>Package is available to update an out-of-date version</source>
-        <translation type="unfinished"></translation>
+        <translation>El paquete está disponible para actualizar una versión desactualizada</translation>
     </message>
     <message>
         <source>Package is available for installation</source>
-        <translation type="unfinished"></translation>
+        <translation>El paquete está disponible para instalar</translation>
     </message>
     <message>
         <source>Package is installed and up-to-date</source>
-        <translation type="unfinished"></translation>
+        <translation>El paquete está instalado y actualizado</translation>
     </message>
     <message>
         <source>Suite of packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Suite de paquetes</translation>
     </message>
     <message>
         <source>Group of packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Grupo de paquetes</translation>
     </message>
     <message>
         <source>Ordinary package</source>
-        <translation type="unfinished"></translation>
+        <translation>Paquete ordinario</translation>
     </message>
     <message>
         <source>Available: %1
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Disponible: %1
+</translation>
     </message>
     <message>
         <source>Installed: %1
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Instalado: %1
+</translation>
     </message>
 </context>
 <context>
     <name>PackageTable::OtherContextMenu</name>
     <message>
         <source>&amp;Describe</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Describir</translation>
     </message>
     <message>
         <source>Browse Repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Explorar repositorio</translation>
     </message>
 </context>
 <context>
     <name>PackageTable::View</name>
     <message>
         <source>Packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Paquetes</translation>
     </message>
 </context>
 <context>
     <name>QProgressBar</name>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>RepoAuth::Dialog</name>
     <message>
         <source>VEM Authentication</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM - Autenticación</translation>
     </message>
     <message>
         <source>Some configured repositories require authentication</source>
-        <translation type="unfinished"></translation>
+        <translation>Algunos repositorios configurados requieren autenticación</translation>
     </message>
     <message>
         <source>Identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>Identificador</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre</translation>
     </message>
     <message>
         <source>URLs</source>
-        <translation type="unfinished"></translation>
+        <translation>URL</translation>
     </message>
     <message>
         <source>Mirror list URL</source>
-        <translation type="unfinished"></translation>
+        <translation>URL de lista de espejos</translation>
     </message>
     <message>
         <source>Authentication name for a repository using the buffet authentication method</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de autenticación de un repositorio que usa el método de autenticación Buffet</translation>
     </message>
     <message>
         <source>Authentication password for a repository using the buffet authentication method</source>
-        <translation type="unfinished"></translation>
+        <translation>Contraseña de autenticación de un repositorio que usa el método de autenticación Buffet</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Contraseña</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Salir</translation>
     </message>
     <message>
         <source>Disable for Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Deshabilitar en la sesión</translation>
     </message>
     <message>
         <source>Skip All</source>
-        <translation type="unfinished"></translation>
+        <translation>Omitir todos</translation>
     </message>
     <message>
         <source>Apply to All</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicar a todos</translation>
     </message>
     <message>
         <source>Apply to All with this Host</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicar a todos los de este servidor</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
 </context>
 <context>
     <name>RepoBrowse</name>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Error</translation>
     </message>
     <message>
         <source>Repository configuration has no URL</source>
-        <translation type="unfinished"></translation>
+        <translation>La configuración del repositorio no tiene ninguna URL</translation>
     </message>
 </context>
 <context>
     <name>RepoEditor::Config</name>
     <message>
         <source>%1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2</translation>
     </message>
     <message>
         <source>Default</source>
-        <translation type="unfinished"></translation>
+        <translation>Predeterminado</translation>
     </message>
     <message>
         <source>(Yes)</source>
-        <translation type="unfinished"></translation>
+        <translation>(Sí)</translation>
     </message>
     <message>
         <source>(No)</source>
-        <translation type="unfinished"></translation>
+        <translation>(No)</translation>
     </message>
     <message>
         <source>No Identifier specified</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha indicado el identificador</translation>
     </message>
     <message>
         <source>No URLs or Mirror list URL specified</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha indicado ninguna URL ni URL de lista de espejos</translation>
     </message>
     <message>
         <source>File is not in any reposdir directory</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo no está en ningún directorio de reposdir</translation>
     </message>
     <message>
         <source>File lacks .repo suffix</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo no tiene el sufijo .repo</translation>
     </message>
     <message>
         <source>No Buffet Authentication Name specified</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha indicado el nombre de autenticación Buffet</translation>
     </message>
     <message>
         <source>No Buffet Authentication Password specified</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha indicado la contraseña de autenticación Buffet</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Contraseña</translation>
     </message>
     <message>
         <source>Identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>Identificador</translation>
     </message>
     <message>
         <source>Unique identifier for the repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Identificador único del repositorio</translation>
     </message>
     <message>
         <source>Description of the repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Descripción del repositorio</translation>
     </message>
     <message>
         <source>URLs</source>
-        <translation type="unfinished"></translation>
+        <translation>URL</translation>
     </message>
     <message>
         <source>List of URLs to the repository.
 If more than one is specified, they all should be identical mirrors,
 and will provide redundancy if some URLs are unreachable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lista de URL del repositorio.
+Si se indica más de una, todas deben ser espejos idénticos
+y proporcionarán redundancia si alguna no está accesible.</translation>
     </message>
     <message>
         <source>Mirror list URL</source>
-        <translation type="unfinished"></translation>
+        <translation>URL de lista de espejos</translation>
     </message>
     <message>
         <source>URL to a file containing a list of URLs to the repository.</source>
-        <translation type="unfinished"></translation>
+        <translation>URL de un archivo que contiene una lista de URL del repositorio.</translation>
     </message>
     <message>
         <source>Buffet Authentication</source>
-        <translation type="unfinished"></translation>
+        <translation>Autenticación Buffet</translation>
     </message>
     <message>
         <source>Authentication name for a repository using the buffet authentication method</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de autenticación de un repositorio que usa el método de autenticación Buffet</translation>
     </message>
     <message>
         <source>Authentication password for a repository using the buffet authentication method</source>
-        <translation type="unfinished"></translation>
+        <translation>Contraseña de autenticación de un repositorio que usa el método de autenticación Buffet</translation>
     </message>
     <message>
         <source>Repository Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Opciones del repositorio</translation>
     </message>
     <message>
         <source>Any other yum options for this repository.  See yum.conf(5)</source>
-        <translation type="unfinished"></translation>
+        <translation>Cualquier otra opción de yum para este repositorio.  Consulte yum.conf(5)</translation>
     </message>
     <message>
         <source>Other Options:</source>
-        <translation type="unfinished"></translation>
+        <translation>Otras opciones:</translation>
     </message>
     <message>
         <source>Whether or not the repository is enabled for use</source>
-        <translation type="unfinished"></translation>
+        <translation>Indica si el repositorio está habilitado para su uso</translation>
     </message>
     <message>
         <source>Whether or not GPG key signatures of packages from the repository are checked to ensure authenticity</source>
-        <translation type="unfinished"></translation>
+        <translation>Indica si se comprueban las firmas GPG de los paquetes del repositorio para garantizar su autenticidad</translation>
     </message>
     <message>
         <source>Enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Habilitado</translation>
     </message>
     <message>
         <source>Check GPG Keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprobar claves GPG</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Sí</translation>
     </message>
     <message>
         <source>Configuration File (expert)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo de configuración (expertos)</translation>
     </message>
     <message>
         <source>Name of the yum configuration file into which to place this repository configuration.
 If left blank, defaults to the repository&apos;s identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre del archivo de configuración de yum en el que se guarda la configuración de este repositorio.
+Si se deja en blanco, se usa el identificador del repositorio</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo</translation>
     </message>
     <message>
         <source>A numeric sort key which determines the order of this repository configuration
 in a configuration file which contains multiple configurations</source>
-        <translation type="unfinished"></translation>
+        <translation>Clave de ordenación numérica que determina la posición de la configuración de este repositorio
+en un archivo que contiene varias configuraciones</translation>
     </message>
     <message>
         <source>Sort Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Posición</translation>
     </message>
 </context>
 <context>
     <name>RepoEditor::ConfigDialog</name>
     <message>
         <source>VEM Repository Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM - Configuración del repositorio</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>Restablecer</translation>
     </message>
     <message>
         <source>Undo changes to this repository configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Deshacer los cambios de la configuración de este repositorio</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Undo changes to this repository configuration and close the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Deshacer los cambios de la configuración de este repositorio y cerrar la ventana</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Apply changes to all repository configurations, and close the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicar los cambios de todas las configuraciones de repositorios y cerrar la ventana</translation>
     </message>
 </context>
 <context>
     <name>RepoEditor::ContextMenu</name>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Editar</translation>
     </message>
     <message>
         <source>Browse Repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Explorar repositorio</translation>
     </message>
 </context>
 <context>
     <name>RepoEditor::Dialog</name>
     <message>
         <source>VEM Repository Configuration Editor</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM - Editor de configuración de repositorios</translation>
     </message>
     <message>
         <source>Browse Repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Explorar repositorio</translation>
     </message>
     <message>
         <source>Browse the first URL specified for the selected repository using an external web browser</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir la primera URL indicada para el repositorio seleccionado en un navegador web externo</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Editar</translation>
     </message>
     <message>
         <source>Edit the selected repository configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Editar la configuración del repositorio seleccionado</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir</translation>
     </message>
     <message>
         <source>Create a new repository configuration from scratch</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear desde cero una nueva configuración de repositorio</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar</translation>
     </message>
     <message>
         <source>Create a new repository configuration based on the selected repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear una nueva configuración de repositorio a partir del repositorio seleccionado</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar</translation>
     </message>
     <message>
         <source>Remove the selected repository configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar la configuración del repositorio seleccionado</translation>
     </message>
     <message>
         <source>Reset All</source>
-        <translation type="unfinished"></translation>
+        <translation>Restablecer todo</translation>
     </message>
     <message>
         <source>Undo changes to all repository configurations since the last Apply or opening of the dialog</source>
-        <translation type="unfinished"></translation>
+        <translation>Deshacer los cambios de todas las configuraciones de repositorios hechos desde la última vez que se aplicaron o desde que se abrió el diálogo</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Undo changes to all repository configurations since the last Apply or opening of the dialog, and close the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Deshacer los cambios de todas las configuraciones de repositorios hechos desde la última vez que se aplicaron o desde que se abrió el diálogo, y cerrar la ventana</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicar</translation>
     </message>
     <message>
         <source>Apply changes to all repository configurations, but do not close the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicar los cambios de todas las configuraciones de repositorios sin cerrar la ventana</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Apply changes to all repository configurations, and close the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicar los cambios de todas las configuraciones de repositorios y cerrar la ventana</translation>
     </message>
     <message>
         <source>A repository has no Identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>Un repositorio no tiene identificador</translation>
     </message>
     <message>
         <source>Two or more repositories have the Identifier, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Dos o más repositorios tienen el identificador %1</translation>
     </message>
     <message>
         <source>Unapplied Configuration Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambios de configuración sin aplicar</translation>
     </message>
 </context>
 <context>
     <name>RepoEditor::Model</name>
     <message>
         <source>Sess</source>
-        <translation type="unfinished"></translation>
+        <translation>Ses.</translation>
     </message>
     <message>
         <source>Whether or not the repository is used during this session.
 It overrides the persistent Enabled flag in the repository configuration.</source>
-        <translation type="unfinished"></translation>
+        <translation>Indica si el repositorio se usa durante esta sesión.
+Prevalece sobre la opción permanente Habilitado de la configuración del repositorio.</translation>
     </message>
     <message>
         <source>Perm</source>
-        <translation type="unfinished"></translation>
+        <translation>Perm.</translation>
     </message>
     <message>
         <source>Whether or not the repository is configured to be enabled by default.
 It can be overridden for a particular session.</source>
-        <translation type="unfinished"></translation>
+        <translation>Indica si el repositorio está configurado como habilitado de forma predeterminada.
+Se puede cambiar para una sesión concreta.</translation>
     </message>
     <message>
         <source>Identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>Identificador</translation>
     </message>
     <message>
         <source>Unique identifier for the repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Identificador único del repositorio</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre</translation>
     </message>
     <message>
         <source>Description of the repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Descripción del repositorio</translation>
     </message>
     <message>
         <source>(new)</source>
-        <translation type="unfinished"></translation>
+        <translation>(nuevo)</translation>
     </message>
     <message>
         <source>Repository is enabled for this session</source>
-        <translation type="unfinished"></translation>
+        <translation>El repositorio está habilitado en esta sesión</translation>
     </message>
     <message>
         <source>Repository is not enabled for this session</source>
-        <translation type="unfinished"></translation>
+        <translation>El repositorio no está habilitado en esta sesión</translation>
     </message>
     <message>
         <source>Repository is configured to be enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>El repositorio está configurado como habilitado</translation>
     </message>
     <message>
         <source>Repository is not configured to be enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>El repositorio no está configurado como habilitado</translation>
     </message>
 </context>
 <context>
     <name>RepoEditor::View</name>
     <message>
         <source>Repositories</source>
-        <translation type="unfinished"></translation>
+        <translation>Repositorios</translation>
     </message>
 </context>
 <context>
     <name>ScrollableConfirmDialog</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>
     <name>ScrollableErrorDialog</name>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar</translation>
     </message>
 </context>
 <context>
     <name>TextDialog</name>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar</translation>
     </message>
 </context>
 <context>
     <name>YumConfIO</name>
     <message>
         <source>; errno = %1 (%2).</source>
-        <translation type="unfinished"></translation>
+        <translation>; errno = %1 (%2).</translation>
     </message>
     <message>
         <source>VEM Repository Editor Error</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM - Error del editor de repositorios</translation>
     </message>
     <message>
         <source>Repository Editor</source>
-        <translation type="unfinished"></translation>
+        <translation>Editor de repositorios</translation>
     </message>
     <message>
         <source>Unable to read yum configuration file %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo leer el archivo de configuración de yum %1</translation>
     </message>
     <message>
         <source>Unable to stat repository configuration file %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo consultar (stat) el archivo de configuración de repositorios %1</translation>
     </message>
     <message>
         <source>Unable to read repository configuration file %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo leer el archivo de configuración de repositorios %1</translation>
     </message>
     <message>
         <source>Malformed section name in line: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de sección incorrecto en la línea: %1</translation>
     </message>
     <message>
         <source>Error reading repository configuration file %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Error al leer el archivo de configuración de repositorios %1</translation>
     </message>
     <message>
         <source>A repository has no Identifier.  It will be removed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un repositorio no tiene identificador.  Se eliminará.</translation>
     </message>
     <message>
         <source>Two or more repositories have the same Identifier(s), %1.  Only one repository will be applied for each Identifier.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dos o más repositorios tienen el mismo identificador: %1.  Solo se aplicará un repositorio por cada identificador.</translation>
     </message>
     <message>
         <source>  Proceed?</source>
-        <translation type="unfinished"></translation>
+        <translation>  ¿Desea continuar?</translation>
     </message>
     <message>
         <source>Unable to write repository configuration file %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo escribir el archivo de configuración de repositorios %1</translation>
     </message>
     <message>
         <source>Unable to unlink repository configuration file %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo eliminar (unlink) el archivo de configuración de repositorios %1</translation>
     </message>
 </context>
 <context>
     <name>YumIO</name>
     <message>
         <source>Unable to release yum lock</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo liberar el bloqueo de yum</translation>
     </message>
     <message>
         <source>Unable to initialize</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo inicializar</translation>
     </message>
     <message>
         <source>Available for update</source>
-        <translation type="unfinished"></translation>
+        <translation>Disponible para actualizar</translation>
     </message>
     <message>
         <source>Available for installation</source>
-        <translation type="unfinished"></translation>
+        <translation>Disponible para instalar</translation>
     </message>
     <message>
         <source>Installed</source>
-        <translation type="unfinished"></translation>
+        <translation>Instalado</translation>
     </message>
     <message>
         <source>Suite of packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Suite de paquetes</translation>
     </message>
     <message>
         <source>Group of packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Grupo de paquetes</translation>
     </message>
     <message>
         <source>Ordinary package</source>
-        <translation type="unfinished"></translation>
+        <translation>Paquete ordinario</translation>
     </message>
     <message>
         <source>Applying</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicando</translation>
     </message>
     <message>
         <source>Checking Dependencies: Total Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprobación de dependencias: progreso total</translation>
     </message>
     <message>
         <source>Preparing</source>
-        <translation type="unfinished"></translation>
+        <translation>Preparando</translation>
     </message>
     <message>
         <source>Error applying changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Error al aplicar los cambios</translation>
     </message>
     <message>
         <source>Error applying changes: Exiting on Broken Pipe</source>
-        <translation type="unfinished"></translation>
+        <translation>Error al aplicar los cambios: tubería rota, se abandona</translation>
     </message>
     <message>
         <source>Unable to add package %1 to removes list</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo añadir el paquete %1 a la lista de eliminaciones</translation>
     </message>
     <message>
         <source>Unable to add package %1 to installs list</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo añadir el paquete %1 a la lista de instalaciones</translation>
     </message>
     <message>
         <source>Unable to find installed version for package update %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encontró la versión instalada para actualizar el paquete %1</translation>
     </message>
     <message>
         <source>Unable to add new package to pair for updated package %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo añadir el paquete nuevo al par del paquete actualizado %1</translation>
     </message>
     <message>
         <source>Unable to add old package to pair for updated package %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo añadir el paquete antiguo al par del paquete actualizado %1</translation>
     </message>
     <message>
         <source>Unable to add package %1 to updates list</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo añadir el paquete %1 a la lista de actualizaciones</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicar</translation>
     </message>
     <message>
         <source>Applying: OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicando: confirmado</translation>
     </message>
     <message>
         <source>Not Applying: Canceled</source>
-        <translation type="unfinished"></translation>
+        <translation>No se aplica: cancelado</translation>
     </message>
     <message>
         <source>Running Transaction: Total Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Ejecución de la transacción: progreso total</translation>
     </message>
     <message>
         <source>Cleaning Headers</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpiando cabeceras</translation>
     </message>
     <message>
         <source>Cleaning Packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpiando paquetes</translation>
     </message>
     <message>
         <source>Cleaning Xml Metadata</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpiando metadatos XML</translation>
     </message>
     <message>
         <source>Cleaning Pickled Cache</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpiando datos serializados</translation>
     </message>
     <message>
         <source>Cleaning All</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpiando todo</translation>
     </message>
     <message>
         <source>Initialization</source>
-        <translation type="unfinished"></translation>
+        <translation>Inicialización</translation>
     </message>
     <message>
         <source>Initializing: Total Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Inicialización: progreso total</translation>
     </message>
     <message>
         <source>Unable to obtain yum lock</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo obtener el bloqueo de yum</translation>
     </message>
     <message>
         <source>contents</source>
-        <translation type="unfinished"></translation>
+        <translation>contenido</translation>
     </message>
     <message>
         <source>No repositories are configured.
 Under the Repositories menu, Edit Configuration can be used to configure repositories.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay repositorios configurados.
+En el menú Repositorios, use Editar configuración para configurarlos.</translation>
     </message>
     <message>
         <source>No repositories are enabled.
 Under the Repositories menu, Edit Configuration can be used to configure repositories.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay repositorios habilitados.
+En el menú Repositorios, use Editar configuración para configurarlos.</translation>
     </message>
     <message>
         <source>Reading repositories</source>
-        <translation type="unfinished"></translation>
+        <translation>Leyendo repositorios</translation>
     </message>
     <message>
         <source>Collecting updatable packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Recopilando los paquetes actualizables</translation>
     </message>
     <message>
         <source>Unable to setup transaction</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo preparar la transacción</translation>
     </message>
     <message>
         <source>Unable to collect updatable packages</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudieron recopilar los paquetes actualizables</translation>
     </message>
     <message>
         <source>Collecting installed and available packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Recopilando los paquetes instalados y disponibles</translation>
     </message>
     <message>
         <source>Unable to collect installed and available packages</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudieron recopilar los paquetes instalados y disponibles</translation>
     </message>
     <message>
         <source>Collecting groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Recopilando los grupos</translation>
     </message>
     <message>
         <source>Unable to collect groups</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudieron recopilar los grupos</translation>
     </message>
     <message>
         <source>unable to setup repository %1:
 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>no se pudo preparar el repositorio %1:
+%2</translation>
     </message>
     <message>
         <source>Internal error: yumIO.collectAll.%1 not found</source>
-        <translation type="unfinished"></translation>
+        <translation>Error interno: no se encontró yumIO.collectAll.%1</translation>
     </message>
     <message>
         <source>Internal error: time not understood: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Error interno: fecha no reconocida: %1</translation>
     </message>
     <message>
         <source>Internal error: package size not understood: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Error interno: tamaño de paquete no reconocido: %1</translation>
     </message>
     <message>
         <source>Eb</source>
-        <translation type="unfinished"></translation>
+        <translation>Eb</translation>
     </message>
     <message>
         <source>Pb</source>
-        <translation type="unfinished"></translation>
+        <translation>Pb</translation>
     </message>
     <message>
         <source>Tb</source>
-        <translation type="unfinished"></translation>
+        <translation>Tb</translation>
     </message>
     <message>
         <source>Gb</source>
-        <translation type="unfinished"></translation>
+        <translation>Gb</translation>
     </message>
     <message>
         <source>Mb</source>
-        <translation type="unfinished"></translation>
+        <translation>Mb</translation>
     </message>
     <message>
         <source>Kb</source>
-        <translation type="unfinished"></translation>
+        <translation>Kb</translation>
     </message>
     <message>
         <source>b</source>
-        <translation type="unfinished"></translation>
+        <translation>b</translation>
     </message>
     <message>
         <source>Internal error: yum version not understood: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Error interno: versión de yum no reconocida: %1</translation>
     </message>
     <message>
         <source>Collecting File Lists</source>
-        <translation type="unfinished"></translation>
+        <translation>Recopilando las listas de archivos</translation>
     </message>
     <message>
         <source>file lists</source>
-        <translation type="unfinished"></translation>
+        <translation>listas de archivos</translation>
     </message>
     <message>
         <source>Loading file lists: Total Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Carga de las listas de archivos: progreso total</translation>
     </message>
     <message>
         <source>Unable to collect file lists</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudieron recopilar las listas de archivos</translation>
     </message>
     <message>
         <source>Collecting Miscellaneous data</source>
-        <translation type="unfinished"></translation>
+        <translation>Recopilando datos varios</translation>
     </message>
     <message>
         <source>miscellaneous data</source>
-        <translation type="unfinished"></translation>
+        <translation>datos varios</translation>
     </message>
     <message>
         <source>Loading miscellaneous data: Total Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Carga de datos varios: progreso total</translation>
     </message>
     <message>
         <source>Unable to collect miscellaneous data</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudieron recopilar los datos varios</translation>
     </message>
     <message>
         <source>Internal error: execution of yumIO.%1 failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Error interno: falló la ejecución de yumIO.%1</translation>
     </message>
     <message>
         <source>Internal error: cannot find rpm.%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Error interno: no se encuentra rpm.%1</translation>
     </message>
     <message>
         <source>Internal error: cannot find package&apos;s prco.%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Error interno: no se encuentra prco.%1 del paquete</translation>
     </message>
     <message>
         <source>the package is optional</source>
-        <translation type="unfinished"></translation>
+        <translation>el paquete es opcional</translation>
     </message>
     <message>
         <source>Update</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualizar</translation>
     </message>
     <message>
         <source>Install</source>
-        <translation type="unfinished"></translation>
+        <translation>Instalar</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar</translation>
     </message>
     <message>
         <source>ERROR</source>
-        <translation type="unfinished"></translation>
+        <translation>ERROR</translation>
     </message>
     <message>
         <source>Package %1 is included in group %2 which was marked for %3,
 so the package would be marked for %4,
 but it was marked individually for %5.
 How do you wish to proceed?</source>
-        <translation type="unfinished"></translation>
+        <translation>El paquete %1 pertenece al grupo %2, marcado con la acción %3,
+por lo que le correspondería la acción %4,
+pero se marcó individualmente con la acción %5.
+¿Cómo desea continuar?</translation>
     </message>
     <message>
         <source>Package %1 is included in group %2 which was marked for %3,
 so the package would be marked for %4,
 but you resolved an earlier conflict by marking it for %5.
 How do you wish to proceed?</source>
-        <translation type="unfinished"></translation>
+        <translation>El paquete %1 pertenece al grupo %2, marcado con la acción %3,
+por lo que le correspondería la acción %4,
+pero usted resolvió un conflicto anterior marcándolo con la acción %5.
+¿Cómo desea continuar?</translation>
     </message>
     <message>
         <source>Package %1 is included in group %2 which was marked for %3,
 so the package would be marked for %4,
 but it also was part of group %5 and so was marked for %6.
 How do you wish to proceed?</source>
-        <translation type="unfinished"></translation>
+        <translation>El paquete %1 pertenece al grupo %2, marcado con la acción %3,
+por lo que le correspondería la acción %4,
+pero también pertenece al grupo %5 y por ello se marcó con la acción %6.
+¿Cómo desea continuar?</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Manually resolving conflict: marking package %1 for %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Resolución manual del conflicto: se marca el paquete %1 con la acción %3</translation>
     </message>
     <message>
         <source>For group %1, marking package %2 for %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Grupo %1: se marca el paquete %2 con la acción %3</translation>
     </message>
     <message>
         <source>For group %1, package %2 already was marked for %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Grupo %1: el paquete %2 ya estaba marcado con la acción %3</translation>
     </message>
     <message>
         <source>For group %1, not marking package %2 for %3, becuase %4</source>
-        <translation type="unfinished"></translation>
+        <translation>Grupo %1: no se marca el paquete %2 con la acción %3, porque %4</translation>
     </message>
     <message>
         <source>Internal error: groupInfo.%1 not evaluable</source>
-        <translation type="unfinished"></translation>
+        <translation>Error interno: no se puede evaluar groupInfo.%1</translation>
     </message>
     <message>
         <source>Internal error: groupInfo.%1[%2] not evaluable</source>
-        <translation type="unfinished"></translation>
+        <translation>Error interno: no se puede evaluar groupInfo.%1[%2]</translation>
     </message>
     <message>
         <source>Internal error: group %1.%2 not evaluable</source>
-        <translation type="unfinished"></translation>
+        <translation>Error interno: no se puede evaluar el grupo %1.%2</translation>
     </message>
     <message>
         <source>Total download size: %1
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño total de la descarga: %1
+</translation>
     </message>
     <message>
         <source>Internal error: %1 not found
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Error interno: no se encontró %1
+</translation>
     </message>
     <message>
         <source>Transaction to be performed:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Transacción que se realizará:
+</translation>
     </message>
     <message>
         <source>Performing the following to resolve dependencies:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Para resolver las dependencias, además:
+</translation>
     </message>
     <message>
         <source>Other Transactions:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Otras transacciones:
+</translation>
     </message>
     <message>
         <source>Obsoleting</source>
-        <translation type="unfinished"></translation>
+        <translation>Reemplazar</translation>
     </message>
     <message>
         <source>	%1: %2
 </source>
-        <translation type="unfinished"></translation>
+        <translation>	%1: %2
+</translation>
     </message>
     <message>
         <source>	%1: %2 with %3
 </source>
-        <translation type="unfinished"></translation>
+        <translation>	%1: %2 por %3
+</translation>
     </message>
     <message>
         <source>%1 %3-%4 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %3-%4 (%2)</translation>
     </message>
     <message>
         <source>%1 %3:%4-%5 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %3:%4-%5 (%2)</translation>
     </message>
     <message>
         <source> [%1]</source>
-        <translation type="unfinished"></translation>
+        <translation> [%1]</translation>
     </message>
     <message>
         <source>Downloading repository %1 mirror list</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargando la lista de espejos del repositorio (%1)</translation>
     </message>
     <message>
         <source>Downloading repository %1 mirror list for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargando la lista de espejos del repositorio %2 (%1)</translation>
     </message>
     <message>
         <source>Downloading repository %1 repomd</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargando el repomd del repositorio (%1)</translation>
     </message>
     <message>
         <source>Downloading repository %1 repomd for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargando el repomd del repositorio %2 (%1)</translation>
     </message>
     <message>
         <source>Downloading repository %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargando %1 del repositorio</translation>
     </message>
     <message>
         <source>Downloading repository %1 for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargando %1 del repositorio %2</translation>
     </message>
     <message>
         <source>Converting repository %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Convirtiendo %1 del repositorio</translation>
     </message>
     <message>
         <source>Converting repository %1 for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Convirtiendo %1 del repositorio %2</translation>
     </message>
     <message>
         <source>Reading repository %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Leyendo %1 del repositorio</translation>
     </message>
     <message>
         <source>Reading repository %1 for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Leyendo %1 del repositorio %2</translation>
     </message>
     <message>
         <source>VEM Yum Error</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM - Error de yum</translation>
     </message>
     <message>
         <source>VEM Yum Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM - Advertencia de yum</translation>
     </message>
     <message>
         <source>Resolve Dependencies</source>
-        <translation type="unfinished"></translation>
+        <translation>Resolviendo dependencias</translation>
     </message>
     <message>
         <source>Internal error: unexpected TSINFO: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Error interno: TSINFO inesperado: %1</translation>
     </message>
     <message>
         <source>Internal error: TSINFO mentions unknown package: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Error interno: TSINFO menciona un paquete desconocido: %1</translation>
     </message>
     <message>
         <source>Internal error: TSINFO mentions intent to install or upgrade package that already seems up-to-date: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Error interno: TSINFO indica que se va a instalar o actualizar un paquete que ya parece actualizado: %1</translation>
     </message>
     <message>
         <source>Finishing RPM rebuild from deltas</source>
-        <translation type="unfinished"></translation>
+        <translation>Terminando la reconstrucción de RPM a partir de deltas</translation>
     </message>
     <message>
         <source>Downloading %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargando %1</translation>
     </message>
     <message>
         <source>Downloading %1 header</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargando la cabecera de %1</translation>
     </message>
     <message>
         <source>Preparing to Run Transaction</source>
-        <translation type="unfinished"></translation>
+        <translation>Preparando la ejecución de la transacción</translation>
     </message>
     <message>
         <source>Preparing to Test Transaction</source>
-        <translation type="unfinished"></translation>
+        <translation>Preparando la prueba de la transacción</translation>
     </message>
     <message>
         <source>Updating %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualizando %1</translation>
     </message>
     <message>
         <source>Installing %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Instalando %1</translation>
     </message>
     <message>
         <source>Completing update for: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Completando la actualización de: %1</translation>
     </message>
     <message>
         <source>Removing %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminando %1</translation>
     </message>
     <message>
         <source>Transaction Test</source>
-        <translation type="unfinished"></translation>
+        <translation>Prueba de la transacción</translation>
     </message>
     <message>
         <source>Internal error: YumIO::tsCallback what=%1 not understood; ignoring</source>
-        <translation type="unfinished"></translation>
+        <translation>Error interno: YumIO::tsCallback what=%1 no reconocido; se omite</translation>
     </message>
     <message>
         <source>Internal error: YumIO::tsEvent action=%1 not understood; ignoring</source>
-        <translation type="unfinished"></translation>
+        <translation>Error interno: YumIO::tsEvent action=%1 no reconocido; se omite</translation>
     </message>
     <message>
         <source>Removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminado</translation>
     </message>
     <message>
         <source>Dependency Removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Dependencia eliminada</translation>
     </message>
     <message>
         <source>Dependency Installed</source>
-        <translation type="unfinished"></translation>
+        <translation>Dependencia instalada</translation>
     </message>
     <message>
         <source>Updated</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualizado</translation>
     </message>
     <message>
         <source>Dependency Updated</source>
-        <translation type="unfinished"></translation>
+        <translation>Dependencia actualizada</translation>
     </message>
     <message>
         <source>Obsoleted</source>
-        <translation type="unfinished"></translation>
+        <translation>Reemplazado</translation>
     </message>
 </context>
 <context>
     <name>YumIOCapturers</name>
     <message>
         <source>Unable to open pipe to capture rpm transaction output</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo abrir la tubería para capturar la salida de la transacción rpm</translation>
     </message>
     <message>
         <source>Unable to dup2 pipe to capture rpm transaction output</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo duplicar (dup2) la tubería para capturar la salida de la transacción rpm</translation>
     </message>
     <message>
         <source>Unable to dup2 to restore stderr</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo restaurar stderr con dup2</translation>
     </message>
 </context>
 </TS>
