@@ -5,6 +5,7 @@ from __future__ import annotations
 
 import configparser
 import os
+import struct
 import subprocess
 import xml.etree.ElementTree as ElementTree
 from pathlib import Path
@@ -41,6 +42,18 @@ def test_metainfo_is_valid_and_names_the_desktop_entry() -> None:
     file = SOURCE / "org.example.vem.metainfo.xml"
     subprocess.run(["appstreamcli", "validate", "--no-net", "--pedantic", str(file)], check=True)
     assert ElementTree.parse(file).findtext("launchable") == "org.example.vem.desktop"
+
+
+def test_metainfo_shows_pictures_of_the_manual() -> None:
+    pictures = SOURCE.parent / "manual/pictures"
+    images = ElementTree.parse(SOURCE / "org.example.vem.metainfo.xml").findall("screenshots/screenshot/image")
+    assert len(images) > 2
+    for image in images:
+        place, _, name = str(image.text).rpartition("/")
+        assert place == "https://vem.example.org/manual/pictures"
+        # Width and height stand behind the name of a PNG's first chunk.
+        size = struct.unpack(">II", (pictures / name).read_bytes()[16:24])
+        assert (str(size[0]), str(size[1])) == (image.get("width"), image.get("height")), name
 
 
 def test_policy_asks_for_an_administrator_and_starts_one_program() -> None:
