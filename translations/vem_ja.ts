@@ -5,92 +5,92 @@
     <name>Colors</name>
     <message>
         <source>#fffacd</source>
-        <translation type="unfinished"></translation>
+        <translation>#fffacd</translation>
     </message>
     <message>
         <source>blue</source>
-        <translation type="unfinished"></translation>
+        <translation>blue</translation>
     </message>
     <message>
         <source>red</source>
-        <translation type="unfinished"></translation>
+        <translation>red</translation>
     </message>
     <message>
         <source>#ffa9b8</source>
-        <translation type="unfinished"></translation>
+        <translation>#ffa9b8</translation>
     </message>
     <message>
         <source>darkorange</source>
-        <translation type="unfinished"></translation>
+        <translation>darkorange</translation>
     </message>
     <message>
         <source>#8b5a2b</source>
-        <translation type="unfinished"></translation>
+        <translation>#8b5a2b</translation>
     </message>
     <message>
         <source>#ffbd94</source>
-        <translation type="unfinished"></translation>
+        <translation>#ffbd94</translation>
     </message>
     <message>
         <source>green</source>
-        <translation type="unfinished"></translation>
+        <translation>green</translation>
     </message>
 </context>
 <context>
     <name>Execute</name>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>ヘルプ</translation>
     </message>
     <message>
         <source>fork() failed; errno = %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>fork() に失敗しました; errno = %1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>Fonts</name>
     <message>
         <source>Helvetica</source>
-        <translation type="unfinished"></translation>
+        <translation>Helvetica</translation>
     </message>
     <message>
         <source>Courier</source>
-        <translation type="unfinished"></translation>
+        <translation>Courier</translation>
     </message>
 </context>
 <context>
     <name>Log::Window</name>
     <message>
         <source>&lt;font color=&quot;%1&quot;&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;font color=&quot;%1&quot;&gt;</translation>
     </message>
     <message>
         <source>&lt;/font&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;/font&gt;</translation>
     </message>
     <message>
         <source>&lt;font&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;font&gt;</translation>
     </message>
     <message>
         <source>&lt;h2&gt;&lt;font color=&quot;%1&quot;&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h2&gt;&lt;font color=&quot;%1&quot;&gt;</translation>
     </message>
     <message>
         <source>&lt;/font&gt;&lt;/h2&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;/font&gt;&lt;/h2&gt;</translation>
     </message>
     <message>
         <source>VEM Log</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM ログ</translation>
     </message>
     <message>
         <source>Log</source>
-        <translation type="unfinished"></translation>
+        <translation>ログ</translation>
     </message>
     <message>
         <source>Detail level</source>
-        <translation type="unfinished"></translation>
+        <translation>詳細レベル</translation>
     </message>
     <message>
         <source>Threshold beyond which more detailed log messages are omitted.
@@ -99,1585 +99,1631 @@ The valid range is 0 .. %1.
 The default is %2.
 Higher levels contain debug information.
 This corresponds to yum&apos;s debuglevel (-d) option.</source>
-        <translation type="unfinished"></translation>
+        <translation>ここで指定したレベルより詳細なログメッセージは表示しません。
+レベルが高いほど詳しく表示します。
+有効な範囲は 0 ～ %1 です。
+デフォルトは %2 です。
+高いレベルにはデバッグ情報が含まれます。
+yum の debuglevel (-d) オプションに相当します。</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じる(&amp;C)</translation>
     </message>
     <message>
         <source>Close the Log Window</source>
-        <translation type="unfinished"></translation>
+        <translation>ログウィンドウを閉じます</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>Clean RPM package headers cached locally in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ローカルの %1 にキャッシュされた RPM パッケージヘッダーを消去します</translation>
     </message>
     <message>
         <source>Clean RPM packages cached locally in %1
 (useful for recovering disk space)</source>
-        <translation type="unfinished"></translation>
+        <translation>ローカルの %1 にキャッシュされた RPM パッケージを消去します
+(ディスクの空き容量を増やすのに役立ちます)</translation>
     </message>
     <message>
         <source>Clean XML metadata cached locally in %1
 (useful along with Clean Pickled Data for
  forcing download of new available package lists)</source>
-        <translation type="unfinished"></translation>
+        <translation>ローカルの %1 にキャッシュされた XML メタデータを消去します
+(「pickle データを消去」と併用すると、利用可能なパッケージの
+ 一覧を新しくダウンロードし直すことができます)</translation>
     </message>
     <message>
         <source>Clean pickled data cached locally in %1
 (useful along with Clean XML Metadata for
  forcing download of new available package lists)</source>
-        <translation type="unfinished"></translation>
+        <translation>ローカルの %1 にキャッシュされた pickle データを消去します
+(「XML メタデータを消去」と併用すると、利用可能なパッケージの
+ 一覧を新しくダウンロードし直すことができます)</translation>
     </message>
     <message>
         <source>Clean all data cached locally in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ローカルの %1 にキャッシュされたデータをすべて消去します</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM について</translation>
     </message>
     <message>
         <source>&lt;h3&gt;VEM %1&lt;/h3&gt;&lt;hr&gt;&lt;p&gt;VEM, Verified Estate Manager, is a graphical user interface which allows a user to make modifications to the installed rpm packages on a system.&lt;/p&gt;&lt;p&gt;Capabilities:&lt;p&gt;&lt;ul&gt;&lt;li&gt;Install new packages or update existing packages by downloading them from a yum package repository&lt;/li&gt;&lt;li&gt;Remove existing packages.&lt;/li&gt;&lt;li&gt;Configure sets of repositories from which to obtain new and updated packages.&lt;/li&gt;&lt;li&gt;Examine installed packages or packages available for installation or update&lt;/li&gt;&lt;li&gt;Install, update, or remove groups of packages&lt;/li&gt;&lt;li&gt;Install or update suites of packages&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;Web page: &lt;a href=&quot;https://vem.example.org/&quot;&gt;https://vem.example.org/&lt;/a&gt;&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h3&gt;VEM %1&lt;/h3&gt;&lt;hr&gt;&lt;p&gt;VEM (Verified Estate Manager) は、システムにインストールされている rpm パッケージを変更するためのグラフィカルユーザーインターフェースです。&lt;/p&gt;&lt;p&gt;主な機能:&lt;p&gt;&lt;ul&gt;&lt;li&gt;yum パッケージリポジトリからダウンロードして、新しいパッケージのインストールや既存のパッケージの更新を行う&lt;/li&gt;&lt;li&gt;既存のパッケージを削除する&lt;/li&gt;&lt;li&gt;新しいパッケージや更新されたパッケージの取得元となるリポジトリを設定する&lt;/li&gt;&lt;li&gt;インストール済みのパッケージや、インストールまたは更新が可能なパッケージを調べる&lt;/li&gt;&lt;li&gt;パッケージグループのインストール、更新、削除を行う&lt;/li&gt;&lt;li&gt;パッケージスイートのインストールや更新を行う&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;Web ページ: &lt;a href=&quot;https://vem.example.org/&quot;&gt;https://vem.example.org/&lt;/a&gt;&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>検索</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>フィルター</translation>
     </message>
     <message>
         <source>Regular expression to compare to all fields of a package</source>
-        <translation type="unfinished"></translation>
+        <translation>パッケージのすべてのフィールドと照合する正規表現</translation>
     </message>
     <message>
         <source>Regular expression filter matching textual fields visible in the table</source>
-        <translation type="unfinished"></translation>
+        <translation>表に表示されているテキストフィールドと照合する、フィルターの正規表現</translation>
     </message>
     <message>
         <source>Perform the search for the regular expression specified to the left</source>
-        <translation type="unfinished"></translation>
+        <translation>左で指定した正規表現で検索します</translation>
     </message>
     <message>
         <source>Apply the filter specified to the left</source>
-        <translation type="unfinished"></translation>
+        <translation>左で指定したフィルターを適用します</translation>
     </message>
     <message>
         <source>Specify the method for using a regular expression to select packages in the table:
 	Filter uses the textual fields visible in the table, as if they were separated by spaces.
 	Search uses all fields in packages, including list of Files, Change Log, Requires, etc.,
 	independently.  It is considerably slower.</source>
-        <translation type="unfinished"></translation>
+        <translation>正規表現で表のパッケージを選び出す方法を指定します:
+	「フィルター」は、表に表示されているテキストフィールドを空白でつないだものと照合します。
+	「検索」は、ファイル、変更履歴、要求などの一覧を含むパッケージの全フィールドと
+	個別に照合します。フィルターよりかなり時間がかかります。</translation>
     </message>
     <message>
         <source>%1 (Must load extra data.)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (追加データの読み込みが必要です。)</translation>
     </message>
     <message>
         <source>VEM - %1</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM - %1</translation>
     </message>
     <message>
         <source>&amp;Program</source>
-        <translation type="unfinished"></translation>
+        <translation>プログラム(&amp;P)</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>終了(&amp;Q)</translation>
     </message>
     <message>
         <source>Ctrl+Q</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Q</translation>
     </message>
     <message>
         <source>&amp;Windows</source>
-        <translation type="unfinished"></translation>
+        <translation>ウィンドウ(&amp;W)</translation>
     </message>
     <message>
         <source>&amp;Log</source>
-        <translation type="unfinished"></translation>
+        <translation>ログ(&amp;L)</translation>
     </message>
     <message>
         <source>Ctrl+L</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+L</translation>
     </message>
     <message>
         <source>&amp;Repositories</source>
-        <translation type="unfinished"></translation>
+        <translation>リポジトリ(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Edit Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>設定を編集(&amp;E)</translation>
     </message>
     <message>
         <source>Ctrl+E</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+E</translation>
     </message>
     <message>
         <source>&amp;Cache</source>
-        <translation type="unfinished"></translation>
+        <translation>キャッシュ(&amp;C)</translation>
     </message>
     <message>
         <source>Clean Headers</source>
-        <translation type="unfinished"></translation>
+        <translation>ヘッダーを消去</translation>
     </message>
     <message>
         <source>Clean Packages</source>
-        <translation type="unfinished"></translation>
+        <translation>パッケージを消去</translation>
     </message>
     <message>
         <source>Clean XML Metadata</source>
-        <translation type="unfinished"></translation>
+        <translation>XML メタデータを消去</translation>
     </message>
     <message>
         <source>Clean Pickled Data</source>
-        <translation type="unfinished"></translation>
+        <translation>pickle データを消去</translation>
     </message>
     <message>
         <source>Clean All</source>
-        <translation type="unfinished"></translation>
+        <translation>すべて消去</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>ヘルプ(&amp;H)</translation>
     </message>
     <message>
         <source>Manual (html)</source>
-        <translation type="unfinished"></translation>
+        <translation>マニュアル (HTML)</translation>
     </message>
     <message>
         <source>F1</source>
-        <translation type="unfinished"></translation>
+        <translation>F1</translation>
     </message>
     <message>
         <source>Manual (PDF)</source>
-        <translation type="unfinished"></translation>
+        <translation>マニュアル (PDF)</translation>
     </message>
     <message>
         <source>&amp;About</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM について(&amp;A)</translation>
     </message>
     <message>
         <source>Filter or Search</source>
-        <translation type="unfinished"></translation>
+        <translation>フィルターまたは検索</translation>
     </message>
     <message>
         <source>Regular expression</source>
-        <translation type="unfinished"></translation>
+        <translation>正規表現</translation>
     </message>
     <message>
         <source>View Updatable</source>
-        <translation type="unfinished"></translation>
+        <translation>更新可能を表示</translation>
     </message>
     <message>
         <source>View Installable</source>
-        <translation type="unfinished"></translation>
+        <translation>インストール可能を表示</translation>
     </message>
     <message>
         <source>View Removable</source>
-        <translation type="unfinished"></translation>
+        <translation>削除可能を表示</translation>
     </message>
     <message>
         <source>View All</source>
-        <translation type="unfinished"></translation>
+        <translation>すべて表示</translation>
     </message>
     <message>
         <source>Filter for those packages which are eligible for updating,
 for installing, or for removing; or show all packages</source>
-        <translation type="unfinished"></translation>
+        <translation>更新、インストール、削除のいずれかが可能なパッケージに絞り込むか、
+すべてのパッケージを表示します</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>表示</translation>
     </message>
     <message>
         <source>Include Groups</source>
-        <translation type="unfinished"></translation>
+        <translation>グループを含める</translation>
     </message>
     <message>
         <source>Whether or not filter should include package groups</source>
-        <translation type="unfinished"></translation>
+        <translation>フィルターの対象にパッケージグループを含めるかどうか</translation>
     </message>
     <message>
         <source>&amp;Describe</source>
-        <translation type="unfinished"></translation>
+        <translation>詳細(&amp;D)</translation>
     </message>
     <message>
         <source>Pop up a window with a detailed description of the currently selected package</source>
-        <translation type="unfinished"></translation>
+        <translation>現在選択しているパッケージの詳しい説明をウィンドウで表示します</translation>
     </message>
     <message>
         <source>Re&amp;size</source>
-        <translation type="unfinished"></translation>
+        <translation>サイズ調整(&amp;S)</translation>
     </message>
     <message>
         <source>Resize the columns and window to optimal values</source>
-        <translation type="unfinished"></translation>
+        <translation>列とウィンドウの大きさを最適な値に調整します</translation>
     </message>
     <message>
         <source>Re&amp;fresh</source>
-        <translation type="unfinished"></translation>
+        <translation>再読み込み(&amp;F)</translation>
     </message>
     <message>
         <source>Refresh the list of installed packages and packages available for update.
 Use this to check for new updates in repositories, or if any packages were installed manually.</source>
-        <translation type="unfinished"></translation>
+        <translation>インストール済みのパッケージと更新可能なパッケージの一覧を読み込み直します。
+リポジトリに新しい更新があるかを確認するときや、手動でパッケージをインストールしたときに使用してください。</translation>
     </message>
     <message>
         <source>Set &amp;Install/Update of Selected</source>
-        <translation type="unfinished"></translation>
+        <translation>選択項目をインストール/更新に設定(&amp;I)</translation>
     </message>
     <message>
         <source>Sets the Action for all selected packages which are Not Installed to Install, and
 sets the Action for all selected packages which are Installed but Out-of-date to Update.
 Does not Apply Actions automatically.</source>
-        <translation type="unfinished"></translation>
+        <translation>選択したパッケージのうち、未インストールのものは操作を「インストール」に、
+インストール済みで古いものは操作を「更新」に設定します。
+操作は自動的には適用されません。</translation>
     </message>
     <message>
         <source>Set &amp;Update of All Out-of-Date</source>
-        <translation type="unfinished"></translation>
+        <translation>古いものをすべて更新に設定(&amp;U)</translation>
     </message>
     <message>
         <source>Sets the Action for all packages which are Installed but Out-of-date to Update.
 Does not Apply Actions automatically.</source>
-        <translation type="unfinished"></translation>
+        <translation>インストール済みで古いパッケージすべての操作を「更新」に設定します。
+操作は自動的には適用されません。</translation>
     </message>
     <message>
         <source>&amp;Clear Actions</source>
-        <translation type="unfinished"></translation>
+        <translation>操作をクリア(&amp;L)</translation>
     </message>
     <message>
         <source>Clears all specified Actions (Updates, Installs, and Removals)</source>
-        <translation type="unfinished"></translation>
+        <translation>指定したすべての操作 (更新、インストール、削除) をクリアします</translation>
     </message>
     <message>
         <source>&amp;Apply Actions</source>
-        <translation type="unfinished"></translation>
+        <translation>操作を適用(&amp;A)</translation>
     </message>
     <message>
         <source>Applies the specified Actions (Updates, Installs, and Removals)</source>
-        <translation type="unfinished"></translation>
+        <translation>指定した操作 (更新、インストール、削除) を適用します</translation>
     </message>
     <message>
         <source>Item Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>項目の進捗</translation>
     </message>
     <message>
         <source>Total Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>全体の進捗</translation>
     </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>
     <message>
         <source>&amp;Update</source>
-        <translation type="unfinished"></translation>
+        <translation>更新(&amp;U)</translation>
     </message>
     <message>
         <source>&amp;Install</source>
-        <translation type="unfinished"></translation>
+        <translation>インストール(&amp;I)</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>削除(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;No Action</source>
-        <translation type="unfinished"></translation>
+        <translation>操作なし(&amp;N)</translation>
     </message>
 </context>
 <context>
     <name>PackageTable::Describe::Dialog</name>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じる</translation>
     </message>
     <message>
         <source>VEM Package Description</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM パッケージの詳細</translation>
     </message>
 </context>
 <context>
     <name>PackageTable::Describe::Instance::Area</name>
     <message>
         <source>Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>種類</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>バージョン</translation>
     </message>
     <message>
         <source>Repository</source>
-        <translation type="unfinished"></translation>
+        <translation>リポジトリ</translation>
     </message>
     <message>
         <source>Details</source>
-        <translation type="unfinished"></translation>
+        <translation>詳細</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>表示</translation>
     </message>
     <message>
         <source>Change Log</source>
-        <translation type="unfinished"></translation>
+        <translation>変更履歴</translation>
     </message>
     <message>
         <source>%1:</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:</translation>
     </message>
     <message>
         <source>%1 (must load extra data)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (追加データの読み込みが必要)</translation>
     </message>
     <message>
         <source>%1 %2 File List</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2 のファイル一覧</translation>
     </message>
     <message>
         <source>%1 %2 Change Log</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2 の変更履歴</translation>
     </message>
 </context>
 <context>
     <name>PackageTable::Describe::Instance::RepoDialog</name>
     <message>
         <source>VEM Repository Description</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM リポジトリの詳細</translation>
     </message>
     <message>
         <source>Browse Repository</source>
-        <translation type="unfinished"></translation>
+        <translation>リポジトリを閲覧</translation>
     </message>
     <message>
         <source>Browse the first URL specified for the selected repository using an external web browser</source>
-        <translation type="unfinished"></translation>
+        <translation>選択したリポジトリに指定されている最初の URL を外部の Web ブラウザーで閲覧します</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じる</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>名前</translation>
     </message>
     <message>
         <source>URLs</source>
-        <translation type="unfinished"></translation>
+        <translation>URL</translation>
     </message>
     <message>
         <source>Mirror list URL</source>
-        <translation type="unfinished"></translation>
+        <translation>ミラーリストの URL</translation>
     </message>
     <message>
         <source>%1:</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:</translation>
     </message>
 </context>
 <context>
     <name>PackageTable::Model</name>
     <message>
         <source>Action</source>
-        <translation type="unfinished"></translation>
+        <translation>操作</translation>
     </message>
     <message>
         <source>Action to be performed on the package, if any: Update, Install, Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>パッケージに対して実行する操作 (更新、インストール、削除)。ない場合もあります</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>状態</translation>
     </message>
     <message>
         <source>Indicates whether the package is Installed or not and, if installed, whether it is Up-to-date or not</source>
-        <translation type="unfinished"></translation>
+        <translation>パッケージがインストール済みかどうか、インストール済みの場合は最新かどうかを示します</translation>
     </message>
     <message>
         <source>Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>種類</translation>
     </message>
     <message>
         <source>Whether the package is an ordinary package, a suite of packages, or a group of packages</source>
-        <translation type="unfinished"></translation>
+        <translation>通常のパッケージ、パッケージスイート、パッケージグループのいずれであるか</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>名前</translation>
     </message>
     <message>
         <source>Name of the package</source>
-        <translation type="unfinished"></translation>
+        <translation>パッケージの名前</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>バージョン</translation>
     </message>
     <message>
         <source>Version and release of the package as version-release;
 If the Epoch is non-zero, includes it as epoch:version-release</source>
-        <translation type="unfinished"></translation>
+        <translation>パッケージのバージョンとリリース (バージョン-リリース の形式)。
+エポックが 0 でない場合は エポック:バージョン-リリース の形式になります</translation>
     </message>
     <message>
         <source>Repository</source>
-        <translation type="unfinished"></translation>
+        <translation>リポジトリ</translation>
     </message>
     <message>
         <source>Repository from which the most recent version of the package is available</source>
-        <translation type="unfinished"></translation>
+        <translation>パッケージの最新バージョンを入手できるリポジトリ</translation>
     </message>
     <message>
         <source>Architecture</source>
-        <translation type="unfinished"></translation>
+        <translation>アーキテクチャ</translation>
     </message>
     <message>
         <source>Architecture for which the package is applicable, or &quot;noarch&quot; for general-purpose packages</source>
-        <translation type="unfinished"></translation>
+        <translation>パッケージの対象アーキテクチャ。アーキテクチャに依存しないパッケージでは &quot;noarch&quot;</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>サイズ</translation>
     </message>
     <message>
         <source>Size of the package</source>
-        <translation type="unfinished"></translation>
+        <translation>パッケージのサイズ</translation>
     </message>
     <message>
         <source>Build Time</source>
-        <translation type="unfinished"></translation>
+        <translation>ビルド日時</translation>
     </message>
     <message>
         <source>Date and time at which the package was created</source>
-        <translation type="unfinished"></translation>
+        <translation>パッケージが作成された日時</translation>
     </message>
     <message>
         <source>Update package</source>
-        <translation type="unfinished"></translation>
+        <translation>パッケージを更新します</translation>
     </message>
     <message>
         <source>Install package</source>
-        <translation type="unfinished"></translation>
+        <translation>パッケージをインストールします</translation>
     </message>
     <message>
         <source>Remove package</source>
-        <translation type="unfinished"></translation>
+        <translation>パッケージを削除します</translation>
     </message>
     <message>
         <source>Package is available to update an out-of-date version</source>
-        <translation type="unfinished"></translation>
+        <translation>インストール済みの古いバージョンを更新できるパッケージです</translation>
     </message>
     <message>
         <source>Package is available for installation</source>
-        <translation type="unfinished"></translation>
+        <translation>インストール可能なパッケージです</translation>
     </message>
     <message>
         <source>Package is installed and up-to-date</source>
-        <translation type="unfinished"></translation>
+        <translation>インストール済みで最新のパッケージです</translation>
     </message>
     <message>
         <source>Suite of packages</source>
-        <translation type="unfinished"></translation>
+        <translation>パッケージスイート</translation>
     </message>
     <message>
         <source>Group of packages</source>
-        <translation type="unfinished"></translation>
+        <translation>パッケージグループ</translation>
     </message>
     <message>
         <source>Ordinary package</source>
-        <translation type="unfinished"></translation>
+        <translation>通常のパッケージ</translation>
     </message>
     <message>
         <source>Available: %1
 </source>
-        <translation type="unfinished"></translation>
+        <translation>利用可能: %1
+</translation>
     </message>
     <message>
         <source>Installed: %1
 </source>
-        <translation type="unfinished"></translation>
+        <translation>インストール済み: %1
+</translation>
     </message>
 </context>
 <context>
     <name>PackageTable::OtherContextMenu</name>
     <message>
         <source>&amp;Describe</source>
-        <translation type="unfinished"></translation>
+        <translation>詳細(&amp;D)</translation>
     </message>
     <message>
         <source>Browse Repository</source>
-        <translation type="unfinished"></translation>
+        <translation>リポジトリを閲覧</translation>
     </message>
 </context>
 <context>
     <name>PackageTable::View</name>
     <message>
         <source>Packages</source>
-        <translation type="unfinished"></translation>
+        <translation>パッケージ</translation>
     </message>
 </context>
 <context>
     <name>QProgressBar</name>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>RepoAuth::Dialog</name>
     <message>
         <source>VEM Authentication</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM 認証</translation>
     </message>
     <message>
         <source>Some configured repositories require authentication</source>
-        <translation type="unfinished"></translation>
+        <translation>設定されているリポジトリの一部で認証が必要です</translation>
     </message>
     <message>
         <source>Identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>識別子</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>名前</translation>
     </message>
     <message>
         <source>URLs</source>
-        <translation type="unfinished"></translation>
+        <translation>URL</translation>
     </message>
     <message>
         <source>Mirror list URL</source>
-        <translation type="unfinished"></translation>
+        <translation>ミラーリストの URL</translation>
     </message>
     <message>
         <source>Authentication name for a repository using the buffet authentication method</source>
-        <translation type="unfinished"></translation>
+        <translation>Buffet 認証方式を使うリポジトリの認証名</translation>
     </message>
     <message>
         <source>Authentication password for a repository using the buffet authentication method</source>
-        <translation type="unfinished"></translation>
+        <translation>Buffet 認証方式を使うリポジトリの認証パスワード</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>パスワード</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>終了</translation>
     </message>
     <message>
         <source>Disable for Session</source>
-        <translation type="unfinished"></translation>
+        <translation>このセッションで無効化</translation>
     </message>
     <message>
         <source>Skip All</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてスキップ</translation>
     </message>
     <message>
         <source>Apply to All</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてに適用</translation>
     </message>
     <message>
         <source>Apply to All with this Host</source>
-        <translation type="unfinished"></translation>
+        <translation>このホストのすべてに適用</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
     <name>RepoBrowse</name>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>エラー</translation>
     </message>
     <message>
         <source>Repository configuration has no URL</source>
-        <translation type="unfinished"></translation>
+        <translation>リポジトリの設定に URL がありません</translation>
     </message>
 </context>
 <context>
     <name>RepoEditor::Config</name>
     <message>
         <source>%1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2</translation>
     </message>
     <message>
         <source>Default</source>
-        <translation type="unfinished"></translation>
+        <translation>デフォルト</translation>
     </message>
     <message>
         <source>(Yes)</source>
-        <translation type="unfinished"></translation>
+        <translation>(はい)</translation>
     </message>
     <message>
         <source>(No)</source>
-        <translation type="unfinished"></translation>
+        <translation>(いいえ)</translation>
     </message>
     <message>
         <source>No Identifier specified</source>
-        <translation type="unfinished"></translation>
+        <translation>識別子が指定されていません</translation>
     </message>
     <message>
         <source>No URLs or Mirror list URL specified</source>
-        <translation type="unfinished"></translation>
+        <translation>URL もミラーリストの URL も指定されていません</translation>
     </message>
     <message>
         <source>File is not in any reposdir directory</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルがどの reposdir ディレクトリにもありません</translation>
     </message>
     <message>
         <source>File lacks .repo suffix</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル名の末尾が .repo ではありません</translation>
     </message>
     <message>
         <source>No Buffet Authentication Name specified</source>
-        <translation type="unfinished"></translation>
+        <translation>Buffet 認証名が指定されていません</translation>
     </message>
     <message>
         <source>No Buffet Authentication Password specified</source>
-        <translation type="unfinished"></translation>
+        <translation>Buffet 認証パスワードが指定されていません</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>名前</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>パスワード</translation>
     </message>
     <message>
         <source>Identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>識別子</translation>
     </message>
     <message>
         <source>Unique identifier for the repository</source>
-        <translation type="unfinished"></translation>
+        <translation>リポジトリの一意の識別子</translation>
     </message>
     <message>
         <source>Description of the repository</source>
-        <translation type="unfinished"></translation>
+        <translation>リポジトリの説明</translation>
     </message>
     <message>
         <source>URLs</source>
-        <translation type="unfinished"></translation>
+        <translation>URL</translation>
     </message>
     <message>
         <source>List of URLs to the repository.
 If more than one is specified, they all should be identical mirrors,
 and will provide redundancy if some URLs are unreachable.</source>
-        <translation type="unfinished"></translation>
+        <translation>リポジトリの URL の一覧。
+複数指定する場合は、すべてが同じ内容のミラーである必要があります。
+一部の URL に接続できないときも、ほかの URL を利用できます。</translation>
     </message>
     <message>
         <source>Mirror list URL</source>
-        <translation type="unfinished"></translation>
+        <translation>ミラーリストの URL</translation>
     </message>
     <message>
         <source>URL to a file containing a list of URLs to the repository.</source>
-        <translation type="unfinished"></translation>
+        <translation>リポジトリの URL の一覧が書かれたファイルの URL。</translation>
     </message>
     <message>
         <source>Buffet Authentication</source>
-        <translation type="unfinished"></translation>
+        <translation>Buffet 認証</translation>
     </message>
     <message>
         <source>Authentication name for a repository using the buffet authentication method</source>
-        <translation type="unfinished"></translation>
+        <translation>Buffet 認証方式を使うリポジトリの認証名</translation>
     </message>
     <message>
         <source>Authentication password for a repository using the buffet authentication method</source>
-        <translation type="unfinished"></translation>
+        <translation>Buffet 認証方式を使うリポジトリの認証パスワード</translation>
     </message>
     <message>
         <source>Repository Options</source>
-        <translation type="unfinished"></translation>
+        <translation>リポジトリのオプション</translation>
     </message>
     <message>
         <source>Any other yum options for this repository.  See yum.conf(5)</source>
-        <translation type="unfinished"></translation>
+        <translation>このリポジトリに対するその他の yum オプション。yum.conf(5) を参照してください</translation>
     </message>
     <message>
         <source>Other Options:</source>
-        <translation type="unfinished"></translation>
+        <translation>その他のオプション:</translation>
     </message>
     <message>
         <source>Whether or not the repository is enabled for use</source>
-        <translation type="unfinished"></translation>
+        <translation>リポジトリを有効にして使用するかどうか</translation>
     </message>
     <message>
         <source>Whether or not GPG key signatures of packages from the repository are checked to ensure authenticity</source>
-        <translation type="unfinished"></translation>
+        <translation>リポジトリのパッケージの GPG 鍵による署名を検証し、真正性を確認するかどうか</translation>
     </message>
     <message>
         <source>Enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>有効</translation>
     </message>
     <message>
         <source>Check GPG Keys</source>
-        <translation type="unfinished"></translation>
+        <translation>GPG 鍵を検証</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>いいえ</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>はい</translation>
     </message>
     <message>
         <source>Configuration File (expert)</source>
-        <translation type="unfinished"></translation>
+        <translation>設定ファイル (上級者向け)</translation>
     </message>
     <message>
         <source>Name of the yum configuration file into which to place this repository configuration.
 If left blank, defaults to the repository&apos;s identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>このリポジトリ設定を書き込む yum 設定ファイルの名前。
+空欄の場合は、リポジトリの識別子が使われます</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル</translation>
     </message>
     <message>
         <source>A numeric sort key which determines the order of this repository configuration
 in a configuration file which contains multiple configurations</source>
-        <translation type="unfinished"></translation>
+        <translation>1 つの設定ファイルに複数のリポジトリ設定があるときに、
+このリポジトリ設定の順序を決める数値のソートキー</translation>
     </message>
     <message>
         <source>Sort Position</source>
-        <translation type="unfinished"></translation>
+        <translation>並び順</translation>
     </message>
 </context>
 <context>
     <name>RepoEditor::ConfigDialog</name>
     <message>
         <source>VEM Repository Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM リポジトリ設定</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>リセット</translation>
     </message>
     <message>
         <source>Undo changes to this repository configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>このリポジトリ設定の変更を元に戻します</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
     <message>
         <source>Undo changes to this repository configuration and close the window</source>
-        <translation type="unfinished"></translation>
+        <translation>このリポジトリ設定の変更を元に戻し、ウィンドウを閉じます</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Apply changes to all repository configurations, and close the window</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてのリポジトリ設定の変更を適用し、ウィンドウを閉じます</translation>
     </message>
 </context>
 <context>
     <name>RepoEditor::ContextMenu</name>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>編集</translation>
     </message>
     <message>
         <source>Browse Repository</source>
-        <translation type="unfinished"></translation>
+        <translation>リポジトリを閲覧</translation>
     </message>
 </context>
 <context>
     <name>RepoEditor::Dialog</name>
     <message>
         <source>VEM Repository Configuration Editor</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM リポジトリ設定エディター</translation>
     </message>
     <message>
         <source>Browse Repository</source>
-        <translation type="unfinished"></translation>
+        <translation>リポジトリを閲覧</translation>
     </message>
     <message>
         <source>Browse the first URL specified for the selected repository using an external web browser</source>
-        <translation type="unfinished"></translation>
+        <translation>選択したリポジトリに指定されている最初の URL を外部の Web ブラウザーで閲覧します</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>編集</translation>
     </message>
     <message>
         <source>Edit the selected repository configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>選択したリポジトリ設定を編集します</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>追加</translation>
     </message>
     <message>
         <source>Create a new repository configuration from scratch</source>
-        <translation type="unfinished"></translation>
+        <translation>新しいリポジトリ設定を一から作成します</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>コピー</translation>
     </message>
     <message>
         <source>Create a new repository configuration based on the selected repository</source>
-        <translation type="unfinished"></translation>
+        <translation>選択したリポジトリを基に新しいリポジトリ設定を作成します</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>削除</translation>
     </message>
     <message>
         <source>Remove the selected repository configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>選択したリポジトリ設定を削除します</translation>
     </message>
     <message>
         <source>Reset All</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてリセット</translation>
     </message>
     <message>
         <source>Undo changes to all repository configurations since the last Apply or opening of the dialog</source>
-        <translation type="unfinished"></translation>
+        <translation>最後に適用したとき、またはダイアログを開いたとき以降の、すべてのリポジトリ設定の変更を元に戻します</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
     <message>
         <source>Undo changes to all repository configurations since the last Apply or opening of the dialog, and close the window</source>
-        <translation type="unfinished"></translation>
+        <translation>最後に適用したとき、またはダイアログを開いたとき以降の、すべてのリポジトリ設定の変更を元に戻し、ウィンドウを閉じます</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>適用</translation>
     </message>
     <message>
         <source>Apply changes to all repository configurations, but do not close the window</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてのリポジトリ設定の変更を適用します (ウィンドウは閉じません)</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Apply changes to all repository configurations, and close the window</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてのリポジトリ設定の変更を適用し、ウィンドウを閉じます</translation>
     </message>
     <message>
         <source>A repository has no Identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>識別子のないリポジトリがあります</translation>
     </message>
     <message>
         <source>Two or more repositories have the Identifier, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>複数のリポジトリの識別子が %1 になっています</translation>
     </message>
     <message>
         <source>Unapplied Configuration Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>未適用の設定変更があります</translation>
     </message>
 </context>
 <context>
     <name>RepoEditor::Model</name>
     <message>
         <source>Sess</source>
-        <translation type="unfinished"></translation>
+        <translation>今回</translation>
     </message>
     <message>
         <source>Whether or not the repository is used during this session.
 It overrides the persistent Enabled flag in the repository configuration.</source>
-        <translation type="unfinished"></translation>
+        <translation>このセッションでリポジトリを使用するかどうか。
+リポジトリ設定の永続的な「有効」フラグより優先されます。</translation>
     </message>
     <message>
         <source>Perm</source>
-        <translation type="unfinished"></translation>
+        <translation>永続</translation>
     </message>
     <message>
         <source>Whether or not the repository is configured to be enabled by default.
 It can be overridden for a particular session.</source>
-        <translation type="unfinished"></translation>
+        <translation>リポジトリをデフォルトで有効にする設定になっているかどうか。
+個々のセッションでは、これと異なる指定ができます。</translation>
     </message>
     <message>
         <source>Identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>識別子</translation>
     </message>
     <message>
         <source>Unique identifier for the repository</source>
-        <translation type="unfinished"></translation>
+        <translation>リポジトリの一意の識別子</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>名前</translation>
     </message>
     <message>
         <source>Description of the repository</source>
-        <translation type="unfinished"></translation>
+        <translation>リポジトリの説明</translation>
     </message>
     <message>
         <source>(new)</source>
-        <translation type="unfinished"></translation>
+        <translation>(新規)</translation>
     </message>
     <message>
         <source>Repository is enabled for this session</source>
-        <translation type="unfinished"></translation>
+        <translation>リポジトリはこのセッションで有効です</translation>
     </message>
     <message>
         <source>Repository is not enabled for this session</source>
-        <translation type="unfinished"></translation>
+        <translation>リポジトリはこのセッションで有効ではありません</translation>
     </message>
     <message>
         <source>Repository is configured to be enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>リポジトリは有効に設定されています</translation>
     </message>
     <message>
         <source>Repository is not configured to be enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>リポジトリは有効に設定されていません</translation>
     </message>
 </context>
 <context>
     <name>RepoEditor::View</name>
     <message>
         <source>Repositories</source>
-        <translation type="unfinished"></translation>
+        <translation>リポジトリ</translation>
     </message>
 </context>
 <context>
     <name>ScrollableConfirmDialog</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
 </context>
 <context>
     <name>ScrollableErrorDialog</name>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じる</translation>
     </message>
 </context>
 <context>
     <name>TextDialog</name>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>テキスト</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じる</translation>
     </message>
 </context>
 <context>
     <name>YumConfIO</name>
     <message>
         <source>; errno = %1 (%2).</source>
-        <translation type="unfinished"></translation>
+        <translation>; errno = %1 (%2)</translation>
     </message>
     <message>
         <source>VEM Repository Editor Error</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM リポジトリエディターエラー</translation>
     </message>
     <message>
         <source>Repository Editor</source>
-        <translation type="unfinished"></translation>
+        <translation>リポジトリエディター</translation>
     </message>
     <message>
         <source>Unable to read yum configuration file %1</source>
-        <translation type="unfinished"></translation>
+        <translation>yum 設定ファイル %1 を読み込めません</translation>
     </message>
     <message>
         <source>Unable to stat repository configuration file %1</source>
-        <translation type="unfinished"></translation>
+        <translation>リポジトリ設定ファイル %1 の情報を取得できません (stat)</translation>
     </message>
     <message>
         <source>Unable to read repository configuration file %1</source>
-        <translation type="unfinished"></translation>
+        <translation>リポジトリ設定ファイル %1 を読み込めません</translation>
     </message>
     <message>
         <source>Malformed section name in line: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>セクション名の形式が正しくない行: %1</translation>
     </message>
     <message>
         <source>Error reading repository configuration file %1</source>
-        <translation type="unfinished"></translation>
+        <translation>リポジトリ設定ファイル %1 の読み込み中にエラーが発生しました</translation>
     </message>
     <message>
         <source>A repository has no Identifier.  It will be removed.</source>
-        <translation type="unfinished"></translation>
+        <translation>識別子のないリポジトリがあります。このリポジトリは削除されます。</translation>
     </message>
     <message>
         <source>Two or more repositories have the same Identifier(s), %1.  Only one repository will be applied for each Identifier.</source>
-        <translation type="unfinished"></translation>
+        <translation>複数のリポジトリが同じ識別子を使用しています: %1。各識別子につき 1 つのリポジトリだけが適用されます。</translation>
     </message>
     <message>
         <source>  Proceed?</source>
-        <translation type="unfinished"></translation>
+        <translation>  続行しますか?</translation>
     </message>
     <message>
         <source>Unable to write repository configuration file %1</source>
-        <translation type="unfinished"></translation>
+        <translation>リポジトリ設定ファイル %1 に書き込めません</translation>
     </message>
     <message>
         <source>Unable to unlink repository configuration file %1</source>
-        <translation type="unfinished"></translation>
+        <translation>リポジトリ設定ファイル %1 を削除できません (unlink)</translation>
     </message>
 </context>
 <context>
     <name>YumIO</name>
     <message>
         <source>Unable to release yum lock</source>
-        <translation type="unfinished"></translation>
+        <translation>yum のロックを解放できません</translation>
     </message>
     <message>
         <source>Unable to initialize</source>
-        <translation type="unfinished"></translation>
+        <translation>初期化できません</translation>
     </message>
     <message>
         <source>Available for update</source>
-        <translation type="unfinished"></translation>
+        <translation>更新可能</translation>
     </message>
     <message>
         <source>Available for installation</source>
-        <translation type="unfinished"></translation>
+        <translation>インストール可能</translation>
     </message>
     <message>
         <source>Installed</source>
-        <translation type="unfinished"></translation>
+        <translation>インストール済み</translation>
     </message>
     <message>
         <source>Suite of packages</source>
-        <translation type="unfinished"></translation>
+        <translation>パッケージスイート</translation>
     </message>
     <message>
         <source>Group of packages</source>
-        <translation type="unfinished"></translation>
+        <translation>パッケージグループ</translation>
     </message>
     <message>
         <source>Ordinary package</source>
-        <translation type="unfinished"></translation>
+        <translation>通常のパッケージ</translation>
     </message>
     <message>
         <source>Applying</source>
-        <translation type="unfinished"></translation>
+        <translation>適用中</translation>
     </message>
     <message>
         <source>Checking Dependencies: Total Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>依存関係の確認: 全体の進捗</translation>
     </message>
     <message>
         <source>Preparing</source>
-        <translation type="unfinished"></translation>
+        <translation>準備中</translation>
     </message>
     <message>
         <source>Error applying changes</source>
-        <translation type="unfinished"></translation>
+        <translation>変更の適用中にエラーが発生しました</translation>
     </message>
     <message>
         <source>Error applying changes: Exiting on Broken Pipe</source>
-        <translation type="unfinished"></translation>
+        <translation>変更の適用中にエラーが発生しました: パイプが切断されたため終了します</translation>
     </message>
     <message>
         <source>Unable to add package %1 to removes list</source>
-        <translation type="unfinished"></translation>
+        <translation>パッケージ %1 を削除リストに追加できません</translation>
     </message>
     <message>
         <source>Unable to add package %1 to installs list</source>
-        <translation type="unfinished"></translation>
+        <translation>パッケージ %1 をインストールリストに追加できません</translation>
     </message>
     <message>
         <source>Unable to find installed version for package update %1</source>
-        <translation type="unfinished"></translation>
+        <translation>更新するパッケージ %1 のインストール済みバージョンが見つかりません</translation>
     </message>
     <message>
         <source>Unable to add new package to pair for updated package %1</source>
-        <translation type="unfinished"></translation>
+        <translation>更新するパッケージ %1 の組に新しいパッケージを追加できません</translation>
     </message>
     <message>
         <source>Unable to add old package to pair for updated package %1</source>
-        <translation type="unfinished"></translation>
+        <translation>更新するパッケージ %1 の組に古いパッケージを追加できません</translation>
     </message>
     <message>
         <source>Unable to add package %1 to updates list</source>
-        <translation type="unfinished"></translation>
+        <translation>パッケージ %1 を更新リストに追加できません</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>適用</translation>
     </message>
     <message>
         <source>Applying: OK</source>
-        <translation type="unfinished"></translation>
+        <translation>適用: OK</translation>
     </message>
     <message>
         <source>Not Applying: Canceled</source>
-        <translation type="unfinished"></translation>
+        <translation>適用中止: キャンセルされました</translation>
     </message>
     <message>
         <source>Running Transaction: Total Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>トランザクションの実行: 全体の進捗</translation>
     </message>
     <message>
         <source>Cleaning Headers</source>
-        <translation type="unfinished"></translation>
+        <translation>ヘッダーを消去中</translation>
     </message>
     <message>
         <source>Cleaning Packages</source>
-        <translation type="unfinished"></translation>
+        <translation>パッケージを消去中</translation>
     </message>
     <message>
         <source>Cleaning Xml Metadata</source>
-        <translation type="unfinished"></translation>
+        <translation>XML メタデータを消去中</translation>
     </message>
     <message>
         <source>Cleaning Pickled Cache</source>
-        <translation type="unfinished"></translation>
+        <translation>pickle キャッシュを消去中</translation>
     </message>
     <message>
         <source>Cleaning All</source>
-        <translation type="unfinished"></translation>
+        <translation>すべて消去中</translation>
     </message>
     <message>
         <source>Initialization</source>
-        <translation type="unfinished"></translation>
+        <translation>初期化</translation>
     </message>
     <message>
         <source>Initializing: Total Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>初期化: 全体の進捗</translation>
     </message>
     <message>
         <source>Unable to obtain yum lock</source>
-        <translation type="unfinished"></translation>
+        <translation>yum のロックを取得できません</translation>
     </message>
     <message>
         <source>contents</source>
-        <translation type="unfinished"></translation>
+        <translation>内容</translation>
     </message>
     <message>
         <source>No repositories are configured.
 Under the Repositories menu, Edit Configuration can be used to configure repositories.</source>
-        <translation type="unfinished"></translation>
+        <translation>リポジトリが設定されていません。
+「リポジトリ」メニューの「設定を編集」でリポジトリを設定できます。</translation>
     </message>
     <message>
         <source>No repositories are enabled.
 Under the Repositories menu, Edit Configuration can be used to configure repositories.</source>
-        <translation type="unfinished"></translation>
+        <translation>有効なリポジトリがありません。
+「リポジトリ」メニューの「設定を編集」でリポジトリを設定できます。</translation>
     </message>
     <message>
         <source>Reading repositories</source>
-        <translation type="unfinished"></translation>
+        <translation>リポジトリを読み込み中</translation>
     </message>
     <message>
         <source>Collecting updatable packages</source>
-        <translation type="unfinished"></translation>
+        <translation>更新可能なパッケージを収集中</translation>
     </message>
     <message>
         <source>Unable to setup transaction</source>
-        <translation type="unfinished"></translation>
+        <translation>トランザクションを準備できません</translation>
     </message>
     <message>
         <source>Unable to collect updatable packages</source>
-        <translation type="unfinished"></translation>
+        <translation>更新可能なパッケージを収集できません</translation>
     </message>
     <message>
         <source>Collecting installed and available packages</source>
-        <translation type="unfinished"></translation>
+        <translation>インストール済みと利用可能なパッケージを収集中</translation>
     </message>
     <message>
         <source>Unable to collect installed and available packages</source>
-        <translation type="unfinished"></translation>
+        <translation>インストール済みと利用可能なパッケージを収集できません</translation>
     </message>
     <message>
         <source>Collecting groups</source>
-        <translation type="unfinished"></translation>
+        <translation>グループを収集中</translation>
     </message>
     <message>
         <source>Unable to collect groups</source>
-        <translation type="unfinished"></translation>
+        <translation>グループを収集できません</translation>
     </message>
     <message>
         <source>unable to setup repository %1:
 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>リポジトリ %1 を準備できません:
+%2</translation>
     </message>
     <message>
         <source>Internal error: yumIO.collectAll.%1 not found</source>
-        <translation type="unfinished"></translation>
+        <translation>内部エラー: yumIO.collectAll.%1 が見つかりません</translation>
     </message>
     <message>
         <source>Internal error: time not understood: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>内部エラー: 時刻を解釈できません: %1</translation>
     </message>
     <message>
         <source>Internal error: package size not understood: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>内部エラー: パッケージのサイズを解釈できません: %1</translation>
     </message>
     <message>
         <source>Eb</source>
-        <translation type="unfinished"></translation>
+        <translation>Eb</translation>
     </message>
     <message>
         <source>Pb</source>
-        <translation type="unfinished"></translation>
+        <translation>Pb</translation>
     </message>
     <message>
         <source>Tb</source>
-        <translation type="unfinished"></translation>
+        <translation>Tb</translation>
     </message>
     <message>
         <source>Gb</source>
-        <translation type="unfinished"></translation>
+        <translation>Gb</translation>
     </message>
     <message>
         <source>Mb</source>
-        <translation type="unfinished"></translation>
+        <translation>Mb</translation>
     </message>
     <message>
         <source>Kb</source>
-        <translation type="unfinished"></translation>
+        <translation>Kb</translation>
     </message>
     <message>
         <source>b</source>
-        <translation type="unfinished"></translation>
+        <translation>b</translation>
     </message>
     <message>
         <source>Internal error: yum version not understood: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>内部エラー: yum のバージョンを解釈できません: %1</translation>
     </message>
     <message>
         <source>Collecting File Lists</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル一覧を収集中</translation>
     </message>
     <message>
         <source>file lists</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル一覧</translation>
     </message>
     <message>
         <source>Loading file lists: Total Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル一覧の読み込み: 全体の進捗</translation>
     </message>
     <message>
         <source>Unable to collect file lists</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル一覧を収集できません</translation>
     </message>
     <message>
         <source>Collecting Miscellaneous data</source>
-        <translation type="unfinished"></translation>
+        <translation>その他のデータを収集中</translation>
     </message>
     <message>
         <source>miscellaneous data</source>
-        <translation type="unfinished"></translation>
+        <translation>その他のデータ</translation>
     </message>
     <message>
         <source>Loading miscellaneous data: Total Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>その他のデータの読み込み: 全体の進捗</translation>
     </message>
     <message>
         <source>Unable to collect miscellaneous data</source>
-        <translation type="unfinished"></translation>
+        <translation>その他のデータを収集できません</translation>
     </message>
     <message>
         <source>Internal error: execution of yumIO.%1 failed</source>
-        <translation type="unfinished"></translation>
+        <translation>内部エラー: yumIO.%1 の実行に失敗しました</translation>
     </message>
     <message>
         <source>Internal error: cannot find rpm.%1</source>
-        <translation type="unfinished"></translation>
+        <translation>内部エラー: rpm.%1 が見つかりません</translation>
     </message>
     <message>
         <source>Internal error: cannot find package&apos;s prco.%1</source>
-        <translation type="unfinished"></translation>
+        <translation>内部エラー: パッケージの prco.%1 が見つかりません</translation>
     </message>
     <message>
         <source>the package is optional</source>
-        <translation type="unfinished"></translation>
+        <translation>パッケージはオプションです</translation>
     </message>
     <message>
         <source>Update</source>
-        <translation type="unfinished"></translation>
+        <translation>更新</translation>
     </message>
     <message>
         <source>Install</source>
-        <translation type="unfinished"></translation>
+        <translation>インストール</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>削除</translation>
     </message>
     <message>
         <source>ERROR</source>
-        <translation type="unfinished"></translation>
+        <translation>エラー</translation>
     </message>
     <message>
         <source>Package %1 is included in group %2 which was marked for %3,
 so the package would be marked for %4,
 but it was marked individually for %5.
 How do you wish to proceed?</source>
-        <translation type="unfinished"></translation>
+        <translation>パッケージ %1 はグループ %2 に含まれ、このグループは「%3」に指定されています。
+そのため、このパッケージは「%4」に指定されることになりますが、
+個別に「%5」に指定されています。
+どのように処理しますか?</translation>
     </message>
     <message>
         <source>Package %1 is included in group %2 which was marked for %3,
 so the package would be marked for %4,
 but you resolved an earlier conflict by marking it for %5.
 How do you wish to proceed?</source>
-        <translation type="unfinished"></translation>
+        <translation>パッケージ %1 はグループ %2 に含まれ、このグループは「%3」に指定されています。
+そのため、このパッケージは「%4」に指定されることになりますが、
+先の競合を解決したときに「%5」に指定されています。
+どのように処理しますか?</translation>
     </message>
     <message>
         <source>Package %1 is included in group %2 which was marked for %3,
 so the package would be marked for %4,
 but it also was part of group %5 and so was marked for %6.
 How do you wish to proceed?</source>
-        <translation type="unfinished"></translation>
+        <translation>パッケージ %1 はグループ %2 に含まれ、このグループは「%3」に指定されています。
+そのため、このパッケージは「%4」に指定されることになりますが、
+グループ %5 にも含まれているため「%6」に指定されています。
+どのように処理しますか?</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
     <message>
         <source>Manually resolving conflict: marking package %1 for %3</source>
-        <translation type="unfinished"></translation>
+        <translation>競合を手動で解決: パッケージ %1 を「%3」に指定します</translation>
     </message>
     <message>
         <source>For group %1, marking package %2 for %3</source>
-        <translation type="unfinished"></translation>
+        <translation>グループ %1: パッケージ %2 を「%3」に指定します</translation>
     </message>
     <message>
         <source>For group %1, package %2 already was marked for %3</source>
-        <translation type="unfinished"></translation>
+        <translation>グループ %1: パッケージ %2 はすでに「%3」に指定されています</translation>
     </message>
     <message>
         <source>For group %1, not marking package %2 for %3, becuase %4</source>
-        <translation type="unfinished"></translation>
+        <translation>グループ %1: パッケージ %2 を「%3」に指定しません。理由: %4</translation>
     </message>
     <message>
         <source>Internal error: groupInfo.%1 not evaluable</source>
-        <translation type="unfinished"></translation>
+        <translation>内部エラー: groupInfo.%1 を評価できません</translation>
     </message>
     <message>
         <source>Internal error: groupInfo.%1[%2] not evaluable</source>
-        <translation type="unfinished"></translation>
+        <translation>内部エラー: groupInfo.%1[%2] を評価できません</translation>
     </message>
     <message>
         <source>Internal error: group %1.%2 not evaluable</source>
-        <translation type="unfinished"></translation>
+        <translation>内部エラー: グループ %1.%2 を評価できません</translation>
     </message>
     <message>
         <source>Total download size: %1
 </source>
-        <translation type="unfinished"></translation>
+        <translation>合計ダウンロードサイズ: %1
+</translation>
     </message>
     <message>
         <source>Internal error: %1 not found
 </source>
-        <translation type="unfinished"></translation>
+        <translation>内部エラー: %1 が見つかりません
+</translation>
     </message>
     <message>
         <source>Transaction to be performed:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>実行するトランザクション:
+</translation>
     </message>
     <message>
         <source>Performing the following to resolve dependencies:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>依存関係を解決するために次を実行:
+</translation>
     </message>
     <message>
         <source>Other Transactions:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>その他のトランザクション:
+</translation>
     </message>
     <message>
         <source>Obsoleting</source>
-        <translation type="unfinished"></translation>
+        <translation>廃止</translation>
     </message>
     <message>
         <source>	%1: %2
 </source>
-        <translation type="unfinished"></translation>
+        <translation>	%1: %2
+</translation>
     </message>
     <message>
         <source>	%1: %2 with %3
 </source>
-        <translation type="unfinished"></translation>
+        <translation>	%1: %2 を %3 で置き換え
+</translation>
     </message>
     <message>
         <source>%1 %3-%4 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %3-%4 (%2)</translation>
     </message>
     <message>
         <source>%1 %3:%4-%5 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %3:%4-%5 (%2)</translation>
     </message>
     <message>
         <source> [%1]</source>
-        <translation type="unfinished"></translation>
+        <translation> [%1]</translation>
     </message>
     <message>
         <source>Downloading repository %1 mirror list</source>
-        <translation type="unfinished"></translation>
+        <translation>リポジトリのミラーリストをダウンロード中 (%1)</translation>
     </message>
     <message>
         <source>Downloading repository %1 mirror list for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%2 のリポジトリのミラーリストをダウンロード中 (%1)</translation>
     </message>
     <message>
         <source>Downloading repository %1 repomd</source>
-        <translation type="unfinished"></translation>
+        <translation>リポジトリの repomd をダウンロード中 (%1)</translation>
     </message>
     <message>
         <source>Downloading repository %1 repomd for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%2 のリポジトリの repomd をダウンロード中 (%1)</translation>
     </message>
     <message>
         <source>Downloading repository %1</source>
-        <translation type="unfinished"></translation>
+        <translation>リポジトリの%1をダウンロード中</translation>
     </message>
     <message>
         <source>Downloading repository %1 for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%2 のリポジトリの%1をダウンロード中</translation>
     </message>
     <message>
         <source>Converting repository %1</source>
-        <translation type="unfinished"></translation>
+        <translation>リポジトリの%1を変換中</translation>
     </message>
     <message>
         <source>Converting repository %1 for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%2 のリポジトリの%1を変換中</translation>
     </message>
     <message>
         <source>Reading repository %1</source>
-        <translation type="unfinished"></translation>
+        <translation>リポジトリの%1を読み込み中</translation>
     </message>
     <message>
         <source>Reading repository %1 for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%2 のリポジトリの%1を読み込み中</translation>
     </message>
     <message>
         <source>VEM Yum Error</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM Yum エラー</translation>
     </message>
     <message>
         <source>VEM Yum Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM Yum 警告</translation>
     </message>
     <message>
         <source>Resolve Dependencies</source>
-        <translation type="unfinished"></translation>
+        <translation>依存関係を解決中</translation>
     </message>
     <message>
         <source>Internal error: unexpected TSINFO: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>内部エラー: 予期しない TSINFO: %1</translation>
     </message>
     <message>
         <source>Internal error: TSINFO mentions unknown package: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>内部エラー: TSINFO に不明なパッケージがあります: %1</translation>
     </message>
     <message>
         <source>Internal error: TSINFO mentions intent to install or upgrade package that already seems up-to-date: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>内部エラー: すでに最新と思われるパッケージを TSINFO がインストールまたはアップグレードしようとしています: %1</translation>
     </message>
     <message>
         <source>Finishing RPM rebuild from deltas</source>
-        <translation type="unfinished"></translation>
+        <translation>差分からの RPM の再構築を完了中</translation>
     </message>
     <message>
         <source>Downloading %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 をダウンロード中</translation>
     </message>
     <message>
         <source>Downloading %1 header</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 のヘッダーをダウンロード中</translation>
     </message>
     <message>
         <source>Preparing to Run Transaction</source>
-        <translation type="unfinished"></translation>
+        <translation>トランザクションの実行を準備中</translation>
     </message>
     <message>
         <source>Preparing to Test Transaction</source>
-        <translation type="unfinished"></translation>
+        <translation>トランザクションのテストを準備中</translation>
     </message>
     <message>
         <source>Updating %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 を更新中</translation>
     </message>
     <message>
         <source>Installing %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 をインストール中</translation>
     </message>
     <message>
         <source>Completing update for: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>更新を完了中: %1</translation>
     </message>
     <message>
         <source>Removing %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 を削除中</translation>
     </message>
     <message>
         <source>Transaction Test</source>
-        <translation type="unfinished"></translation>
+        <translation>トランザクションのテスト</translation>
     </message>
     <message>
         <source>Internal error: YumIO::tsCallback what=%1 not understood; ignoring</source>
-        <translation type="unfinished"></translation>
+        <translation>内部エラー: YumIO::tsCallback の what=%1 を解釈できません。無視します</translation>
     </message>
     <message>
         <source>Internal error: YumIO::tsEvent action=%1 not understood; ignoring</source>
-        <translation type="unfinished"></translation>
+        <translation>内部エラー: YumIO::tsEvent の action=%1 を解釈できません。無視します</translation>
     </message>
     <message>
         <source>Removed</source>
-        <translation type="unfinished"></translation>
+        <translation>削除済み</translation>
     </message>
     <message>
         <source>Dependency Removed</source>
-        <translation type="unfinished"></translation>
+        <translation>依存関係により削除済み</translation>
     </message>
     <message>
         <source>Dependency Installed</source>
-        <translation type="unfinished"></translation>
+        <translation>依存関係によりインストール済み</translation>
     </message>
     <message>
         <source>Updated</source>
-        <translation type="unfinished"></translation>
+        <translation>更新済み</translation>
     </message>
     <message>
         <source>Dependency Updated</source>
-        <translation type="unfinished"></translation>
+        <translation>依存関係により更新済み</translation>
     </message>
     <message>
         <source>Obsoleted</source>
-        <translation type="unfinished"></translation>
+        <translation>廃止済み</translation>
     </message>
 </context>
 <context>
     <name>YumIOCapturers</name>
     <message>
         <source>Unable to open pipe to capture rpm transaction output</source>
-        <translation type="unfinished"></translation>
+        <translation>rpm トランザクションの出力を取得するパイプを開けません</translation>
     </message>
     <message>
         <source>Unable to dup2 pipe to capture rpm transaction output</source>
-        <translation type="unfinished"></translation>
+        <translation>rpm トランザクションの出力を取得するためのパイプを dup2 で複製できません</translation>
     </message>
     <message>
         <source>Unable to dup2 to restore stderr</source>
-        <translation type="unfinished"></translation>
+        <translation>stderr を dup2 で元に戻せません</translation>
     </message>
 </context>
 </TS>
