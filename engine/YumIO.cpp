@@ -309,16 +309,6 @@ QList<Package::Entry*>::const_iterator YumIO::end() const
     return entries.constEnd();
 }
 
-int YumIO::count() const
-{
-    return static_cast<int>(entries.size());
-}
-
-Package::Entry* YumIO::operator[](int row) const
-{
-    return entries.at(row);
-}
-
 Package::Entry* YumIO::findPackage(QString const& name) const
 {
     return entryHash.value(EntryKey(false, name), nullptr);

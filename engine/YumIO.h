@@ -118,8 +118,11 @@ public:
     // The rows of the table. The index is not checked.
     QList<Package::Entry*>::const_iterator begin() const;
     QList<Package::Entry*>::const_iterator end() const;
-    int count() const;
-    Package::Entry* operator[](int row) const;
+    // Sorting asks a million times, so these two stand here.
+    int count() const { return static_cast<int>(entries.size()); }
+    Package::Entry* operator[](int row) const { return entries[row]; }
+    /// Tells one list of rows from any other that this process has had; 0 while there are no rows.
+    quint64 listSerial() const { return entries.isEmpty() ? 0 : entries.first()->serial; }
 
     // What can be told of an entry. These read its fields and are free of Python.
     QString getName(Package::Entry const& entry) const;

@@ -92,6 +92,12 @@ void Model::setYumConfIO(YumConfIO* configuration)
     yumConfIO = configuration;
 }
 
+QModelIndex Model::index(int row, int column, QModelIndex const&) const
+{
+    bool const exists = row >= 0 && row < yumIO->count() && column >= 0 && column < ColumnCount;
+    return exists ? createIndex(row, column) : QModelIndex();
+}
+
 int Model::rowCount(QModelIndex const&) const
 {
     return yumIO->count();

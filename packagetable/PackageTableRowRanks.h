@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "engine/YumIO.h"
 #include "packagetable/PackageTableColumns.h"
 
 #include <array>
 #include <vector>
-
-class QString;
-class YumIO;
 
 namespace PackageTable
 {
@@ -29,9 +27,14 @@ public:
 
     /// For each row its place by the column, rows that are equal in it by name. Any column but Action, whose
     /// values change without a rebuild.
-    [[nodiscard]] Ranks const& of(int column);
+    [[nodiscard]] Ranks const& of(int column)
+    {
+        Ranks const& present = ranks[static_cast<std::size_t>(column)];
+        return present.size() == static_cast<std::size_t>(yumIO->count()) ? present : made(column);
+    }
 
 private:
+    Ranks const& made(int column);
     [[nodiscard]] Ranks byText(int column) const;
     [[nodiscard]] Ranks byNumber(int column) const;
 

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "packagetable/PackageTableSortFilterProxyModel.h"
 
+#include "base/Parallel.h"
 #include "engine/YumIO.h"
 #include "packagetable/PackageTableColumns.h"
+#include "packagetable/PackageTableRowWalk.h"
 #include "widgets/HAbstractTableModel.h"
 
 #include <QCoreApplication>
@@ -54,6 +56,37 @@ constexpr std::array<Field, 23> packageFields{
     field<&YumIO::getFiles>,       field<&YumIO::getChangeLog>,
 };
 
+/// Appends a text in UTF-8.
+void append(QByteArray& bytes, QString const& text)
+{
+    qsizetype const before = bytes.size();
+    bytes.resize(before + text.size());
+    char* const target = bytes.data() + before;
+    char16_t all = 0;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        char16_t const unit = text.at(i).unicode();
+        all |= unit;
+        target[i] = static_cast<char>(unit);
+    }
+    if (all >= 0x80U) {
+        bytes.truncate(before);
+        bytes += text.toUtf8();
+    }
+}
+
+/// Makes `line` the texts that the table shows for the entry, in UTF-8, as if they were separated by blanks,
+/// so that an expression can span two columns.
+void takeShownTexts(Package::Entry const& entry, QByteArray& line)
+{
+    line.resize(0);
+    for (int column = NameColumn; column < ColumnCount; ++column) {
+        if (!line.isEmpty()) {
+            line += ' ';
+        }
+        append(line, columnText(entry, column));
+    }
+}
+
 } // namespace
 
 SortFilterProxyModel::SortFilterProxyModel(
@@ -100,11 +133,16 @@ void SortFilterProxyModel::forgetVerdicts()
     clear();
 }
 
+bool SortFilterProxyModel::isSearch() const
+{
+    return mode == Search && !expressionText.isEmpty();
+}
+
 // A search takes seconds. It is done before the reset, while the table stands whole, so that the window can
 // be painted in between; the reset then finds every verdict.
 void SortFilterProxyModel::searchAllRows()
 {
-    if (!filter || mode != Search || expressionText.isEmpty()) {
+    if (!filter || !isSearch()) {
         return;
     }
     // In the order in which they were collected, which is nearly that of the package library's memory: what
@@ -112,7 +150,7 @@ void SortFilterProxyModel::searchAllRows()
     std::vector<std::pair<quint64, int>> rows;
     rows.reserve(static_cast<std::size_t>(yumIO->count()));
     for (int row = 0; row < yumIO->count(); ++row) {
-        rows.emplace_back(entryAt(row)->serial, row);
+        rows.emplace_back((*yumIO)[row]->serial, row);
     }
     std::ranges::sort(rows);
 
@@ -137,6 +175,9 @@ void SortFilterProxyModel::setFilter(bool enable)
 {
     if (enable != filter) {
         filter = enable;
+        if (!filter) {
+            expectLongSort();
+        }
         searchAllRows();
         clear();
     }
@@ -175,29 +216,61 @@ void SortFilterProxyModel::setFilterRegExp(QString const& pattern)
     }
 }
 
-Package::Entry* SortFilterProxyModel::entryAt(int sourceRow) const
-{
-    return sourceRow >= 0 && sourceRow < yumIO->count() ? (*yumIO)[sourceRow] : nullptr;
-}
-
 bool SortFilterProxyModel::filterAcceptsRow(int sourceRow, QModelIndex const& sourceParent) const
 {
     if (!filter) {
         return true;
     }
-    Package::Entry* const entry = entryAt(sourceRow);
-    if (!entry) {
+    int const rows = yumIO->count();
+    if (sourceRow < 0 || sourceRow >= rows) {
         return false;
     }
-    auto const place = static_cast<std::size_t>(sourceRow);
-    if (place >= acceptCache.size()) {
-        acceptCache.resize(static_cast<std::size_t>(yumIO->count()));
+    if (acceptCache.size() != static_cast<std::size_t>(rows) || testedList != yumIO->listSerial()) {
+        acceptCache.assign(static_cast<std::size_t>(rows), Verdict::None);
+        testedList = yumIO->listSerial();
     }
-    Verdict& verdict = acceptCache[place];
-    if (verdict.serial != entry->serial) {
-        verdict = {entry->serial, acceptRow(entry, sourceRow, sourceParent)};
+    Verdict& verdict = acceptCache[static_cast<std::size_t>(sourceRow)];
+    if (verdict == Verdict::None && isSearch()) {
+        bool const accepted = acceptRow((*yumIO)[sourceRow], sourceRow, sourceParent);
+        verdict = accepted ? Verdict::Accepted : Verdict::Rejected;
+    } else if (verdict == Verdict::None) {
+        testShownTexts();
     }
-    return verdict.accepted;
+    return verdict == Verdict::Accepted;
+}
+
+// All rows at a time, as whoever asks about one asks about all.
+void SortFilterProxyModel::testShownTexts() const
+{
+    QByteArray const pattern = expressionText.toUtf8();
+    auto const fetch = [&](Package::Entry const& entry) {
+        for (int column = NameColumn; column < ColumnCount && !pattern.isEmpty(); ++column) {
+            fetchLetters(columnText(entry, column));
+        }
+    };
+    Parallel::forParts(acceptCache.size(), [&](std::size_t begin, std::size_t end) {
+        // Serves one thread at a time.
+        PosixRegex expression;
+        expression.compile(pattern);
+        QByteArray texts;
+        walkRows(*yumIO, begin, end, fetch, [&](std::size_t row, Package::Entry const& entry) {
+            bool accepted = passesStateAndKind(entry);
+            if (accepted && !pattern.isEmpty()) {
+                takeShownTexts(entry, texts);
+                accepted = expression.matches(texts);
+            }
+            acceptCache[row] = accepted ? Verdict::Accepted : Verdict::Rejected;
+        });
+    });
+    auto const shown = std::ranges::count(acceptCache, Verdict::Accepted);
+    if (static_cast<std::size_t>(shown) > acceptCache.size() / 8) {
+        expectLongSort();
+    }
+}
+
+void SortFilterProxyModel::expectLongSort() const
+{
+    comparedWithoutRanks = yumIO->count();
 }
 
 bool SortFilterProxyModel::matches(QString const& text) const
@@ -207,42 +280,36 @@ bool SortFilterProxyModel::matches(QString const& text) const
 
 bool SortFilterProxyModel::acceptRow(Package::Entry* entry, int, QModelIndex const&) const
 {
-    if (!entry || !passesState(entry->state) || (!groups && entry->kind == Package::Group)) {
+    if (!entry || !passesStateAndKind(*entry)) {
         return false;
     }
     if (expressionText.isEmpty()) {
         return true;
     }
-    return mode == Search ? matchesAnyField(*entry) : matchesShownTexts(*entry);
+    if (mode == Search) {
+        return matchesAnyField(*entry);
+    }
+    QByteArray texts;
+    takeShownTexts(*entry, texts);
+    return regex.matches(texts);
 }
 
-bool SortFilterProxyModel::passesState(Package::State state) const
+bool SortFilterProxyModel::passesStateAndKind(Package::Entry const& entry) const
 {
+    if (!groups && entry.kind == Package::Group) {
+        return false;
+    }
     switch (stateFilter) {
     case Updatable:
-        return state == Package::OutOfDate;
+        return entry.state == Package::OutOfDate;
     case Installable:
-        return state == Package::Available;
+        return entry.state == Package::Available;
     case Removable:
-        return state != Package::Available;
+        return entry.state != Package::Available;
     case All:
         break;
     }
     return true;
-}
-
-bool SortFilterProxyModel::matchesShownTexts(Package::Entry const& entry) const
-{
-    // The texts as if they were separated by blanks, so that an expression can span two columns.
-    QString texts;
-    texts.reserve(160);
-    for (int column = NameColumn; column < ColumnCount; ++column) {
-        if (!texts.isEmpty()) {
-            texts += QLatin1Char(' ');
-        }
-        texts += columnText(entry, column);
-    }
-    return matches(texts);
 }
 
 bool SortFilterProxyModel::matchesAnyField(Package::Entry const& entry) const
@@ -262,24 +329,26 @@ void SortFilterProxyModel::sourceWasRefilled()
 }
 
 // What the cells' values would give, read from the records or from ranks: sorting 66,000 rows asks a million
-// times. Ranks aren't worth their price while few rows show.
+// times. Ranks aren't worth their price while few rows show, whose records the processor keeps at hand.
 bool SortFilterProxyModel::lessThan(QModelIndex const& left, QModelIndex const& right) const
 {
     int const column = left.column();
-    Package::Entry const* const leftEntry = left.isValid() ? entryAt(left.row()) : nullptr;
-    Package::Entry const* const rightEntry = right.isValid() ? entryAt(right.row()) : nullptr;
-    if (!leftEntry || !rightEntry) {
+    int const rows = yumIO->count();
+    bool const exist = left.isValid() && left.row() < rows && right.isValid() && right.row() < rows;
+    if (!exist) {
         return !isNumericColumn(column) && HSortFilterProxyModel::lessThan(left, right);
     }
-    if (comparedWithoutRanks < yumIO->count() || column != right.column()) {
+    if (comparedWithoutRanks < rows || column != right.column()) {
         ++comparedWithoutRanks;
-        return isLower(*leftEntry, column, *rightEntry, right.column());
+        return isLower(*(*yumIO)[left.row()], column, *(*yumIO)[right.row()], right.column());
     }
 
     int rankedColumn = column;
     if (column == ActionColumn) {
-        if (leftEntry->action != rightEntry->action) {
-            return leftEntry->action < rightEntry->action;
+        Package::Action const leftAction = (*yumIO)[left.row()]->action;
+        Package::Action const rightAction = (*yumIO)[right.row()]->action;
+        if (leftAction != rightAction) {
+            return leftAction < rightAction;
         }
         rankedColumn = NameColumn;
     }

@@ -60,20 +60,20 @@ protected:
     void sourceWasRefilled() override;
 
 private:
-    /// Rows get other entries with each rebuild of the engine's list: a verdict holds only for the entry of
-    /// the same serial. None has the serial 0.
-    struct Verdict
+    enum class Verdict : quint8
     {
-        quint64 serial = 0;
-        bool accepted = false;
+        None,
+        Rejected,
+        Accepted,
     };
 
-    Package::Entry* entryAt(int sourceRow) const;
-    bool passesState(Package::State state) const;
-    bool matchesShownTexts(Package::Entry const& entry) const;
+    bool passesStateAndKind(Package::Entry const& entry) const;
     bool matchesAnyField(Package::Entry const& entry) const;
     void forgetVerdicts();
+    bool isSearch() const;
     void searchAllRows();
+    void testShownTexts() const;
+    void expectLongSort() const;
     static bool isLower(
         Package::Entry const& left, int leftColumn, Package::Entry const& right, int rightColumn);
 
@@ -83,6 +83,8 @@ private:
     bool groups;
     YumIO* yumIO;
     mutable std::vector<Verdict> acceptCache; ///< row by row
+    /// The list whose rows `acceptCache` is about: rows get other entries with each rebuild.
+    mutable quint64 testedList = 0;
     PosixRegex regex;
     QString expressionText; ///< of `regex`; the base has it only once the rows have been tested
     mutable RowRanks ranks;

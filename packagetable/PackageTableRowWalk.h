@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "engine/YumIO.h"
+
+#include <QString>
+#include <cstddef>
+
+namespace PackageTable
+{
+
+/// Asks the memory for the letters of a text. The text itself must have arrived.
+inline void fetchLetters(QString const& text)
+{
+    __builtin_prefetch(text.constData());
+}
+
+/// Calls `visit(row, entry)` for each of the engine's rows from `begin` up to `end`, and `fetch(entry)` some
+/// rows before that, which may call `fetchLetters` for texts that the visit will read. Entries and texts lie
+/// all over the memory; to wait for one after the other would take most of the time of a pass over all rows.
+template <typename Fetch, typename Visit>
+void walkRows(YumIO const& yumIO, std::size_t begin, std::size_t end, Fetch const& fetch, Visit const& visit)
+{
+    constexpr std::size_t lettersAhead = 8;
+    constexpr std::size_t entriesAhead = 2 * lettersAhead;
+    constexpr std::size_t lineOfMemory = 64;
+    auto const entryAt = [&](std::size_t row) { return yumIO[static_cast<int>(row)]; };
+    for (std::size_t row = begin; row < end; ++row) {
+        if (row + entriesAhead < end) {
+            auto const* const start = reinterpret_cast<char const*>(entryAt(row + entriesAhead));
+            for (std::size_t offset = 0; offset < sizeof(Package::Entry); offset += lineOfMemory) {
+                __builtin_prefetch(start + offset);
+            }
+        }
+        if (row + lettersAhead < end) {
+            fetch(*entryAt(row + lettersAhead));
+        }
+        visit(row, *entryAt(row));
+    }
+}
+
+} // namespace PackageTable
