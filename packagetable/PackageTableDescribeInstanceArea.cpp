@@ -36,43 +36,39 @@ struct Field
     bool inBrief = false; ///< also shown of an installed version below another entry
 };
 
-#define LABEL(text) QT_TRANSLATE_NOOP("PackageTable::Describe::Instance::Area", text)
-
 constexpr std::array<Field, 7> groupFields{{
-    {LABEL("Required Groups"), value<&YumIO::getRequiredGroups>},
-    {LABEL("Default MetaPkgs"), value<&YumIO::getDefaultMetaPkgs>},
-    {LABEL("Optional MetaPkgs"), value<&YumIO::getOptionalMetaPkgs>},
-    {LABEL("Mandatory Packages"), value<&YumIO::getMandatoryPkgs>},
-    {LABEL("Default Packages"), value<&YumIO::getDefaultPkgs>},
-    {LABEL("Optional Packages"), value<&YumIO::getOptionalPkgs>},
-    {LABEL("Conditional Packages"), value<&YumIO::getConditionalPkgs>},
+    {QT_TRANSLATE_NOOP("PackageTable::Describe::Instance::Area", "Required Groups"), value<&YumIO::getRequiredGroups>},
+    {QT_TRANSLATE_NOOP("PackageTable::Describe::Instance::Area", "Default MetaPkgs"), value<&YumIO::getDefaultMetaPkgs>},
+    {QT_TRANSLATE_NOOP("PackageTable::Describe::Instance::Area", "Optional MetaPkgs"), value<&YumIO::getOptionalMetaPkgs>},
+    {QT_TRANSLATE_NOOP("PackageTable::Describe::Instance::Area", "Mandatory Packages"), value<&YumIO::getMandatoryPkgs>},
+    {QT_TRANSLATE_NOOP("PackageTable::Describe::Instance::Area", "Default Packages"), value<&YumIO::getDefaultPkgs>},
+    {QT_TRANSLATE_NOOP("PackageTable::Describe::Instance::Area", "Optional Packages"), value<&YumIO::getOptionalPkgs>},
+    {QT_TRANSLATE_NOOP("PackageTable::Describe::Instance::Area", "Conditional Packages"), value<&YumIO::getConditionalPkgs>},
 }};
 
 // Version and repository come before these.
 constexpr std::array<Field, 19> packageFields{{
-    {LABEL("Architecture"), value<&YumIO::getArch>},
-    {LABEL("Size"), value<&YumIO::getSize>, true},
-    {LABEL("Summary"), value<&YumIO::getSummary>},
-    {LABEL("Description"), value<&YumIO::getDescription>},
-    {LABEL("Group"), value<&YumIO::getGroup>},
-    {LABEL("Vendor"), value<&YumIO::getVendor>},
-    {LABEL("Build Time"), value<&YumIO::getBuildTime>, true},
-    {LABEL("Build Host"), value<&YumIO::getBuildHost>},
-    {LABEL("Install Time"), value<&YumIO::getInstallTime>},
-    {LABEL("Binary RPM"), value<&YumIO::getBinaryRpm>},
+    {QT_TRANSLATE_NOOP("PackageTable::Describe::Instance::Area", "Architecture"), value<&YumIO::getArch>},
+    {QT_TRANSLATE_NOOP("PackageTable::Describe::Instance::Area", "Size"), value<&YumIO::getSize>, true},
+    {QT_TRANSLATE_NOOP("PackageTable::Describe::Instance::Area", "Summary"), value<&YumIO::getSummary>},
+    {QT_TRANSLATE_NOOP("PackageTable::Describe::Instance::Area", "Description"), value<&YumIO::getDescription>},
+    {QT_TRANSLATE_NOOP("PackageTable::Describe::Instance::Area", "Group"), value<&YumIO::getGroup>},
+    {QT_TRANSLATE_NOOP("PackageTable::Describe::Instance::Area", "Vendor"), value<&YumIO::getVendor>},
+    {QT_TRANSLATE_NOOP("PackageTable::Describe::Instance::Area", "Build Time"), value<&YumIO::getBuildTime>, true},
+    {QT_TRANSLATE_NOOP("PackageTable::Describe::Instance::Area", "Build Host"), value<&YumIO::getBuildHost>},
+    {QT_TRANSLATE_NOOP("PackageTable::Describe::Instance::Area", "Install Time"), value<&YumIO::getInstallTime>},
+    {QT_TRANSLATE_NOOP("PackageTable::Describe::Instance::Area", "Binary RPM"), value<&YumIO::getBinaryRpm>},
     // The same text as above: the name of the source package serves the search only.
-    {LABEL("Source RPM"), value<&YumIO::getBinaryRpm>},
-    {LABEL("License"), value<&YumIO::getLicense>},
-    {LABEL("Packager"), value<&YumIO::getPackager>, true},
-    {LABEL("URL"), value<&YumIO::getUrl>},
-    {LABEL("Relocations"), value<&YumIO::getRelocations>},
-    {LABEL("Provides"), value<&YumIO::getProvides>},
-    {LABEL("Requires"), value<&YumIO::getRequires>},
-    {LABEL("Conflicts"), value<&YumIO::getConflicts>},
-    {LABEL("Obsoletes"), value<&YumIO::getObsoletes>},
+    {QT_TRANSLATE_NOOP("PackageTable::Describe::Instance::Area", "Source RPM"), value<&YumIO::getBinaryRpm>},
+    {QT_TRANSLATE_NOOP("PackageTable::Describe::Instance::Area", "License"), value<&YumIO::getLicense>},
+    {QT_TRANSLATE_NOOP("PackageTable::Describe::Instance::Area", "Packager"), value<&YumIO::getPackager>, true},
+    {QT_TRANSLATE_NOOP("PackageTable::Describe::Instance::Area", "URL"), value<&YumIO::getUrl>},
+    {QT_TRANSLATE_NOOP("PackageTable::Describe::Instance::Area", "Relocations"), value<&YumIO::getRelocations>},
+    {QT_TRANSLATE_NOOP("PackageTable::Describe::Instance::Area", "Provides"), value<&YumIO::getProvides>},
+    {QT_TRANSLATE_NOOP("PackageTable::Describe::Instance::Area", "Requires"), value<&YumIO::getRequires>},
+    {QT_TRANSLATE_NOOP("PackageTable::Describe::Instance::Area", "Conflicts"), value<&YumIO::getConflicts>},
+    {QT_TRANSLATE_NOOP("PackageTable::Describe::Instance::Area", "Obsoletes"), value<&YumIO::getObsoletes>},
 }};
-
-#undef LABEL
 
 constexpr int labelColumn = 0;
 constexpr int valueColumn = 1;

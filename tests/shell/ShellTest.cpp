@@ -64,7 +64,15 @@ void ShellTest::makeWindow()
     QVERIFY(configuration.open(QIODevice::WriteOnly) && configuration.write("[main]\n"));
     configuration.close();
     qputenv("VEMROOT", QFile::encodeName(root.path()));
-    qputenv("VEMSHARE", QByteArray(VEM_TEST_STANDINS "/") + era().toLatin1());
+    static QTemporaryDir const share;
+    auto const link = [](QString const& target, QString const& name) {
+        QVERIFY(QFile::link(target, share.filePath(name)));
+    };
+    link(QStringLiteral(VEM_TEST_STANDINS "/%1/python").arg(era()), QStringLiteral("python"));
+    for (QString const& pictures : {QStringLiteral("icons"), QStringLiteral("pixmaps")}) {
+        link(QStringLiteral(VEM_TEST_SHARE "/") + pictures, pictures);
+    }
+    qputenv("VEMSHARE", QFile::encodeName(share.path()));
     qputenv("TZ", "UTC");
     boxes = std::make_unique<Boxes>();
     window = new MainWindow(nullptr);

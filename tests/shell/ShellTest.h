@@ -22,7 +22,8 @@ class ShellTest : public QObject
 
 protected:
     static QString era();
-    /// Points the program to the stand-in and to an empty root, and makes the window. Not shown yet.
+    /// Points the program to the stand-in, with the real pictures, and to an empty root, and makes the
+    /// window. Not shown yet.
     void makeWindow();
     /// Shows it and waits for the table.
     bool openWindow();

@@ -1,0 +1,267 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+// The words of every window in the language that VEM_TEST_LANGUAGE names, in letters of VEM_TEST_FONT_SCALE
+// times the usual size: all are there, none is cut off, and no letter does two things.
+#include "ShellTest.h"
+
+#include "WindowTexts.h"
+#include "packagetable/PackageTableView.h"
+#include "repo/RepoAuthDialog.h"
+#include "repo/RepoEntry.h"
+#include "services/ScrollableConfirmDialog.h"
+#include "services/ScrollableErrorDialog.h"
+#include "widgets/HMenu.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QHeaderView>
+#include <QLabel>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <QTranslator>
+
+namespace
+{
+
+/// A language in which each text of the program is itself, between marks.
+class Marker final : public QTranslator
+{
+public:
+    using QTranslator::QTranslator;
+
+    [[nodiscard]] bool isEmpty() const override { return false; }
+
+    QString translate(char const* context, char const* source, char const*, int) const override
+    {
+        // The toolkit's own texts have their own translators; shortcuts and units are no words.
+        bool const isOurs = QByteArray(context).startsWith("Q") == false && source[0] != '\0';
+        QString const text = QString::fromUtf8(source);
+        return isOurs && !text.startsWith(QLatin1String("Ctrl+")) && text != QLatin1String("F1")
+                   ? WindowTexts::marked(text)
+                   : QString();
+    }
+};
+
+} // namespace
+
+class WindowTextsTest : public ShellTest
+{
+    Q_OBJECT
+
+    QString const language = qEnvironmentVariable("VEM_TEST_LANGUAGE", QStringLiteral("en"));
+    bool const isMarked = language == QLatin1String("marked");
+    QTranslator texts;
+    Marker marker;
+    int pictures = 0;   ///< that VEM_SHOTS, a directory, has got
+    QStringList looked; ///< titles of the windows that `look` has seen
+
+    static void write(QString const& file, QByteArray const& content)
+    {
+        QFile output(QDir(qEnvironmentVariable("VEMROOT")).filePath(file));
+        QVERIFY(output.open(QIODevice::WriteOnly) && output.write(content) == content.size());
+    }
+
+    void look(QWidget* shown, QStringList const& data = {})
+    {
+        QVERIFY(shown);
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+        looked.append(shown->windowTitle());
+        if (qEnvironmentVariableIsSet("VEM_SHOTS")) {
+            QString const name = QStringLiteral("%1/%2-%3.png")
+                                     .arg(qEnvironmentVariable("VEM_SHOTS"), language)
+                                     .arg(++pictures, 2, 10, QLatin1Char('0'));
+            shown->grab().save(name);
+        }
+        QString const title = shown->windowTitle() + QStringLiteral(": ");
+        QStringList const cut = WindowTexts::cut(*shown);
+        QVERIFY2(cut.isEmpty(), qPrintable(title + cut.join(QStringLiteral("; "))));
+        QStringList clashes = WindowTexts::clashes(*shown);
+        if (language == QLatin1String("en") || isMarked) {
+            clashes.removeIf(
+                [](QString const& clash) { return clash.contains(QLatin1String("Clear Actions")); });
+        }
+        QVERIFY2(clashes.isEmpty(), qPrintable(title + clashes.join(QStringLiteral("; "))));
+        if (isMarked) {
+            QStringList unmarked = WindowTexts::unmarked(*shown);
+            unmarked.removeIf([&data](QString const& text) { return data.contains(text); });
+            QVERIFY2(unmarked.isEmpty(), qPrintable(title + unmarked.join(QStringLiteral("; "))));
+        }
+    }
+
+    void look(QMenu& menu)
+    {
+        QStringList const cut = WindowTexts::cut(menu);
+        QVERIFY2(cut.isEmpty(), qPrintable(cut.join(QStringLiteral("; "))));
+        QStringList const clashes = WindowTexts::clashes(menu);
+        QVERIFY2(clashes.isEmpty(), qPrintable(clashes.join(QStringLiteral("; "))));
+        if (isMarked) {
+            QStringList const unmarked = WindowTexts::unmarked(menu);
+            QVERIFY2(unmarked.isEmpty(), qPrintable(unmarked.join(QStringLiteral("; "))));
+        }
+    }
+
+    /// Opens a context menu of the table by `open`, looks at it and closes it.
+    void lookAtPopup(std::function<void()> const& open)
+    {
+        bool seen = false;
+        QTimer poll;
+        connect(&poll, &QTimer::timeout, this, [&] {
+            if (auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
+                poll.stop();
+                seen = true;
+                look(*menu);
+                menu->close();
+            }
+        });
+        poll.start(5);
+        open();
+        QVERIFY(seen);
+    }
+
+    QPushButton* translatedButton(QWidget* in, char const* context, char const* source) const
+    {
+        QString const text = QCoreApplication::translate(context, source);
+        for (QPushButton* const candidate : in->findChildren<QPushButton*>()) {
+            if (candidate->text() == text) {
+                return candidate;
+            }
+        }
+        return nullptr;
+    }
+
+    PackageTable::View* packages() const { return window->findChild<PackageTable::View*>(); }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        if (isMarked) {
+            QCoreApplication::installTranslator(&marker);
+        } else if (language != QLatin1String("en")) {
+            QVERIFY(texts.load(QStringLiteral(VEM_TEST_SHARE "/translations/vem_") + language));
+            QCoreApplication::installTranslator(&texts);
+        }
+        QFont font = QApplication::font();
+        font.setPointSizeF(font.pointSizeF() * qEnvironmentVariable("VEM_TEST_FONT_SCALE", "1").toDouble());
+        QApplication::setFont(font);
+        makeWindow();
+        write(
+            QStringLiteral("etc/yum.repos.d/trees.repo"),
+            "[trees]\nname=Trees\nbaseurl=http://host/buffet?login=oak&key=leaf&path=/trees\n");
+        window->show();
+        QVERIFY(
+            QTest::qWaitFor([this] { return packages()->isVisible() && packages()->isEnabled(); }, 20000));
+    }
+
+    void cleanupTestCase() { delete window; }
+
+    void init()
+    {
+        looked.clear();
+        boxes->take();
+    }
+
+    void mainWindow()
+    {
+        look(window);
+        for (QAction* const action : window->menuBar()->actions()) {
+            action->menu()->popup(QPoint());
+            look(*action->menu());
+            action->menu()->close();
+        }
+    }
+
+    void logWindow()
+    {
+        window->displayLog();
+        for (QWidget* const other : QApplication::topLevelWidgets()) {
+            if (other != window && other->isVisible()) {
+                look(other);
+                other->close();
+            }
+        }
+        QCOMPARE(looked.size(), 1);
+    }
+
+    void about()
+    {
+        // The button is the toolkit's own.
+        boxes->whileShown([this] { look(QApplication::activeModalWidget(), {QStringLiteral("OK")}); });
+        window->about();
+        QCOMPARE(looked.size(), 1);
+    }
+
+    void description()
+    {
+        QModelIndex const first = packages()->model()->index(0, 3);
+        QVERIFY(first.isValid());
+        packages()->setCurrentIndex(first);
+        boxes->press({QStringLiteral("Escape")});
+        boxes->whileShown([this] {
+            QWidget* const shown = QApplication::activeModalWidget();
+            QStringList values;
+            for (QLabel const* const label : shown->findChildren<QLabel*>()) {
+                if (!label->text().endsWith(QLatin1Char(':'))) {
+                    values.append(label->text());
+                }
+            }
+            look(shown, values);
+        });
+        packages()->describe();
+        QCOMPARE(looked.size(), 1);
+    }
+
+    void contextMenus()
+    {
+        for (int column : {0, 3}) {
+            QModelIndex const cell = packages()->model()->index(0, column);
+            lookAtPopup(
+                [&] { packages()->handleCustomContextMenuRequested(packages()->visualRect(cell).center()); });
+        }
+    }
+
+    void repositoryEditorAndItsForm()
+    {
+        boxes->press({QStringLiteral("Escape"), QStringLiteral("Escape"), QStringLiteral("Escape")});
+        boxes->whileShown([this] {
+            QWidget* const shown = QApplication::activeModalWidget();
+            look(shown);
+            if (QPushButton* const add = translatedButton(shown, "RepoEditor::Dialog", "Add")) {
+                add->click();
+            }
+        });
+        window->editRepositories();
+        QCOMPARE(looked.size(), 2);
+    }
+
+    void questionForCredentials()
+    {
+        Repo::Entry entry;
+        entry.id = QStringLiteral("trees");
+        entry.name = QStringLiteral("Trees");
+        entry.baseurl = QStringLiteral("http://host/buffet?login=&key=&path=/trees");
+        RepoAuth::Dialog dialog(window);
+        boxes->press({QStringLiteral("Escape")});
+        // The two words of the address are what its server calls them.
+        QStringList const data{
+            entry.id, entry.name, entry.baseurl, QStringLiteral("login"), QStringLiteral("key")};
+        boxes->whileShown([&] { look(&dialog, data); });
+        dialog.exec(&entry);
+        QCOMPARE(looked.size(), 1);
+    }
+
+    void reports()
+    {
+        QString const text = QStringLiteral("1.\n2.\n3.");
+        ScrollableErrorDialog error(text, window);
+        error.show();
+        look(&error);
+        ScrollableConfirmDialog question(text, window);
+        question.show();
+        look(&question);
+    }
+};
+
+QTEST_MAIN(WindowTextsTest)
+#include "tst_windowtexts.moc"
