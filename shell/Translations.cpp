@@ -49,14 +49,18 @@ void installTranslations(QCoreApplication& app)
 
 QString wantedTranslation(QStringList const& languages, QStringList const& available)
 {
-    for (QString name : languages) {
-        name.replace(QLatin1Char('-'), QLatin1Char('_'));
-        if (available.contains(name)) {
-            return name;
+    for (QString const& language : languages) {
+        QStringList parts = language.split(QLatin1Char('-'));
+        bool const isEnglish = parts.first() == QLatin1String("en") || parts.first() == QLatin1String("C");
+        // A language without the script and country that it was asked for in is better than another one.
+        for (; !parts.isEmpty(); parts.removeLast()) {
+            QString const name = parts.join(QLatin1Char('_'));
+            if (available.contains(name)) {
+                return name;
+            }
         }
-        QString const language = name.section(QLatin1Char('_'), 0, 0);
-        if (language == QLatin1String("en") || language == QLatin1String("C")) {
-            return QString();
+        if (isEnglish) {
+            break;
         }
     }
     return QString();

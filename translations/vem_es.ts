@@ -468,6 +468,110 @@ No aplica las acciones automáticamente.</translation>
         <source>%1 %2 Change Log</source>
         <translation>Registro de cambios de %1 %2</translation>
     </message>
+    <message>
+        <source>Required Groups</source>
+        <translation>Grupos requeridos</translation>
+    </message>
+    <message>
+        <source>Default MetaPkgs</source>
+        <translation>Metapaquetes predeterminados</translation>
+    </message>
+    <message>
+        <source>Optional MetaPkgs</source>
+        <translation>Metapaquetes opcionales</translation>
+    </message>
+    <message>
+        <source>Mandatory Packages</source>
+        <translation>Paquetes obligatorios</translation>
+    </message>
+    <message>
+        <source>Default Packages</source>
+        <translation>Paquetes predeterminados</translation>
+    </message>
+    <message>
+        <source>Optional Packages</source>
+        <translation>Paquetes opcionales</translation>
+    </message>
+    <message>
+        <source>Conditional Packages</source>
+        <translation>Paquetes condicionales</translation>
+    </message>
+    <message>
+        <source>Architecture</source>
+        <translation>Arquitectura</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Tamaño</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Resumen</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Descripción</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Grupo</translation>
+    </message>
+    <message>
+        <source>Vendor</source>
+        <translation>Proveedor</translation>
+    </message>
+    <message>
+        <source>Build Time</source>
+        <translation>Fecha de compilación</translation>
+    </message>
+    <message>
+        <source>Build Host</source>
+        <translation>Equipo de compilación</translation>
+    </message>
+    <message>
+        <source>Install Time</source>
+        <translation>Fecha de instalación</translation>
+    </message>
+    <message>
+        <source>Binary RPM</source>
+        <translation>RPM binario</translation>
+    </message>
+    <message>
+        <source>Source RPM</source>
+        <translation>RPM fuente</translation>
+    </message>
+    <message>
+        <source>License</source>
+        <translation>Licencia</translation>
+    </message>
+    <message>
+        <source>Packager</source>
+        <translation>Empaquetador</translation>
+    </message>
+    <message>
+        <source>URL</source>
+        <translation>URL</translation>
+    </message>
+    <message>
+        <source>Relocations</source>
+        <translation>Reubicaciones</translation>
+    </message>
+    <message>
+        <source>Provides</source>
+        <translation>Proporciona</translation>
+    </message>
+    <message>
+        <source>Requires</source>
+        <translation>Requiere</translation>
+    </message>
+    <message>
+        <source>Conflicts</source>
+        <translation>Conflictos</translation>
+    </message>
+    <message>
+        <source>Obsoletes</source>
+        <translation>Deja obsoleto</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::Describe::Instance::RepoDialog</name>

@@ -468,6 +468,110 @@ Does not Apply Actions automatically.</source>
         <source>%1 %2 Change Log</source>
         <translation>%1 %2 の変更履歴</translation>
     </message>
+    <message>
+        <source>Required Groups</source>
+        <translation>必須グループ</translation>
+    </message>
+    <message>
+        <source>Default MetaPkgs</source>
+        <translation>デフォルトのメタパッケージ</translation>
+    </message>
+    <message>
+        <source>Optional MetaPkgs</source>
+        <translation>オプションのメタパッケージ</translation>
+    </message>
+    <message>
+        <source>Mandatory Packages</source>
+        <translation>必須パッケージ</translation>
+    </message>
+    <message>
+        <source>Default Packages</source>
+        <translation>デフォルトのパッケージ</translation>
+    </message>
+    <message>
+        <source>Optional Packages</source>
+        <translation>オプションのパッケージ</translation>
+    </message>
+    <message>
+        <source>Conditional Packages</source>
+        <translation>条件付きパッケージ</translation>
+    </message>
+    <message>
+        <source>Architecture</source>
+        <translation>アーキテクチャ</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>サイズ</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>概要</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>説明</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>グループ</translation>
+    </message>
+    <message>
+        <source>Vendor</source>
+        <translation>ベンダー</translation>
+    </message>
+    <message>
+        <source>Build Time</source>
+        <translation>ビルド日時</translation>
+    </message>
+    <message>
+        <source>Build Host</source>
+        <translation>ビルドホスト</translation>
+    </message>
+    <message>
+        <source>Install Time</source>
+        <translation>インストール日時</translation>
+    </message>
+    <message>
+        <source>Binary RPM</source>
+        <translation>バイナリ RPM</translation>
+    </message>
+    <message>
+        <source>Source RPM</source>
+        <translation>ソース RPM</translation>
+    </message>
+    <message>
+        <source>License</source>
+        <translation>ライセンス</translation>
+    </message>
+    <message>
+        <source>Packager</source>
+        <translation>パッケージ作成者</translation>
+    </message>
+    <message>
+        <source>URL</source>
+        <translation>URL</translation>
+    </message>
+    <message>
+        <source>Relocations</source>
+        <translation>再配置</translation>
+    </message>
+    <message>
+        <source>Provides</source>
+        <translation>提供</translation>
+    </message>
+    <message>
+        <source>Requires</source>
+        <translation>要求</translation>
+    </message>
+    <message>
+        <source>Conflicts</source>
+        <translation>競合</translation>
+    </message>
+    <message>
+        <source>Obsoletes</source>
+        <translation>廃止</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::Describe::Instance::RepoDialog</name>

@@ -468,6 +468,110 @@ Does not Apply Actions automatically.</source>
         <source>%1 %2 Change Log</source>
         <translation>%1 %2 变更日志</translation>
     </message>
+    <message>
+        <source>Required Groups</source>
+        <translation>必需的软件包组</translation>
+    </message>
+    <message>
+        <source>Default MetaPkgs</source>
+        <translation>默认元软件包</translation>
+    </message>
+    <message>
+        <source>Optional MetaPkgs</source>
+        <translation>可选元软件包</translation>
+    </message>
+    <message>
+        <source>Mandatory Packages</source>
+        <translation>必需软件包</translation>
+    </message>
+    <message>
+        <source>Default Packages</source>
+        <translation>默认软件包</translation>
+    </message>
+    <message>
+        <source>Optional Packages</source>
+        <translation>可选软件包</translation>
+    </message>
+    <message>
+        <source>Conditional Packages</source>
+        <translation>条件软件包</translation>
+    </message>
+    <message>
+        <source>Architecture</source>
+        <translation>架构</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>概要</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>描述</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>软件包组</translation>
+    </message>
+    <message>
+        <source>Vendor</source>
+        <translation>供应商</translation>
+    </message>
+    <message>
+        <source>Build Time</source>
+        <translation>构建时间</translation>
+    </message>
+    <message>
+        <source>Build Host</source>
+        <translation>构建主机</translation>
+    </message>
+    <message>
+        <source>Install Time</source>
+        <translation>安装时间</translation>
+    </message>
+    <message>
+        <source>Binary RPM</source>
+        <translation>二进制 RPM</translation>
+    </message>
+    <message>
+        <source>Source RPM</source>
+        <translation>源码 RPM</translation>
+    </message>
+    <message>
+        <source>License</source>
+        <translation>许可证</translation>
+    </message>
+    <message>
+        <source>Packager</source>
+        <translation>打包者</translation>
+    </message>
+    <message>
+        <source>URL</source>
+        <translation>URL</translation>
+    </message>
+    <message>
+        <source>Relocations</source>
+        <translation>可重定位路径</translation>
+    </message>
+    <message>
+        <source>Provides</source>
+        <translation>提供</translation>
+    </message>
+    <message>
+        <source>Requires</source>
+        <translation>依赖</translation>
+    </message>
+    <message>
+        <source>Conflicts</source>
+        <translation>冲突</translation>
+    </message>
+    <message>
+        <source>Obsoletes</source>
+        <translation>废弃</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::Describe::Instance::RepoDialog</name>

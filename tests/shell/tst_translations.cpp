@@ -19,6 +19,8 @@ private Q_SLOTS:
         QTest::newRow("its own") << QStringList{"de-DE", "de"} << "de";
         QTest::newRow("a region's") << QStringList{"zh-Hans-CN", "zh-CN", "zh"} << "zh_CN";
         QTest::newRow("not another region's") << QStringList{"zh-Hant-TW", "zh-TW", "zh"} << "";
+        QTest::newRow("without the country") << QStringList{"es-MX"} << "es";
+        QTest::newRow("without script and country") << QStringList{"de-Latn-DE"} << "de";
         QTest::newRow("the second wish") << QStringList{"pt-BR", "pt", "es-ES", "es"} << "es";
         QTest::newRow("English first") << QStringList{"en-GB", "en", "de"} << "";
         QTest::newRow("English second") << QStringList{"pt-BR", "pt", "en-US", "en", "de"} << "";
@@ -54,7 +56,7 @@ private Q_SLOTS:
                                   << "詳細(&D)"
                                   << "キャンセル";
         QTest::newRow("Simplified Chinese") << "zh_CN"
-                                            << "描述(&D)"
+                                            << "详细信息(&D)"
                                             << "取消";
         QTest::newRow("no file") << "pt_BR"
                                  << "&Describe"
