@@ -5,92 +5,92 @@
     <name>Colors</name>
     <message>
         <source>#fffacd</source>
-        <translation type="unfinished"></translation>
+        <translation>#fffacd</translation>
     </message>
     <message>
         <source>blue</source>
-        <translation type="unfinished"></translation>
+        <translation>blue</translation>
     </message>
     <message>
         <source>red</source>
-        <translation type="unfinished"></translation>
+        <translation>red</translation>
     </message>
     <message>
         <source>#ffa9b8</source>
-        <translation type="unfinished"></translation>
+        <translation>#ffa9b8</translation>
     </message>
     <message>
         <source>darkorange</source>
-        <translation type="unfinished"></translation>
+        <translation>darkorange</translation>
     </message>
     <message>
         <source>#8b5a2b</source>
-        <translation type="unfinished"></translation>
+        <translation>#8b5a2b</translation>
     </message>
     <message>
         <source>#ffbd94</source>
-        <translation type="unfinished"></translation>
+        <translation>#ffbd94</translation>
     </message>
     <message>
         <source>green</source>
-        <translation type="unfinished"></translation>
+        <translation>green</translation>
     </message>
 </context>
 <context>
     <name>Execute</name>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Aide</translation>
     </message>
     <message>
         <source>fork() failed; errno = %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de fork()&#xa0;; errno = %1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>Fonts</name>
     <message>
         <source>Helvetica</source>
-        <translation type="unfinished"></translation>
+        <translation>Helvetica</translation>
     </message>
     <message>
         <source>Courier</source>
-        <translation type="unfinished"></translation>
+        <translation>Courier</translation>
     </message>
 </context>
 <context>
     <name>Log::Window</name>
     <message>
         <source>&lt;font color=&quot;%1&quot;&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;font color=&quot;%1&quot;&gt;</translation>
     </message>
     <message>
         <source>&lt;/font&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;/font&gt;</translation>
     </message>
     <message>
         <source>&lt;font&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;font&gt;</translation>
     </message>
     <message>
         <source>&lt;h2&gt;&lt;font color=&quot;%1&quot;&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h2&gt;&lt;font color=&quot;%1&quot;&gt;</translation>
     </message>
     <message>
         <source>&lt;/font&gt;&lt;/h2&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;/font&gt;&lt;/h2&gt;</translation>
     </message>
     <message>
         <source>VEM Log</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM - Journal</translation>
     </message>
     <message>
         <source>Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Journal</translation>
     </message>
     <message>
         <source>Detail level</source>
-        <translation type="unfinished"></translation>
+        <translation>Niveau de détail</translation>
     </message>
     <message>
         <source>Threshold beyond which more detailed log messages are omitted.
@@ -99,1585 +99,1631 @@ The valid range is 0 .. %1.
 The default is %2.
 Higher levels contain debug information.
 This corresponds to yum&apos;s debuglevel (-d) option.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seuil au-delà duquel les messages plus détaillés du journal sont omis.
+Plus le niveau est élevé, plus le journal est détaillé.
+L’intervalle autorisé est 0 .. %1.
+La valeur par défaut est %2.
+Les niveaux élevés contiennent des informations de débogage.
+Correspond à l’option debuglevel (-d) de yum.</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fermer</translation>
     </message>
     <message>
         <source>Close the Log Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer la fenêtre du journal</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>Clean RPM package headers cached locally in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nettoyer les en-têtes de paquets RPM du cache local dans %1</translation>
     </message>
     <message>
         <source>Clean RPM packages cached locally in %1
 (useful for recovering disk space)</source>
-        <translation type="unfinished"></translation>
+        <translation>Nettoyer les paquets RPM du cache local dans %1
+(utile pour récupérer de l’espace disque)</translation>
     </message>
     <message>
         <source>Clean XML metadata cached locally in %1
 (useful along with Clean Pickled Data for
  forcing download of new available package lists)</source>
-        <translation type="unfinished"></translation>
+        <translation>Nettoyer les métadonnées XML du cache local dans %1
+(utile avec «&#xa0;Nettoyer les données sérialisées&#xa0;» pour
+ forcer le téléchargement des nouvelles listes de paquets disponibles)</translation>
     </message>
     <message>
         <source>Clean pickled data cached locally in %1
 (useful along with Clean XML Metadata for
  forcing download of new available package lists)</source>
-        <translation type="unfinished"></translation>
+        <translation>Nettoyer les données sérialisées (pickle) du cache local dans %1
+(utile avec «&#xa0;Nettoyer les métadonnées XML&#xa0;» pour
+ forcer le téléchargement des nouvelles listes de paquets disponibles)</translation>
     </message>
     <message>
         <source>Clean all data cached locally in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nettoyer toutes les données du cache local dans %1</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos</translation>
     </message>
     <message>
         <source>&lt;h3&gt;VEM %1&lt;/h3&gt;&lt;hr&gt;&lt;p&gt;VEM, Verified Estate Manager, is a graphical user interface which allows a user to make modifications to the installed rpm packages on a system.&lt;/p&gt;&lt;p&gt;Capabilities:&lt;p&gt;&lt;ul&gt;&lt;li&gt;Install new packages or update existing packages by downloading them from a yum package repository&lt;/li&gt;&lt;li&gt;Remove existing packages.&lt;/li&gt;&lt;li&gt;Configure sets of repositories from which to obtain new and updated packages.&lt;/li&gt;&lt;li&gt;Examine installed packages or packages available for installation or update&lt;/li&gt;&lt;li&gt;Install, update, or remove groups of packages&lt;/li&gt;&lt;li&gt;Install or update suites of packages&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;Web page: &lt;a href=&quot;https://vem.example.org/&quot;&gt;https://vem.example.org/&lt;/a&gt;&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h3&gt;VEM %1&lt;/h3&gt;&lt;hr&gt;&lt;p&gt;VEM, Verified Estate Manager, est une interface graphique qui permet de modifier les paquets rpm installés sur un système.&lt;/p&gt;&lt;p&gt;Fonctionnalités&#xa0;:&lt;p&gt;&lt;ul&gt;&lt;li&gt;Installer de nouveaux paquets ou mettre à jour les paquets existants en les téléchargeant depuis un dépôt de paquets yum&lt;/li&gt;&lt;li&gt;Supprimer des paquets existants&lt;/li&gt;&lt;li&gt;Configurer les dépôts qui fournissent les nouveaux paquets et les mises à jour&lt;/li&gt;&lt;li&gt;Examiner les paquets installés ou ceux qui peuvent être installés ou mis à jour&lt;/li&gt;&lt;li&gt;Installer, mettre à jour ou supprimer des groupes de paquets&lt;/li&gt;&lt;li&gt;Installer ou mettre à jour des suites de paquets&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;Page web&#xa0;: &lt;a href=&quot;https://vem.example.org/&quot;&gt;https://vem.example.org/&lt;/a&gt;&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtrer</translation>
     </message>
     <message>
         <source>Regular expression to compare to all fields of a package</source>
-        <translation type="unfinished"></translation>
+        <translation>Expression rationnelle à comparer à tous les champs de chaque paquet</translation>
     </message>
     <message>
         <source>Regular expression filter matching textual fields visible in the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Expression rationnelle qui filtre d’après les champs de texte visibles dans le tableau</translation>
     </message>
     <message>
         <source>Perform the search for the regular expression specified to the left</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher l’expression rationnelle indiquée à gauche</translation>
     </message>
     <message>
         <source>Apply the filter specified to the left</source>
-        <translation type="unfinished"></translation>
+        <translation>Appliquer le filtre indiqué à gauche</translation>
     </message>
     <message>
         <source>Specify the method for using a regular expression to select packages in the table:
 	Filter uses the textual fields visible in the table, as if they were separated by spaces.
 	Search uses all fields in packages, including list of Files, Change Log, Requires, etc.,
 	independently.  It is considerably slower.</source>
-        <translation type="unfinished"></translation>
+        <translation>Méthode par laquelle une expression rationnelle sélectionne les paquets du tableau&#xa0;:
+	Filtrer utilise les champs de texte visibles dans le tableau, comme s’ils étaient séparés par des espaces.
+	Rechercher utilise tous les champs des paquets, y compris la liste des fichiers, le journal des
+	modifications, les dépendances, etc., chacun séparément. C’est nettement plus lent.</translation>
     </message>
     <message>
         <source>%1 (Must load extra data.)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (Des données supplémentaires doivent être chargées.)</translation>
     </message>
     <message>
         <source>VEM - %1</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM - %1</translation>
     </message>
     <message>
         <source>&amp;Program</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Programme</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitter</translation>
     </message>
     <message>
         <source>Ctrl+Q</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Q</translation>
     </message>
     <message>
         <source>&amp;Windows</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fenêtres</translation>
     </message>
     <message>
         <source>&amp;Log</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Journal</translation>
     </message>
     <message>
         <source>Ctrl+L</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+L</translation>
     </message>
     <message>
         <source>&amp;Repositories</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dépôts</translation>
     </message>
     <message>
         <source>&amp;Edit Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Modifier la configuration</translation>
     </message>
     <message>
         <source>Ctrl+E</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+E</translation>
     </message>
     <message>
         <source>&amp;Cache</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cache</translation>
     </message>
     <message>
         <source>Clean Headers</source>
-        <translation type="unfinished"></translation>
+        <translation>Nettoyer les en-têtes</translation>
     </message>
     <message>
         <source>Clean Packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Nettoyer les paquets</translation>
     </message>
     <message>
         <source>Clean XML Metadata</source>
-        <translation type="unfinished"></translation>
+        <translation>Nettoyer les métadonnées XML</translation>
     </message>
     <message>
         <source>Clean Pickled Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Nettoyer les données sérialisées</translation>
     </message>
     <message>
         <source>Clean All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout nettoyer</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Aid&amp;e</translation>
     </message>
     <message>
         <source>Manual (html)</source>
-        <translation type="unfinished"></translation>
+        <translation>Manuel (html)</translation>
     </message>
     <message>
         <source>F1</source>
-        <translation type="unfinished"></translation>
+        <translation>F1</translation>
     </message>
     <message>
         <source>Manual (PDF)</source>
-        <translation type="unfinished"></translation>
+        <translation>Manuel (PDF)</translation>
     </message>
     <message>
         <source>&amp;About</source>
-        <translation type="unfinished"></translation>
+        <translation>À &amp;propos</translation>
     </message>
     <message>
         <source>Filter or Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtrer ou rechercher</translation>
     </message>
     <message>
         <source>Regular expression</source>
-        <translation type="unfinished"></translation>
+        <translation>Expression rationnelle</translation>
     </message>
     <message>
         <source>View Updatable</source>
-        <translation type="unfinished"></translation>
+        <translation>Voir les mises à jour</translation>
     </message>
     <message>
         <source>View Installable</source>
-        <translation type="unfinished"></translation>
+        <translation>Voir les installables</translation>
     </message>
     <message>
         <source>View Removable</source>
-        <translation type="unfinished"></translation>
+        <translation>Voir les supprimables</translation>
     </message>
     <message>
         <source>View All</source>
-        <translation type="unfinished"></translation>
+        <translation>Voir tout</translation>
     </message>
     <message>
         <source>Filter for those packages which are eligible for updating,
 for installing, or for removing; or show all packages</source>
-        <translation type="unfinished"></translation>
+        <translation>N’afficher que les paquets qui peuvent être mis à jour,
+installés ou supprimés, ou afficher tous les paquets</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>Affichage</translation>
     </message>
     <message>
         <source>Include Groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Inclure les groupes</translation>
     </message>
     <message>
         <source>Whether or not filter should include package groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique si le filtre doit inclure les groupes de paquets</translation>
     </message>
     <message>
         <source>&amp;Describe</source>
-        <translation type="unfinished"></translation>
+        <translation>Déc&amp;rire</translation>
     </message>
     <message>
         <source>Pop up a window with a detailed description of the currently selected package</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir une fenêtre avec la description détaillée du paquet sélectionné</translation>
     </message>
     <message>
         <source>Re&amp;size</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;juster</translation>
     </message>
     <message>
         <source>Resize the columns and window to optimal values</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajuster les colonnes et la fenêtre à leur taille optimale</translation>
     </message>
     <message>
         <source>Re&amp;fresh</source>
-        <translation type="unfinished"></translation>
+        <translation>Actua&amp;liser</translation>
     </message>
     <message>
         <source>Refresh the list of installed packages and packages available for update.
 Use this to check for new updates in repositories, or if any packages were installed manually.</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualiser la liste des paquets installés et des paquets disponibles pour la mise à jour.
+À utiliser pour rechercher de nouvelles mises à jour dans les dépôts ou si des paquets ont été installés manuellement.</translation>
     </message>
     <message>
         <source>Set &amp;Install/Update of Selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Marquer la &amp;sélection (installer/MàJ)</translation>
     </message>
     <message>
         <source>Sets the Action for all selected packages which are Not Installed to Install, and
 sets the Action for all selected packages which are Installed but Out-of-date to Update.
 Does not Apply Actions automatically.</source>
-        <translation type="unfinished"></translation>
+        <translation>Affecte l’action «&#xa0;Installer&#xa0;» à tous les paquets sélectionnés qui ne sont pas installés
+et l’action «&#xa0;Mettre à jour&#xa0;» à tous ceux qui sont installés mais périmés.
+N’applique pas automatiquement les actions.</translation>
     </message>
     <message>
         <source>Set &amp;Update of All Out-of-Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Marquer toutes les &amp;mises à jour</translation>
     </message>
     <message>
         <source>Sets the Action for all packages which are Installed but Out-of-date to Update.
 Does not Apply Actions automatically.</source>
-        <translation type="unfinished"></translation>
+        <translation>Affecte l’action «&#xa0;Mettre à jour&#xa0;» à tous les paquets installés mais périmés.
+N’applique pas automatiquement les actions.</translation>
     </message>
     <message>
         <source>&amp;Clear Actions</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer les acti&amp;ons</translation>
     </message>
     <message>
         <source>Clears all specified Actions (Updates, Installs, and Removals)</source>
-        <translation type="unfinished"></translation>
+        <translation>Efface toutes les actions indiquées (mises à jour, installations et suppressions)</translation>
     </message>
     <message>
         <source>&amp;Apply Actions</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Appliquer les actions</translation>
     </message>
     <message>
         <source>Applies the specified Actions (Updates, Installs, and Removals)</source>
-        <translation type="unfinished"></translation>
+        <translation>Applique les actions indiquées (mises à jour, installations et suppressions)</translation>
     </message>
     <message>
         <source>Item Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Progression de l’élément</translation>
     </message>
     <message>
         <source>Total Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Progression totale</translation>
     </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>
     <message>
         <source>&amp;Update</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mettre à jour</translation>
     </message>
     <message>
         <source>&amp;Install</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Installer</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Supprimer</translation>
     </message>
     <message>
         <source>&amp;No Action</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aucune action</translation>
     </message>
 </context>
 <context>
     <name>PackageTable::Describe::Dialog</name>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>VEM Package Description</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM - Description du paquet</translation>
     </message>
 </context>
 <context>
     <name>PackageTable::Describe::Instance::Area</name>
     <message>
         <source>Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Type</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Version</translation>
     </message>
     <message>
         <source>Repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Dépôt</translation>
     </message>
     <message>
         <source>Details</source>
-        <translation type="unfinished"></translation>
+        <translation>Détails</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher</translation>
     </message>
     <message>
         <source>Change Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Journal des modifications</translation>
     </message>
     <message>
         <source>%1:</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;:</translation>
     </message>
     <message>
         <source>%1 (must load extra data)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (données supplémentaires à charger)</translation>
     </message>
     <message>
         <source>%1 %2 File List</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste des fichiers de %1 %2</translation>
     </message>
     <message>
         <source>%1 %2 Change Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Journal des modifications de %1 %2</translation>
     </message>
 </context>
 <context>
     <name>PackageTable::Describe::Instance::RepoDialog</name>
     <message>
         <source>VEM Repository Description</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM - Description du dépôt</translation>
     </message>
     <message>
         <source>Browse Repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Parcourir le dépôt</translation>
     </message>
     <message>
         <source>Browse the first URL specified for the selected repository using an external web browser</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir dans un navigateur web externe la première URL indiquée pour le dépôt sélectionné</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom</translation>
     </message>
     <message>
         <source>URLs</source>
-        <translation type="unfinished"></translation>
+        <translation>URL</translation>
     </message>
     <message>
         <source>Mirror list URL</source>
-        <translation type="unfinished"></translation>
+        <translation>URL de la liste de miroirs</translation>
     </message>
     <message>
         <source>%1:</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;:</translation>
     </message>
 </context>
 <context>
     <name>PackageTable::Model</name>
     <message>
         <source>Action</source>
-        <translation type="unfinished"></translation>
+        <translation>Action</translation>
     </message>
     <message>
         <source>Action to be performed on the package, if any: Update, Install, Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Action à effectuer sur le paquet, le cas échéant&#xa0;: mettre à jour, installer, supprimer</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>État</translation>
     </message>
     <message>
         <source>Indicates whether the package is Installed or not and, if installed, whether it is Up-to-date or not</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique si le paquet est installé ou non et, s’il l’est, s’il est à jour ou non</translation>
     </message>
     <message>
         <source>Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Type</translation>
     </message>
     <message>
         <source>Whether the package is an ordinary package, a suite of packages, or a group of packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique s’il s’agit d’un paquet ordinaire, d’une suite de paquets ou d’un groupe de paquets</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom</translation>
     </message>
     <message>
         <source>Name of the package</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom du paquet</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Version</translation>
     </message>
     <message>
         <source>Version and release of the package as version-release;
 If the Epoch is non-zero, includes it as epoch:version-release</source>
-        <translation type="unfinished"></translation>
+        <translation>Version et publication du paquet sous la forme version-publication&#xa0;;
+si l’époque n’est pas nulle, sous la forme époque:version-publication</translation>
     </message>
     <message>
         <source>Repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Dépôt</translation>
     </message>
     <message>
         <source>Repository from which the most recent version of the package is available</source>
-        <translation type="unfinished"></translation>
+        <translation>Dépôt où la version la plus récente du paquet est disponible</translation>
     </message>
     <message>
         <source>Architecture</source>
-        <translation type="unfinished"></translation>
+        <translation>Architecture</translation>
     </message>
     <message>
         <source>Architecture for which the package is applicable, or &quot;noarch&quot; for general-purpose packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Architecture à laquelle le paquet est destiné, ou «&#xa0;noarch&#xa0;» s’il convient à toutes</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille</translation>
     </message>
     <message>
         <source>Size of the package</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille du paquet</translation>
     </message>
     <message>
         <source>Build Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Date de compilation</translation>
     </message>
     <message>
         <source>Date and time at which the package was created</source>
-        <translation type="unfinished"></translation>
+        <translation>Date et heure de création du paquet</translation>
     </message>
     <message>
         <source>Update package</source>
-        <translation type="unfinished"></translation>
+        <translation>Mettre à jour le paquet</translation>
     </message>
     <message>
         <source>Install package</source>
-        <translation type="unfinished"></translation>
+        <translation>Installer le paquet</translation>
     </message>
     <message>
         <source>Remove package</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer le paquet</translation>
     </message>
     <message>
         <source>Package is available to update an out-of-date version</source>
-        <translation type="unfinished"></translation>
+        <translation>Le paquet est disponible pour mettre à jour une version périmée</translation>
     </message>
     <message>
         <source>Package is available for installation</source>
-        <translation type="unfinished"></translation>
+        <translation>Le paquet est disponible pour l’installation</translation>
     </message>
     <message>
         <source>Package is installed and up-to-date</source>
-        <translation type="unfinished"></translation>
+        <translation>Le paquet est installé et à jour</translation>
     </message>
     <message>
         <source>Suite of packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Suite de paquets</translation>
     </message>
     <message>
         <source>Group of packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Groupe de paquets</translation>
     </message>
     <message>
         <source>Ordinary package</source>
-        <translation type="unfinished"></translation>
+        <translation>Paquet ordinaire</translation>
     </message>
     <message>
         <source>Available: %1
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Disponible&#xa0;: %1
+</translation>
     </message>
     <message>
         <source>Installed: %1
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Installé&#xa0;: %1
+</translation>
     </message>
 </context>
 <context>
     <name>PackageTable::OtherContextMenu</name>
     <message>
         <source>&amp;Describe</source>
-        <translation type="unfinished"></translation>
+        <translation>Déc&amp;rire</translation>
     </message>
     <message>
         <source>Browse Repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Parcourir le dépôt</translation>
     </message>
 </context>
 <context>
     <name>PackageTable::View</name>
     <message>
         <source>Packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Paquets</translation>
     </message>
 </context>
 <context>
     <name>QProgressBar</name>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>RepoAuth::Dialog</name>
     <message>
         <source>VEM Authentication</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM - Authentification</translation>
     </message>
     <message>
         <source>Some configured repositories require authentication</source>
-        <translation type="unfinished"></translation>
+        <translation>Certains dépôts configurés nécessitent une authentification</translation>
     </message>
     <message>
         <source>Identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>Identifiant</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom</translation>
     </message>
     <message>
         <source>URLs</source>
-        <translation type="unfinished"></translation>
+        <translation>URL</translation>
     </message>
     <message>
         <source>Mirror list URL</source>
-        <translation type="unfinished"></translation>
+        <translation>URL de la liste de miroirs</translation>
     </message>
     <message>
         <source>Authentication name for a repository using the buffet authentication method</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom d’authentification pour un dépôt qui utilise la méthode d’authentification Buffet</translation>
     </message>
     <message>
         <source>Authentication password for a repository using the buffet authentication method</source>
-        <translation type="unfinished"></translation>
+        <translation>Mot de passe d’authentification pour un dépôt qui utilise la méthode d’authentification Buffet</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Mot de passe</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter</translation>
     </message>
     <message>
         <source>Disable for Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Désactiver pour la session</translation>
     </message>
     <message>
         <source>Skip All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout ignorer</translation>
     </message>
     <message>
         <source>Apply to All</source>
-        <translation type="unfinished"></translation>
+        <translation>Appliquer à tous</translation>
     </message>
     <message>
         <source>Apply to All with this Host</source>
-        <translation type="unfinished"></translation>
+        <translation>Appliquer à tous ceux de cet hôte</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
     <name>RepoBrowse</name>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur</translation>
     </message>
     <message>
         <source>Repository configuration has no URL</source>
-        <translation type="unfinished"></translation>
+        <translation>La configuration du dépôt ne contient aucune URL</translation>
     </message>
 </context>
 <context>
     <name>RepoEditor::Config</name>
     <message>
         <source>%1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2</translation>
     </message>
     <message>
         <source>Default</source>
-        <translation type="unfinished"></translation>
+        <translation>Par défaut</translation>
     </message>
     <message>
         <source>(Yes)</source>
-        <translation type="unfinished"></translation>
+        <translation>(Oui)</translation>
     </message>
     <message>
         <source>(No)</source>
-        <translation type="unfinished"></translation>
+        <translation>(Non)</translation>
     </message>
     <message>
         <source>No Identifier specified</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun identifiant indiqué</translation>
     </message>
     <message>
         <source>No URLs or Mirror list URL specified</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune URL ni URL de liste de miroirs indiquée</translation>
     </message>
     <message>
         <source>File is not in any reposdir directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier n’est dans aucun répertoire de reposdir</translation>
     </message>
     <message>
         <source>File lacks .repo suffix</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier n’a pas le suffixe .repo</translation>
     </message>
     <message>
         <source>No Buffet Authentication Name specified</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun nom d’authentification Buffet indiqué</translation>
     </message>
     <message>
         <source>No Buffet Authentication Password specified</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun mot de passe d’authentification Buffet indiqué</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Mot de passe</translation>
     </message>
     <message>
         <source>Identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>Identifiant</translation>
     </message>
     <message>
         <source>Unique identifier for the repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Identifiant unique du dépôt</translation>
     </message>
     <message>
         <source>Description of the repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Description du dépôt</translation>
     </message>
     <message>
         <source>URLs</source>
-        <translation type="unfinished"></translation>
+        <translation>URL</translation>
     </message>
     <message>
         <source>List of URLs to the repository.
 If more than one is specified, they all should be identical mirrors,
 and will provide redundancy if some URLs are unreachable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste des URL du dépôt.
+Si plusieurs sont indiquées, elles doivent toutes être des miroirs identiques&#xa0;;
+elles assurent la redondance si certaines sont inaccessibles.</translation>
     </message>
     <message>
         <source>Mirror list URL</source>
-        <translation type="unfinished"></translation>
+        <translation>URL de la liste de miroirs</translation>
     </message>
     <message>
         <source>URL to a file containing a list of URLs to the repository.</source>
-        <translation type="unfinished"></translation>
+        <translation>URL d’un fichier contenant une liste d’URL du dépôt.</translation>
     </message>
     <message>
         <source>Buffet Authentication</source>
-        <translation type="unfinished"></translation>
+        <translation>Authentification Buffet</translation>
     </message>
     <message>
         <source>Authentication name for a repository using the buffet authentication method</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom d’authentification pour un dépôt qui utilise la méthode d’authentification Buffet</translation>
     </message>
     <message>
         <source>Authentication password for a repository using the buffet authentication method</source>
-        <translation type="unfinished"></translation>
+        <translation>Mot de passe d’authentification pour un dépôt qui utilise la méthode d’authentification Buffet</translation>
     </message>
     <message>
         <source>Repository Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Options du dépôt</translation>
     </message>
     <message>
         <source>Any other yum options for this repository.  See yum.conf(5)</source>
-        <translation type="unfinished"></translation>
+        <translation>Toute autre option de yum pour ce dépôt. Voir yum.conf(5)</translation>
     </message>
     <message>
         <source>Other Options:</source>
-        <translation type="unfinished"></translation>
+        <translation>Autres options&#xa0;:</translation>
     </message>
     <message>
         <source>Whether or not the repository is enabled for use</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique si le dépôt est activé et peut être utilisé</translation>
     </message>
     <message>
         <source>Whether or not GPG key signatures of packages from the repository are checked to ensure authenticity</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique si les signatures GPG des paquets du dépôt sont vérifiées pour garantir leur authenticité</translation>
     </message>
     <message>
         <source>Enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Activé</translation>
     </message>
     <message>
         <source>Check GPG Keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérifier les clés GPG</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>Non</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Oui</translation>
     </message>
     <message>
         <source>Configuration File (expert)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier de configuration (expert)</translation>
     </message>
     <message>
         <source>Name of the yum configuration file into which to place this repository configuration.
 If left blank, defaults to the repository&apos;s identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom du fichier de configuration de yum où enregistrer la configuration de ce dépôt.
+Si ce champ est vide, l’identifiant du dépôt est utilisé</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier</translation>
     </message>
     <message>
         <source>A numeric sort key which determines the order of this repository configuration
 in a configuration file which contains multiple configurations</source>
-        <translation type="unfinished"></translation>
+        <translation>Clé de tri numérique qui détermine la place de la configuration de ce dépôt
+dans un fichier de configuration qui en contient plusieurs</translation>
     </message>
     <message>
         <source>Sort Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Position de tri</translation>
     </message>
 </context>
 <context>
     <name>RepoEditor::ConfigDialog</name>
     <message>
         <source>VEM Repository Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM - Configuration du dépôt</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>Réinitialiser</translation>
     </message>
     <message>
         <source>Undo changes to this repository configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler les modifications de la configuration de ce dépôt</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Undo changes to this repository configuration and close the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler les modifications de la configuration de ce dépôt et fermer la fenêtre</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Apply changes to all repository configurations, and close the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Appliquer les modifications de toutes les configurations de dépôts et fermer la fenêtre</translation>
     </message>
 </context>
 <context>
     <name>RepoEditor::ContextMenu</name>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier</translation>
     </message>
     <message>
         <source>Browse Repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Parcourir le dépôt</translation>
     </message>
 </context>
 <context>
     <name>RepoEditor::Dialog</name>
     <message>
         <source>VEM Repository Configuration Editor</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM - Éditeur de configuration des dépôts</translation>
     </message>
     <message>
         <source>Browse Repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Parcourir le dépôt</translation>
     </message>
     <message>
         <source>Browse the first URL specified for the selected repository using an external web browser</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir dans un navigateur web externe la première URL indiquée pour le dépôt sélectionné</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier</translation>
     </message>
     <message>
         <source>Edit the selected repository configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier la configuration du dépôt sélectionné</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter</translation>
     </message>
     <message>
         <source>Create a new repository configuration from scratch</source>
-        <translation type="unfinished"></translation>
+        <translation>Créer de toutes pièces une configuration de dépôt</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier</translation>
     </message>
     <message>
         <source>Create a new repository configuration based on the selected repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Créer une configuration de dépôt à partir du dépôt sélectionné</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer</translation>
     </message>
     <message>
         <source>Remove the selected repository configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer la configuration du dépôt sélectionné</translation>
     </message>
     <message>
         <source>Reset All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout réinitialiser</translation>
     </message>
     <message>
         <source>Undo changes to all repository configurations since the last Apply or opening of the dialog</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler les modifications de toutes les configurations de dépôts depuis la dernière application ou l’ouverture de la boîte de dialogue</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Undo changes to all repository configurations since the last Apply or opening of the dialog, and close the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler les modifications de toutes les configurations de dépôts depuis la dernière application ou l’ouverture de la boîte de dialogue, et fermer la fenêtre</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Appliquer</translation>
     </message>
     <message>
         <source>Apply changes to all repository configurations, but do not close the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Appliquer les modifications de toutes les configurations de dépôts sans fermer la fenêtre</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Apply changes to all repository configurations, and close the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Appliquer les modifications de toutes les configurations de dépôts et fermer la fenêtre</translation>
     </message>
     <message>
         <source>A repository has no Identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>Un dépôt n’a pas d’identifiant</translation>
     </message>
     <message>
         <source>Two or more repositories have the Identifier, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Plusieurs dépôts ont l’identifiant %1</translation>
     </message>
     <message>
         <source>Unapplied Configuration Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifications de configuration non appliquées</translation>
     </message>
 </context>
 <context>
     <name>RepoEditor::Model</name>
     <message>
         <source>Sess</source>
-        <translation type="unfinished"></translation>
+        <translation>Sess.</translation>
     </message>
     <message>
         <source>Whether or not the repository is used during this session.
 It overrides the persistent Enabled flag in the repository configuration.</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique si le dépôt est utilisé pendant cette session.
+Prévaut sur l’option permanente «&#xa0;Activé&#xa0;» de la configuration du dépôt.</translation>
     </message>
     <message>
         <source>Perm</source>
-        <translation type="unfinished"></translation>
+        <translation>Perm.</translation>
     </message>
     <message>
         <source>Whether or not the repository is configured to be enabled by default.
 It can be overridden for a particular session.</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique si le dépôt est configuré pour être activé par défaut.
+Peut être modifié pour une session donnée.</translation>
     </message>
     <message>
         <source>Identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>Identifiant</translation>
     </message>
     <message>
         <source>Unique identifier for the repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Identifiant unique du dépôt</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom</translation>
     </message>
     <message>
         <source>Description of the repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Description du dépôt</translation>
     </message>
     <message>
         <source>(new)</source>
-        <translation type="unfinished"></translation>
+        <translation>(nouveau)</translation>
     </message>
     <message>
         <source>Repository is enabled for this session</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dépôt est activé pour cette session</translation>
     </message>
     <message>
         <source>Repository is not enabled for this session</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dépôt n’est pas activé pour cette session</translation>
     </message>
     <message>
         <source>Repository is configured to be enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dépôt est configuré pour être activé</translation>
     </message>
     <message>
         <source>Repository is not configured to be enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dépôt n’est pas configuré pour être activé</translation>
     </message>
 </context>
 <context>
     <name>RepoEditor::View</name>
     <message>
         <source>Repositories</source>
-        <translation type="unfinished"></translation>
+        <translation>Dépôts</translation>
     </message>
 </context>
 <context>
     <name>ScrollableConfirmDialog</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>
     <name>ScrollableErrorDialog</name>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
 </context>
 <context>
     <name>TextDialog</name>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
 </context>
 <context>
     <name>YumConfIO</name>
     <message>
         <source>; errno = %1 (%2).</source>
-        <translation type="unfinished"></translation>
+        <translation>; errno = %1 (%2).</translation>
     </message>
     <message>
         <source>VEM Repository Editor Error</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM - Erreur de l’éditeur de dépôts</translation>
     </message>
     <message>
         <source>Repository Editor</source>
-        <translation type="unfinished"></translation>
+        <translation>Éditeur de dépôts</translation>
     </message>
     <message>
         <source>Unable to read yum configuration file %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire le fichier de configuration de yum %1</translation>
     </message>
     <message>
         <source>Unable to stat repository configuration file %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’examiner (stat) le fichier de configuration de dépôts %1</translation>
     </message>
     <message>
         <source>Unable to read repository configuration file %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire le fichier de configuration de dépôts %1</translation>
     </message>
     <message>
         <source>Malformed section name in line: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom de section mal formé à la ligne&#xa0;: %1</translation>
     </message>
     <message>
         <source>Error reading repository configuration file %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur lors de la lecture du fichier de configuration de dépôts %1</translation>
     </message>
     <message>
         <source>A repository has no Identifier.  It will be removed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un dépôt n’a pas d’identifiant. Il sera supprimé.</translation>
     </message>
     <message>
         <source>Two or more repositories have the same Identifier(s), %1.  Only one repository will be applied for each Identifier.</source>
-        <translation type="unfinished"></translation>
+        <translation>Plusieurs dépôts ont le même identifiant&#xa0;: %1. Un seul dépôt sera appliqué pour chaque identifiant.</translation>
     </message>
     <message>
         <source>  Proceed?</source>
-        <translation type="unfinished"></translation>
+        <translation>  Continuer&#xa0;?</translation>
     </message>
     <message>
         <source>Unable to write repository configuration file %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’écrire le fichier de configuration de dépôts %1</translation>
     </message>
     <message>
         <source>Unable to unlink repository configuration file %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de supprimer (unlink) le fichier de configuration de dépôts %1</translation>
     </message>
 </context>
 <context>
     <name>YumIO</name>
     <message>
         <source>Unable to release yum lock</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de libérer le verrou de yum</translation>
     </message>
     <message>
         <source>Unable to initialize</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’effectuer l’initialisation</translation>
     </message>
     <message>
         <source>Available for update</source>
-        <translation type="unfinished"></translation>
+        <translation>Disponible pour la mise à jour</translation>
     </message>
     <message>
         <source>Available for installation</source>
-        <translation type="unfinished"></translation>
+        <translation>Disponible pour l’installation</translation>
     </message>
     <message>
         <source>Installed</source>
-        <translation type="unfinished"></translation>
+        <translation>Installé</translation>
     </message>
     <message>
         <source>Suite of packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Suite de paquets</translation>
     </message>
     <message>
         <source>Group of packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Groupe de paquets</translation>
     </message>
     <message>
         <source>Ordinary package</source>
-        <translation type="unfinished"></translation>
+        <translation>Paquet ordinaire</translation>
     </message>
     <message>
         <source>Applying</source>
-        <translation type="unfinished"></translation>
+        <translation>Application</translation>
     </message>
     <message>
         <source>Checking Dependencies: Total Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérification des dépendances&#xa0;: progression totale</translation>
     </message>
     <message>
         <source>Preparing</source>
-        <translation type="unfinished"></translation>
+        <translation>Préparation</translation>
     </message>
     <message>
         <source>Error applying changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur lors de l’application des modifications</translation>
     </message>
     <message>
         <source>Error applying changes: Exiting on Broken Pipe</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur lors de l’application des modifications&#xa0;: arrêt, tube rompu</translation>
     </message>
     <message>
         <source>Unable to add package %1 to removes list</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’ajouter le paquet %1 à la liste des suppressions</translation>
     </message>
     <message>
         <source>Unable to add package %1 to installs list</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’ajouter le paquet %1 à la liste des installations</translation>
     </message>
     <message>
         <source>Unable to find installed version for package update %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de trouver la version installée pour la mise à jour du paquet %1</translation>
     </message>
     <message>
         <source>Unable to add new package to pair for updated package %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’ajouter le nouveau paquet à la paire du paquet mis à jour %1</translation>
     </message>
     <message>
         <source>Unable to add old package to pair for updated package %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’ajouter l’ancien paquet à la paire du paquet mis à jour %1</translation>
     </message>
     <message>
         <source>Unable to add package %1 to updates list</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’ajouter le paquet %1 à la liste des mises à jour</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Appliquer</translation>
     </message>
     <message>
         <source>Applying: OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Application&#xa0;: confirmée</translation>
     </message>
     <message>
         <source>Not Applying: Canceled</source>
-        <translation type="unfinished"></translation>
+        <translation>Application&#xa0;: annulée</translation>
     </message>
     <message>
         <source>Running Transaction: Total Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Exécution de la transaction&#xa0;: progression totale</translation>
     </message>
     <message>
         <source>Cleaning Headers</source>
-        <translation type="unfinished"></translation>
+        <translation>Nettoyage des en-têtes</translation>
     </message>
     <message>
         <source>Cleaning Packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Nettoyage des paquets</translation>
     </message>
     <message>
         <source>Cleaning Xml Metadata</source>
-        <translation type="unfinished"></translation>
+        <translation>Nettoyage des métadonnées XML</translation>
     </message>
     <message>
         <source>Cleaning Pickled Cache</source>
-        <translation type="unfinished"></translation>
+        <translation>Nettoyage des données sérialisées</translation>
     </message>
     <message>
         <source>Cleaning All</source>
-        <translation type="unfinished"></translation>
+        <translation>Nettoyage complet</translation>
     </message>
     <message>
         <source>Initialization</source>
-        <translation type="unfinished"></translation>
+        <translation>Initialisation</translation>
     </message>
     <message>
         <source>Initializing: Total Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Initialisation&#xa0;: progression totale</translation>
     </message>
     <message>
         <source>Unable to obtain yum lock</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’obtenir le verrou de yum</translation>
     </message>
     <message>
         <source>contents</source>
-        <translation type="unfinished"></translation>
+        <translation>contenu</translation>
     </message>
     <message>
         <source>No repositories are configured.
 Under the Repositories menu, Edit Configuration can be used to configure repositories.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun dépôt n’est configuré.
+Dans le menu «&#xa0;Dépôts&#xa0;», utilisez «&#xa0;Modifier la configuration&#xa0;» pour configurer des dépôts.</translation>
     </message>
     <message>
         <source>No repositories are enabled.
 Under the Repositories menu, Edit Configuration can be used to configure repositories.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun dépôt n’est activé.
+Dans le menu «&#xa0;Dépôts&#xa0;», utilisez «&#xa0;Modifier la configuration&#xa0;» pour configurer des dépôts.</translation>
     </message>
     <message>
         <source>Reading repositories</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture des dépôts</translation>
     </message>
     <message>
         <source>Collecting updatable packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Collecte des paquets pouvant être mis à jour</translation>
     </message>
     <message>
         <source>Unable to setup transaction</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de préparer la transaction</translation>
     </message>
     <message>
         <source>Unable to collect updatable packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de collecter les paquets pouvant être mis à jour</translation>
     </message>
     <message>
         <source>Collecting installed and available packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Collecte des paquets installés et disponibles</translation>
     </message>
     <message>
         <source>Unable to collect installed and available packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de collecter les paquets installés et disponibles</translation>
     </message>
     <message>
         <source>Collecting groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Collecte des groupes</translation>
     </message>
     <message>
         <source>Unable to collect groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de collecter les groupes</translation>
     </message>
     <message>
         <source>unable to setup repository %1:
 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible de préparer le dépôt %1&#xa0;:
+%2</translation>
     </message>
     <message>
         <source>Internal error: yumIO.collectAll.%1 not found</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur interne&#xa0;: yumIO.collectAll.%1 introuvable</translation>
     </message>
     <message>
         <source>Internal error: time not understood: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur interne&#xa0;: date non reconnue&#xa0;: %1</translation>
     </message>
     <message>
         <source>Internal error: package size not understood: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur interne&#xa0;: taille de paquet non reconnue&#xa0;: %1</translation>
     </message>
     <message>
         <source>Eb</source>
-        <translation type="unfinished"></translation>
+        <translation>Eb</translation>
     </message>
     <message>
         <source>Pb</source>
-        <translation type="unfinished"></translation>
+        <translation>Pb</translation>
     </message>
     <message>
         <source>Tb</source>
-        <translation type="unfinished"></translation>
+        <translation>Tb</translation>
     </message>
     <message>
         <source>Gb</source>
-        <translation type="unfinished"></translation>
+        <translation>Gb</translation>
     </message>
     <message>
         <source>Mb</source>
-        <translation type="unfinished"></translation>
+        <translation>Mb</translation>
     </message>
     <message>
         <source>Kb</source>
-        <translation type="unfinished"></translation>
+        <translation>Kb</translation>
     </message>
     <message>
         <source>b</source>
-        <translation type="unfinished"></translation>
+        <translation>b</translation>
     </message>
     <message>
         <source>Internal error: yum version not understood: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur interne&#xa0;: version de yum non reconnue&#xa0;: %1</translation>
     </message>
     <message>
         <source>Collecting File Lists</source>
-        <translation type="unfinished"></translation>
+        <translation>Collecte des listes de fichiers</translation>
     </message>
     <message>
         <source>file lists</source>
-        <translation type="unfinished"></translation>
+        <translation>listes de fichiers</translation>
     </message>
     <message>
         <source>Loading file lists: Total Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Chargement des listes de fichiers&#xa0;: progression totale</translation>
     </message>
     <message>
         <source>Unable to collect file lists</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de collecter les listes de fichiers</translation>
     </message>
     <message>
         <source>Collecting Miscellaneous data</source>
-        <translation type="unfinished"></translation>
+        <translation>Collecte des données diverses</translation>
     </message>
     <message>
         <source>miscellaneous data</source>
-        <translation type="unfinished"></translation>
+        <translation>données diverses</translation>
     </message>
     <message>
         <source>Loading miscellaneous data: Total Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Chargement des données diverses&#xa0;: progression totale</translation>
     </message>
     <message>
         <source>Unable to collect miscellaneous data</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de collecter les données diverses</translation>
     </message>
     <message>
         <source>Internal error: execution of yumIO.%1 failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur interne&#xa0;: échec de l’exécution de yumIO.%1</translation>
     </message>
     <message>
         <source>Internal error: cannot find rpm.%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur interne&#xa0;: rpm.%1 introuvable</translation>
     </message>
     <message>
         <source>Internal error: cannot find package&apos;s prco.%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur interne&#xa0;: prco.%1 du paquet introuvable</translation>
     </message>
     <message>
         <source>the package is optional</source>
-        <translation type="unfinished"></translation>
+        <translation>le paquet est optionnel</translation>
     </message>
     <message>
         <source>Update</source>
-        <translation type="unfinished"></translation>
+        <translation>Mettre à jour</translation>
     </message>
     <message>
         <source>Install</source>
-        <translation type="unfinished"></translation>
+        <translation>Installer</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer</translation>
     </message>
     <message>
         <source>ERROR</source>
-        <translation type="unfinished"></translation>
+        <translation>ERREUR</translation>
     </message>
     <message>
         <source>Package %1 is included in group %2 which was marked for %3,
 so the package would be marked for %4,
 but it was marked individually for %5.
 How do you wish to proceed?</source>
-        <translation type="unfinished"></translation>
+        <translation>Le paquet %1 fait partie du groupe %2, marqué «&#xa0;%3&#xa0;»&#xa0;;
+il devrait donc être marqué «&#xa0;%4&#xa0;»,
+mais il a été marqué individuellement «&#xa0;%5&#xa0;».
+Comment voulez-vous procéder&#xa0;?</translation>
     </message>
     <message>
         <source>Package %1 is included in group %2 which was marked for %3,
 so the package would be marked for %4,
 but you resolved an earlier conflict by marking it for %5.
 How do you wish to proceed?</source>
-        <translation type="unfinished"></translation>
+        <translation>Le paquet %1 fait partie du groupe %2, marqué «&#xa0;%3&#xa0;»&#xa0;;
+il devrait donc être marqué «&#xa0;%4&#xa0;»,
+mais vous avez résolu un conflit précédent en le marquant «&#xa0;%5&#xa0;».
+Comment voulez-vous procéder&#xa0;?</translation>
     </message>
     <message>
         <source>Package %1 is included in group %2 which was marked for %3,
 so the package would be marked for %4,
 but it also was part of group %5 and so was marked for %6.
 How do you wish to proceed?</source>
-        <translation type="unfinished"></translation>
+        <translation>Le paquet %1 fait partie du groupe %2, marqué «&#xa0;%3&#xa0;»&#xa0;;
+il devrait donc être marqué «&#xa0;%4&#xa0;»,
+mais il fait aussi partie du groupe %5 et a donc été marqué «&#xa0;%6&#xa0;».
+Comment voulez-vous procéder&#xa0;?</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Manually resolving conflict: marking package %1 for %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Résolution manuelle du conflit&#xa0;: le paquet %1 est marqué «&#xa0;%3&#xa0;»</translation>
     </message>
     <message>
         <source>For group %1, marking package %2 for %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Groupe %1&#xa0;: le paquet %2 est marqué «&#xa0;%3&#xa0;»</translation>
     </message>
     <message>
         <source>For group %1, package %2 already was marked for %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Groupe %1&#xa0;: le paquet %2 était déjà marqué «&#xa0;%3&#xa0;»</translation>
     </message>
     <message>
         <source>For group %1, not marking package %2 for %3, becuase %4</source>
-        <translation type="unfinished"></translation>
+        <translation>Groupe %1&#xa0;: le paquet %2 n’est pas marqué «&#xa0;%3&#xa0;», car %4</translation>
     </message>
     <message>
         <source>Internal error: groupInfo.%1 not evaluable</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur interne&#xa0;: impossible d’évaluer groupInfo.%1</translation>
     </message>
     <message>
         <source>Internal error: groupInfo.%1[%2] not evaluable</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur interne&#xa0;: impossible d’évaluer groupInfo.%1[%2]</translation>
     </message>
     <message>
         <source>Internal error: group %1.%2 not evaluable</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur interne&#xa0;: impossible d’évaluer le groupe %1.%2</translation>
     </message>
     <message>
         <source>Total download size: %1
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Taille totale du téléchargement&#xa0;: %1
+</translation>
     </message>
     <message>
         <source>Internal error: %1 not found
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur interne&#xa0;: %1 introuvable
+</translation>
     </message>
     <message>
         <source>Transaction to be performed:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Transaction à effectuer&#xa0;:
+</translation>
     </message>
     <message>
         <source>Performing the following to resolve dependencies:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Opérations nécessaires pour résoudre les dépendances&#xa0;:
+</translation>
     </message>
     <message>
         <source>Other Transactions:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Autres transactions&#xa0;:
+</translation>
     </message>
     <message>
         <source>Obsoleting</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplacer</translation>
     </message>
     <message>
         <source>	%1: %2
 </source>
-        <translation type="unfinished"></translation>
+        <translation>	%1&#xa0;: %2
+</translation>
     </message>
     <message>
         <source>	%1: %2 with %3
 </source>
-        <translation type="unfinished"></translation>
+        <translation>	%1&#xa0;: %2 par %3
+</translation>
     </message>
     <message>
         <source>%1 %3-%4 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %3-%4 (%2)</translation>
     </message>
     <message>
         <source>%1 %3:%4-%5 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %3:%4-%5 (%2)</translation>
     </message>
     <message>
         <source> [%1]</source>
-        <translation type="unfinished"></translation>
+        <translation> [%1]</translation>
     </message>
     <message>
         <source>Downloading repository %1 mirror list</source>
-        <translation type="unfinished"></translation>
+        <translation>Téléchargement de la liste de miroirs&#xa0;: %1 du dépôt</translation>
     </message>
     <message>
         <source>Downloading repository %1 mirror list for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Téléchargement de la liste de miroirs&#xa0;: %1 du dépôt %2</translation>
     </message>
     <message>
         <source>Downloading repository %1 repomd</source>
-        <translation type="unfinished"></translation>
+        <translation>Téléchargement de repomd&#xa0;: %1 du dépôt</translation>
     </message>
     <message>
         <source>Downloading repository %1 repomd for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Téléchargement de repomd&#xa0;: %1 du dépôt %2</translation>
     </message>
     <message>
         <source>Downloading repository %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Téléchargement&#xa0;: %1 du dépôt</translation>
     </message>
     <message>
         <source>Downloading repository %1 for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Téléchargement&#xa0;: %1 du dépôt %2</translation>
     </message>
     <message>
         <source>Converting repository %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Conversion&#xa0;: %1 du dépôt</translation>
     </message>
     <message>
         <source>Converting repository %1 for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Conversion&#xa0;: %1 du dépôt %2</translation>
     </message>
     <message>
         <source>Reading repository %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture&#xa0;: %1 du dépôt</translation>
     </message>
     <message>
         <source>Reading repository %1 for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture&#xa0;: %1 du dépôt %2</translation>
     </message>
     <message>
         <source>VEM Yum Error</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM - Erreur de yum</translation>
     </message>
     <message>
         <source>VEM Yum Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM - Avertissement de yum</translation>
     </message>
     <message>
         <source>Resolve Dependencies</source>
-        <translation type="unfinished"></translation>
+        <translation>Résolution des dépendances</translation>
     </message>
     <message>
         <source>Internal error: unexpected TSINFO: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur interne&#xa0;: TSINFO inattendu&#xa0;: %1</translation>
     </message>
     <message>
         <source>Internal error: TSINFO mentions unknown package: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur interne&#xa0;: TSINFO mentionne un paquet inconnu&#xa0;: %1</translation>
     </message>
     <message>
         <source>Internal error: TSINFO mentions intent to install or upgrade package that already seems up-to-date: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur interne&#xa0;: TSINFO annonce l’installation ou la mise à jour d’un paquet qui semble déjà à jour&#xa0;: %1</translation>
     </message>
     <message>
         <source>Finishing RPM rebuild from deltas</source>
-        <translation type="unfinished"></translation>
+        <translation>Fin de la reconstruction des RPM à partir des deltas</translation>
     </message>
     <message>
         <source>Downloading %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Téléchargement de %1</translation>
     </message>
     <message>
         <source>Downloading %1 header</source>
-        <translation type="unfinished"></translation>
+        <translation>Téléchargement de l’en-tête de %1</translation>
     </message>
     <message>
         <source>Preparing to Run Transaction</source>
-        <translation type="unfinished"></translation>
+        <translation>Préparation de l’exécution de la transaction</translation>
     </message>
     <message>
         <source>Preparing to Test Transaction</source>
-        <translation type="unfinished"></translation>
+        <translation>Préparation du test de la transaction</translation>
     </message>
     <message>
         <source>Updating %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Mise à jour de %1</translation>
     </message>
     <message>
         <source>Installing %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Installation de %1</translation>
     </message>
     <message>
         <source>Completing update for: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Finalisation de la mise à jour de&#xa0;: %1</translation>
     </message>
     <message>
         <source>Removing %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Suppression de %1</translation>
     </message>
     <message>
         <source>Transaction Test</source>
-        <translation type="unfinished"></translation>
+        <translation>Test de la transaction</translation>
     </message>
     <message>
         <source>Internal error: YumIO::tsCallback what=%1 not understood; ignoring</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur interne&#xa0;: YumIO::tsCallback what=%1 non reconnu&#xa0;; ignoré</translation>
     </message>
     <message>
         <source>Internal error: YumIO::tsEvent action=%1 not understood; ignoring</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur interne&#xa0;: YumIO::tsEvent action=%1 non reconnu&#xa0;; ignoré</translation>
     </message>
     <message>
         <source>Removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimé</translation>
     </message>
     <message>
         <source>Dependency Removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Dépendance supprimée</translation>
     </message>
     <message>
         <source>Dependency Installed</source>
-        <translation type="unfinished"></translation>
+        <translation>Dépendance installée</translation>
     </message>
     <message>
         <source>Updated</source>
-        <translation type="unfinished"></translation>
+        <translation>Mis à jour</translation>
     </message>
     <message>
         <source>Dependency Updated</source>
-        <translation type="unfinished"></translation>
+        <translation>Dépendance mise à jour</translation>
     </message>
     <message>
         <source>Obsoleted</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplacé</translation>
     </message>
 </context>
 <context>
     <name>YumIOCapturers</name>
     <message>
         <source>Unable to open pipe to capture rpm transaction output</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’ouvrir le tube pour capturer la sortie de la transaction rpm</translation>
     </message>
     <message>
         <source>Unable to dup2 pipe to capture rpm transaction output</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de dupliquer (dup2) le tube pour capturer la sortie de la transaction rpm</translation>
     </message>
     <message>
         <source>Unable to dup2 to restore stderr</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de rétablir stderr avec dup2</translation>
     </message>
 </context>
 </TS>
