@@ -98,9 +98,18 @@ def test_display_and_language_arrive(installed: Installed) -> None:
         "DISPLAY": ":3",
         "XAUTHORITY": "/run/user/1000/.mutter-Xwaylandauth.Q3",
         "WAYLAND_DISPLAY": "/run/user/1000/wayland-0",
+        "QT_QPA_PLATFORM": "wayland;xcb",
+        "QT_QPA_PLATFORMTHEME": "gtk3",
         "QT_SCALE_FACTOR": "1.5",
+        "QT_FONT_DPI": "144",
+        "XDG_CURRENT_DESKTOP": "ubuntu:GNOME",
         "LANG": "de_DE.UTF-8",
         "LANGUAGE": "de_DE:en",
+        "LC_ALL": "de_DE.UTF-8",
+        "LC_CTYPE": "de_DE@euro",
+        "LC_MESSAGES": "fr_FR.UTF-8",
+        "LC_NUMERIC": "C",
+        "LC_TIME": "en_GB.UTF-8",
     }
     assert wanted.items() <= environment(installed.launch(**wanted)).items()
 
@@ -118,6 +127,7 @@ def test_the_name_of_a_wayland_socket_is_completed_by_its_folder(installed: Inst
     there = environment(run)
     assert there["WAYLAND_DISPLAY"] == "/run/user/1000/wayland-1"
     assert "XDG_RUNTIME_DIR" not in there
+    assert environment(installed.launch(WAYLAND_DISPLAY="wayland-1"))["WAYLAND_DISPLAY"] == "wayland-1"
 
 
 def test_the_usual_key_file_of_the_x_server_is_named(installed: Installed, tmp_path: Path) -> None:

@@ -19,16 +19,11 @@ from pathlib import Path
 HERE = Path(__file__).resolve().parent
 TOP = HERE.parents[1]
 sys.path[:0] = [str(HERE), str(TOP / "estate")]
-NOBODY = 65534
+sys.path.append(str(TOP / "tests/python"))
+
+from users import NOBODY, other_users_exist  # noqa: E402
+
 SKIPPED = 77
-
-
-def other_users_exist() -> bool:
-    """Whether this process may become another user: not in a user namespace that has only one."""
-    try:
-        return os.geteuid() == 0 and Path("/proc/self/uid_map").read_text().split()[2] != "1"
-    except OSError:
-        return False
 
 
 def run(test: str, folder: Path) -> int:

@@ -3,6 +3,7 @@
 
 from __future__ import annotations
 
+import errno
 import os
 import subprocess
 import sys
@@ -159,6 +160,20 @@ def test_malformed_lock_file_is_told(lamp: Tuple[Estate, Program]) -> None:
     file.write_text("not a number")
     with pytest.raises(program.errors.LockError, match="metadata_lock.pid"):
         program.start()
+
+
+def test_full_disk_is_told_with_the_file(
+    lamp: Tuple[Estate, Program], monkeypatch: pytest.MonkeyPatch
+) -> None:
+    import dnf.lock
+
+    def refuse(*_: Any) -> None:
+        raise OSError(errno.ENOSPC, os.strerror(errno.ENOSPC))
+
+    with monkeypatch.context() as patch:
+        patch.setattr(dnf.lock.os, "write", refuse)
+        with pytest.raises(lamp[1].errors.LockError, match="metadata_lock.pid: No space left on device"):
+            lamp[1].start()
 
 
 def test_unlock_on_another_thread(lamp: Tuple[Estate, Program]) -> None:

@@ -15,10 +15,10 @@ import pytest
 from catalogue import Catalogue
 from program import Program
 from rpmestate import Estate
+from users import NOBODY, other_users_exist
 from web import Web
 
 HERE = Path(__file__).resolve().parent
-NOBODY = 65534
 LOOK_ONLY = "Started without administrator rights: packages can be looked at, not changed."
 NOT_APPLIED = (
     "Only the administrator can install, update or remove packages: start the program with administrator rights."
@@ -116,14 +116,6 @@ class Guests:
     def own(self) -> List[Path]:
         """The folders of the user, one for each root."""
         return sorted((self.home / ".cache/vem").iterdir())
-
-
-def other_users_exist() -> bool:
-    """Whether this process may become another user: not in a user namespace that has only one."""
-    try:
-        return os.geteuid() == 0 and Path("/proc/self/uid_map").read_text().split()[2] != "1"
-    except OSError:
-        return False
 
 
 @pytest.fixture
@@ -334,5 +326,7 @@ def test_own_cache_that_has_become_unwritable_is_told(house: Guests) -> None:
     house.run(COLLECT)
     cache = house.own()[0] / "cache"
     os.chown(cache, 0, 0)
-    said = house.run(COLLECT)
-    assert said["ended"] and f"{cache}: Permission denied" in said["errorlog"][1]
+    for permissions in 0o700, 0o755:
+        cache.chmod(permissions)
+        said = house.run(COLLECT)
+        assert said["ended"] and said["errorlog"][1] == f"{cache}: It cannot be written"

@@ -4,12 +4,16 @@
 from __future__ import annotations
 
 import json
-import os
 import shutil
 import subprocess
+import sys
 from pathlib import Path
 
 import pytest
+
+sys.path.append(str(Path(__file__).resolve().parent.parent / "python"))
+
+from users import other_users_exist  # noqa: E402
 
 SHARE = Path(__file__).resolve().parent.parent.parent / "share"
 
@@ -86,9 +90,5 @@ def desk(tmp_path: Path) -> Desk:
 @pytest.fixture
 def as_root() -> None:
     """For tests that have to become another user."""
-    try:
-        mapped = Path("/proc/self/uid_map").read_text().split()[2] != "1"
-    except OSError:
-        mapped = False
-    if os.getuid() != 0 or not mapped:
+    if not other_users_exist():
         pytest.skip("needs root and other users")

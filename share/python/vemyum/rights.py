@@ -43,7 +43,10 @@ def own_directory(root: str) -> str:
     own = os.path.join(caches, "vem", name)
     try:
         for kind in _DIRECTORIES.values():
-            _make_usable(os.path.join(own, kind))
+            folder = os.path.join(own, kind)
+            _make_private(folder)
+            if not os.access(folder, os.W_OK | os.X_OK):
+                raise PermissionError(errno.EACCES, "It cannot be written", folder)
     except OSError as error:
         raise YumBaseError(
             "Without administrator rights the program needs a cache of the user's own, which cannot be used:\n"
@@ -60,14 +63,12 @@ def use_directories(conf: dnf.conf.MainConf, own: str) -> None:
         conf._set_value(option, os.path.join(own, kind))
 
 
-def _make_usable(folder: str) -> None:
+def _make_private(folder: str) -> None:
     """Makes the folder, and those above it, for this user's eyes only where they are missing. OSError."""
     if not os.path.isabs(folder):
         raise FileNotFoundError(errno.ENOENT, "The user has no home directory", folder)
     if not os.path.isdir(folder):
-        _make_usable(os.path.dirname(folder))
+        _make_private(os.path.dirname(folder))
         # Another copy of the program may be as far.
         with contextlib.suppress(FileExistsError):
             os.mkdir(folder, 0o700)
-    elif not os.access(folder, os.X_OK):
-        raise PermissionError(errno.EACCES, os.strerror(errno.EACCES), folder)
