@@ -468,6 +468,110 @@ N’applique pas automatiquement les actions.</translation>
         <source>%1 %2 Change Log</source>
         <translation>Journal des modifications de %1 %2</translation>
     </message>
+    <message>
+        <source>Required Groups</source>
+        <translation>Groupes requis</translation>
+    </message>
+    <message>
+        <source>Default MetaPkgs</source>
+        <translation>Métapaquets par défaut</translation>
+    </message>
+    <message>
+        <source>Optional MetaPkgs</source>
+        <translation>Métapaquets optionnels</translation>
+    </message>
+    <message>
+        <source>Mandatory Packages</source>
+        <translation>Paquets obligatoires</translation>
+    </message>
+    <message>
+        <source>Default Packages</source>
+        <translation>Paquets par défaut</translation>
+    </message>
+    <message>
+        <source>Optional Packages</source>
+        <translation>Paquets optionnels</translation>
+    </message>
+    <message>
+        <source>Conditional Packages</source>
+        <translation>Paquets conditionnels</translation>
+    </message>
+    <message>
+        <source>Architecture</source>
+        <translation>Architecture</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Taille</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Résumé</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Description</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Groupe</translation>
+    </message>
+    <message>
+        <source>Vendor</source>
+        <translation>Fournisseur</translation>
+    </message>
+    <message>
+        <source>Build Time</source>
+        <translation>Date de compilation</translation>
+    </message>
+    <message>
+        <source>Build Host</source>
+        <translation>Hôte de compilation</translation>
+    </message>
+    <message>
+        <source>Install Time</source>
+        <translation>Date d’installation</translation>
+    </message>
+    <message>
+        <source>Binary RPM</source>
+        <translation>RPM binaire</translation>
+    </message>
+    <message>
+        <source>Source RPM</source>
+        <translation>RPM source</translation>
+    </message>
+    <message>
+        <source>License</source>
+        <translation>Licence</translation>
+    </message>
+    <message>
+        <source>Packager</source>
+        <translation>Empaqueteur</translation>
+    </message>
+    <message>
+        <source>URL</source>
+        <translation>URL</translation>
+    </message>
+    <message>
+        <source>Relocations</source>
+        <translation>Relocalisations</translation>
+    </message>
+    <message>
+        <source>Provides</source>
+        <translation>Fournit</translation>
+    </message>
+    <message>
+        <source>Requires</source>
+        <translation>Requiert</translation>
+    </message>
+    <message>
+        <source>Conflicts</source>
+        <translation>Conflits</translation>
+    </message>
+    <message>
+        <source>Obsoletes</source>
+        <translation>Rend obsolète</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::Describe::Instance::RepoDialog</name>
