@@ -40,6 +40,12 @@ def run(test: str, folder: Path) -> int:
     home.mkdir()
     os.chown(home, NOBODY, NOBODY)
 
+    # The display's server would make it its user's own.
+    sockets = Path("/tmp/.X11-unix")
+    if not sockets.exists():
+        sockets.mkdir()
+        sockets.chmod(0o1777)
+
     kept = {name: value for name, value in os.environ.items() if not name.startswith(("XDG_", "DBUS_", "VEM"))}
     environment = {
         **kept,
