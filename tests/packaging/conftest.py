@@ -1,0 +1,57 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""What the tests of the built packages share. VEM_PACKAGES names the folder that packaging/build-rpm and build-deb
+have filled; VEM_SHOTS, if set, a folder for screenshots.
+"""
+from __future__ import annotations
+
+import os
+import subprocess
+import sys
+from pathlib import Path
+
+import pytest
+
+HERE = Path(__file__).resolve().parent
+sys.path[:0] = [str(HERE), str(HERE.parent / "e2e"), str(HERE.parents[1] / "estate")]
+
+from contents import Package, deb_contents, rpm_contents  # noqa: E402
+
+PACKAGES = Path(os.environ["VEM_PACKAGES"])
+
+
+def the_one(pattern: str) -> Path:
+    (found,) = PACKAGES.glob(pattern)
+    return found
+
+
+@pytest.fixture(scope="session")
+def rpm_file() -> Path:
+    (found,) = (path for path in PACKAGES.glob("vem-*.rpm") if not path.name.endswith(".src.rpm"))
+    return found
+
+
+@pytest.fixture(scope="session")
+def source_rpm() -> Path:
+    return the_one("vem-*.src.rpm")
+
+
+@pytest.fixture(scope="session")
+def deb_file() -> Path:
+    return the_one("vem_*.deb")
+
+
+@pytest.fixture(scope="session")
+def rpm_package(rpm_file: Path, tmp_path_factory: pytest.TempPathFactory) -> Package:
+    return rpm_contents(rpm_file, tmp_path_factory.mktemp("rpm"))
+
+
+@pytest.fixture(scope="session")
+def deb_package(deb_file: Path, tmp_path_factory: pytest.TempPathFactory) -> Package:
+    unpacked = tmp_path_factory.mktemp("deb")
+    subprocess.run(["dpkg-deb", "--extract", deb_file, unpacked], check=True)
+    return deb_contents(deb_file, unpacked)
+
+
+@pytest.fixture(params=["rpm", "deb"])
+def package(request: pytest.FixtureRequest) -> Package:
+    return request.getfixturevalue(f"{request.param}_package")
