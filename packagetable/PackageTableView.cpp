@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "packagetable/PackageTableView.h"
 
+#include "engine/YumIO.h"
 #include "packagetable/PackageTableActionContextMenu.h"
 #include "packagetable/PackageTableColumns.h"
 #include "packagetable/PackageTableModel.h"
@@ -8,6 +9,7 @@
 #include "packagetable/PackageTableSortFilterProxyModel.h"
 #include "widgets/ColumnWidth.h"
 
+#include <QCoreApplication>
 #include <QEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -22,7 +24,8 @@ namespace PackageTable
 View::View(Model* tableModel, StateFilter stateFilter, bool groups, YumIO* yumIO, QWidget* parent)
     : HTableView(QStyleOptionViewItem::Left, 10, std::numeric_limits<int>::max(), parent),
       packages(tableModel),
-      proxy(new SortFilterProxyModel(stateFilter, groups, yumIO, parent ? parent : this))
+      proxy(new SortFilterProxyModel(stateFilter, groups, yumIO, parent ? parent : this)),
+      engine(yumIO)
 {
     setAccessibleName(tr("Packages"));
     packages->setPalette(palette());
@@ -110,26 +113,64 @@ int View::rowsForHint() const
     return fitsAllRows ? packages->rowCount() : HTableView::rowsForHint();
 }
 
+int View::modelRow(int row) const
+{
+    return fitsAllRows ? row : proxy->mapToSource(proxy->index(row, 0)).row();
+}
+
 int View::widestCell(ColumnWidth const& width, int column) const
 {
-    int const rows = rowsForHint();
-    auto const modelRow = [&](int row) {
-        return fitsAllRows ? row : proxy->mapToSource(proxy->index(row, 0)).row();
-    };
-    auto const cell = [&](int row) { return packages->index(modelRow(row), column); };
-    if (column >= NameColumn) {
-        return width.widestText(
-            rows, [&](int row) -> QString const& { return packages->text(modelRow(row), column); }, cell);
+    if (column < NameColumn) {
+        return widestPicture(width, column);
     }
+    return fitsAllRows ? widestOfAllRows(width, column) : widestText(width, column);
+}
+
+int View::widestOfAllRows(ColumnWidth const& width, int column) const
+{
+    Measured const present{engine->listSerial(), engine->count(), logicalDpiX()};
+    if (measured != present) {
+        measured = present;
+        knownWidths = {};
+    }
+    std::optional<int>& known = knownWidths.at(static_cast<std::size_t>(column));
+    if (!known) {
+        known = widestText(width, column);
+    }
+    return *known;
+}
+
+int View::widestText(ColumnWidth const& width, int column) const
+{
+    return width.widestText(
+        rowsForHint(), [&](int row) -> QString const& { return packages->text(modelRow(row), column); },
+        [&](int row) { return packages->index(modelRow(row), column); });
+}
+
+int View::widestPicture(ColumnWidth const& width, int column) const
+{
     // One row of each picture stands for the others.
+    int const rows = rowsForHint();
     std::array<int, 4> rowOf{-1, -1, -1, -1};
     for (int row = 0; row < rows; ++row) {
         rowOf.at(static_cast<std::size_t>(packages->picture(modelRow(row), column))) = row;
     }
     auto const end = std::remove(rowOf.begin(), rowOf.end(), -1);
     return width.walked(static_cast<int>(end - rowOf.begin()), [&](int number) {
-        return cell(rowOf[static_cast<std::size_t>(number)]);
+        return packages->index(modelRow(rowOf[static_cast<std::size_t>(number)]), column);
     });
+}
+
+void View::measureColumns()
+{
+    ensurePolished();
+    for (int column = NameColumn; column < ColumnCount; ++column) {
+        {
+            QScopedValueRollback const guard(fitsAllRows, true);
+            static_cast<void>(sizeHintForColumn(column));
+        }
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    }
 }
 
 void View::describe()
@@ -176,6 +217,8 @@ void View::changeEvent(QEvent* event)
         packages->setEnabled(isEnabled());
     } else if (event->type() == QEvent::PaletteChange) {
         packages->setPalette(palette());
+    } else if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        knownWidths = {};
     }
 }
 

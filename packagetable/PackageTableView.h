@@ -2,9 +2,12 @@
 #pragma once
 
 #include "packagetable/PackageTable.h"
+#include "packagetable/PackageTableColumns.h"
 #include "widgets/HTableView.h"
 
+#include <array>
 #include <memory>
+#include <optional>
 
 class YumIO;
 
@@ -39,6 +42,10 @@ public:
     void stateFilterChanged(StateFilter stateFilter);
     void groupsFilterChanged(bool groups);
 
+    /// Finds out what `resizeColumnsToContents` needs to know, and serves events in between, but no input of
+    /// the user's: for a table of new rows that nobody can use yet.
+    void measureColumns();
+
     /// The model's indexes of the selected rows.
     [[nodiscard]] QList<QModelIndex> selectedRows() const;
 
@@ -65,9 +72,28 @@ protected:
     [[nodiscard]] int rowsForHint() const override;
 
 private:
+    /// What the widths of all rows' cells were found for.
+    struct Measured
+    {
+        bool operator==(Measured const& other) const = default;
+
+        quint64 list = 0;
+        int rows = 0;
+        int dotsPerInch = 0;
+    };
+    using Widths = std::array<std::optional<int>, ColumnCount>;
+
+    [[nodiscard]] int widestOfAllRows(ColumnWidth const& width, int column) const;
+    [[nodiscard]] int widestText(ColumnWidth const& width, int column) const;
+    [[nodiscard]] int widestPicture(ColumnWidth const& width, int column) const;
+    [[nodiscard]] int modelRow(int row) const;
+
     Model* packages; ///< not the view's own model(), which is the proxy
     SortFilterProxyModel* proxy;
-    bool fitsAllRows = false; ///< sizes follow all rows of the engine, and not only those that show
+    YumIO const* engine;
+    mutable Widths knownWidths; ///< of the columns whose cells stay as they are until a rebuild
+    mutable Measured measured;  ///< what `knownWidths` holds for, as long as font and style stay
+    bool fitsAllRows = false;   ///< sizes follow all rows of the engine, and not only those that show
     std::unique_ptr<ActionContextMenu> actionContextMenu; ///< null until first used, like the other one
     std::unique_ptr<OtherContextMenu> otherContextMenu;
 };

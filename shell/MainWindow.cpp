@@ -86,6 +86,7 @@ void MainWindow::initialize()
 
 void MainWindow::showTable()
 {
+    view->measureColumns();
     tableArea->setVisible(true);
     view->resizeColumnsToContents();
 }

@@ -1,17 +1,24 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "widgets/ColumnWidth.h"
 
+#include "base/Parallel.h"
 #include "widgets/HItemDelegate.h"
 #include "widgets/TextEstimate.h"
 
 #include <QAbstractItemModel>
 #include <QIcon>
 #include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <limits>
 #include <map>
+#include <mutex>
 #include <typeinfo>
+#include <unordered_map>
 #include <unordered_set>
+#include <utility>
 #include <vector>
 
 namespace
@@ -34,8 +41,92 @@ struct CellsOfOneIcon
     std::unordered_set<QString, TextHash, std::equal_to<>> measured;
 };
 
+/// The texts of a column, row by row.
+using Texts = std::vector<QString const*>;
+
+/// A row of each text that is another one when all digits are taken for alike.
+using Folds = std::unordered_map<QString, std::size_t, TextHash, std::equal_to<>>;
+
+/// What was found out last about some texts that rows share, such as the names of repositories: told by
+/// where their letters lie, without a look at these.
+template <typename Value>
+class SharedTexts
+{
+public:
+    /// What is known of the text; else `unknown`, and its place has become the text's.
+    Value& of(QString const& text, Value const& unknown)
+    {
+        auto const address = reinterpret_cast<std::uintptr_t>(text.constData());
+        Place& place = places[address / sizeof(std::max_align_t) % places.size()];
+        if (place.letters != text.constData() || place.size != text.size()) {
+            place = {text.constData(), text.size(), unknown};
+        }
+        return place.value;
+    }
+
+private:
+    struct Place
+    {
+        QChar const* letters = nullptr;
+        qsizetype size = 0;
+        Value value{};
+    };
+    std::array<Place, 256> places{};
+};
+
 // How many texts are asked for before they are needed.
 constexpr std::size_t ahead = 16;
+
+/// For each text the most that it is wide.
+std::vector<qreal> mostOf(Texts const& texts, TextEstimate const& estimate)
+{
+    constexpr qreal unknown = -std::numeric_limits<qreal>::infinity();
+    std::vector<qreal> most(texts.size());
+    Parallel::forParts(texts.size(), [&](std::size_t begin, std::size_t end) {
+        SharedTexts<qreal> shared;
+        for (std::size_t row = begin; row < end; ++row) {
+            // Texts and their letters lie all over the memory, and waiting for each would take most of the
+            // time.
+            if (row + 2 * ahead < end) {
+                __builtin_prefetch(texts[row + 2 * ahead]);
+                __builtin_prefetch(texts[row + ahead]->constData());
+            }
+            qreal& known = shared.of(*texts[row], unknown);
+            if (known == unknown) {
+                known = estimate.bounds(*texts[row]).most;
+            }
+            most[row] = known;
+        }
+    });
+    return most;
+}
+
+/// The folds of the texts that may be wider than `limit`.
+Folds foldsOf(Texts const& texts, std::vector<qreal> const& most, qreal limit)
+{
+    Folds folds;
+    std::mutex mutex;
+    Parallel::forParts(texts.size(), [&](std::size_t begin, std::size_t end) {
+        Folds found;
+        SharedTexts<bool> shared;
+        QString fold;
+        for (std::size_t row = begin; row < end; ++row) {
+            if (row + ahead < end && most[row + ahead] > limit) {
+                __builtin_prefetch(texts[row + ahead]->constData());
+            }
+            if (most[row] <= limit || std::exchange(shared.of(*texts[row], false), true)) {
+                continue;
+            }
+            TextEstimate::fold(*texts[row], fold);
+            if (found.find(QStringView(fold)) == found.end()) {
+                found.emplace(QString(fold.constData(), fold.size()), row);
+            }
+        }
+        std::lock_guard const guard(mutex);
+        folds.merge(found);
+    });
+    return folds;
+}
 
 // Stands for the cells without an icon where icons are told apart.
 constexpr qint64 withoutIcon = -1;
@@ -91,42 +182,30 @@ void WidestCell::add(QModelIndex const& cell)
     add(cell, text, byIcon[icon.isValid() ? qvariant_cast<QIcon>(icon).cacheKey() : withoutIcon]);
 }
 
-// The most promising text goes first, so that few others are worth a question.
+// The most promising text goes first, so that few others are worth a question; and of texts that differ in
+// their digits only one, where these are alike.
 void WidestCell::addTexts(int rows, ColumnWidth::Text const& text, ColumnWidth::Cell const& cell)
 {
     CellsOfOneIcon& cells = byIcon[withoutIcon];
-    std::vector<QString const*> texts(static_cast<std::size_t>(rows));
+    Texts texts(static_cast<std::size_t>(rows));
     for (int row = 0; row < rows; ++row) {
         texts[static_cast<std::size_t>(row)] = &text(row);
     }
-    // Texts and their letters lie all over the memory, and waiting for each would take most of the time.
-    auto const fetchAhead = [&](std::size_t row) {
-        if (row + 2 * ahead < texts.size()) {
-            __builtin_prefetch(texts[row + 2 * ahead]);
-            __builtin_prefetch(texts[row + ahead]->constData());
-        }
-    };
-    std::vector<qreal> most(texts.size());
-    for (std::size_t row = 0; row < texts.size(); ++row) {
-        fetchAhead(row);
-        most[row] = estimate.bounds(*texts[row]).most;
-    }
-    QString last;
+    std::vector<qreal> const most = mostOf(texts, estimate);
     auto const add = [&](std::size_t row) {
-        if (most[row] + cells.aroundText <= widest) {
-            return;
-        }
-        // Neighbours often share a text, such as their repository.
-        if (QString const& own = *texts[row]; own != last || cells.measured.empty()) {
-            last = own;
-            addText(cell(static_cast<int>(row)), own, cells);
+        if (most[row] + cells.aroundText > widest) {
+            addText(cell(static_cast<int>(row)), *texts[row], cells);
         }
     };
     if (auto const first = std::max_element(most.begin(), most.end()); first != most.end()) {
         add(static_cast<std::size_t>(first - most.begin()));
     }
-    for (std::size_t row = 0; row < texts.size(); ++row) {
-        fetchAhead(row);
+    bool digitsAreAlike = true;
+    for (auto const& [fold, row] : foldsOf(texts, most, widest - cells.aroundText)) {
+        digitsAreAlike = digitsAreAlike && estimate.representative(*texts[row]) == fold;
+        add(row);
+    }
+    for (std::size_t row = 0; row < texts.size() && !digitsAreAlike; ++row) {
         add(row);
     }
 }

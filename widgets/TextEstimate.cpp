@@ -71,6 +71,15 @@ QStringView TextEstimate::representative(QString const& text)
     return folded;
 }
 
+void TextEstimate::fold(QString const& text, QString& folded)
+{
+    folded.resize(text.size());
+    QChar* const letters = folded.data();
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        letters[i] = isDigit(text.at(i)) ? QChar(u'0') : text.at(i);
+    }
+}
+
 bool TextEstimate::hasLikeDigitsBeside(QChar neighbour)
 {
     if (neighbour < first || neighbour > last) {
@@ -78,12 +87,13 @@ bool TextEstimate::hasLikeDigitsBeside(QChar neighbour)
     }
     std::optional<bool>& known = likeDigits[static_cast<std::size_t>(neighbour.unicode() - first)];
     if (!known) {
+        auto const width = [&](QChar left, QChar right) {
+            return metrics.horizontalAdvance(QString(left) + right);
+        };
+        qreal const zeroBefore = width(u'0', neighbour);
+        qreal const zeroBehind = width(neighbour, u'0');
         auto const isLikeZero = [&](QChar digit) {
-            auto const width = [&](QChar left, QChar right) {
-                return metrics.horizontalAdvance(QString(left) + right);
-            };
-            return width(digit, neighbour) == width(u'0', neighbour) &&
-                   width(neighbour, digit) == width(neighbour, u'0');
+            return width(digit, neighbour) == zeroBefore && width(neighbour, digit) == zeroBehind;
         };
         known = true;
         for (char16_t digit = u'0'; digit <= u'9' && *known; ++digit) {

@@ -32,6 +32,9 @@ public:
     /// next call, and as long as `text`.
     [[nodiscard]] QStringView representative(QString const& text);
 
+    /// Makes `folded` the text with a 0 for each digit, wherever it stands.
+    static void fold(QString const& text, QString& folded);
+
 private:
     static constexpr char16_t first = u' ';
     static constexpr char16_t last = u'~';

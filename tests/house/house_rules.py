@@ -13,7 +13,7 @@ from pathlib import Path
 # Folder -> folders that its files may include.
 EDGES: dict[str, set[str]] = {
     "base": set(),
-    "widgets": set(),
+    "widgets": {"base"},
     "bridge": set(),
     "services": {"base", "widgets"},
     "engine": {"base", "bridge", "services"},

@@ -9,10 +9,12 @@
 #include <QApplication>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QProxyStyle>
 #include <QRandomGenerator>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 #include <QVBoxLayout>
 
 using PackageTable::Model;
@@ -27,6 +29,35 @@ private:
     std::unique_ptr<Model> model;
     std::unique_ptr<QWidget> window;
     View* view = nullptr;
+
+    /// New rows in place of the old, as a collection makes them; the second has the given name.
+    void collect(QString const& second) const
+    {
+        engine->drop();
+        engine->add("coreutils", Package::OutOfDate);
+        engine->add(second, Package::Available);
+        engine->add("audit", Package::UpToDate);
+        engine->add("desktop", Package::Available, Package::Group);
+        engine->add("everything", Package::OutOfDate, Package::Suite);
+        model->reset();
+    }
+
+    /// Whether the columns are as wide as a plain table of all rows, in the same font and style, has them.
+    bool columnsFitAllRows() const
+    {
+        HTableView plain(QStyleOptionViewItem::Left, 10, 10, window.get());
+        plain.setShowGrid(false);
+        plain.setFont(view->font());
+        plain.setStyle(view->style());
+        plain.setModel(model.get());
+        for (int column = 0; column < 9; ++column) {
+            int const header = view->horizontalHeader()->sectionSizeHint(column);
+            if (view->columnWidth(column) != std::max(plain.sizeHintForColumn(column), header)) {
+                return false;
+            }
+        }
+        return true;
+    }
 
     /// The view's cell of a row of the model.
     QModelIndex cell(int modelRow, int column) const
@@ -68,11 +99,7 @@ private Q_SLOTS:
     {
         engine = std::make_unique<TestEngine>();
         model = std::make_unique<Model>(engine.get(), nullptr);
-        engine->add("coreutils", Package::OutOfDate);
-        engine->add("bash", Package::Available);
-        engine->add("audit", Package::UpToDate);
-        engine->add("desktop", Package::Available, Package::Group);
-        engine->add("everything", Package::OutOfDate, Package::Suite);
+        collect("bash");
         window = std::make_unique<QWidget>();
         auto* const layout = new QVBoxLayout(window.get());
         view = new View(model.get(), PackageTable::All, true, engine.get(), window.get());
@@ -319,18 +346,71 @@ private Q_SLOTS:
 
     void resizeFitsRowsThatDoNotShow()
     {
-        engine->entries[1]->name = QString(60, 'W');
-        model->reset();
+        collect(QString(60, 'W'));
         view->resizeColumnsToContents();
         int const wide = view->columnWidth(3);
-        engine->entries[1]->name = "bash";
+        collect("bash");
         view->resizeColumnsToContents();
         QVERIFY(view->columnWidth(3) < wide);
-        engine->entries[1]->name = QString(60, 'W');
+        collect(QString(60, 'W'));
         view->stateFilterChanged(PackageTable::Removable);
         view->resizeColumnsToContents();
         QCOMPARE(view->columnWidth(3), wide);
         QCOMPARE(names(), (QStringList{"everything", "audit", "coreutils"}));
+    }
+
+    void resizeTakesUpWhatHasChangedSinceTheLastOne()
+    {
+        view->resizeColumnsToContents();
+        QVERIFY(columnsFitAllRows());
+        int const width = view->columnWidth(3);
+
+        QFont font = view->font();
+        font.setPointSize(3 * font.pointSize());
+        view->setFont(font);
+        view->resizeColumnsToContents();
+        QVERIFY(view->columnWidth(3) > width);
+        QVERIFY(columnsFitAllRows());
+
+        class Roomy : public QProxyStyle
+        {
+        public:
+            int pixelMetric(
+                PixelMetric metric, QStyleOption const* option, QWidget const* widget) const override
+            {
+                int const room = metric == PM_FocusFrameHMargin ? 40 : 0;
+                return room + QProxyStyle::pixelMetric(metric, option, widget);
+            }
+        };
+        int const large = view->columnWidth(3);
+        Roomy roomy;
+        view->setStyle(&roomy);
+        view->resizeColumnsToContents();
+        QVERIFY(view->columnWidth(3) > large);
+        QVERIFY(columnsFitAllRows());
+        view->setStyle(nullptr);
+
+        engine->add(QString(60, 'W'), Package::Available);
+        model->reset();
+        view->resizeColumnsToContents();
+        QVERIFY(columnsFitAllRows());
+    }
+
+    void measuringAheadChangesNothing()
+    {
+        view->stateFilterChanged(PackageTable::Removable);
+        QSignalSpy const resets(view->model(), &QAbstractItemModel::modelReset);
+        view->horizontalHeader()->resizeSection(3, 77);
+        view->selectAll();
+        bool served = false;
+        QTimer::singleShot(0, view, [&] { served = true; });
+        view->measureColumns();
+        QVERIFY(served);
+        QCOMPARE(resets.count(), 0);
+        QCOMPARE(view->columnWidth(3), 77);
+        QCOMPARE(view->selectedRows().count(), 3);
+        view->resizeColumnsToContents();
+        QVERIFY(columnsFitAllRows());
     }
 
     void resizedColumnsAreAsWideAsTheCellsOfAllRowsNeed()

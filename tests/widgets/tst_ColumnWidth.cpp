@@ -9,6 +9,7 @@
 #include <QStyleOptionViewItem>
 #include <QTest>
 #include <QWidget>
+#include <algorithm>
 
 namespace
 {
@@ -63,6 +64,13 @@ QString randomText(QRandomGenerator& random, QString const& alphabet, int longes
     return text;
 }
 
+/// The row that holds the text.
+qsizetype cellOf(TableModel::Rows const& rows, QString const& text)
+{
+    return std::find_if(rows.begin(), rows.end(), [&](auto const& row) { return row.at(0) == text; }) -
+           rows.begin();
+}
+
 } // namespace
 
 class tst_ColumnWidth : public QObject
@@ -73,6 +81,8 @@ private Q_SLOTS:
     void findsTheWidthOfTheFullWalk_data();
     void findsTheWidthOfTheFullWalk();
     void textOnlyFindsTheWidthOfTheFullWalk();
+    void findsTheOneWidestAmongManyRows_data();
+    void findsTheOneWidestAmongManyRows();
     void countsEverythingThatACellShows();
     void iconWidensANarrowerText();
     void noRowsNeedNoWidth();
@@ -136,6 +146,53 @@ void tst_ColumnWidth::textOnlyFindsTheWidthOfTheFullWalk()
     QCOMPARE(widestText(width, model), width.walked(model, {}, 0));
     QCOMPARE(widestText(width, TableModel({})), 0);
     QVERIFY(widestText(width, TableModel({{QString()}})) == width.walked(TableModel({{QString()}}), {}, 0));
+}
+
+void tst_ColumnWidth::findsTheOneWidestAmongManyRows_data()
+{
+    findsTheWidthOfTheFullWalk_data();
+}
+
+// So many rows that several processors look at them, most of which share their texts.
+void tst_ColumnWidth::findsTheOneWidestAmongManyRows()
+{
+    QFETCH(QString, alphabet);
+    QFETCH(int, longest);
+    QFETCH(QFont, font);
+    HItemDelegate const delegate(nullptr);
+    QStyleOptionViewItem const options = optionsWith(font);
+    ColumnWidth const width(delegate, options);
+    QRandomGenerator random(7);
+    QStringList shared;
+    for (int number = 0; number < 400; ++number) {
+        shared.append(randomText(random, alphabet, longest));
+    }
+    QStringList texts;
+    for (int row = 0; row < 9000; ++row) {
+        texts.append(shared.at(random.bounded(static_cast<int>(shared.size()))));
+    }
+    TableModel::Rows rows;
+    for (QString const& text : shared) {
+        rows.append({text});
+    }
+    for (int const place : {0, 4500, 8999}) {
+        // As long as the longest and one of a kind: it may be the widest, or not by a hair.
+        QString const last = randomText(random, alphabet, 1) + randomText(random, alphabet, longest) +
+                             randomText(random, alphabet, longest);
+        texts[place] = last;
+        rows.append({last});
+        TableModel const model(rows);
+        int const widest = width.widestText(
+            static_cast<int>(texts.size()), [&](int row) -> QString const& { return texts.at(row); },
+            [&](int row) { return model.index(static_cast<int>(cellOf(rows, texts.at(row))), 0); });
+        int walked = 0;
+        for (int row = 0; row < model.rowCount(); ++row) {
+            if (texts.contains(model.index(row, 0).data().toString())) {
+                walked = std::max(walked, delegate.sizeHint(options, model.index(row, 0)).width());
+            }
+        }
+        QCOMPARE(widest, walked);
+    }
 }
 
 void tst_ColumnWidth::countsEverythingThatACellShows()

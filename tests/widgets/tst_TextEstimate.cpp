@@ -29,7 +29,17 @@ private Q_SLOTS:
     void textsBeyondAsciiHaveNoBounds();
     void digitsStandForEachOther_data();
     void digitsStandForEachOther();
+    void foldsEachDigit();
 };
+
+void tst_TextEstimate::foldsEachDigit()
+{
+    QString folded(QStringLiteral("something longer than that"));
+    TextEstimate::fold(QString::fromUtf8("a1.09é-²"), folded);
+    QCOMPARE(folded, QString::fromUtf8("a0.00é-²"));
+    TextEstimate::fold(QString(), folded);
+    QCOMPARE(folded, QString());
+}
 
 void tst_TextEstimate::boundsHoldTheLaidOutWidth_data()
 {
