@@ -15,14 +15,12 @@ from __future__ import annotations
 import argparse
 import contextlib
 import os
-import shutil
 import subprocess
 import sys
 import tempfile
-import time
 from dataclasses import dataclass
 from pathlib import Path
-from typing import Callable, Iterator, Mapping, Optional, Sequence
+from typing import Callable, Iterator, Mapping, Sequence
 
 HERE = Path(__file__).resolve().parent
 sys.dont_write_bytecode = True
@@ -104,12 +102,10 @@ def photograph(area: Area, file: Path) -> None:
     subprocess.run(command, check=True)
 
 
-def shrink(file: Path) -> None:
+def shrink(file: Path, smaller: Path) -> None:
     """The same pixels in fewer bytes, and the same bytes for the same pixels."""
-    smaller = file.with_suffix(".tmp.png")
     options = ["-strip", "-define", "png:compression-level=9", "-define", "png:exclude-chunks=date,time"]
     subprocess.run(["convert", str(file), *options, str(smaller)], check=True)
-    smaller.replace(file)
 
 
 def size_of(file: Path) -> str:
@@ -130,21 +126,20 @@ def _magick(*command: str) -> str:
     return subprocess.run(command, check=True, capture_output=True, text=True).stdout
 
 
-def keep_when_still(directory: Path) -> Keep:
+def keep_when_still(directory: Path, work: Path) -> Keep:
     """Keeps a picture as soon as two in a row are the same."""
 
     def keep(name: str, where: Callable[[], Area]) -> None:
-        file, before = directory / f"{name}.png", directory / f"{name}.before.png"
+        now, before = work / f"{name}.png", work / f"{name}-before.png"
 
         def still() -> bool:
-            if file.exists():
-                file.replace(before)
-            photograph(where(), file)
-            return before.exists() and file.read_bytes() == before.read_bytes()
+            if now.exists():
+                now.replace(before)
+            photograph(where(), now)
+            return before.exists() and now.read_bytes() == before.read_bytes()
 
         wait_for(still, f"the picture {name!r} to stand still", 20, 0.15)
-        before.unlink()
-        shrink(file)
+        shrink(now, directory / now.name)
 
     return keep
 
@@ -202,7 +197,7 @@ class Book:
             ["xdotool", "search", "--onlyvisible", "--name", "^VEM - "], capture_output=True, text=True, check=True
         )
         width, height = MAIN_SIZE
-        Program.xdotool("windowsize", "--sync", answer.stdout.split()[-1], str(width), str(height))
+        Program.xdotool("windowsize", answer.stdout.split()[-1], str(width), str(height))
         wait_for(lambda: (Area.of(window).width, Area.of(window).height) == MAIN_SIZE, f"the size, not {box}", 10)
 
     # The walk on the sample estate.
@@ -329,11 +324,10 @@ def main() -> int:
     arguments = parser.parse_args()
     arguments.directory.mkdir(parents=True, exist_ok=True)
     with tempfile.TemporaryDirectory(prefix="vem-manual-") as work:
-        book = Book(Path(work), keep_when_still(arguments.directory), arguments.names)
+        book = Book(Path(work), keep_when_still(arguments.directory, Path(work)), arguments.names)
         try:
             book.take()
         except (TimedOut, AssertionError) as fault:
-            subprocess.run(["import", "-silent", "-window", "root", "/tmp/vem-manual-fault.png"], check=False)
             print(f"{Path(__file__).name}: {fault}", file=sys.stderr)
             print((Path(work) / "vem.log").read_text(errors="replace"), file=sys.stderr)
             return 1

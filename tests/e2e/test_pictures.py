@@ -10,7 +10,7 @@ from typing import Callable
 
 sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "manual"))
 
-from picturebook import PICTURES, Area, Book, Program, difference, photograph, size_of  # noqa: E402
+from picturebook import PICTURES, Area, Book, difference, photograph, size_of  # noqa: E402
 
 TOLERANCE = 0.05
 """Of `difference`. The same machine takes the very same pictures, another word on a button gives 0.08 and more;
