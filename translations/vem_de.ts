@@ -5,92 +5,92 @@
     <name>Colors</name>
     <message>
         <source>#fffacd</source>
-        <translation type="unfinished"></translation>
+        <translation>#fffacd</translation>
     </message>
     <message>
         <source>blue</source>
-        <translation type="unfinished"></translation>
+        <translation>blue</translation>
     </message>
     <message>
         <source>red</source>
-        <translation type="unfinished"></translation>
+        <translation>red</translation>
     </message>
     <message>
         <source>#ffa9b8</source>
-        <translation type="unfinished"></translation>
+        <translation>#ffa9b8</translation>
     </message>
     <message>
         <source>darkorange</source>
-        <translation type="unfinished"></translation>
+        <translation>darkorange</translation>
     </message>
     <message>
         <source>#8b5a2b</source>
-        <translation type="unfinished"></translation>
+        <translation>#8b5a2b</translation>
     </message>
     <message>
         <source>#ffbd94</source>
-        <translation type="unfinished"></translation>
+        <translation>#ffbd94</translation>
     </message>
     <message>
         <source>green</source>
-        <translation type="unfinished"></translation>
+        <translation>green</translation>
     </message>
 </context>
 <context>
     <name>Execute</name>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Hilfe</translation>
     </message>
     <message>
         <source>fork() failed; errno = %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>fork() fehlgeschlagen; errno = %1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>Fonts</name>
     <message>
         <source>Helvetica</source>
-        <translation type="unfinished"></translation>
+        <translation>Helvetica</translation>
     </message>
     <message>
         <source>Courier</source>
-        <translation type="unfinished"></translation>
+        <translation>Courier</translation>
     </message>
 </context>
 <context>
     <name>Log::Window</name>
     <message>
         <source>&lt;font color=&quot;%1&quot;&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;font color=&quot;%1&quot;&gt;</translation>
     </message>
     <message>
         <source>&lt;/font&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;/font&gt;</translation>
     </message>
     <message>
         <source>&lt;font&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;font&gt;</translation>
     </message>
     <message>
         <source>&lt;h2&gt;&lt;font color=&quot;%1&quot;&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h2&gt;&lt;font color=&quot;%1&quot;&gt;</translation>
     </message>
     <message>
         <source>&lt;/font&gt;&lt;/h2&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;/font&gt;&lt;/h2&gt;</translation>
     </message>
     <message>
         <source>VEM Log</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM - Protokoll</translation>
     </message>
     <message>
         <source>Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Protokoll</translation>
     </message>
     <message>
         <source>Detail level</source>
-        <translation type="unfinished"></translation>
+        <translation>Detailstufe</translation>
     </message>
     <message>
         <source>Threshold beyond which more detailed log messages are omitted.
@@ -99,1585 +99,1735 @@ The valid range is 0 .. %1.
 The default is %2.
 Higher levels contain debug information.
 This corresponds to yum&apos;s debuglevel (-d) option.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schwelle, über der ausführlichere Protokollmeldungen weggelassen werden.
+Höhere Stufen zeigen mehr Einzelheiten.
+Der gültige Bereich ist 0 .. %1.
+Die Vorgabe ist %2.
+Höhere Stufen enthalten Informationen zur Fehlersuche.
+Entspricht der Option debuglevel (-d) von yum.</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Schließen</translation>
     </message>
     <message>
         <source>Close the Log Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Protokollfenster schließen</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>Clean RPM package headers cached locally in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Lokal in %1 zwischengespeicherte Header von RPM-Paketen löschen</translation>
     </message>
     <message>
         <source>Clean RPM packages cached locally in %1
 (useful for recovering disk space)</source>
-        <translation type="unfinished"></translation>
+        <translation>Lokal in %1 zwischengespeicherte RPM-Pakete löschen
+(gibt Speicherplatz frei)</translation>
     </message>
     <message>
         <source>Clean XML metadata cached locally in %1
 (useful along with Clean Pickled Data for
  forcing download of new available package lists)</source>
-        <translation type="unfinished"></translation>
+        <translation>Lokal in %1 zwischengespeicherte XML-Metadaten löschen
+(zusammen mit „Pickle-Daten bereinigen“ nützlich, um das
+ Herunterladen neuer Listen verfügbarer Pakete zu erzwingen)</translation>
     </message>
     <message>
         <source>Clean pickled data cached locally in %1
 (useful along with Clean XML Metadata for
  forcing download of new available package lists)</source>
-        <translation type="unfinished"></translation>
+        <translation>Lokal in %1 zwischengespeicherte Pickle-Daten löschen
+(zusammen mit „XML-Metadaten bereinigen“ nützlich, um das
+ Herunterladen neuer Listen verfügbarer Pakete zu erzwingen)</translation>
     </message>
     <message>
         <source>Clean all data cached locally in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle lokal in %1 zwischengespeicherten Daten löschen</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>Über VEM</translation>
     </message>
     <message>
         <source>&lt;h3&gt;VEM %1&lt;/h3&gt;&lt;hr&gt;&lt;p&gt;VEM, Verified Estate Manager, is a graphical user interface which allows a user to make modifications to the installed rpm packages on a system.&lt;/p&gt;&lt;p&gt;Capabilities:&lt;p&gt;&lt;ul&gt;&lt;li&gt;Install new packages or update existing packages by downloading them from a yum package repository&lt;/li&gt;&lt;li&gt;Remove existing packages.&lt;/li&gt;&lt;li&gt;Configure sets of repositories from which to obtain new and updated packages.&lt;/li&gt;&lt;li&gt;Examine installed packages or packages available for installation or update&lt;/li&gt;&lt;li&gt;Install, update, or remove groups of packages&lt;/li&gt;&lt;li&gt;Install or update suites of packages&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;Web page: &lt;a href=&quot;https://vem.example.org/&quot;&gt;https://vem.example.org/&lt;/a&gt;&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h3&gt;VEM %1&lt;/h3&gt;&lt;hr&gt;&lt;p&gt;VEM, der Verified Estate Manager, ist eine grafische Benutzeroberfläche, mit der sich die installierten rpm-Pakete eines Systems ändern lassen.&lt;/p&gt;&lt;p&gt;Funktionen:&lt;p&gt;&lt;ul&gt;&lt;li&gt;Neue Pakete installieren oder vorhandene aktualisieren; die Pakete werden aus einer yum-Paketquelle heruntergeladen&lt;/li&gt;&lt;li&gt;Vorhandene Pakete entfernen&lt;/li&gt;&lt;li&gt;Die Paketquellen konfigurieren, aus denen neue und aktualisierte Pakete bezogen werden&lt;/li&gt;&lt;li&gt;Installierte Pakete und solche, die installiert oder aktualisiert werden können, untersuchen&lt;/li&gt;&lt;li&gt;Paketgruppen installieren, aktualisieren oder entfernen&lt;/li&gt;&lt;li&gt;Paketsuiten installieren oder aktualisieren&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;Webseite: &lt;a href=&quot;https://vem.example.org/&quot;&gt;https://vem.example.org/&lt;/a&gt;&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Suchen</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtern</translation>
     </message>
     <message>
         <source>Regular expression to compare to all fields of a package</source>
-        <translation type="unfinished"></translation>
+        <translation>Regulärer Ausdruck, mit dem alle Felder eines Pakets verglichen werden</translation>
     </message>
     <message>
         <source>Regular expression filter matching textual fields visible in the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Regulärer Ausdruck, mit dem die in der Tabelle sichtbaren Textfelder gefiltert werden</translation>
     </message>
     <message>
         <source>Perform the search for the regular expression specified to the left</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach dem links angegebenen regulären Ausdruck suchen</translation>
     </message>
     <message>
         <source>Apply the filter specified to the left</source>
-        <translation type="unfinished"></translation>
+        <translation>Den links angegebenen Filter anwenden</translation>
     </message>
     <message>
         <source>Specify the method for using a regular expression to select packages in the table:
 	Filter uses the textual fields visible in the table, as if they were separated by spaces.
 	Search uses all fields in packages, including list of Files, Change Log, Requires, etc.,
 	independently.  It is considerably slower.</source>
-        <translation type="unfinished"></translation>
+        <translation>Legt fest, wie ein regulärer Ausdruck Pakete in der Tabelle auswählt:
+	„Filtern“ nutzt die in der Tabelle sichtbaren Textfelder, als wären sie durch Leerzeichen getrennt.
+	„Suchen“ nutzt alle Felder der Pakete, auch Dateiliste, Änderungsprotokoll, Abhängigkeiten usw.,
+	jedes für sich. Das ist erheblich langsamer.</translation>
     </message>
     <message>
         <source>%1 (Must load extra data.)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (Dazu müssen Zusatzdaten geladen werden.)</translation>
     </message>
     <message>
         <source>VEM - %1</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM - %1</translation>
     </message>
     <message>
         <source>&amp;Program</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Programm</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beenden</translation>
     </message>
     <message>
         <source>Ctrl+Q</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Q</translation>
     </message>
     <message>
         <source>&amp;Windows</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fenster</translation>
     </message>
     <message>
         <source>&amp;Log</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Protokoll</translation>
     </message>
     <message>
         <source>Ctrl+L</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+L</translation>
     </message>
     <message>
         <source>&amp;Repositories</source>
-        <translation type="unfinished"></translation>
+        <translation>Paket&amp;quellen</translation>
     </message>
     <message>
         <source>&amp;Edit Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Konfiguration &amp;bearbeiten</translation>
     </message>
     <message>
         <source>Ctrl+E</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+E</translation>
     </message>
     <message>
         <source>&amp;Cache</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cache</translation>
     </message>
     <message>
         <source>Clean Headers</source>
-        <translation type="unfinished"></translation>
+        <translation>Header bereinigen</translation>
     </message>
     <message>
         <source>Clean Packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Pakete bereinigen</translation>
     </message>
     <message>
         <source>Clean XML Metadata</source>
-        <translation type="unfinished"></translation>
+        <translation>XML-Metadaten bereinigen</translation>
     </message>
     <message>
         <source>Clean Pickled Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Pickle-Daten bereinigen</translation>
     </message>
     <message>
         <source>Clean All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles bereinigen</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hilfe</translation>
     </message>
     <message>
         <source>Manual (html)</source>
-        <translation type="unfinished"></translation>
+        <translation>Handbuch (html)</translation>
     </message>
     <message>
         <source>F1</source>
-        <translation type="unfinished"></translation>
+        <translation>F1</translation>
     </message>
     <message>
         <source>Manual (PDF)</source>
-        <translation type="unfinished"></translation>
+        <translation>Handbuch (PDF)</translation>
     </message>
     <message>
         <source>&amp;About</source>
-        <translation type="unfinished"></translation>
+        <translation>Ü&amp;ber VEM</translation>
     </message>
     <message>
         <source>Filter or Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtern oder suchen</translation>
     </message>
     <message>
         <source>Regular expression</source>
-        <translation type="unfinished"></translation>
+        <translation>Regulärer Ausdruck</translation>
     </message>
     <message>
         <source>View Updatable</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualisierbare anzeigen</translation>
     </message>
     <message>
         <source>View Installable</source>
-        <translation type="unfinished"></translation>
+        <translation>Installierbare anzeigen</translation>
     </message>
     <message>
         <source>View Removable</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernbare anzeigen</translation>
     </message>
     <message>
         <source>View All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle anzeigen</translation>
     </message>
     <message>
         <source>Filter for those packages which are eligible for updating,
 for installing, or for removing; or show all packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur Pakete anzeigen, die aktualisiert, installiert
+oder entfernt werden können, oder alle Pakete anzeigen</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzeige</translation>
     </message>
     <message>
         <source>Include Groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit Gruppen</translation>
     </message>
     <message>
         <source>Whether or not filter should include package groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob der Filter auch Paketgruppen einschließen soll</translation>
     </message>
     <message>
         <source>&amp;Describe</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beschreiben</translation>
     </message>
     <message>
         <source>Pop up a window with a detailed description of the currently selected package</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Fenster mit einer ausführlichen Beschreibung des ausgewählten Pakets öffnen</translation>
     </message>
     <message>
         <source>Re&amp;size</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Größe anpassen</translation>
     </message>
     <message>
         <source>Resize the columns and window to optimal values</source>
-        <translation type="unfinished"></translation>
+        <translation>Spalten und Fenster auf die günstigste Größe bringen</translation>
     </message>
     <message>
         <source>Re&amp;fresh</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu &amp;laden</translation>
     </message>
     <message>
         <source>Refresh the list of installed packages and packages available for update.
 Use this to check for new updates in repositories, or if any packages were installed manually.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Liste der installierten und der aktualisierbaren Pakete neu laden.
+Sinnvoll, um in den Paketquellen nach neuen Aktualisierungen zu suchen oder wenn Pakete von Hand installiert wurden.</translation>
     </message>
     <message>
         <source>Set &amp;Install/Update of Selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswahl vormerken (&amp;Inst./Akt.)</translation>
     </message>
     <message>
         <source>Sets the Action for all selected packages which are Not Installed to Install, and
 sets the Action for all selected packages which are Installed but Out-of-date to Update.
 Does not Apply Actions automatically.</source>
-        <translation type="unfinished"></translation>
+        <translation>Setzt die Aktion aller ausgewählten Pakete, die nicht installiert sind, auf „Installieren“
+und die aller ausgewählten Pakete, die installiert, aber veraltet sind, auf „Aktualisieren“.
+Die Aktionen werden nicht automatisch angewendet.</translation>
     </message>
     <message>
         <source>Set &amp;Update of All Out-of-Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Akt&amp;ualisierungen vormerken</translation>
     </message>
     <message>
         <source>Sets the Action for all packages which are Installed but Out-of-date to Update.
 Does not Apply Actions automatically.</source>
-        <translation type="unfinished"></translation>
+        <translation>Setzt die Aktion aller Pakete, die installiert, aber veraltet sind, auf „Aktualisieren“.
+Die Aktionen werden nicht automatisch angewendet.</translation>
     </message>
     <message>
         <source>&amp;Clear Actions</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktionen &amp;verwerfen</translation>
     </message>
     <message>
         <source>Clears all specified Actions (Updates, Installs, and Removals)</source>
-        <translation type="unfinished"></translation>
+        <translation>Verwirft alle vorgemerkten Aktionen (Aktualisieren, Installieren und Entfernen)</translation>
     </message>
     <message>
         <source>&amp;Apply Actions</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktionen &amp;anwenden</translation>
     </message>
     <message>
         <source>Applies the specified Actions (Updates, Installs, and Removals)</source>
-        <translation type="unfinished"></translation>
+        <translation>Wendet die vorgemerkten Aktionen an (Aktualisieren, Installieren und Entfernen)</translation>
     </message>
     <message>
         <source>Item Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Fortschritt des Einzelschritts</translation>
     </message>
     <message>
         <source>Total Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamtfortschritt</translation>
     </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>
     <message>
         <source>&amp;Update</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aktualisieren</translation>
     </message>
     <message>
         <source>&amp;Install</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Installieren</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Entfernen</translation>
     </message>
     <message>
         <source>&amp;No Action</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Keine Aktion</translation>
     </message>
 </context>
 <context>
     <name>PackageTable::Describe::Dialog</name>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>VEM Package Description</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM - Paketbeschreibung</translation>
     </message>
 </context>
 <context>
     <name>PackageTable::Describe::Instance::Area</name>
     <message>
         <source>Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Art</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Version</translation>
     </message>
     <message>
         <source>Repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Paketquelle</translation>
     </message>
     <message>
         <source>Details</source>
-        <translation type="unfinished"></translation>
+        <translation>Details</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzeigen</translation>
     </message>
     <message>
         <source>Change Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungsprotokoll</translation>
     </message>
     <message>
         <source>%1:</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:</translation>
     </message>
     <message>
         <source>%1 (must load extra data)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (muss Zusatzdaten laden)</translation>
     </message>
     <message>
         <source>%1 %2 File List</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateiliste von %1 %2</translation>
     </message>
     <message>
         <source>%1 %2 Change Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungsprotokoll von %1 %2</translation>
+    </message>
+    <message>
+        <source>Required Groups</source>
+        <translation>Erforderliche Gruppen</translation>
+    </message>
+    <message>
+        <source>Default MetaPkgs</source>
+        <translation>Standard-Metapakete</translation>
+    </message>
+    <message>
+        <source>Optional MetaPkgs</source>
+        <translation>Optionale Metapakete</translation>
+    </message>
+    <message>
+        <source>Mandatory Packages</source>
+        <translation>Obligatorische Pakete</translation>
+    </message>
+    <message>
+        <source>Default Packages</source>
+        <translation>Standardpakete</translation>
+    </message>
+    <message>
+        <source>Optional Packages</source>
+        <translation>Optionale Pakete</translation>
+    </message>
+    <message>
+        <source>Conditional Packages</source>
+        <translation>Bedingte Pakete</translation>
+    </message>
+    <message>
+        <source>Architecture</source>
+        <translation>Architektur</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Zusammenfassung</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message>
+        <source>Vendor</source>
+        <translation>Anbieter</translation>
+    </message>
+    <message>
+        <source>Build Time</source>
+        <translation>Erstellt am</translation>
+    </message>
+    <message>
+        <source>Build Host</source>
+        <translation>Erstellt auf</translation>
+    </message>
+    <message>
+        <source>Install Time</source>
+        <translation>Installiert am</translation>
+    </message>
+    <message>
+        <source>Binary RPM</source>
+        <translation>Binär-RPM</translation>
+    </message>
+    <message>
+        <source>Source RPM</source>
+        <translation>Quell-RPM</translation>
+    </message>
+    <message>
+        <source>License</source>
+        <translation>Lizenz</translation>
+    </message>
+    <message>
+        <source>Packager</source>
+        <translation>Paketierer</translation>
+    </message>
+    <message>
+        <source>URL</source>
+        <translation>URL</translation>
+    </message>
+    <message>
+        <source>Relocations</source>
+        <translation>Verschiebbare Pfade</translation>
+    </message>
+    <message>
+        <source>Provides</source>
+        <translation>Stellt bereit</translation>
+    </message>
+    <message>
+        <source>Requires</source>
+        <translation>Benötigt</translation>
+    </message>
+    <message>
+        <source>Conflicts</source>
+        <translation>Konflikte</translation>
+    </message>
+    <message>
+        <source>Obsoletes</source>
+        <translation>Ersetzt</translation>
     </message>
 </context>
 <context>
     <name>PackageTable::Describe::Instance::RepoDialog</name>
     <message>
         <source>VEM Repository Description</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM - Beschreibung der Paketquelle</translation>
     </message>
     <message>
         <source>Browse Repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Browser öffnen</translation>
     </message>
     <message>
         <source>Browse the first URL specified for the selected repository using an external web browser</source>
-        <translation type="unfinished"></translation>
+        <translation>Die erste URL der ausgewählten Paketquelle in einem externen Webbrowser öffnen</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>URLs</source>
-        <translation type="unfinished"></translation>
+        <translation>URLs</translation>
     </message>
     <message>
         <source>Mirror list URL</source>
-        <translation type="unfinished"></translation>
+        <translation>URL der Spiegelliste</translation>
     </message>
     <message>
         <source>%1:</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:</translation>
     </message>
 </context>
 <context>
     <name>PackageTable::Model</name>
     <message>
         <source>Action</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktion</translation>
     </message>
     <message>
         <source>Action to be performed on the package, if any: Update, Install, Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktion, die am Paket ausgeführt werden soll, falls vorgemerkt: Aktualisieren, Installieren, Entfernen</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Status</translation>
     </message>
     <message>
         <source>Indicates whether the package is Installed or not and, if installed, whether it is Up-to-date or not</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt an, ob das Paket installiert ist und, wenn ja, ob es aktuell ist</translation>
     </message>
     <message>
         <source>Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Art</translation>
     </message>
     <message>
         <source>Whether the package is an ordinary package, a suite of packages, or a group of packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob es sich um ein gewöhnliches Paket, eine Paketsuite oder eine Paketgruppe handelt</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Name of the package</source>
-        <translation type="unfinished"></translation>
+        <translation>Name des Pakets</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Version</translation>
     </message>
     <message>
         <source>Version and release of the package as version-release;
 If the Epoch is non-zero, includes it as epoch:version-release</source>
-        <translation type="unfinished"></translation>
+        <translation>Version und Release des Pakets in der Form Version-Release;
+ist die Epoche nicht null, in der Form Epoche:Version-Release</translation>
     </message>
     <message>
         <source>Repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Paketquelle</translation>
     </message>
     <message>
         <source>Repository from which the most recent version of the package is available</source>
-        <translation type="unfinished"></translation>
+        <translation>Paketquelle, aus der die neueste Version des Pakets verfügbar ist</translation>
     </message>
     <message>
         <source>Architecture</source>
-        <translation type="unfinished"></translation>
+        <translation>Architektur</translation>
     </message>
     <message>
         <source>Architecture for which the package is applicable, or &quot;noarch&quot; for general-purpose packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Architektur, für die das Paket bestimmt ist, oder „noarch“ bei architekturunabhängigen Paketen</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe</translation>
     </message>
     <message>
         <source>Size of the package</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe des Pakets</translation>
     </message>
     <message>
         <source>Build Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Erstellt am</translation>
     </message>
     <message>
         <source>Date and time at which the package was created</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum und Uhrzeit der Erstellung des Pakets</translation>
     </message>
     <message>
         <source>Update package</source>
-        <translation type="unfinished"></translation>
+        <translation>Paket aktualisieren</translation>
     </message>
     <message>
         <source>Install package</source>
-        <translation type="unfinished"></translation>
+        <translation>Paket installieren</translation>
     </message>
     <message>
         <source>Remove package</source>
-        <translation type="unfinished"></translation>
+        <translation>Paket entfernen</translation>
     </message>
     <message>
         <source>Package is available to update an out-of-date version</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Paket ist als Aktualisierung einer veralteten Version verfügbar</translation>
     </message>
     <message>
         <source>Package is available for installation</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Paket ist zur Installation verfügbar</translation>
     </message>
     <message>
         <source>Package is installed and up-to-date</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Paket ist installiert und aktuell</translation>
     </message>
     <message>
         <source>Suite of packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Paketsuite</translation>
     </message>
     <message>
         <source>Group of packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Paketgruppe</translation>
     </message>
     <message>
         <source>Ordinary package</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewöhnliches Paket</translation>
     </message>
     <message>
         <source>Available: %1
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Verfügbar: %1
+</translation>
     </message>
     <message>
         <source>Installed: %1
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Installiert: %1
+</translation>
     </message>
 </context>
 <context>
     <name>PackageTable::OtherContextMenu</name>
     <message>
         <source>&amp;Describe</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beschreiben</translation>
     </message>
     <message>
         <source>Browse Repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Browser öffnen</translation>
     </message>
 </context>
 <context>
     <name>PackageTable::View</name>
     <message>
         <source>Packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Pakete</translation>
     </message>
 </context>
 <context>
     <name>QProgressBar</name>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>RepoAuth::Dialog</name>
     <message>
         <source>VEM Authentication</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM - Anmeldung</translation>
     </message>
     <message>
         <source>Some configured repositories require authentication</source>
-        <translation type="unfinished"></translation>
+        <translation>Einige konfigurierte Paketquellen erfordern eine Anmeldung</translation>
     </message>
     <message>
         <source>Identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>Kennung</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>URLs</source>
-        <translation type="unfinished"></translation>
+        <translation>URLs</translation>
     </message>
     <message>
         <source>Mirror list URL</source>
-        <translation type="unfinished"></translation>
+        <translation>URL der Spiegelliste</translation>
     </message>
     <message>
         <source>Authentication name for a repository using the buffet authentication method</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmeldename für eine Paketquelle, die das Buffet-Anmeldeverfahren verwendet</translation>
     </message>
     <message>
         <source>Authentication password for a repository using the buffet authentication method</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmeldepasswort für eine Paketquelle, die das Buffet-Anmeldeverfahren verwendet</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Beenden</translation>
     </message>
     <message>
         <source>Disable for Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Für Sitzung deaktivieren</translation>
     </message>
     <message>
         <source>Skip All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle überspringen</translation>
     </message>
     <message>
         <source>Apply to All</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf alle anwenden</translation>
     </message>
     <message>
         <source>Apply to All with this Host</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf alle mit diesem Host anwenden</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
     <name>RepoBrowse</name>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler</translation>
     </message>
     <message>
         <source>Repository configuration has no URL</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Konfiguration der Paketquelle enthält keine URL</translation>
     </message>
 </context>
 <context>
     <name>RepoEditor::Config</name>
     <message>
         <source>%1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2</translation>
     </message>
     <message>
         <source>Default</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorgabe</translation>
     </message>
     <message>
         <source>(Yes)</source>
-        <translation type="unfinished"></translation>
+        <translation>(Ja)</translation>
     </message>
     <message>
         <source>(No)</source>
-        <translation type="unfinished"></translation>
+        <translation>(Nein)</translation>
     </message>
     <message>
         <source>No Identifier specified</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Kennung angegeben</translation>
     </message>
     <message>
         <source>No URLs or Mirror list URL specified</source>
-        <translation type="unfinished"></translation>
+        <translation>Weder URLs noch URL der Spiegelliste angegeben</translation>
     </message>
     <message>
         <source>File is not in any reposdir directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei liegt in keinem reposdir-Verzeichnis</translation>
     </message>
     <message>
         <source>File lacks .repo suffix</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Datei fehlt die Endung .repo</translation>
     </message>
     <message>
         <source>No Buffet Authentication Name specified</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Buffet-Anmeldename angegeben</translation>
     </message>
     <message>
         <source>No Buffet Authentication Password specified</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Buffet-Anmeldepasswort angegeben</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort</translation>
     </message>
     <message>
         <source>Identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>Kennung</translation>
     </message>
     <message>
         <source>Unique identifier for the repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Eindeutige Kennung der Paketquelle</translation>
     </message>
     <message>
         <source>Description of the repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschreibung der Paketquelle</translation>
     </message>
     <message>
         <source>URLs</source>
-        <translation type="unfinished"></translation>
+        <translation>URLs</translation>
     </message>
     <message>
         <source>List of URLs to the repository.
 If more than one is specified, they all should be identical mirrors,
 and will provide redundancy if some URLs are unreachable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste der URLs der Paketquelle.
+Mehrere URLs müssen auf identische Spiegelserver verweisen;
+sie bieten Ersatz, wenn einzelne URLs nicht erreichbar sind.</translation>
     </message>
     <message>
         <source>Mirror list URL</source>
-        <translation type="unfinished"></translation>
+        <translation>URL der Spiegelliste</translation>
     </message>
     <message>
         <source>URL to a file containing a list of URLs to the repository.</source>
-        <translation type="unfinished"></translation>
+        <translation>URL einer Datei mit einer Liste von URLs der Paketquelle.</translation>
     </message>
     <message>
         <source>Buffet Authentication</source>
-        <translation type="unfinished"></translation>
+        <translation>Buffet-Anmeldung</translation>
     </message>
     <message>
         <source>Authentication name for a repository using the buffet authentication method</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmeldename für eine Paketquelle, die das Buffet-Anmeldeverfahren verwendet</translation>
     </message>
     <message>
         <source>Authentication password for a repository using the buffet authentication method</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmeldepasswort für eine Paketquelle, die das Buffet-Anmeldeverfahren verwendet</translation>
     </message>
     <message>
         <source>Repository Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Optionen der Paketquelle</translation>
     </message>
     <message>
         <source>Any other yum options for this repository.  See yum.conf(5)</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle weiteren yum-Optionen für diese Paketquelle, siehe yum.conf(5)</translation>
     </message>
     <message>
         <source>Other Options:</source>
-        <translation type="unfinished"></translation>
+        <translation>Weitere Optionen:</translation>
     </message>
     <message>
         <source>Whether or not the repository is enabled for use</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob die Paketquelle für die Benutzung aktiviert ist</translation>
     </message>
     <message>
         <source>Whether or not GPG key signatures of packages from the repository are checked to ensure authenticity</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob die GPG-Signaturen von Paketen aus der Paketquelle geprüft werden, um deren Echtheit sicherzustellen</translation>
     </message>
     <message>
         <source>Enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktiviert</translation>
     </message>
     <message>
         <source>Check GPG Keys</source>
-        <translation type="unfinished"></translation>
+        <translation>GPG-Schlüssel prüfen</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>Nein</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Ja</translation>
     </message>
     <message>
         <source>Configuration File (expert)</source>
-        <translation type="unfinished"></translation>
+        <translation>Konfigurationsdatei (für Experten)</translation>
     </message>
     <message>
         <source>Name of the yum configuration file into which to place this repository configuration.
 If left blank, defaults to the repository&apos;s identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>Name der yum-Konfigurationsdatei, in der die Konfiguration dieser Paketquelle abgelegt wird.
+Bleibt das Feld leer, wird die Kennung der Paketquelle verwendet</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei</translation>
     </message>
     <message>
         <source>A numeric sort key which determines the order of this repository configuration
 in a configuration file which contains multiple configurations</source>
-        <translation type="unfinished"></translation>
+        <translation>Numerischer Sortierschlüssel, der die Reihenfolge der Konfiguration dieser Paketquelle
+in einer Konfigurationsdatei mit mehreren Konfigurationen bestimmt</translation>
     </message>
     <message>
         <source>Sort Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Sortierposition</translation>
     </message>
 </context>
 <context>
     <name>RepoEditor::ConfigDialog</name>
     <message>
         <source>VEM Repository Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM - Konfiguration der Paketquelle</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurücksetzen</translation>
     </message>
     <message>
         <source>Undo changes to this repository configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen an der Konfiguration dieser Paketquelle verwerfen</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Undo changes to this repository configuration and close the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen an der Konfiguration dieser Paketquelle verwerfen und das Fenster schließen</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Apply changes to all repository configurations, and close the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen an allen Paketquellen-Konfigurationen anwenden und das Fenster schließen</translation>
     </message>
 </context>
 <context>
     <name>RepoEditor::ContextMenu</name>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Bearbeiten</translation>
     </message>
     <message>
         <source>Browse Repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Browser öffnen</translation>
     </message>
 </context>
 <context>
     <name>RepoEditor::Dialog</name>
     <message>
         <source>VEM Repository Configuration Editor</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM - Paketquellen-Editor</translation>
     </message>
     <message>
         <source>Browse Repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Browser öffnen</translation>
     </message>
     <message>
         <source>Browse the first URL specified for the selected repository using an external web browser</source>
-        <translation type="unfinished"></translation>
+        <translation>Die erste URL der ausgewählten Paketquelle in einem externen Webbrowser öffnen</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Bearbeiten</translation>
     </message>
     <message>
         <source>Edit the selected repository configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Konfiguration der ausgewählten Paketquelle bearbeiten</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinzufügen</translation>
     </message>
     <message>
         <source>Create a new repository configuration from scratch</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine neue, leere Paketquellen-Konfiguration anlegen</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopieren</translation>
     </message>
     <message>
         <source>Create a new repository configuration based on the selected repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine neue Paketquellen-Konfiguration auf Grundlage der ausgewählten Paketquelle anlegen</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen</translation>
     </message>
     <message>
         <source>Remove the selected repository configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Konfiguration der ausgewählten Paketquelle entfernen</translation>
     </message>
     <message>
         <source>Reset All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle zurücksetzen</translation>
     </message>
     <message>
         <source>Undo changes to all repository configurations since the last Apply or opening of the dialog</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen an allen Paketquellen-Konfigurationen seit dem letzten Anwenden oder dem Öffnen des Dialogs verwerfen</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Undo changes to all repository configurations since the last Apply or opening of the dialog, and close the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen an allen Paketquellen-Konfigurationen seit dem letzten Anwenden oder dem Öffnen des Dialogs verwerfen und das Fenster schließen</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Anwenden</translation>
     </message>
     <message>
         <source>Apply changes to all repository configurations, but do not close the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen an allen Paketquellen-Konfigurationen anwenden, ohne das Fenster zu schließen</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Apply changes to all repository configurations, and close the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen an allen Paketquellen-Konfigurationen anwenden und das Fenster schließen</translation>
     </message>
     <message>
         <source>A repository has no Identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Paketquelle hat keine Kennung</translation>
     </message>
     <message>
         <source>Two or more repositories have the Identifier, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Mehrere Paketquellen haben die Kennung %1</translation>
     </message>
     <message>
         <source>Unapplied Configuration Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht angewendete Konfigurationsänderungen</translation>
     </message>
 </context>
 <context>
     <name>RepoEditor::Model</name>
     <message>
         <source>Sess</source>
-        <translation type="unfinished"></translation>
+        <translation>Sitz.</translation>
     </message>
     <message>
         <source>Whether or not the repository is used during this session.
 It overrides the persistent Enabled flag in the repository configuration.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob die Paketquelle in dieser Sitzung verwendet wird.
+Hat Vorrang vor der dauerhaften Einstellung „Aktiviert“ in der Konfiguration der Paketquelle.</translation>
     </message>
     <message>
         <source>Perm</source>
-        <translation type="unfinished"></translation>
+        <translation>Perm.</translation>
     </message>
     <message>
         <source>Whether or not the repository is configured to be enabled by default.
 It can be overridden for a particular session.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob die Paketquelle laut Konfiguration standardmäßig (permanent) aktiviert ist.
+Lässt sich für eine einzelne Sitzung übersteuern.</translation>
     </message>
     <message>
         <source>Identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>Kennung</translation>
     </message>
     <message>
         <source>Unique identifier for the repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Eindeutige Kennung der Paketquelle</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Description of the repository</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschreibung der Paketquelle</translation>
     </message>
     <message>
         <source>(new)</source>
-        <translation type="unfinished"></translation>
+        <translation>(neu)</translation>
     </message>
     <message>
         <source>Repository is enabled for this session</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Paketquelle ist für diese Sitzung aktiviert</translation>
     </message>
     <message>
         <source>Repository is not enabled for this session</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Paketquelle ist für diese Sitzung nicht aktiviert</translation>
     </message>
     <message>
         <source>Repository is configured to be enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Paketquelle ist laut Konfiguration aktiviert</translation>
     </message>
     <message>
         <source>Repository is not configured to be enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Paketquelle ist laut Konfiguration nicht aktiviert</translation>
     </message>
 </context>
 <context>
     <name>RepoEditor::View</name>
     <message>
         <source>Repositories</source>
-        <translation type="unfinished"></translation>
+        <translation>Paketquellen</translation>
     </message>
 </context>
 <context>
     <name>ScrollableConfirmDialog</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
     <name>ScrollableErrorDialog</name>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>
     <name>TextDialog</name>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>
     <name>YumConfIO</name>
     <message>
         <source>; errno = %1 (%2).</source>
-        <translation type="unfinished"></translation>
+        <translation>; errno = %1 (%2).</translation>
     </message>
     <message>
         <source>VEM Repository Editor Error</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM - Fehler im Paketquellen-Editor</translation>
     </message>
     <message>
         <source>Repository Editor</source>
-        <translation type="unfinished"></translation>
+        <translation>Paketquellen-Editor</translation>
     </message>
     <message>
         <source>Unable to read yum configuration file %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die yum-Konfigurationsdatei %1 kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Unable to stat repository configuration file %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Zustand der Paketquellen-Konfigurationsdatei %1 kann nicht abgefragt werden (stat)</translation>
     </message>
     <message>
         <source>Unable to read repository configuration file %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Paketquellen-Konfigurationsdatei %1 kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Malformed section name in line: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehlerhafter Abschnittsname in Zeile: %1</translation>
     </message>
     <message>
         <source>Error reading repository configuration file %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler beim Lesen der Paketquellen-Konfigurationsdatei %1</translation>
     </message>
     <message>
         <source>A repository has no Identifier.  It will be removed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Paketquelle hat keine Kennung. Sie wird entfernt.</translation>
     </message>
     <message>
         <source>Two or more repositories have the same Identifier(s), %1.  Only one repository will be applied for each Identifier.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mehrere Paketquellen haben dieselbe Kennung: %1. Für jede Kennung wird nur eine Paketquelle übernommen.</translation>
     </message>
     <message>
         <source>  Proceed?</source>
-        <translation type="unfinished"></translation>
+        <translation>  Fortfahren?</translation>
     </message>
     <message>
         <source>Unable to write repository configuration file %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Paketquellen-Konfigurationsdatei %1 kann nicht geschrieben werden</translation>
     </message>
     <message>
         <source>Unable to unlink repository configuration file %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Paketquellen-Konfigurationsdatei %1 kann nicht gelöscht werden</translation>
     </message>
 </context>
 <context>
     <name>YumIO</name>
     <message>
         <source>Unable to release yum lock</source>
-        <translation type="unfinished"></translation>
+        <translation>Die yum-Sperre kann nicht freigegeben werden</translation>
     </message>
     <message>
         <source>Unable to initialize</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Initialisierung ist fehlgeschlagen</translation>
     </message>
     <message>
         <source>Available for update</source>
-        <translation type="unfinished"></translation>
+        <translation>Zur Aktualisierung verfügbar</translation>
     </message>
     <message>
         <source>Available for installation</source>
-        <translation type="unfinished"></translation>
+        <translation>Zur Installation verfügbar</translation>
     </message>
     <message>
         <source>Installed</source>
-        <translation type="unfinished"></translation>
+        <translation>Installiert</translation>
     </message>
     <message>
         <source>Suite of packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Paketsuite</translation>
     </message>
     <message>
         <source>Group of packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Paketgruppe</translation>
     </message>
     <message>
         <source>Ordinary package</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewöhnliches Paket</translation>
     </message>
     <message>
         <source>Applying</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktionen werden angewendet</translation>
     </message>
     <message>
         <source>Checking Dependencies: Total Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Abhängigkeiten werden geprüft: Gesamtfortschritt</translation>
     </message>
     <message>
         <source>Preparing</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorbereitung</translation>
     </message>
     <message>
         <source>Error applying changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler beim Anwenden der Änderungen</translation>
     </message>
     <message>
         <source>Error applying changes: Exiting on Broken Pipe</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler beim Anwenden der Änderungen: Abbruch wegen unterbrochener Pipe</translation>
     </message>
     <message>
         <source>Unable to add package %1 to removes list</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Paket %1 kann nicht in die Liste der zu entfernenden Pakete aufgenommen werden</translation>
     </message>
     <message>
         <source>Unable to add package %1 to installs list</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Paket %1 kann nicht in die Liste der zu installierenden Pakete aufgenommen werden</translation>
     </message>
     <message>
         <source>Unable to find installed version for package update %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die installierte Version zur Paketaktualisierung %1 wurde nicht gefunden</translation>
     </message>
     <message>
         <source>Unable to add new package to pair for updated package %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das neue Paket kann nicht in das Paar für das aktualisierte Paket %1 aufgenommen werden</translation>
     </message>
     <message>
         <source>Unable to add old package to pair for updated package %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das alte Paket kann nicht in das Paar für das aktualisierte Paket %1 aufgenommen werden</translation>
     </message>
     <message>
         <source>Unable to add package %1 to updates list</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Paket %1 kann nicht in die Liste der zu aktualisierenden Pakete aufgenommen werden</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Anwenden</translation>
     </message>
     <message>
         <source>Applying: OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Anwenden: bestätigt</translation>
     </message>
     <message>
         <source>Not Applying: Canceled</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht angewendet: abgebrochen</translation>
     </message>
     <message>
         <source>Running Transaction: Total Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Transaktion wird ausgeführt: Gesamtfortschritt</translation>
     </message>
     <message>
         <source>Cleaning Headers</source>
-        <translation type="unfinished"></translation>
+        <translation>Header werden bereinigt</translation>
     </message>
     <message>
         <source>Cleaning Packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Pakete werden bereinigt</translation>
     </message>
     <message>
         <source>Cleaning Xml Metadata</source>
-        <translation type="unfinished"></translation>
+        <translation>XML-Metadaten werden bereinigt</translation>
     </message>
     <message>
         <source>Cleaning Pickled Cache</source>
-        <translation type="unfinished"></translation>
+        <translation>Pickle-Daten werden bereinigt</translation>
     </message>
     <message>
         <source>Cleaning All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles wird bereinigt</translation>
     </message>
     <message>
         <source>Initialization</source>
-        <translation type="unfinished"></translation>
+        <translation>Initialisierung</translation>
     </message>
     <message>
         <source>Initializing: Total Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Initialisierung: Gesamtfortschritt</translation>
     </message>
     <message>
         <source>Unable to obtain yum lock</source>
-        <translation type="unfinished"></translation>
+        <translation>Die yum-Sperre ist nicht zu erhalten</translation>
     </message>
     <message>
         <source>contents</source>
-        <translation type="unfinished"></translation>
+        <translation>Inhalte</translation>
     </message>
     <message>
         <source>No repositories are configured.
 Under the Repositories menu, Edit Configuration can be used to configure repositories.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es sind keine Paketquellen konfiguriert.
+Paketquellen lassen sich im Menü „Paketquellen“ unter „Konfiguration bearbeiten“ einrichten.</translation>
     </message>
     <message>
         <source>No repositories are enabled.
 Under the Repositories menu, Edit Configuration can be used to configure repositories.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es sind keine Paketquellen aktiviert.
+Paketquellen lassen sich im Menü „Paketquellen“ unter „Konfiguration bearbeiten“ einrichten.</translation>
     </message>
     <message>
         <source>Reading repositories</source>
-        <translation type="unfinished"></translation>
+        <translation>Paketquellen werden gelesen</translation>
     </message>
     <message>
         <source>Collecting updatable packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualisierbare Pakete werden ermittelt</translation>
     </message>
     <message>
         <source>Unable to setup transaction</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Transaktion kann nicht vorbereitet werden</translation>
     </message>
     <message>
         <source>Unable to collect updatable packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Die aktualisierbaren Pakete können nicht ermittelt werden</translation>
     </message>
     <message>
         <source>Collecting installed and available packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Installierte und verfügbare Pakete werden ermittelt</translation>
     </message>
     <message>
         <source>Unable to collect installed and available packages</source>
-        <translation type="unfinished"></translation>
+        <translation>Die installierten und verfügbaren Pakete können nicht ermittelt werden</translation>
     </message>
     <message>
         <source>Collecting groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppen werden ermittelt</translation>
     </message>
     <message>
         <source>Unable to collect groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Gruppen können nicht ermittelt werden</translation>
     </message>
     <message>
         <source>unable to setup repository %1:
 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Paketquelle %1 kann nicht eingerichtet werden:
+%2</translation>
     </message>
     <message>
         <source>Internal error: yumIO.collectAll.%1 not found</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: yumIO.collectAll.%1 nicht gefunden</translation>
     </message>
     <message>
         <source>Internal error: time not understood: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: unverständliche Zeitangabe: %1</translation>
     </message>
     <message>
         <source>Internal error: package size not understood: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: unverständliche Paketgröße: %1</translation>
     </message>
     <message>
         <source>Eb</source>
-        <translation type="unfinished"></translation>
+        <translation>Eb</translation>
     </message>
     <message>
         <source>Pb</source>
-        <translation type="unfinished"></translation>
+        <translation>Pb</translation>
     </message>
     <message>
         <source>Tb</source>
-        <translation type="unfinished"></translation>
+        <translation>Tb</translation>
     </message>
     <message>
         <source>Gb</source>
-        <translation type="unfinished"></translation>
+        <translation>Gb</translation>
     </message>
     <message>
         <source>Mb</source>
-        <translation type="unfinished"></translation>
+        <translation>Mb</translation>
     </message>
     <message>
         <source>Kb</source>
-        <translation type="unfinished"></translation>
+        <translation>Kb</translation>
     </message>
     <message>
         <source>b</source>
-        <translation type="unfinished"></translation>
+        <translation>b</translation>
     </message>
     <message>
         <source>Internal error: yum version not understood: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: unverständliche yum-Version: %1</translation>
     </message>
     <message>
         <source>Collecting File Lists</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateilisten werden ermittelt</translation>
     </message>
     <message>
         <source>file lists</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateilisten</translation>
     </message>
     <message>
         <source>Loading file lists: Total Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateilisten werden geladen: Gesamtfortschritt</translation>
     </message>
     <message>
         <source>Unable to collect file lists</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Dateilisten können nicht ermittelt werden</translation>
     </message>
     <message>
         <source>Collecting Miscellaneous data</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonstige Daten werden ermittelt</translation>
     </message>
     <message>
         <source>miscellaneous data</source>
-        <translation type="unfinished"></translation>
+        <translation>sonstige Daten</translation>
     </message>
     <message>
         <source>Loading miscellaneous data: Total Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonstige Daten werden geladen: Gesamtfortschritt</translation>
     </message>
     <message>
         <source>Unable to collect miscellaneous data</source>
-        <translation type="unfinished"></translation>
+        <translation>Die sonstigen Daten können nicht ermittelt werden</translation>
     </message>
     <message>
         <source>Internal error: execution of yumIO.%1 failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: Ausführung von yumIO.%1 fehlgeschlagen</translation>
     </message>
     <message>
         <source>Internal error: cannot find rpm.%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: rpm.%1 nicht gefunden</translation>
     </message>
     <message>
         <source>Internal error: cannot find package&apos;s prco.%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: prco.%1 des Pakets nicht gefunden</translation>
     </message>
     <message>
         <source>the package is optional</source>
-        <translation type="unfinished"></translation>
+        <translation>das Paket optional ist</translation>
     </message>
     <message>
         <source>Update</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualisieren</translation>
     </message>
     <message>
         <source>Install</source>
-        <translation type="unfinished"></translation>
+        <translation>Installieren</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen</translation>
     </message>
     <message>
         <source>ERROR</source>
-        <translation type="unfinished"></translation>
+        <translation>FEHLER</translation>
     </message>
     <message>
         <source>Package %1 is included in group %2 which was marked for %3,
 so the package would be marked for %4,
 but it was marked individually for %5.
 How do you wish to proceed?</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Paket %1 gehört zur Gruppe %2, die für „%3“ vorgemerkt wurde,
+daher würde es für „%4“ vorgemerkt,
+wurde aber einzeln für „%5“ vorgemerkt.
+Wie soll fortgefahren werden?</translation>
     </message>
     <message>
         <source>Package %1 is included in group %2 which was marked for %3,
 so the package would be marked for %4,
 but you resolved an earlier conflict by marking it for %5.
 How do you wish to proceed?</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Paket %1 gehört zur Gruppe %2, die für „%3“ vorgemerkt wurde,
+daher würde es für „%4“ vorgemerkt,
+ein früherer Konflikt wurde aber gelöst, indem es für „%5“ vorgemerkt wurde.
+Wie soll fortgefahren werden?</translation>
     </message>
     <message>
         <source>Package %1 is included in group %2 which was marked for %3,
 so the package would be marked for %4,
 but it also was part of group %5 and so was marked for %6.
 How do you wish to proceed?</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Paket %1 gehört zur Gruppe %2, die für „%3“ vorgemerkt wurde,
+daher würde es für „%4“ vorgemerkt,
+es gehört aber auch zur Gruppe %5 und wurde deshalb für „%6“ vorgemerkt.
+Wie soll fortgefahren werden?</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Manually resolving conflict: marking package %1 for %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Konflikt von Hand gelöst: Paket %1 wird für „%3“ vorgemerkt</translation>
     </message>
     <message>
         <source>For group %1, marking package %2 for %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppe %1: Paket %2 wird für „%3“ vorgemerkt</translation>
     </message>
     <message>
         <source>For group %1, package %2 already was marked for %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppe %1: Paket %2 war bereits für „%3“ vorgemerkt</translation>
     </message>
     <message>
         <source>For group %1, not marking package %2 for %3, becuase %4</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppe %1: Paket %2 wird nicht für „%3“ vorgemerkt, weil %4</translation>
     </message>
     <message>
         <source>Internal error: groupInfo.%1 not evaluable</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: groupInfo.%1 ist nicht auswertbar</translation>
     </message>
     <message>
         <source>Internal error: groupInfo.%1[%2] not evaluable</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: groupInfo.%1[%2] ist nicht auswertbar</translation>
     </message>
     <message>
         <source>Internal error: group %1.%2 not evaluable</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: Gruppe %1.%2 ist nicht auswertbar</translation>
     </message>
     <message>
         <source>Total download size: %1
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamtgröße der Downloads: %1
+</translation>
     </message>
     <message>
         <source>Internal error: %1 not found
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: %1 nicht gefunden
+</translation>
     </message>
     <message>
         <source>Transaction to be performed:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Auszuführende Transaktion:
+</translation>
     </message>
     <message>
         <source>Performing the following to resolve dependencies:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Zur Auflösung von Abhängigkeiten außerdem nötig:
+</translation>
     </message>
     <message>
         <source>Other Transactions:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Weitere Transaktionen:
+</translation>
     </message>
     <message>
         <source>Obsoleting</source>
-        <translation type="unfinished"></translation>
+        <translation>Ersetzen</translation>
     </message>
     <message>
         <source>	%1: %2
 </source>
-        <translation type="unfinished"></translation>
+        <translation>	%1: %2
+</translation>
     </message>
     <message>
         <source>	%1: %2 with %3
 </source>
-        <translation type="unfinished"></translation>
+        <translation>	%1: %2 durch %3
+</translation>
     </message>
     <message>
         <source>%1 %3-%4 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %3-%4 (%2)</translation>
     </message>
     <message>
         <source>%1 %3:%4-%5 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %3:%4-%5 (%2)</translation>
     </message>
     <message>
         <source> [%1]</source>
-        <translation type="unfinished"></translation>
+        <translation> [%1]</translation>
     </message>
     <message>
         <source>Downloading repository %1 mirror list</source>
-        <translation type="unfinished"></translation>
+        <translation>Spiegelliste herunterladen: %1 der Paketquelle</translation>
     </message>
     <message>
         <source>Downloading repository %1 mirror list for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Spiegelliste herunterladen: %1 der Paketquelle %2</translation>
     </message>
     <message>
         <source>Downloading repository %1 repomd</source>
-        <translation type="unfinished"></translation>
+        <translation>repomd herunterladen: %1 der Paketquelle</translation>
     </message>
     <message>
         <source>Downloading repository %1 repomd for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>repomd herunterladen: %1 der Paketquelle %2</translation>
     </message>
     <message>
         <source>Downloading repository %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Herunterladen: %1 der Paketquelle</translation>
     </message>
     <message>
         <source>Downloading repository %1 for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Herunterladen: %1 der Paketquelle %2</translation>
     </message>
     <message>
         <source>Converting repository %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Umwandeln: %1 der Paketquelle</translation>
     </message>
     <message>
         <source>Converting repository %1 for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Umwandeln: %1 der Paketquelle %2</translation>
     </message>
     <message>
         <source>Reading repository %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Lesen: %1 der Paketquelle</translation>
     </message>
     <message>
         <source>Reading repository %1 for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Lesen: %1 der Paketquelle %2</translation>
     </message>
     <message>
         <source>VEM Yum Error</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM - Yum-Fehler</translation>
     </message>
     <message>
         <source>VEM Yum Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>VEM - Yum-Warnung</translation>
     </message>
     <message>
         <source>Resolve Dependencies</source>
-        <translation type="unfinished"></translation>
+        <translation>Abhängigkeiten auflösen</translation>
     </message>
     <message>
         <source>Internal error: unexpected TSINFO: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: unerwartetes TSINFO: %1</translation>
     </message>
     <message>
         <source>Internal error: TSINFO mentions unknown package: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: TSINFO nennt ein unbekanntes Paket: %1</translation>
     </message>
     <message>
         <source>Internal error: TSINFO mentions intent to install or upgrade package that already seems up-to-date: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: TSINFO will ein Paket installieren oder aktualisieren, das bereits aktuell zu sein scheint: %1</translation>
     </message>
     <message>
         <source>Finishing RPM rebuild from deltas</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederherstellung der RPMs aus Deltas wird abgeschlossen</translation>
     </message>
     <message>
         <source>Downloading %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird heruntergeladen</translation>
     </message>
     <message>
         <source>Downloading %1 header</source>
-        <translation type="unfinished"></translation>
+        <translation>Header von %1 wird heruntergeladen</translation>
     </message>
     <message>
         <source>Preparing to Run Transaction</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausführung der Transaktion wird vorbereitet</translation>
     </message>
     <message>
         <source>Preparing to Test Transaction</source>
-        <translation type="unfinished"></translation>
+        <translation>Test der Transaktion wird vorbereitet</translation>
     </message>
     <message>
         <source>Updating %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird aktualisiert</translation>
     </message>
     <message>
         <source>Installing %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird installiert</translation>
     </message>
     <message>
         <source>Completing update for: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualisierung wird abgeschlossen: %1</translation>
     </message>
     <message>
         <source>Removing %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird entfernt</translation>
     </message>
     <message>
         <source>Transaction Test</source>
-        <translation type="unfinished"></translation>
+        <translation>Test der Transaktion</translation>
     </message>
     <message>
         <source>Internal error: YumIO::tsCallback what=%1 not understood; ignoring</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: YumIO::tsCallback what=%1 unverständlich; wird ignoriert</translation>
     </message>
     <message>
         <source>Internal error: YumIO::tsEvent action=%1 not understood; ignoring</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler: YumIO::tsEvent action=%1 unverständlich; wird ignoriert</translation>
     </message>
     <message>
         <source>Removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernt</translation>
     </message>
     <message>
         <source>Dependency Removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Abhängigkeit entfernt</translation>
     </message>
     <message>
         <source>Dependency Installed</source>
-        <translation type="unfinished"></translation>
+        <translation>Abhängigkeit installiert</translation>
     </message>
     <message>
         <source>Updated</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualisiert</translation>
     </message>
     <message>
         <source>Dependency Updated</source>
-        <translation type="unfinished"></translation>
+        <translation>Abhängigkeit aktualisiert</translation>
     </message>
     <message>
         <source>Obsoleted</source>
-        <translation type="unfinished"></translation>
+        <translation>Ersetzt</translation>
     </message>
 </context>
 <context>
     <name>YumIOCapturers</name>
     <message>
         <source>Unable to open pipe to capture rpm transaction output</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Pipe zum Erfassen der Ausgabe der rpm-Transaktion kann nicht geöffnet werden</translation>
     </message>
     <message>
         <source>Unable to dup2 pipe to capture rpm transaction output</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Pipe zum Erfassen der Ausgabe der rpm-Transaktion kann nicht umgeleitet werden (dup2)</translation>
     </message>
     <message>
         <source>Unable to dup2 to restore stderr</source>
-        <translation type="unfinished"></translation>
+        <translation>stderr kann nicht wiederhergestellt werden (dup2)</translation>
     </message>
 </context>
 </TS>
