@@ -130,7 +130,7 @@ class YumIO:
     def apply(self, installs: Sequence[Any], updates: Sequence[Any], removes: Sequence[Any]) -> None:
         """Solves, lists, asks, downloads and runs. YumBaseError; OSError only for a broken pipe."""
         with reported_as(YumBaseError):
-            rights.require_administrator("install, update or remove packages")
+            rights.require_administrator(rights.NO_CHANGE)
             Apply(self._session).run(installs, updates, removes)
 
     def usesPresto(self) -> bool:
@@ -158,5 +158,5 @@ class YumIO:
         return self._clean("dbcache")
 
     def _clean(self, *kinds: str) -> Tuple[int, List[str]]:
-        rights.require_administrator("clean the caches")
+        rights.require_administrator(rights.NO_CLEANING)
         return clean.clean(self._session.cache_directory, *kinds) if kinds else (0, [])

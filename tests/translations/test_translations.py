@@ -2,6 +2,8 @@
 """The translated texts: all are there, and each keeps what the program needs of its source."""
 from __future__ import annotations
 
+import gettext
+import io
 import re
 import shutil
 import subprocess
@@ -50,23 +52,65 @@ def keys(file: Path) -> set[tuple[str, str]]:
     return {(message.context, message.source) for message in messages(file)}
 
 
+def po_file(language: str) -> Path:
+    return HOUSE / f"translations/script_{language}.po"
+
+
 @pytest.fixture(scope="module")
 def extracted(tmp_path_factory: pytest.TempPathFactory) -> Path:
-    """A file of texts made anew from the sources."""
-    file = tmp_path_factory.mktemp("texts") / "vem_xx.ts"
-    shutil.copy(ts_file("de"), file)
-    subprocess.run([HOUSE / "tools/update-translations", file.parent], check=True)
-    return file
+    """A directory of the files brought up to the sources."""
+    directory = tmp_path_factory.mktemp("texts")
+    for language in LANGUAGES:
+        shutil.copy(ts_file(language), directory)
+        shutil.copy(po_file(language), directory)
+    subprocess.run([HOUSE / "tools/update-translations", directory], check=True)
+    return directory
 
 
 @pytest.mark.parametrize("language", LANGUAGES)
 def test_each_text_of_the_sources_is_in_the_file_and_no_other(language: str, extracted: Path) -> None:
-    assert keys(ts_file(language)) == keys(extracted), "run tools/update-translations"
+    assert keys(ts_file(language)) == keys(
+        extracted / ts_file(language).name
+    ), "run tools/update-translations"
+
+
+@pytest.mark.parametrize("language", LANGUAGES)
+def test_each_text_of_the_helper_script_is_in_its_file_and_translated(language: str, extracted: Path) -> None:
+    own = po_file(language)
+    assert own.read_text() == (extracted / own.name).read_text(), "run tools/update-translations"
+    untranslated = subprocess.run(
+        ["msgattrib", "--untranslated", own], check=True, stdout=subprocess.PIPE, text=True
+    ).stdout
+    assert untranslated == ""
+
+
+@pytest.mark.parametrize("language", LANGUAGES)
+def test_texts_of_the_helper_script_keep_what_is_filled_in(language: str) -> None:
+    catalogue = gettext.GNUTranslations(
+        io.BytesIO(
+            subprocess.run(
+                ["msgfmt", "--check-format", "--output-file=-", po_file(language)],
+                check=True,
+                stdout=subprocess.PIPE,
+            ).stdout
+        )
+    )
+    texts = {
+        source: text for source, text in catalogue._catalog.items() if isinstance(source, str) and source
+    }
+    assert len(texts) > 40
+    assert {source for source, text in texts.items() if fields(source) != fields(text)} == set()
 
 
 @pytest.mark.parametrize("language", LANGUAGES)
 def test_each_text_is_translated(language: str) -> None:
-    assert [message for message in messages(ts_file(language)) if not (message.finished and message.translation)] == []
+    assert [
+        message for message in messages(ts_file(language)) if not (message.finished and message.translation)
+    ] == []
+
+
+def fields(text: str) -> list[str]:
+    return sorted(re.findall(r"{\w*}", text))
 
 
 def numbered(text: str) -> list[str]:
@@ -104,11 +148,17 @@ def test_colours_sizes_and_keys_are_the_same_everywhere(language: str) -> None:
     different = [
         message
         for message in messages(ts_file(language))
-        if (message.context in UNCHANGED or message.source in UNITS or re.fullmatch(r"Ctrl\+.|F\d+", message.source))
+        if (
+            message.context in UNCHANGED
+            or message.source in UNITS
+            or re.fullmatch(r"Ctrl\+.|F\d+", message.source)
+        )
         and message.source != message.translation
     ]
     assert different == []
 
 
 def test_there_is_a_file_for_each_language_and_no_other() -> None:
-    assert {file.stem for file in (HOUSE / "translations").glob("*.ts")} == {f"vem_{name}" for name in LANGUAGES}
+    folder = HOUSE / "translations"
+    assert {file.stem for file in folder.glob("*.ts")} == {f"vem_{name}" for name in LANGUAGES}
+    assert {file.stem for file in folder.glob("*.po")} == {f"script_{name}" for name in LANGUAGES}

@@ -27,9 +27,10 @@ from .session import Session
 from .signatures import check_signatures
 from .solver import mark, solve
 from .surroundings import load_needed_later
+from .texts import _
 from .transaction import TransactionInfo
 
-_REFRESH = "A part of the transaction may have been done: please refresh the list of packages."
+_REFRESH = _("A part of the transaction may have been done: please refresh the list of packages.")
 
 
 class Apply:
@@ -45,7 +46,7 @@ class Apply:
         Blocks while the user is asked and while rpm runs.
         """
         if not (installs or updates or removes):
-            host.log(host.LEVEL_NOTICE, "Nothing is marked")
+            host.log(host.LEVEL_NOTICE, _("Nothing is marked"))
             return
         collector = self._session.collector
         with contextlib.closing(self._session.new_base()) as base:
@@ -103,7 +104,7 @@ def _run(base: Base) -> None:
     wrong = _not_as_asked(base)
     if not wrong and not display.faults:
         return
-    lines = ["Not everything went as it should:"]
+    lines = [_("Not everything went as it should:")]
     lines += [f"  {line}" for line in (*wrong, *dict.fromkeys(display.faults + display.rpm_said))]
     raise YumBaseError("\n".join([*lines, _REFRESH]))
 
@@ -135,9 +136,9 @@ def _not_as_asked(base: Base) -> List[str]:
         package = item.pkg
         there = _package_nevra(package) in present.get(package.name, ())
         if item.action in dnf.transaction.FORWARD_ACTIONS and not there:
-            wrong.append(f"{package} was not installed")
+            wrong.append(_("{package} was not installed").format(package=package))
         elif item.action in dnf.transaction.BACKWARD_ACTIONS and there and str(package) not in incoming:
-            wrong.append(f"{package} was not removed")
+            wrong.append(_("{package} was not removed").format(package=package))
         elif item.state == lt.TransactionItemState_ERROR:
             wrong.append(f"{package} failed")
     return wrong

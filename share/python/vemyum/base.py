@@ -19,6 +19,7 @@ from .errors import RepoError, YumBaseError
 from .messages import heard
 from .metadata import ReadingProgress, RepositoryProgress
 from .queries import MetadataFetcher, ask_by_complete_address, base_addresses, rounds
+from .texts import _
 
 _SCARCE = 1 << 20
 """So few free bytes are worth a word when a repository cannot be read."""
@@ -74,7 +75,9 @@ class Base(dnf.Base):
         except OSError as error:
             if "RPMDB" in str(error):
                 root = self.conf.installroot
-                raise YumBaseError(f"The rpm database of {root} cannot be read: {error}") from error
+                raise YumBaseError(
+                    _("The rpm database of {root} cannot be read: {error}").format(root=root, error=error)
+                ) from error
             raise
 
     def _add_repo_to_sack(self, repo: dnf.repo.Repo) -> None:
@@ -123,11 +126,14 @@ class Base(dnf.Base):
 def address(repo: dnf.repo.Repo) -> str:
     """Where a repository is configured to be: its first address, metalink or mirror list."""
     candidates = [*repo.baseurl, repo.metalink, repo.mirrorlist]
-    return next((candidate for candidate in candidates if candidate), "no address")
+    return next((candidate for candidate in candidates if candidate), _("no address"))
 
 
 def _repository_text(repo: dnf.repo.Repo, text: str, causes: Iterable[str], directory: str) -> str:
-    lines = [f"Unable to read repository {repo.id} ({address(repo)}):", text.strip()]
+    lines = [
+        _("Unable to read repository {id} ({address}):").format(id=repo.id, address=address(repo)),
+        text.strip(),
+    ]
     lines += [cause for cause in dict.fromkeys(causes) if cause not in text]
     lines += _scarce_space(directory)
     return "\n".join(lines)
@@ -140,7 +146,11 @@ def _scarce_space(directory: str) -> List[str]:
     except OSError:
         return []
     free = space.f_bavail * space.f_frsize
-    return [f"Only {free // 1024} KiB are free in {directory}."] if free < _SCARCE else []
+    return (
+        [_("Only {size} KiB are free in {directory}.").format(size=free // 1024, directory=directory)]
+        if free < _SCARCE
+        else []
+    )
 
 
 def open_base(

@@ -9,6 +9,7 @@ import dnf.repo
 
 from . import host
 from .errors import YumBaseError, reported_as
+from .texts import _, ngettext
 
 
 def clean(cache_directory: Optional[str], *kinds: str) -> Tuple[int, List[str]]:
@@ -18,18 +19,18 @@ def clean(cache_directory: Optional[str], *kinds: str) -> Tuple[int, List[str]]:
     Files of repositories that lie on this machine are no cache, and stay.
     """
     if cache_directory is None:
-        return (1, ["The configuration cannot be read"])
+        return (1, [_("The configuration cannot be read")])
     # Brings dnf's whole command line with it, which a start of the program need not wait for.
     from dnf.cli.commands import clean as dnf_clean
 
     patterns = [dnf.repo.CACHE_FILES[kind] for kind in kinds]
     try:
-        with reported_as(YumBaseError, "Unable to clean"):
+        with reported_as(YumBaseError, _("Unable to clean")):
             files = list(dnf_clean._filter(list(dnf_clean._tree(cache_directory)), patterns))
             count = dnf_clean._clean(cache_directory, files)
     except YumBaseError as error:
         host.errorlog(host.LEVEL_ERROR, str(error))
         return (1, [str(error)])
-    text = f"{count} {'file' if count == 1 else 'files'} removed"
+    text = ngettext("{count} file removed", "{count} files removed", count).format(count=count)
     host.log(host.LEVEL_NOTICE, text)
     return (0, [text])

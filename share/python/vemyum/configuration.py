@@ -24,6 +24,7 @@ import libdnf.conf
 from . import rights
 from .database import point_rpm_at
 from .errors import YumBaseError
+from .texts import _
 
 MAIN_FILES = ("/etc/yum/yum.conf", "/etc/yum.conf")
 REPOSITORY_DIRECTORIES = ("/etc/yum/repos.d", "/etc/yum.repos.d")
@@ -115,7 +116,9 @@ def _require_utf8(file: str, stumble: Exception) -> None:
         return
     except UnicodeDecodeError as fault:
         line = fault.object.count(b"\n", 0, fault.start) + 1
-        raise YumBaseError(f"{file}, line {line}: the text is not in UTF-8") from stumble
+        raise YumBaseError(
+            _("{file}, line {line}: the text is not in UTF-8").format(file=file, line=line)
+        ) from stumble
 
 
 def _release(root: str) -> str:

@@ -13,6 +13,7 @@ from typing import AbstractSet, Optional
 import rpm
 
 from .text import valid
+from .texts import _
 
 _PLACES = ("/var/lib/rpm", "/usr/lib/sysimage/rpm")
 _DATABASES = ("rpmdb.sqlite", "Packages.db", "Packages")
@@ -54,7 +55,7 @@ def damage(root: str) -> Optional[str]:
     for name in _DATABASES:
         path = os.path.join(root + directory, name)
         if os.path.exists(path) and os.path.getsize(path) == 0 and not os.path.exists(path + "-wal"):
-            return f"{path} is empty"
+            return _("{path} is empty").format(path=path)
     return None
 
 
@@ -78,4 +79,4 @@ def unlisted(root: str, names: AbstractSet[str]) -> Optional[str]:
     if not missing:
         return None
     few = ", ".join(missing[:_FEW]) + (", ..." if len(missing) > _FEW else "")
-    return f"packages are installed that it no longer lists ({few}). It is damaged."
+    return _("packages are installed that it no longer lists ({packages}). It is damaged.").format(packages=few)

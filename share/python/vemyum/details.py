@@ -17,6 +17,7 @@ from .base import Base, open_base
 from .metadata import reading_reported
 from .records import Records, changes, chunks, files
 from .text import valid
+from .texts import _
 
 _HOSTS = re.compile(rb'<checksum[^>]*\bpkgid="YES"[^>]*>\s*([0-9a-f]+)\s*<|<rpm:buildhost>([^<]*)<')
 
@@ -44,7 +45,12 @@ class PackageDetails:
                     if path:
                         self._file_lists[repo.id] = Records(path)
                 except OSError as error:
-                    host.errorlog(host.LEVEL_NOTICE, f"The file lists of {repo.id} are read slowly: {error}")
+                    host.errorlog(
+                        host.LEVEL_NOTICE,
+                        _("The file lists of {repository} are read slowly: {error}").format(
+                            repository=repo.id, error=error
+                        ),
+                    )
 
     def load_changelogs(self, conf: dnf.conf.MainConf, enabled: Dict[str, bool]) -> None:
         """Loads the changelogs of the enabled repositories, with progress. Raises as Base does, and OSError.

@@ -14,6 +14,7 @@ import dnf.package
 from . import host
 from .base import Base
 from .errors import YumBaseError
+from .texts import _
 
 
 _GOOD_ENDS = (
@@ -110,7 +111,7 @@ def download(base: Base, packages: List[dnf.package.Package]) -> None:
             for package, messages in error.errmap.items()
             for message in messages
         ]
-        raise YumBaseError("Unable to download packages:\n" + "\n".join(lines)) from error
+        raise YumBaseError("\n".join([_("Unable to download packages:"), *lines])) from error
     finally:
         meter.finish()
     _require_files(packages)
@@ -120,13 +121,13 @@ def _require_files(packages: List[dnf.package.Package]) -> None:
     for package in packages:
         path = package.localPkg()
         if not os.path.exists(path):
-            raise YumBaseError(f"The file of package {package} is missing: {path}")
+            raise YumBaseError(
+                _("The file of package {package} is missing: {path}").format(package=package, path=path)
+            )
 
 
 def not_in_cache(packages: List[dnf.package.Package]) -> List[dnf.package.Package]:
     """The packages that the repositories still have to give: all but those in the download cache."""
     return [
-        package
-        for package in packages
-        if package._is_local_pkg() or not os.path.exists(package.localPkg())
+        package for package in packages if package._is_local_pkg() or not os.path.exists(package.localPkg())
     ]

@@ -17,6 +17,7 @@ import dnf.conf.read
 
 from .errors import os_error_text
 from .text import valid
+from .texts import _
 
 _UTF8_ELSE_LATIN1 = "vem.latin1"
 
@@ -59,7 +60,7 @@ def _utf8_file(path: str) -> Iterator[str]:
     if fault is None:
         yield path
         return
-    logging.getLogger("dnf").warning("%s is read as Latin-1; other programs may refuse it", fault)
+    logging.getLogger("dnf").warning("%s", fault)
     # For its owner's eyes only: an address may hold a password.
     with tempfile.NamedTemporaryFile(prefix="vem-", suffix=".repo") as copy:
         copy.write(content.decode("utf-8", _UTF8_ELSE_LATIN1).encode("utf-8"))
@@ -68,14 +69,16 @@ def _utf8_file(path: str) -> Iterator[str]:
 
 
 def _fault(path: str, content: bytes) -> Optional[str]:
-    """Where the first thing is that isn't UTF-8."""
+    """Tells where the first thing is that isn't UTF-8."""
     try:
         path.encode("utf-8")
     except UnicodeEncodeError:
-        return f"The name of {path}"
+        return _("The name of {path} is read as Latin-1; other programs may refuse it").format(path=path)
     try:
         content.decode("utf-8")
     except UnicodeDecodeError as error:
         line = content.count(b"\n", 0, error.start) + 1
-        return f"{path}, line {line},"
+        return _("{path}, line {line}, is read as Latin-1; other programs may refuse it").format(
+            path=path, line=line
+        )
     return None

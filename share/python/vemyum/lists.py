@@ -17,6 +17,7 @@ from .base import Base
 from .database import damage, unlisted
 from .errors import YumBaseError
 from .packages import AvailablePackage, Details, InstalledPackage
+from .texts import _
 
 
 def _names(packages: Iterable[Any]) -> FrozenSet[str]:
@@ -128,7 +129,9 @@ class Collector:
         if count == 0:
             fault = fault or damage(root)
             if fault is None and self._known_installed.get(root, 0) > 0:
-                fault = "it lists no packages, though it did before. If that is right, start anew."
+                fault = _("it lists no packages, though it did before. If that is right, start anew.")
         if fault is not None:
-            raise YumBaseError(f"The rpm database of {root} cannot be used: {fault}")
+            raise YumBaseError(
+                _("The rpm database of {root} cannot be used: {fault}").format(root=root, fault=fault)
+            )
         self._known_installed[root] = count

@@ -18,6 +18,7 @@ import dnf.exceptions
 import dnf.lock
 
 from .errors import LockError, reported_as
+from .texts import _
 
 _BUILDERS = ("build_metadata_lock", "build_download_lock", "build_rpmdb_lock")
 
@@ -54,7 +55,11 @@ class ProcessLock:
                     taken.append(lock)
         except dnf.exceptions.ProcessLockError as error:
             self._leave(taken)
-            raise LockError(f"The yum lock is held by process {error.pid}{_program(error.pid)}.") from error
+            raise LockError(
+                _("The yum lock is held by process {process}.").format(
+                    process=f"{error.pid}{_program(error.pid)}"
+                )
+            ) from error
         except LockError:
             self._leave(taken)
             raise

@@ -22,6 +22,7 @@ import dnf.repo
 
 from . import host
 from .errors import RepoError
+from .texts import _
 
 _NAMESPACE = "{http://linux.duke.edu/metadata/repo}"
 _FOLDER = "repodata"
@@ -90,7 +91,7 @@ class MetadataFetcher:
         if cached and (lazy or not self._repo._repo.isExpired()):
             return
         if self._repo.repo_gpgcheck:
-            raise RepoError("repo_gpgcheck is not possible for an address with a query")
+            raise RepoError(_("repo_gpgcheck is not possible for an address with a query"))
         os.makedirs(self._cache, exist_ok=True)
         stage = tempfile.mkdtemp(prefix="tmpdir.", dir=self._cache)
         try:
@@ -161,7 +162,7 @@ def _listed(repomd: str, with_other: bool) -> List[_File]:
     try:
         root = ElementTree.parse(repomd).getroot()
     except ElementTree.ParseError as error:
-        raise RepoError(f"{_REPOMD} parser error: {error}") from error
+        raise RepoError(_("{file} parser error: {error}").format(file=_REPOMD, error=error)) from error
     files = []
     for data in root.iter(f"{_NAMESPACE}data"):
         kind = data.get("type", "")
@@ -170,7 +171,9 @@ def _listed(repomd: str, with_other: bool) -> List[_File]:
         location, checksum = data.find(f"{_NAMESPACE}location"), data.find(f"{_NAMESPACE}checksum")
         href = "" if location is None else location.get("href", "")
         if checksum is None or href != f"{_FOLDER}/{os.path.basename(href)}":
-            raise RepoError(f"{_REPOMD} lists {kind} in a form that is not understood")
+            raise RepoError(
+                _("{file} lists {kind} in a form that is not understood").format(file=_REPOMD, kind=kind)
+            )
         size = data.findtext(f"{_NAMESPACE}size") or ""
         files.append(
             _File(
@@ -190,9 +193,11 @@ def _verify(file: _File, path: str) -> None:
         if not digest.digest_size:
             raise ValueError("a digest of any length proves nothing")
     except ValueError as error:
-        raise RepoError(f"{file.href}: the checksum type {file.checksum_type} is not known") from error
+        raise RepoError(
+            _("{file}: the checksum type {type} is not known").format(file=file.href, type=file.checksum_type)
+        ) from error
     with open(path, "rb") as stream:
         for chunk in iter(lambda: stream.read(1 << 20), b""):
             digest.update(chunk)
     if digest.hexdigest() != file.checksum.lower():
-        raise RepoError(f"{file.href}: the checksum is not the announced one")
+        raise RepoError(_("{file}: the checksum is not the announced one").format(file=file.href))

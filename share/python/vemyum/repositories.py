@@ -8,6 +8,7 @@ from typing import Dict, Iterable
 import dnf.repo
 
 from .errors import RepoError
+from .texts import _
 
 
 class Repository:
@@ -44,7 +45,7 @@ class Repositories:
         try:
             return self.repos[id]
         except KeyError:
-            raise RepoError(f"There is no repository {id}") from None
+            raise RepoError(_("There is no repository {id}").format(id=id)) from None
 
 
 class UnreadableRepositories(Repositories):

@@ -17,8 +17,13 @@ import dnf.util
 import dnf.yum.misc
 
 from .errors import YumBaseError, os_error_text
+from .texts import _
 
-LOOK_ONLY = "Started without administrator rights: packages can be looked at, not changed."
+LOOK_ONLY = _("Started without administrator rights: packages can be looked at, not changed.")
+NO_CHANGE = _(
+    "Only the administrator can install, update or remove packages: start the program with administrator rights."
+)
+NO_CLEANING = _("Only the administrator can clean the caches: start the program with administrator rights.")
 
 _DIRECTORIES = {"cachedir": "cache", "persistdir": "persist", "logdir": "log"}
 
@@ -28,10 +33,10 @@ def is_administrator() -> bool:
     return bool(dnf.util.am_i_root())
 
 
-def require_administrator(action: str) -> None:
-    """YumBaseError, one sentence that names the action, for anybody else."""
+def require_administrator(refusal: str) -> None:
+    """YumBaseError with this sentence for anybody else."""
     if not is_administrator():
-        raise YumBaseError(f"Only the administrator can {action}: start the program with administrator rights.")
+        raise YumBaseError(refusal)
 
 
 def own_directory(root: str) -> str:
@@ -49,8 +54,8 @@ def own_directory(root: str) -> str:
                 raise PermissionError(errno.EACCES, "It cannot be written", folder)
     except OSError as error:
         raise YumBaseError(
-            "Without administrator rights the program needs a cache of the user's own, which cannot be used:\n"
-            f"{os_error_text(error)}"
+            _("Without administrator rights the program needs a cache of the user's own, which cannot be used:")
+            + f"\n{os_error_text(error)}"
         ) from error
     # What dnf itself keeps for a user, its locks above all; it would make a folder of a random name.
     dnf.yum.misc.getCacheDir = lambda: own
@@ -66,7 +71,7 @@ def use_directories(conf: dnf.conf.MainConf, own: str) -> None:
 def _make_private(folder: str) -> None:
     """Makes the folder, and those above it, for this user's eyes only where they are missing. OSError."""
     if not os.path.isabs(folder):
-        raise FileNotFoundError(errno.ENOENT, "The user has no home directory", folder)
+        raise FileNotFoundError(errno.ENOENT, _("The user has no home directory"), folder)
     if not os.path.isdir(folder):
         _make_private(os.path.dirname(folder))
         # Another copy of the program may be as far.

@@ -22,8 +22,9 @@ from .lists import Collector, PackageLists
 from .lock import LOCK
 from .repositories import Repositories, UnreadableRepositories
 from .sack import light_packages
+from .texts import _
 
-_NOT_READ = "The repositories are not read"
+_NOT_READ = _("The repositories are not read")
 
 
 class Session:
@@ -41,7 +42,7 @@ class Session:
         self._comps: Optional[dnf.comps.Comps] = None
         self._fault: Optional[YumBaseError] = None
         try:
-            with reported_as(YumBaseError, "Unable to read the configuration"):
+            with reported_as(YumBaseError, _("Unable to read the configuration")):
                 self._conf = read_configuration()
                 self._base = open_base(self._conf)
                 self.repositories = Repositories(self._base.repos.values())
@@ -72,7 +73,7 @@ class Session:
         if self._fault is not None:
             raise RepoError(str(self._fault))
         if self._base is None or self._conf is None or self._collector is not None:
-            raise RepoError("The repositories can be read once only")
+            raise RepoError(_("The repositories can be read once only"))
         # Tens of thousands of objects are made from here on, and none of them is garbage.
         gc.disable()
         try:

@@ -16,6 +16,7 @@ import rpm
 from .base import Base
 from .database import database_directory
 from .errors import YumBaseError
+from .texts import _
 
 _FORMATS = ("%{RSAHEADER:pgpsig}", "%{DSAHEADER:pgpsig}", "%{SIGPGP:pgpsig}", "%{SIGGPG:pgpsig}")
 _FATAL = 2
@@ -30,14 +31,15 @@ def check_signatures(base: Base, packages: List[dnf.package.Package]) -> None:
             result, message = base.package_signature_check(package)
         if result == 0:
             continue
-        locations = ", ".join(base.repos[package.reponame].gpgkey) or "none"
-        faults.append(
-            f"Package {package}: {message}\n"
-            f"    key: {_key(package.localPkg()) or 'not signed'}\n"
-            f"    gpgkey of repository {package.reponame}: {locations}"
-        )
+        locations = ", ".join(base.repos[package.reponame].gpgkey) or _("none")
+        key = _key(package.localPkg()) or _("not signed")
+        faults += [
+            _("Package {package}: {message}").format(package=package, message=message),
+            "    " + _("key: {key}").format(key=key),
+            "    " + _("gpgkey of repository {id}: {locations}").format(id=package.reponame, locations=locations),
+        ]
     if faults:
-        faults.append("Nothing was installed.")
+        faults.append(_("Nothing was installed."))
         raise YumBaseError("\n".join(faults))
 
 
@@ -55,7 +57,7 @@ def _checking_below(root: str) -> Iterator[None]:
     def check(_: Any, path: str) -> int:
         rpmkeys = shutil.which("rpmkeys")
         if rpmkeys is None:
-            raise YumBaseError("The program rpmkeys is missing: signatures cannot be checked")
+            raise YumBaseError(_("The program rpmkeys is missing: signatures cannot be checked"))
         command = [rpmkeys, "--checksig", "--root", root, "--dbpath", database, "--verbose"]
         command += ["--define=_pkgverify_level signature", "--define=_pkgverify_flags 0x0", "-"]
         with open(path, "rb") as package:

@@ -13,9 +13,11 @@ from .base import Base
 from .errors import YumBaseError
 from .lists import Collector
 from .packages import Package
+from .texts import _
 from .transaction import Marks, TransactionInfo, pkgtup_of
 
-_GONE = "{} is no longer {}. Please refresh the list of packages."
+_NOT_OFFERED = _("{package} is no longer in the repository {repository}. Please refresh the list of packages.")
+_NOT_INSTALLED = _("{package} is no longer installed. Please refresh the list of packages.")
 
 
 def mark(base: Base, installs: Sequence[Any], updates: Sequence[Any], removes: Sequence[Any]) -> Marks:
@@ -29,7 +31,7 @@ def mark(base: Base, installs: Sequence[Any], updates: Sequence[Any], removes: S
     for wanted in incoming:
         package = available.get((wanted.po.reponame, *_identity(wanted.po)))
         if package is None:
-            raise YumBaseError(_GONE.format(wanted, f"in the repository {wanted.po.reponame}"))
+            raise YumBaseError(_NOT_OFFERED.format(package=wanted, repository=wanted.po.reponame))
         # Also for updates: dnf's own "upgrade" gives way silently where dependencies are in the way.
         base.package_install(package)
         marks.incoming.append(package)
@@ -37,7 +39,7 @@ def mark(base: Base, installs: Sequence[Any], updates: Sequence[Any], removes: S
     for unwanted in removes:
         package = installed.get((hawkey.SYSTEM_REPO_NAME, *_identity(unwanted.po)))
         if package is None:
-            raise YumBaseError(_GONE.format(unwanted, "installed"))
+            raise YumBaseError(_NOT_INSTALLED.format(package=unwanted))
         base.package_remove(package)
         marks.removed.append(package)
     return marks
@@ -65,7 +67,7 @@ def solve(base: Base, marks: Marks, collector: Collector) -> TransactionInfo:
     """
     host.solver_check()
     if not base.resolve(allow_erasing=bool(marks.removed)):
-        raise YumBaseError("Nothing to do: the system is already as it was asked to be.")
+        raise YumBaseError(_("Nothing to do: the system is already as it was asked to be."))
     info = TransactionInfo(base, marks, collector.updatable)
     _require_marks(info, base, marks)
     lines = _lines(info, base, marks, collector)
@@ -85,7 +87,9 @@ def _require_marks(info: TransactionInfo, base: Base, marks: Marks) -> None:
     left_out = [str(package) for package in marked if pkgtup_of(package) not in happens]
     if left_out:
         raise YumBaseError(
-            f"Nothing is to be done about {', '.join(left_out)}. Please refresh the list of packages."
+            _("Nothing is to be done about {packages}. Please refresh the list of packages.").format(
+                packages=", ".join(left_out)
+            )
         )
 
 
