@@ -50,7 +50,7 @@ private Q_SLOTS:
                                  << "&Describir"
                                  << "Cancelar";
         QTest::newRow("French") << "fr_FR"
-                                << "&Décrire"
+                                << "Déc&rire"
                                 << "Annuler";
         QTest::newRow("Japanese") << "ja_JP"
                                   << "詳細(&D)"
