@@ -56,6 +56,21 @@ def test_metainfo_shows_pictures_of_the_manual() -> None:
         assert (str(size[0]), str(size[1])) == (image.get("width"), image.get("height")), name
 
 
+def test_metainfo_speaks_every_language() -> None:
+    tree = ElementTree.parse(SOURCE / "org.example.vem.metainfo.xml").getroot()
+    for parent, what in (
+        (tree, "summary"),
+        (tree.find("description"), "p"),
+        (tree.find("description/ul"), "li"),
+        *((screenshot, "caption") for screenshot in tree.iter("screenshot")),
+    ):
+        assert parent is not None
+        languages = [text.get(XML_LANGUAGE) for text in parent.findall(what)]
+        assert languages
+        # A translation stands behind its source.
+        assert languages == [None, *sorted(LANGUAGES)] * languages.count(None), what
+
+
 def test_policy_asks_for_an_administrator_and_starts_one_program() -> None:
     tree = ElementTree.parse(CONFIGURED / "org.example.vem.policy")
     actions = tree.findall("action")

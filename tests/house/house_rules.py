@@ -23,7 +23,7 @@ EDGES: dict[str, set[str]] = {
 }
 INCLUDE = re.compile(r'^\s*#\s*include\s+["<]([a-z]+)/', re.MULTILINE)
 PYTHON_API = re.compile(r'^\s*#\s*include\s+["<](Python\.h|bridge/PythonApi\.h)[">]', re.MULTILINE)
-SOURCES = {".cpp", ".h", ".py", ".sh", ".svg", ".spec", ".cmake", ".adoc", ".yml"}
+SOURCES = {".cpp", ".h", ".py", ".sh", ".svg", ".spec", ".cmake", ".adoc", ".po", ".toml"}
 NAMES = {"CMakeLists.txt", "run", "check", "packages.list", ".clang-format", ".clang-tidy"}
 
 

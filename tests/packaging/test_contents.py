@@ -30,6 +30,7 @@ WANTED = {
     "/usr/share/vem/pixmaps/vem.icon.png",
     "/usr/share/vem/pixmaps/vem.icon@2x.png",
     *(f"/usr/share/vem/translations/vem_{language}.qm" for language in LANGUAGES),
+    *(f"/usr/share/vem/locale/{language}/LC_MESSAGES/vem.mo" for language in LANGUAGES),
     *(f"{MANUALS}/html/pictures/{picture.name}" for picture in (TOP / "manual/pictures").glob("*.png")),
     *(
         f"/usr/share/vem/icons/{drawing.stem}{scale}.png"
@@ -97,7 +98,10 @@ def test_the_desktop_is_pointed_to_what_is_installed(package: Package) -> None:
 
 def test_rpm_marks_languages_licence_and_documents(rpm_file: Path, rpm_package: Package) -> None:
     languages = {path: language for path, language in rpm_query(rpm_file, "%{FILENAMES}\t%{FILELANGS}") if language}
-    assert languages == {f"/usr/share/vem/translations/vem_{name}.qm": name for name in LANGUAGES}
+    assert languages == {
+        **{f"/usr/share/vem/translations/vem_{name}.qm": name for name in LANGUAGES},
+        **{f"/usr/share/vem/locale/{name}/LC_MESSAGES/vem.mo": name for name in LANGUAGES},
+    }
     marks = dict(rpm_query(rpm_file, "%{FILENAMES}\t%{FILEFLAGS:fflags}"))
     assert {path for path in marks if "l" in marks[path]} == {f"/usr/share/licenses/vem-{VERSION}/COPYING"}
     documents = {path for path in marks if path.startswith((MANUALS, "/usr/share/man/"))}
