@@ -570,7 +570,7 @@ No aplica las acciones automáticamente.</translation>
     </message>
     <message>
         <source>Obsoletes</source>
-        <translation>Deja obsoleto</translation>
+        <translation>Reemplaza</translation>
     </message>
 </context>
 <context>
