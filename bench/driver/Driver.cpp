@@ -12,6 +12,7 @@
 #include <QDir>
 #include <QEventLoop>
 #include <QHeaderView>
+#include <QItemSelectionModel>
 #include <QJsonDocument>
 #include <QLabel>
 #include <QLineEdit>
@@ -22,8 +23,12 @@
 #include <QScreen>
 #include <QTableView>
 #include <QTimer>
+#include <algorithm>
+#include <cstddef>
 #include <cstdlib>
 #include <ctime>
+#include <dlfcn.h>
+#include <malloc.h>
 
 namespace
 {
@@ -82,7 +87,7 @@ QString textOf(QDialog const* dialog)
     return lines.join(u'\n');
 }
 
-/// The numbers of kibibytes that the kernel tells of this process.
+/// The kibibytes that the kernel and the allocators tell of this process, and its open files.
 void addMemory(QJsonObject& line)
 {
     QFile status(QStringLiteral("/proc/self/status"));
@@ -90,11 +95,17 @@ void addMemory(QJsonObject& line)
         return;
     }
     for (QByteArray const& row : status.readAll().split('\n')) {
-        for (auto const& [label, key] : {std::pair("VmRSS:", "resident"), std::pair("VmHWM:", "peak")}) {
-            if (row.startsWith(label)) {
-                line.insert(QLatin1String(key), row.simplified().split(' ').value(1).toInt());
-            }
+        if (row.startsWith("VmHWM:")) {
+            line.insert(QLatin1String("peak"), row.simplified().split(' ').value(1).toInt());
         }
+    }
+    struct mallinfo2 const allocated = mallinfo2();
+    line.insert(
+        QLatin1String("allocated"), static_cast<double>(allocated.uordblks + allocated.hblkhd) / 1024);
+    // The interpreter has an allocator of its own, which tells how many blocks it has given away.
+    if (auto const blocks =
+            reinterpret_cast<std::ptrdiff_t (*)()>(dlsym(RTLD_DEFAULT, "_Py_GetAllocatedBlocks"))) {
+        line.insert(QLatin1String("blocks"), static_cast<qint64>(blocks()));
     }
     QDir const descriptors(QStringLiteral("/proc/self/fd"));
     line.insert(
@@ -221,7 +232,7 @@ void Driver::perform(QJsonObject const& step)
     } else if (what == QLatin1String("header")) {
         clickHeader(value.toInt());
     } else if (what == QLatin1String("select")) {
-        value.toBool() ? table->selectAll() : table->clearSelection();
+        select(value);
     } else if (what == QLatin1String("menu")) {
         trigger(value.toString());
     } else if (what != QLatin1String("walk")) {
@@ -266,6 +277,18 @@ void Driver::type(QString const& text)
         fail(QStringLiteral("no line for an expression"));
     }
     edit->setText(text);
+}
+
+void Driver::select(QJsonValue const& what)
+{
+    if (what.isDouble()) {
+        QAbstractItemModel const& model = *table->model();
+        int const last = std::min(what.toInt(), model.rowCount()) - 1;
+        QItemSelection const rows(model.index(0, 0), model.index(last, model.columnCount() - 1));
+        table->selectionModel()->select(rows, QItemSelectionModel::ClearAndSelect);
+    } else {
+        what.toBool() ? table->selectAll() : table->clearSelection();
+    }
 }
 
 void Driver::clickHeader(int column)

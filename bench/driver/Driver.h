@@ -44,6 +44,8 @@ private:
     void choose(QString const& combo, QString const& item);
     void check(QString const& text, bool on);
     void type(QString const& text);
+    /// All rows or none, or the first so many.
+    void select(QJsonValue const& what);
     void clickHeader(int column);
     void trigger(QString const& text);
     [[nodiscard]] QJsonArray walkedWidths() const;

@@ -96,11 +96,16 @@ def table(ground: Ground, build: Build, estate: Estate, samples: Samples, walk: 
     `walk` also compares the column widths with those of a walk over all cells, which takes seconds.
     """
     steps: list[Step] = [*EVERYTHING, *filter_steps(), *sort_steps()]
-    steps.append({"do": "press", "value": "Resize", "name": "resize"})
+    # The rows that are there have been measured at the start, those of a refresh have not.
+    steps.append({"do": "press", "value": "Resize", "name": "resize/again"})
+    steps.append({"do": "press", "value": "Refresh"})
+    steps.append({"do": "press", "value": "Resize", "name": "resize/after a refresh"})
     if walk:
         steps.append({"do": "walk"})
-    for button in ("Set Update of All Out-of-Date", "Clear Actions"):
+    steps.append({"do": "select", "value": True})
+    for button in ("Set Install/Update of Selected", "Clear Actions", "Set Update of All Out-of-Date"):
         steps.append({"do": "press", "value": button, "name": f"marks/{button}"})
+    steps.append({"do": "press", "value": "Clear Actions"})
     for line in ground.program(build, estate, steps)[1:]:
         if "name" in line:
             samples.add(line["name"], line["ms"])
@@ -139,10 +144,15 @@ def growth(ground: Ground, build: Build, estate: Estate, samples: Samples) -> No
 
 
 def add_growth(lines: Sequence[Line], samples: Samples) -> None:
-    """The first refreshes fill caches; from then on nothing may grow."""
+    """The first refreshes fill caches; from then on nothing may grow but the log, which keeps all its lines."""
     settled = lines[SETTLING_REFRESHES:]
-    samples.add("growth/memory, KiB a refresh", max(0.0, slope([line["resident"] for line in settled])))
-    samples.add("growth/descriptors a refresh", max(0.0, slope([line["descriptors"] for line in settled])))
+    # What is resident tells less: the allocators take and give back megabytes at a time.
+    for what, name in (
+        ("allocated", "memory, KiB a refresh"),
+        ("blocks", "Python's blocks a refresh"),
+        ("descriptors", "descriptors a refresh"),
+    ):
+        samples.add(f"growth/{name}", max(0.0, slope([line[what] for line in settled])))
 
 
 def log(ground: Ground, build: Build, estate: Estate, samples: Samples) -> None:

@@ -62,8 +62,8 @@ def test_every_filter_column_and_button_is_measured(ground: Ground, estate: Esta
     scenarios.table(ground, BUILD, estate, ours, walk=True)
     assert len(ours.names_of("filter")) == 2 * (len(scenarios.STATES) + 2 + 2 * len(scenarios.EXPRESSIONS))
     assert len(ours.names_of("sort")) == 2 * 9
-    assert len(ours.names_of("marks")) == 2
-    assert ours.median("resize") > 0
+    assert len(ours.names_of("marks")) == 3
+    assert ours.median("resize/after a refresh") > 0
     assert ours.median("widths") == 0
 
 
@@ -86,6 +86,7 @@ def test_growth_is_measured(ground: Ground, estate: Estate, monkeypatch: pytest.
     monkeypatch.setattr(scenarios, "SETTLING_REFRESHES", 1)
     ours = Samples()
     scenarios.growth(ground, BUILD, estate, ours)
+    assert len(ours.names_of("growth")) == 3
     assert ours.median("growth/descriptors a refresh") == 0
 
 
