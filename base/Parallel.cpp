@@ -21,7 +21,8 @@ constexpr std::size_t mostParts = 4;
 
 void forParts(std::size_t count, Work const& work)
 {
-    std::size_t const processors = std::max(std::thread::hardware_concurrency(), 1U);
+    // To ask costs a look into a file of the kernel's.
+    static std::size_t const processors = std::max(std::thread::hardware_concurrency(), 1U);
     std::size_t const parts =
         std::clamp<std::size_t>(count / fewestOfAPart, 1, std::min(processors, mostParts));
     std::vector<std::thread> others;

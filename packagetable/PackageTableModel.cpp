@@ -5,6 +5,7 @@
 #include "engine/YumIO.h"
 #include "packagetable/PackageTableColumns.h"
 #include "packagetable/PackageTableDescribeDialog.h"
+#include "packagetable/PackageTableRowWalk.h"
 #include "repo/RepoBrowse.h"
 #include "widgets/Colors.h"
 
@@ -360,37 +361,39 @@ void Model::setPalette(QPalette const& palette)
 
 void Model::setSelected(QList<QModelIndex> const& rows)
 {
-    for (QModelIndex const& index : rows) {
-        Package::Entry* const entry = entryAt(index);
+    constexpr auto ahead = static_cast<qsizetype>(entriesAhead);
+    for (qsizetype i = 0; i < rows.size(); ++i) {
+        if (i + ahead < rows.size()) {
+            __builtin_prefetch(entryAt(rows[i + ahead]));
+        }
+        Package::Entry* const entry = entryAt(rows[i]);
         if (!entry) {
             continue;
         }
         if (entry->state == Package::OutOfDate) {
-            mark(index.row(), *entry, Package::Update);
+            mark(rows[i].row(), *entry, Package::Update);
         } else if (entry->state == Package::Available) {
-            mark(index.row(), *entry, Package::Install);
+            mark(rows[i].row(), *entry, Package::Install);
         }
     }
 }
 
 void Model::setUpdateAll()
 {
-    for (int row = 0; row < yumIO->count(); ++row) {
-        Package::Entry& entry = *(*yumIO)[row];
+    walkMarks(*yumIO, [this](int row, Package::Entry& entry) {
         if (entry.state == Package::OutOfDate) {
             mark(row, entry, Package::Update);
         }
-    }
+    });
 }
 
 void Model::clearActions()
 {
-    for (int row = 0; row < yumIO->count(); ++row) {
-        Package::Entry& entry = *(*yumIO)[row];
+    walkMarks(*yumIO, [this](int row, Package::Entry& entry) {
         if (entry.action != Package::None) {
             mark(row, entry, Package::None);
         }
-    }
+    });
 }
 
 } // namespace PackageTable

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "packagetable/PackageTableRowRanks.h"
 
+#include "base/Parallel.h"
+#include "packagetable/PackageTableRowWalk.h"
+
+#include <QStringView>
 #include <algorithm>
 
 namespace PackageTable
@@ -35,7 +39,7 @@ constexpr qsizetype pieceLength = 7;
 constexpr unsigned characterBits = 9;
 constexpr quint64 highestCharacter = (1U << characterBits) - 1;
 
-quint64 piece(QString const& text, qsizetype from)
+quint64 piece(QStringView text, qsizetype from)
 {
     quint64 key = 0;
     bool isHigh = false;
@@ -67,9 +71,8 @@ bool holdsEnd(quint64 key)
 }
 
 // Sorts by text, piece by piece, so that most comparisons are those of numbers that lie side by side. The
-// keys of the result are the places, the same for equal texts.
-template <typename Text>
-void sortByText(Items& items, Text const& text)
+// keys of the result are the places, the same for equal texts. `texts` stands in the order of the rows.
+void sortByText(Items& items, std::vector<QStringView> const& texts)
 {
     constexpr std::size_t few = 12;
     auto const at = [](std::size_t place) { return static_cast<Items::difference_type>(place); };
@@ -81,10 +84,10 @@ void sortByText(Items& items, Text const& text)
     auto const compareWhole = [&](Run const& run) {
         std::sort(
             items.begin() + at(run.begin), items.begin() + at(run.end),
-            [&](Item const& left, Item const& right) { return text(left.row) < text(right.row); });
+            [&](Item const& left, Item const& right) { return texts[left.row] < texts[right.row]; });
         for (std::size_t begin = run.begin, end = begin; begin < run.end; begin = end) {
-            QString const& first = text(items[begin].row);
-            while (end < run.end && text(items[end].row) == first) {
+            QStringView const first = texts[items[begin].row];
+            while (end < run.end && texts[items[end].row] == first) {
                 ++end;
             }
             place(begin, end);
@@ -99,9 +102,14 @@ void sortByText(Items& items, Text const& text)
             compareWhole(run);
             continue;
         }
-        for (std::size_t i = run.begin; i < run.end; ++i) {
-            items[i].key = piece(text(items[i].row), run.depth);
-        }
+        Parallel::forParts(run.end - run.begin, [&](std::size_t begin, std::size_t end) {
+            for (std::size_t i = run.begin + begin; i < run.begin + end; ++i) {
+                if (i + lettersAhead < run.begin + end) {
+                    __builtin_prefetch(texts[items[i + lettersAhead].row].utf16() + run.depth);
+                }
+                items[i].key = piece(texts[items[i].row], run.depth);
+            }
+        });
         std::sort(items.begin() + at(run.begin), items.begin() + at(run.end), isLower);
         for (std::size_t begin = run.begin, end = begin; begin < run.end; begin = end) {
             quint64 const key = items[begin].key;
@@ -159,12 +167,15 @@ RowRanks::Ranks const& RowRanks::made(int column)
 RowRanks::Ranks RowRanks::byText(int column) const
 {
     Items items(static_cast<std::size_t>(yumIO->count()));
-    for (std::size_t row = 0; row < items.size(); ++row) {
-        items[row].row = static_cast<quint32>(row);
-    }
-    sortByText(items, [&](quint32 row) -> QString const& {
-        return columnText(*(*yumIO)[static_cast<int>(row)], column);
+    std::vector<QStringView> texts(items.size());
+    auto const fetch = [](Package::Entry const&) {};
+    Parallel::forParts(items.size(), [&](std::size_t begin, std::size_t end) {
+        walkRows(*yumIO, begin, end, fetch, [&](std::size_t row, Package::Entry const& entry) {
+            items[row].row = static_cast<quint32>(row);
+            texts[row] = columnText(entry, column);
+        });
     });
+    sortByText(items, texts);
     if (column != NameColumn) {
         for (Item& item : items) {
             item.key = item.key << 32 | ranks[NameColumn][item.row];
@@ -178,11 +189,13 @@ RowRanks::Ranks RowRanks::byNumber(int column) const
     // Turns signed order into that of unsigned numbers.
     constexpr quint32 lowest = 0x80000000U;
     Items items(static_cast<std::size_t>(yumIO->count()));
-    for (std::size_t row = 0; row < items.size(); ++row) {
-        int const number = columnNumber(*(*yumIO)[static_cast<int>(row)], column);
-        quint64 const key = static_cast<quint32>(number) ^ lowest;
-        items[row] = {key << 32 | ranks[NameColumn][row], static_cast<quint32>(row)};
-    }
+    auto const fetch = [](Package::Entry const&) {};
+    Parallel::forParts(items.size(), [&](std::size_t begin, std::size_t end) {
+        walkRows(*yumIO, begin, end, fetch, [&](std::size_t row, Package::Entry const& entry) {
+            quint64 const key = static_cast<quint32>(columnNumber(entry, column)) ^ lowest;
+            items[row] = {key << 32 | ranks[NameColumn][row], static_cast<quint32>(row)};
+        });
+    });
     return placesByKey(items);
 }
 

@@ -9,6 +9,10 @@
 namespace PackageTable
 {
 
+/// How many rows before a visit its entry, and then the letters of its texts, are asked of the memory.
+constexpr std::size_t lettersAhead = 8;
+constexpr std::size_t entriesAhead = 2 * lettersAhead;
+
 /// Asks the memory for the letters of a text. The text itself must have arrived.
 inline void fetchLetters(QString const& text)
 {
@@ -21,8 +25,6 @@ inline void fetchLetters(QString const& text)
 template <typename Fetch, typename Visit>
 void walkRows(YumIO const& yumIO, std::size_t begin, std::size_t end, Fetch const& fetch, Visit const& visit)
 {
-    constexpr std::size_t lettersAhead = 8;
-    constexpr std::size_t entriesAhead = 2 * lettersAhead;
     constexpr std::size_t lineOfMemory = 64;
     auto const entryAt = [&](std::size_t row) { return yumIO[static_cast<int>(row)]; };
     for (std::size_t row = begin; row < end; ++row) {
@@ -36,6 +38,20 @@ void walkRows(YumIO const& yumIO, std::size_t begin, std::size_t end, Fetch cons
             fetch(*entryAt(row + lettersAhead));
         }
         visit(row, *entryAt(row));
+    }
+}
+
+/// The same for visits that read no more than the mark and the state of an entry.
+template <typename Visit>
+void walkMarks(YumIO const& yumIO, Visit const& visit)
+{
+    int const rows = yumIO.count();
+    constexpr int ahead = static_cast<int>(entriesAhead);
+    for (int row = 0; row < rows; ++row) {
+        if (row + ahead < rows) {
+            __builtin_prefetch(yumIO[row + ahead]);
+        }
+        visit(row, *yumIO[row]);
     }
 }
 

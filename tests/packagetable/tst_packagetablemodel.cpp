@@ -467,6 +467,43 @@ private Q_SLOTS:
         QCOMPARE(rowsOf(changes), (QList<int>{0, 2, 3}));
     }
 
+    void manyMarksAreSetAndToldRowByRow()
+    {
+        TestEngine engine;
+        QList<int> outOfDate;
+        QList<int> markable;
+        QModelIndexList all;
+        Model model(&engine, nullptr);
+        for (int row = 0; row < 500; ++row) {
+            Package::State const state = row % 3 == 0 ? Package::OutOfDate : Package::Available;
+            engine.add(QString::number(row), row % 7 == 0 ? Package::UpToDate : state);
+        }
+        for (int row = 0; row < 500; ++row) {
+            all.append(model.index(row, 0));
+            Package::State const state = model.getState(row);
+            if (state == Package::OutOfDate) {
+                outOfDate.append(row);
+            }
+            if (state != Package::UpToDate) {
+                markable.append(row);
+            }
+        }
+        // A row that has gone since.
+        engine.dropLast();
+        markable.removeAll(499);
+        outOfDate.removeAll(499);
+
+        QSignalSpy changes(&model, &Model::dataChanged);
+        model.setSelected(all);
+        QCOMPARE(rowsOf(changes), markable);
+        changes.clear();
+        model.setUpdateAll();
+        QCOMPARE(rowsOf(changes), outOfDate);
+        changes.clear();
+        model.clearActions();
+        QCOMPARE(rowsOf(changes), markable);
+    }
+
     void resetTellsTheViews()
     {
         TestEngine engine;
