@@ -58,8 +58,9 @@ def text_of(name: str, required: Sequence[str]) -> str:
     if stand_in.folders:
         parents = {str(up) for folder in stand_in.folders for up in Path(folder).parents}
         owned = sorted((parents | set(stand_in.folders)) - {"/"})
-        text = text.replace("%install\n", "\n".join(["%install", *(f"mkdir -p %{{buildroot}}{up}" for up in owned), ""]))
-        text = text.replace("%files\n", "\n".join(["%files", *(f"%dir {up}" for up in owned), ""]))
+        made, listed = ([f"{word}{up}\n" for up in owned] for word in ("mkdir -p %{buildroot}", "%dir "))
+        text = text.replace("%install\n", "".join(["%install\n", *made]))
+        text = text.replace("%files\n", "".join(["%files\n", *listed]))
     return text
 
 
