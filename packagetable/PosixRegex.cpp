@@ -2,8 +2,8 @@
 #include "packagetable/PosixRegex.h"
 
 #include <algorithm>
+#include <clocale>
 #include <cstring>
-#include <locale.h>
 
 namespace
 {
@@ -26,9 +26,18 @@ bool areOfOneKind(char one, char other)
     return within('a', 'z') || within('A', 'Z') || within('0', '9');
 }
 
-/// Whether an expression that compiles means the same for ASCII in any locale. What lies between two
-/// characters, and what counts as equal to one, is a locale's own affair, except among letters of one case
-/// and among digits.
+/// Whether what stands there, in a pair of brackets whose first character is `open`, is a locale's own
+/// affair: what lies between two characters, except among letters of one case and among digits, and what
+/// counts as equal to one.
+bool isOfLocale(char const* at, char const* open)
+{
+    if (*at == '[') {
+        return at[1] == '.' || at[1] == '=';
+    }
+    return *at == '-' && at != open && at[1] != ']' && !areOfOneKind(at[-1], at[1]);
+}
+
+/// Whether an expression that compiles means the same for ASCII in any locale.
 bool isFreeOfLocale(QByteArray const& pattern)
 {
     char const* const end = pattern.constData() + pattern.size();
@@ -41,7 +50,7 @@ bool isFreeOfLocale(QByteArray const& pattern)
                 open = at[1] == '^' ? at + 2 : at + 1;
                 at = open - 1;
             }
-        } else if (*at == '[' && (at[1] == '.' || at[1] == '=')) {
+        } else if (isOfLocale(at, open)) {
             return false;
         } else if (*at == '[' && at[1] == ':') {
             at = std::strstr(at, ":]");
@@ -51,8 +60,6 @@ bool isFreeOfLocale(QByteArray const& pattern)
             ++at;
         } else if (*at == ']' && at != open) {
             open = nullptr;
-        } else if (*at == '-' && at != open && at[1] != ']' && !areOfOneKind(at[-1], at[1])) {
-            return false;
         }
     }
     return isAscii(pattern);

@@ -467,6 +467,19 @@ private Q_SLOTS:
         QCOMPARE(rowsOf(changes), (QList<int>{0, 2, 3}));
     }
 
+    void onlyCellsOfTheTableHaveIndexes()
+    {
+        TestEngine engine;
+        engine.add("a", Package::OutOfDate);
+        Model const model(&engine, nullptr);
+        QVERIFY(model.index(0, 0).isValid());
+        QCOMPARE(model.index(0, 8).column(), 8);
+        QVERIFY(!model.index(1, 0).isValid());
+        QVERIFY(!model.index(0, 9).isValid());
+        QVERIFY(!model.index(-1, 0).isValid());
+        QVERIFY(!model.index(0, -1).isValid());
+    }
+
     void manyMarksAreSetAndToldRowByRow()
     {
         TestEngine engine;
