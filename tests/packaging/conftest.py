@@ -8,6 +8,7 @@ import os
 import subprocess
 import sys
 from pathlib import Path
+from typing import Iterator
 
 import pytest
 
@@ -22,6 +23,14 @@ PACKAGES = Path(os.environ["VEM_PACKAGES"])
 def the_one(pattern: str) -> Path:
     (found,) = PACKAGES.glob(pattern)
     return found
+
+
+@pytest.fixture(scope="session", autouse=True)
+def home(tmp_path_factory: pytest.TempPathFactory) -> Iterator[None]:
+    """A home directory of the tests' own: Debian's rpm makes a database there whatever it is asked."""
+    with pytest.MonkeyPatch.context() as patch:
+        patch.setenv("HOME", str(tmp_path_factory.mktemp("home")))
+        yield
 
 
 @pytest.fixture(scope="session")
