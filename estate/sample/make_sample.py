@@ -100,6 +100,8 @@ def make(directory: Path) -> Estate:
         )
     shutil.rmtree(estate.build_dir)
     estate.write_main_config(keepcache="0", installonly_limit="3", best="0")
+    # Where a repository that is added in the editor goes, as an installed program finds it.
+    (estate.root / "etc/yum/repos.d").mkdir(parents=True)
     in_repository = {rpm.name: estate.repos_dir / "base" / rpm.name for rpm in [shell_old, *to_install]}
     estate.install(list(in_repository.values()))
     (directory / STAMP).write_text(str(directory), encoding="utf-8")

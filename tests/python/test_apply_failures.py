@@ -3,8 +3,11 @@
 
 from __future__ import annotations
 
+import locale
 import os
-from typing import Any, Tuple
+import subprocess
+from pathlib import Path
+from typing import Any, Iterator, Tuple
 
 import dnf.db.history
 import pytest
@@ -159,6 +162,30 @@ def test_failing_pre_scriptlet_is_an_error_and_the_others_go_in(
         "refresh the list",
     )
     assert estate.installed() == {"lone-1.0-1.noarch"}
+
+
+@pytest.fixture
+def german_rpm(tmp_path: Path, monkeypatch: pytest.MonkeyPatch) -> Iterator[None]:
+    """rpm begins its lines in German; dnf and the helper script speak English."""
+    folder = tmp_path / "locale/de/LC_MESSAGES"
+    folder.mkdir(parents=True)
+    texts = 'msgid ""\nmsgstr "Content-Type: text/plain; charset=UTF-8\\n"\nmsgid "error: "\nmsgstr "Fehler: "\n'
+    subprocess.run(["msgfmt", "--output-file", folder / "rpm.mo", "-"], input=texts, text=True, check=True)
+    before = locale.setlocale(locale.LC_MESSAGES), locale.bindtextdomain("rpm", None)
+    monkeypatch.setenv("LANGUAGE", "de")
+    locale.setlocale(locale.LC_MESSAGES, "C.UTF-8")
+    locale.bindtextdomain("rpm", tmp_path / "locale")
+    yield
+    locale.setlocale(locale.LC_MESSAGES, before[0])
+    locale.bindtextdomain("rpm", before[1])
+
+
+def test_rpms_words_about_a_failure_are_told_in_any_language(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost, german_rpm: None
+) -> None:
+    estate.repository("base", rpms.some("badpost-1.0"))
+    found = program.collect()
+    fails(program, lambda: found.yumio.apply([found.offered("badpost")], [], []), "Fehler: ", "half way")
 
 
 def test_failing_post_scriptlet_is_an_error(

@@ -3,6 +3,7 @@
 
 from __future__ import annotations
 
+import errno
 import json
 import os
 import shutil
@@ -329,4 +330,4 @@ def test_own_cache_that_has_become_unwritable_is_told(house: Guests) -> None:
     for permissions in 0o700, 0o755:
         cache.chmod(permissions)
         said = house.run(COLLECT)
-        assert said["ended"] and said["errorlog"][1] == f"{cache}: It cannot be written"
+        assert said["ended"] and said["errorlog"][1] == f"{cache}: {os.strerror(errno.EACCES)}"

@@ -58,6 +58,10 @@ def test_has_three_enabled_repositories_and_a_disabled_one(report: dict[str, Any
     assert repositories["base"][0] == "Fenmark 4 - Base"
 
 
+def test_has_the_folder_for_repositories_that_are_added(sample: Estate) -> None:
+    assert (sample.root / "etc/yum/repos.d").is_dir()
+
+
 def test_has_epochs_and_architectures(report: dict[str, Any]) -> None:
     assert "libtide-2:3.4-1.x86_64" in report["installed"]
     assert "libtide-2:3.5-1.x86_64" in report["upgrades"]

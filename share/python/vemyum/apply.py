@@ -140,7 +140,7 @@ def _not_as_asked(base: Base) -> List[str]:
         elif item.action in dnf.transaction.BACKWARD_ACTIONS and there and str(package) not in incoming:
             wrong.append(_("{package} was not removed").format(package=package))
         elif item.state == lt.TransactionItemState_ERROR:
-            wrong.append(f"{package} failed")
+            wrong.append(_("{package} failed").format(package=package))
     return wrong
 
 

@@ -3,6 +3,7 @@
 
 from __future__ import annotations
 
+import locale
 from typing import Any, Dict, List, Set
 
 import dnf.yum.rpmtrans
@@ -27,6 +28,7 @@ _CODES: Dict[int, int] = {
     lt.TransactionItemAction_REINSTALLED: TS_ERASE,
 }
 _OUTGOING = (TS_ERASE, TS_OBSOLETED, TS_UPDATED)
+_RPM_PREFIXES = ("error: ", "warning: ")
 
 
 class Display(dnf.yum.rpmtrans.TransactionDisplay):
@@ -43,6 +45,8 @@ class Display(dnf.yum.rpmtrans.TransactionDisplay):
         """rpm's own error and warning lines."""
         self._ordinal = 0
         self._last: Any = None
+        # rpm speaks the user's language, with the catalogue that is loaded here: below another root it finds none.
+        self._rpm_prefixes = tuple(locale.dgettext("rpm", prefix) for prefix in _RPM_PREFIXES)
         self._install_only = {str(package) for package in base._get_installonly_query()}
         self._obsoleting: Set[str] = {
             str(package)
@@ -74,7 +78,7 @@ class Display(dnf.yum.rpmtrans.TransactionDisplay):
 
     def scriptout(self, msgs: Any) -> None:
         for line in valid(msgs).splitlines() if msgs else ():
-            if line.startswith(("error: ", "warning: ")):
+            if line.startswith(self._rpm_prefixes):
                 self.rpm_said.append(line)
             host.stdout_write(line + "\n")
 

@@ -51,7 +51,7 @@ def own_directory(root: str) -> str:
             folder = os.path.join(own, kind)
             _make_private(folder)
             if not os.access(folder, os.W_OK | os.X_OK):
-                raise PermissionError(errno.EACCES, "It cannot be written", folder)
+                raise PermissionError(errno.EACCES, os.strerror(errno.EACCES), folder)
     except OSError as error:
         raise YumBaseError(
             _("Without administrator rights the program needs a cache of the user's own, which cannot be used:")
