@@ -68,8 +68,9 @@ def test_has_epochs_and_architectures(report: dict[str, Any]) -> None:
     assert report["arches"] == ["i686", "noarch", "x86_64"]
 
 
-def test_has_an_obsoleting_package(report: dict[str, Any]) -> None:
-    assert report["obsoleters"] == ["tideledger-2.0-2.x86_64"]
+def test_the_only_obsoleting_package_is_in_the_disabled_repository(sample: Estate, report: dict[str, Any]) -> None:
+    assert report["obsoleters"] == []
+    assert (sample.repos_dir / "preview/tideledger-2.0-2.x86_64.rpm").exists()
     assert "tidebook-1.8.3-6.x86_64" in report["installed"]
 
 
