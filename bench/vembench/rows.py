@@ -84,8 +84,7 @@ ROWS = (
     Row("search", "search through all 23 fields, nothing matching", "search", 3, "s", 2),
     Row("gap", "longest time without serving events: start and jobs", "longest freeze", 50, "ms", 0),
     Row("memory", "peak memory after the first collection", "peak memory", 1.6, LISTING, 2, "mebibytes"),
-    # The log keeps the 14 lines of a refresh for good, which take a good 2 KiB.
-    Row("growth", "growth by a refresh, over 50 of them", "growth", 3, "", 0),
+    Row("growth", "growth by a refresh, over 50 of them (the log keeps its 14 lines: 2 KiB)", "growth", 0, "", 0),
     Row("log", "longest freeze while 100,000 lines arrive in the log window", "log window", 50, "ms", 0),
     Row("apply", "apply of 2,000 updates: added to dnf's own work", "added to apply", 0.1, "of it", 2),
     Row("upgrade", "the same, from click to new table", "whole apply", 1.1, UPGRADE, 2, "upgrade"),
