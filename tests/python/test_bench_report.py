@@ -64,11 +64,15 @@ def test_what_is_not_allowed_at_all_has_no_share() -> None:
 
 def test_growth_is_told_after_the_first_refreshes() -> None:
     def lines(memory: "list[int]") -> "list[dict[str, int]]":
-        return [{"resident": value, "descriptors": 20 + at} for at, value in enumerate(memory)]
+        return [
+            {"resident": 1, "allocated": value, "blocks": 300 - at, "descriptors": 20 + at}
+            for at, value in enumerate(memory)
+        ]
 
     ours = Samples()
     add_growth(lines([100 * turn for turn in range(10)] + [2000] * 40), ours)
     assert ours.median("growth/memory, KiB a refresh") == 0
+    assert ours.median("growth/Python's blocks a refresh") == 0
     assert ours.median("growth/descriptors a refresh") == 1
 
 
