@@ -80,7 +80,7 @@ ROWS = (
     Row("sort", "sort by any column", "sort", 80, "ms", 0),
     Row("resize", "Re&size: nine columns, all rows", "resize", 80, "ms", 0),
     Row("widths", "columns whose width is not that of a walk over all cells", "widths", 0, "", 0),
-    Row("marks", "set marks on all rows or on all out-of-date ones, &Clear Actions", "set and clear marks", 30, "ms", 0),
+    Row("marks", "set marks on all or all out-of-date rows, &Clear Actions", "set and clear marks", 30, "ms", 0),
     Row("search", "search through all 23 fields, nothing matching", "search", 3, "s", 2),
     Row("gap", "longest time without serving events: start and jobs", "longest freeze", 50, "ms", 0),
     Row("memory", "peak memory after the first collection", "peak memory", 1.6, LISTING, 2, "mebibytes"),
