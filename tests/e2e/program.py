@@ -262,6 +262,19 @@ class Program:
         )
         return answer.stdout.split()
 
+    @staticmethod
+    def text_of(edit: Atspi.Accessible) -> str:
+        """What an edit holds. While the program is busy with a long text, the bus may answer that there is none: that
+        is believed when it is answered again and again."""
+        answers: list[str] = []
+
+        def settled() -> bool:
+            answers.append(Atspi.Text.get_text(edit, 0, Atspi.Text.get_character_count(edit)))
+            return bool(answers[-1]) or len(answers) == 5
+
+        wait_for(settled, "a text", timeout=60, interval=0.4)
+        return answers[-1]
+
     def log_text(self) -> str:
         """What the log window shows; opens it if need be."""
         # A key is lost while a dialog that has just gone hasn't given the keyboard back.

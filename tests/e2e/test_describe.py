@@ -63,7 +63,7 @@ def read_text(program: Program, description: Atspi.Accessible, number: int, titl
     Atspi.Action.do_action(button, 0)
     window = program.window(title, timeout=60)
     edit = program.wait("Text", Atspi.Role.TEXT, inside=window)
-    text: str = Atspi.Text.get_text(edit, 0, Atspi.Text.get_character_count(edit))
+    text = program.text_of(edit)
     program.shot(title.replace(" ", "-"))
     program.press("Close", window)
     program.wait_closed(title)

@@ -110,7 +110,7 @@ def read_text(program: Program, title: str, timeout: float = 60) -> str:
     """What the text window holds; closes it."""
     window = program.window(title, timeout)
     edit = program.wait("Text", Atspi.Role.TEXT, inside=window)
-    text: str = Atspi.Text.get_text(edit, 0, Atspi.Text.get_character_count(edit))
+    text = program.text_of(edit)
     # No click: the window may still be on its way to where the window manager wants it.
     Atspi.Action.do_action(program.wait("Close", Atspi.Role.PUSH_BUTTON, inside=window), 0)
     program.wait_closed(title)
