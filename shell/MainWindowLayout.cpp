@@ -106,7 +106,7 @@ QHBoxLayout* MainWindow::createFilterRow()
 
     includeGroupsBox = new QCheckBox(tr("Include Groups"), tableArea);
     includeGroupsBox->setToolTip(tr("Whether or not filter should include package groups"));
-    connect(includeGroupsBox, &QCheckBox::stateChanged, this, &MainWindow::groupsFilterChanged);
+    connect(includeGroupsBox, &QCheckBox::toggled, this, &MainWindow::groupsFilterChanged);
 
     auto* const row = new QHBoxLayout;
     row->addWidget(modeCombo);

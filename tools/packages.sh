@@ -7,10 +7,15 @@ die() {
     exit 1
 }
 
+# packages_of debian LIST: the names that LIST has for such a system, one a line.
+packages_of() {
+    sed -e 's/#.*//' -e '/^[[:space:]]*$/d' "$2" | sort -u
+}
+
 # The names of packages.list that aren't installed, one a line.
 missing_packages() {
     local list=$1 wanted
-    mapfile -t wanted < <(sed -e 's/#.*//' -e '/^[[:space:]]*$/d' "$list" | sort -u)
+    mapfile -t wanted < <(packages_of debian "$list")
     # dpkg-query fails when it doesn't know a name at all; what it does know still comes out.
     comm -23 <(printf '%s\n' "${wanted[@]}") \
         <(dpkg-query -W -f='${db:Status-Status} ${Package}\n' "${wanted[@]}" 2>/dev/null \
