@@ -13,7 +13,6 @@ import logging
 import dnf
 import dnf.callback
 import dnf.cli.commands.clean
-import dnf.comps
 import dnf.conf
 import dnf.conf.config
 import dnf.conf.read
@@ -50,14 +49,6 @@ NAMES = [
     (dnf.cli.commands.clean, "_clean"),
     (dnf.cli.commands.clean, "_filter"),
     (dnf.cli.commands.clean, "_tree"),
-    (dnf.comps.Group, "conditional_packages"),
-    (dnf.comps.Group, "default_packages"),
-    (dnf.comps.Group, "mandatory_packages"),
-    (dnf.comps.Group, "optional_packages"),
-    (dnf.comps.Group, "ui_description"),
-    (dnf.comps.Group, "ui_name"),
-    (dnf.comps.Group, "visible"),
-    (dnf.comps.Comps, "groups"),
     (dnf.conf, "Conf"),
     (dnf.conf, "MainConf"),
     (dnf.conf.read.RepoReader, "_get_repos"),
@@ -139,7 +130,6 @@ BASE_METHODS = {
     "package_remove": ["self", "pkg"],
     "package_signature_check": ["self", "pkg"],
     "read_all_repos": ["self", "opts"],
-    "read_comps": ["self", "arch_filter"],
     "resolve": ["self", "allow_erasing"],
 }
 
@@ -159,7 +149,7 @@ def test_base_method_takes_these_arguments(method: str) -> None:
     assert list(inspect.signature(getattr(dnf.Base, method)).parameters) == BASE_METHODS[method]
 
 
-@pytest.mark.parametrize("name", ["comps", "conf", "goal", "repos", "sack", "transaction"])
+@pytest.mark.parametrize("name", ["conf", "goal", "repos", "sack", "transaction"])
 def test_base_property_exists(name: str) -> None:
     assert isinstance(getattr(dnf.Base, name), property)
 

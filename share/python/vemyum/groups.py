@@ -3,14 +3,15 @@
 
 from __future__ import annotations
 
-from operator import attrgetter
-from typing import AbstractSet, Any, Callable, Dict, Iterable, List, Optional
+from typing import AbstractSet, Dict, Iterable, List
 
-import dnf.comps
-
+from . import host
 from .base import Base
+from .comps import CONDITIONAL, DEFAULT, MANDATORY, OPTIONAL, Comps, CompsError, CompsGroup, Member
+from .comps import in_the_users_language as translated
 from .errors import GroupsError
-from .text import valid
+from .records import chunks
+from .texts import _
 
 NO_GROUPS = "No Groups Available in any repository"
 """The engine recognises the normal outcome "no groups" by the first three words."""
@@ -23,16 +24,18 @@ class Group:
     packages the package on which the condition rests.
     """
 
-    def __init__(self, comps_group: dnf.comps.Group, installed_names: AbstractSet[str]) -> None:
-        self.groupid = valid(comps_group.id or "")
+    def __init__(self, group: CompsGroup, installed_names: AbstractSet[str]) -> None:
+        self.groupid = group.id
         # A group file may lack a name, and the engine cannot do without one.
-        self.name = _trimmed(comps_group.ui_name or comps_group.name) or self.groupid
-        self.description = valid(comps_group.ui_description or "")
-        self.user_visible = bool(comps_group.visible)
-        self.mandatory_packages = _by_name(comps_group.mandatory_packages)
-        self.default_packages = _by_name(comps_group.default_packages)
-        self.optional_packages = _by_name(comps_group.optional_packages)
-        self.conditional_packages = _by_name(comps_group.conditional_packages, attrgetter("requires"))
+        self.name = translated(group.names) or group.id
+        self.description = translated(group.descriptions)
+        self.user_visible = group.visible
+        self.mandatory_packages = _by_name(group.of_kind(MANDATORY))
+        self.default_packages = _by_name(group.of_kind(DEFAULT))
+        self.optional_packages = _by_name(group.of_kind(OPTIONAL))
+        self.conditional_packages = {
+            member.name: member.requires for member in group.of_kind(CONDITIONAL) if member.name
+        }
         self.installed = self._is_installed(installed_names)
 
     def _is_installed(self, installed_names: AbstractSet[str]) -> bool:
@@ -43,29 +46,33 @@ class Group:
         return any(name in installed_names for name in others)
 
 
-def _by_name(
-    members: Iterable[Any], value: Callable[[Any], Optional[str]] = attrgetter("name")
-) -> Dict[str, str]:
+def _by_name(members: Iterable[Member]) -> Dict[str, str]:
     """The members by name; those of an empty element name no package and are left out."""
-    named = {_trimmed(member.name): _trimmed(value(member)) for member in members}
-    named.pop("", None)
-    return named
+    return {member.name: member.name for member in members if member.name}
 
 
-def _trimmed(text: Optional[str]) -> str:
-    """What an element holds, without the line feeds and blanks of a laid out file."""
-    return valid(text).strip() if text else ""
+def read_groups(base: Base) -> List[CompsGroup]:
+    """Reads the group files of the loaded repositories. GroupsError when there is none.
 
-
-def read_groups(base: Base) -> dnf.comps.Comps:
-    """Reads the group files of the loaded repositories. GroupsError when there is none."""
-    comps = base.read_comps(arch_filter=True)
+    A file that cannot be read is told with its repository, and the others count.
+    """
+    comps = Comps()
+    for repo in base.repos.iter_enabled():
+        path = repo._repo.getCompsFn() if repo.enablegroups and repo.metadata else ""
+        if path:
+            try:
+                comps.add(chunks(path))
+            except (CompsError, OSError) as error:
+                host.errorlog(
+                    host.LEVEL_ERROR,
+                    _("The groups of repository {id} cannot be read: {error}").format(id=repo.id, error=error),
+                )
     if not comps.groups:
         raise GroupsError(NO_GROUPS)
-    return comps
+    return comps.groups
 
 
-def groups_of(comps: Optional[dnf.comps.Comps], installed_names: AbstractSet[str]) -> List[Group]:
-    """All groups that have a name, in the order in which the group files want them shown."""
-    groups = [] if comps is None else [Group(group, installed_names) for group in comps.groups]
+def groups_of(comps: Iterable[CompsGroup], installed_names: AbstractSet[str]) -> List[Group]:
+    """What the table shows of these groups: all that have a name."""
+    groups = [Group(group, installed_names) for group in comps]
     return [group for group in groups if group.name]

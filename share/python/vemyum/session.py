@@ -9,11 +9,11 @@ from __future__ import annotations
 import gc
 from typing import Any, List, Optional, Sequence
 
-import dnf.comps
 import dnf.conf
 
 from . import host, rights
 from .base import Base, open_base
+from .comps import CompsGroup
 from .configuration import Configuration, main_file, managed_root, read_configuration
 from .details import PackageDetails
 from .errors import RepoError, YumBaseError, reported_as
@@ -39,7 +39,7 @@ class Session:
         self._base: Optional[Base] = None
         self._details: Optional[PackageDetails] = None
         self._collector: Optional[Collector] = None
-        self._comps: Optional[dnf.comps.Comps] = None
+        self._comps: List[CompsGroup] = []
         self._fault: Optional[YumBaseError] = None
         try:
             with reported_as(YumBaseError, _("Unable to read the configuration")):
@@ -99,7 +99,7 @@ class Session:
 
     def read_groups(self) -> None:
         """GroupsError when there are none."""
-        self._comps = None
+        self._comps = []
         self._comps = read_groups(self.base)
 
     def groups(self) -> List[Group]:
@@ -154,7 +154,7 @@ class Session:
         details, self._details = self._details, None
         base, self._base = self._base, None
         self._collector = None
-        self._comps = None
+        self._comps = []
         for closable in (details, base):
             if closable is not None:
                 try:
