@@ -60,7 +60,7 @@ def test_newest_of_several_installed_versions_comes_first(
     estate: Estate, rpms: Catalogue, program: Program
 ) -> None:
     for key in ("core-1.0", "core-3.0", "core-2.0"):
-        estate.rpm("--install", "--oldpackage", "--force-debian", rpms[key])
+        estate.rpm("--install", "--oldpackage", rpms[key])
     estate.repository("base", [])
     found = program.collect()
     assert names(found.installed) == ["core-3.0-1.noarch", "core-2.0-1.noarch", "core-1.0-1.noarch"]
@@ -307,9 +307,14 @@ def test_variable_that_is_not_utf8_is_named(lamp: Tuple[Estate, Program], host: 
     variables.mkdir(parents=True)
     (variables / "branch").write_text("north\n")
     (variables / "office").write_bytes("B\u00fcro\n".encode("latin-1"))
-    with pytest.raises(SystemExit):
-        program.namespace["YumIO"]()
-    assert "/etc/yum/vars/office, line 1: the text is not in UTF-8" in host.text("errorlog")
+    try:
+        yumio = program.namespace["YumIO"]()
+    except SystemExit:
+        assert "/etc/yum/vars/office, line 1: the text is not in UTF-8" in host.text("errorlog")
+    else:
+        # Later releases of dnf pass over the file, with a word of their own.
+        assert "/etc/yum/vars/office" in host.text("log")
+        assert yumio.conf.yumvar["branch"] == "north" and "office" not in yumio.conf.yumvar
 
 
 def test_later_configuration_that_cannot_be_read_is_told_by_the_repositories(

@@ -18,7 +18,10 @@ from .database import database_directory
 from .errors import YumBaseError
 from .texts import _
 
+# Where a package has its signature; rpm 6 has put all of them into one place.
 _FORMATS = ("%{RSAHEADER:pgpsig}", "%{DSAHEADER:pgpsig}", "%{SIGPGP:pgpsig}", "%{SIGGPG:pgpsig}")
+if hasattr(rpm, "RPMTAG_OPENPGP"):
+    _FORMATS = ("%{OPENPGP:pgpsig}", *_FORMATS)
 _FATAL = 2
 
 
