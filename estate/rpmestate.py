@@ -126,9 +126,9 @@ def shell_spec(name: str, version: str = "1.0", release: str = "1", **more: obje
     It carries the host's statically linked busybox, so that ordinary shell scriptlets run below the root
     without anything else there. `more` goes to `spec`.
     """
-    busybox = shutil.which("busybox", path="/bin:/usr/bin:/usr/local/bin")
+    busybox = shutil.which("busybox", path="/bin:/usr/bin:/usr/local/bin:/usr/sbin:/sbin")
     if busybox is None:
-        raise EstateError("busybox is missing (Debian: busybox-static)")
+        raise EstateError("busybox is missing (packages.list names what holds it)")
     text = spec(name, version, release, arch=None, provides=("/bin/sh",), **more)  # type: ignore[arg-type]
     commands = ("sh", "cat", "echo", "ls", "mkdir", "rm", "sleep", "true", "false")
     install = [f"install -D -m 755 {busybox} %{{buildroot}}/bin/busybox"]

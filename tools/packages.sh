@@ -7,38 +7,181 @@ die() {
     exit 1
 }
 
-# packages_of debian LIST: the names that LIST has for such a system, one a line.
+say() {
+    printf '%s\n' "$*"
+}
+
+# One value of the file in which a system tells what it is; VEM_OS_RELEASE names another such file.
+os_release() {
+    local name=$1 file=${VEM_OS_RELEASE:-/etc/os-release}
+    # In a shell of its own: the file's other names are none of ours.
+    # shellcheck disable=SC1090
+    [[ ! -r $file ]] || (set +u && . "$file" && printf '%s\n' "${!name-}")
+}
+
+# Prints whose packages this system has: debian, fedora, el (Enterprise Linux) or other. What the system says of itself
+# decides, not which commands there are: a Debian may have dnf, and a Fedora apt.
+system_kind() {
+    local word
+    for word in $(os_release ID) $(os_release ID_LIKE); do
+        case $word in
+            debian | ubuntu) echo debian && return ;;
+            rhel | centos | ol) echo el && return ;;
+        esac
+    done
+    # Enterprise Linux counts itself among Fedora's kin.
+    for word in $(os_release ID) $(os_release ID_LIKE); do
+        [[ $word != fedora ]] || { echo fedora && return; }
+    done
+    echo other
+}
+
+rpm_system() {
+    [[ $(system_kind) == @(fedora|el) ]]
+}
+
+# Status 0 where no package of an rpm system holds what makes the manuals: builds do without them there.
+manuals_lack() {
+    rpm_system && ! rpm -q --quiet --whatprovides rubygem-asciidoctor rubygem-asciidoctor-pdf
+}
+
+# packages_of SYSTEM LIST [REPOSITORY]: the names that a system (debian, fedora or el) has for what a list names, one a
+# line; with a repository (crb or epel) only those that may lie there.
 packages_of() {
-    sed -e 's/#.*//' -e '/^[[:space:]]*$/d' "$2" | sort -u
+    local system=$1 list=$2 wanted=${3-} debian fedora el repository name
+    while read -r debian fedora el repository; do
+        case $debian in '' | '#'*) continue ;; esac
+        name=$debian
+        [[ $system == debian ]] || name=$fedora
+        [[ $system != el || $el == "=" ]] || name=$el
+        [[ $name == - || -n $wanted && $wanted != "$repository" ]] || printf '%s\n' "$name"
+    done <"$list" | sort -u
 }
 
-# The names of packages.list that aren't installed, one a line.
+# missing_packages SYSTEM LIST: those of them that aren't installed.
 missing_packages() {
-    local list=$1 wanted
-    mapfile -t wanted < <(packages_of debian "$list")
-    # dpkg-query fails when it doesn't know a name at all; what it does know still comes out.
-    comm -23 <(printf '%s\n' "${wanted[@]}") \
-        <(dpkg-query -W -f='${db:Status-Status} ${Package}\n' "${wanted[@]}" 2>/dev/null \
-            | sed -n 's/^installed //p' | sort -u)
+    local wanted
+    mapfile -t wanted < <(packages_of "$1" "$2")
+    # Both commands fail when they don't know a name at all; what they do know still comes out.
+    comm -23 <(printf '%s\n' "${wanted[@]}") <(
+        if [[ $1 == debian ]]; then
+            dpkg-query -W -f='${db:Status-Status} ${Package}\n' "${wanted[@]}" 2>/dev/null | sed -n 's/^installed //p'
+        else
+            rpm -q --qf '[%{PROVIDES}\n][%{FILENAMES}\n]' --whatprovides "${wanted[@]}" 2>/dev/null
+        fi | sort -u
+    )
 }
 
-# install_packages LIST: leaves apt alone when everything is there, so that this takes no time then.
-install_packages() {
-    local list=$1 missing as_root=()
-    if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
-        printf '%s\n' "This is no Debian: what $list names has to be installed by hand. Going on without." >&2
-        return 0
-    fi
-    mapfile -t missing < <(missing_packages "$list")
-    ((${#missing[@]} > 0)) || return 0
-    if ((EUID != 0)); then
+# Sets as_root to what has to stand before a command that installs the packages given.
+become_root() {
+    as_root=()
+    if (($(id -u) != 0)); then
         command -v sudo >/dev/null || die "These packages are missing, and neither root nor sudo is at hand to" \
-            "install them: ${missing[*]}"
+            "install them: $*"
         as_root=(sudo)
     fi
+}
+
+install_by_apt() {
+    local list=$1 missing as_root
+    mapfile -t missing < <(missing_packages debian "$list")
+    ((${#missing[@]} > 0)) || return 0
+    become_root "${missing[@]}"
     printf 'Installing: %s\n' "${missing[*]}"
     "${as_root[@]}" apt-get -q update \
         || printf '%s\n' "The package lists could not be renewed; trying with those that are here." >&2
     "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q -y --no-install-recommends install "${missing[@]}" \
         || die "apt-get could not install: ${missing[*]}"
+}
+
+# install_by_dnf DNF SYSTEM LIST: dnf 4 or 5. What no repository has is left out with a word, and noted in a file, so
+# that it isn't looked for every time. The functions below work on the variables of this one.
+install_by_dnf() {
+    local dnf=$1 system=$2 list=$3 left_out=${3%/*}/build/left-out missing as_root more=() lenient=--setopt=strict=0
+    mapfile -t missing < <(comm -23 <(missing_packages "$system" "$list") <(sort -u "$left_out" 2>/dev/null))
+    ((${#missing[@]} > 0)) || return 0
+    become_root "${missing[@]}"
+    [[ $("$dnf" --version) != dnf5* ]] || lenient=--skip-unavailable
+    try_dnf
+    if [[ $system == el ]]; then
+        use_crb
+        use_epel
+    fi
+    ((${#missing[@]} > 0)) || return 0
+    mkdir -p "${left_out%/*}"
+    printf '%s\n' "${missing[@]}" >>"$left_out"
+    say "No repository has these, going on without: ${missing[*]}. Remove $left_out to have them looked for again."
+}
+
+# Installs what can be had of the missing packages; the others stay missing.
+try_dnf() {
+    say "Installing: ${missing[*]}"
+    "${as_root[@]}" "$dnf" -y --setopt=install_weak_deps=False "${more[@]}" install "$lenient" "${missing[@]}" \
+        || die "$dnf could not install: ${missing[*]}"
+    mapfile -t missing < <(comm -12 <(printf '%s\n' "${missing[@]}") <(missing_packages "$system" "$list"))
+}
+
+# Sets `likely` to those of the missing packages that may lie in one of these repositories; status 1 for none.
+look_at() {
+    local repository
+    mapfile -t likely < <(
+        comm -12 <(printf '%s\n' "${missing[@]}") \
+            <(for repository in "$@"; do packages_of "$system" "$list" "$repository"; done | sort -u)
+    )
+    ((${#likely[@]} > 0))
+}
+
+# repository_like --enabled|--disabled EXPRESSION: the first of this system's repositories whose name matches, if any.
+repository_like() {
+    "${as_root[@]}" "$dnf" -q repolist "$1" | sed 's/[[:space:]].*//' | grep -Eixm 1 "$2" || true
+}
+
+# Each make of Enterprise Linux names CRB in its own way. It is used for this installation only.
+use_crb() {
+    local likely rhel crb
+    look_at crb epel || return 0
+    rhel="codeready-builder-for-rhel-[0-9]+(-$(uname -m))?(-rhui)?-rpms"
+    crb=$(repository_like --disabled "crb|$rhel|ol[0-9]+_codeready_builder")
+    [[ -n $crb ]] || return 0
+    say "Enabling the repository $crb for this installation, since Enterprise Linux may keep these there: ${likely[*]}"
+    more+=("--enablerepo=$crb")
+    try_dnf
+}
+
+# EPEL is added by a package, which lies in no repository of some makes: its makers have it then.
+use_epel() {
+    local names='epel|ol[0-9]+_developer_epel' likely epel release
+    look_at epel || return 0
+    [[ -z $(repository_like --enabled "$names") ]] || return 0
+    epel=$(repository_like --disabled "$names")
+    if [[ -n $epel ]]; then
+        say "Enabling the repository $epel for this installation, since it may have these: ${likely[*]}"
+    else
+        say "Enabling EPEL (Extra Packages for Enterprise Linux) on this system, by its package epel-release," \
+            "since it may have these: ${likely[*]}"
+        release=$(os_release VERSION_ID)
+        "${as_root[@]}" "$dnf" -y install epel-release \
+            || "${as_root[@]}" "$dnf" -y install \
+                "https://dl.fedoraproject.org/pub/epel/epel-release-latest-${release%%.*}.noarch.rpm" \
+            || { say "EPEL could not be enabled." >&2 && return 0; }
+        epel=epel
+    fi
+    more+=("--enablerepo=$epel")
+    try_dnf
+}
+
+# install_packages LIST: leaves the package manager alone when everything is there, so that this takes no time then.
+install_packages() {
+    local list=$1 system dnf
+    system=$(system_kind)
+    if [[ $system == debian ]] && command -v dpkg-query >/dev/null && command -v apt-get >/dev/null; then
+        install_by_apt "$list"
+        return 0
+    fi
+    if rpm_system && dnf=$(command -v dnf || command -v dnf5); then
+        install_by_dnf "$dnf" "$system" "$list"
+        return 0
+    fi
+    say "Neither apt nor dnf installs packages here: what $list names has to be installed by hand." \
+        "Going on without." >&2
 }

@@ -112,9 +112,9 @@ def make(directory: Path) -> Estate:
 
 
 def _shell(estate: Estate, version: str) -> Path:
-    busybox = shutil.which("busybox", path="/bin:/usr/bin:/usr/local/bin")
+    busybox = shutil.which("busybox", path="/bin:/usr/bin:/usr/local/bin:/usr/sbin:/sbin")
     if busybox is None:
-        raise EstateError("busybox is missing (Debian: busybox-static).")
+        raise EstateError("busybox is missing (packages.list names what holds it).")
     defines = {**DEFINES, "shell_version": version, "busybox": busybox}
     (rpm,) = estate.build(HERE / "specs/fen-shell.spec", "x86_64", defines)
     return rpm
