@@ -1,6 +1,9 @@
 # SPDX-License-Identifier: GPL-2.0-or-later
 """What the tests of the built packages share. VEM_PACKAGES names the folder that packaging/build-rpm and build-deb
 have filled; VEM_SHOTS, if set, a folder for screenshots.
+
+On an rpm system there is no Debian package, and where no package has what makes the manuals, none has them. Nowhere
+else are its tests left out.
 """
 from __future__ import annotations
 
@@ -18,6 +21,16 @@ sys.path[:0] = [str(HERE), str(HERE.parent / "e2e"), str(HERE.parents[1] / "esta
 from contents import Package, deb_contents, rpm_contents  # noqa: E402
 
 PACKAGES = Path(os.environ["VEM_PACKAGES"])
+
+
+def system_says(question: str) -> bool:
+    """The answer of a function of tools/packages.sh."""
+    script = HERE.parents[1] / "tools/packages.sh"
+    return subprocess.run(["bash", "-c", f'. "$0" && {question}', script], check=False).returncode == 0
+
+
+DEBIAN_PACKAGE = not system_says("rpm_system")
+WITH_MANUALS = not system_says("manuals_lack")
 
 
 def the_one(pattern: str) -> Path:
@@ -46,6 +59,8 @@ def source_rpm() -> Path:
 
 @pytest.fixture(scope="session")
 def deb_file() -> Path:
+    if not DEBIAN_PACKAGE:
+        pytest.skip("an rpm system builds no Debian package")
     return the_one("vem_*.deb")
 
 

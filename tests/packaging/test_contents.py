@@ -8,7 +8,7 @@ from pathlib import Path
 
 import pytest
 
-from conftest import PACKAGES
+from conftest import PACKAGES, WITH_MANUALS
 from contents import LANGUAGES, Package, output_of, rpm_query
 
 TOP = Path(__file__).resolve().parents[2]
@@ -39,6 +39,8 @@ WANTED = {
     ),
     *(f"/usr/share/vem/{file.relative_to(TOP / 'share')}" for file in (TOP / "share/python").rglob("*.py")),
 }
+if not WITH_MANUALS:
+    WANTED = {path for path in WANTED if not path.startswith((MANUALS, MAN_PAGE))}
 
 
 def test_rpm_holds_every_file_its_modules_compiled_and_the_licence(rpm_package: Package) -> None:

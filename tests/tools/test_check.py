@@ -1,0 +1,60 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""What ./check makes of the packages where a Debian package, or a manual, can't be made: nothing is built here."""
+from __future__ import annotations
+
+import shutil
+from pathlib import Path
+
+import pytest
+
+from system import HOUSE, RPM_NAMES, System
+
+COMMANDS = {
+    "debian": ["apt-get", "dpkg-query"],
+    "fedora": ["dnf", "rpm"],
+}
+MANUAL_TOOLS = ["rubygem-asciidoctor", "rubygem-asciidoctor-pdf"]
+NO_DEBIAN = "Left out: the Debian package"
+NO_MANUALS = "Left out: the manuals"
+
+
+def check_packages(system: System) -> tuple[str, str]:
+    """What ./check --packages said, and the commands that it called to build and test them."""
+    top = system.list.parent / "house"
+    for name in ("check", "tools/packages.sh", "tools/privileges.sh"):
+        (top / name).parent.mkdir(parents=True, exist_ok=True)
+        shutil.copy(HOUSE / name, top / name)
+    shutil.copy(system.list, top / "packages.list")
+    called = top / "called"
+    called.write_text("")
+    for name in ("packaging/build-rpm", "packaging/build-deb", "tools/on-virtual-display"):
+        (top / name).parent.mkdir(exist_ok=True)
+        (top / name).write_text(f'#!{system.commands}/bash\necho "${{0##*/}} $*" >>"{called}"\n')
+        (top / name).chmod(0o755)
+    words = system.bash(str(top / "check"), "--packages")
+    assert words.endswith("check: all passed (packages)\n")
+    return words, called.read_text().replace(f"{top}/build/packages", "OUT")
+
+
+TESTS = "on-virtual-display /usr/bin/python3 -B -m pytest -p no:cacheprovider -q tests/packaging\n"
+
+
+def test_a_debian_makes_both_packages(tmp_path: Path) -> None:
+    words, called = check_packages(System(tmp_path, "debian", COMMANDS["debian"]))
+    assert called == f"build-rpm OUT --nodeps\nbuild-deb OUT\n{TESTS}"
+    assert "Left out" not in words
+
+
+@pytest.mark.parametrize("manuals", [True, False])
+def test_an_rpm_system_makes_the_rpm_alone(manuals: bool, tmp_path: Path) -> None:
+    fedora = System(tmp_path, "fedora", COMMANDS["fedora"])
+    fedora.has("installed", *RPM_NAMES["fedora"], *(MANUAL_TOOLS if manuals else []))
+    words, called = check_packages(fedora)
+    # What the rpm is built with is looked up in rpm's database, which holds it here.
+    assert called == f"build-rpm OUT{'' if manuals else ' --without manuals'}\n{TESTS}"
+    assert NO_DEBIAN in words
+    assert (NO_MANUALS in words) != manuals
+
+
+if __name__ == "__main__":
+    raise SystemExit(pytest.main([__file__]))
