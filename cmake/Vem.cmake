@@ -21,9 +21,6 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets LinguistTools)
 if(VEM_TESTS)
     find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
-    # Else it tells each test its own folders, for a macro that none of them uses, and no two tests could share
-    # their precompiled headers.
-    set_target_properties(Qt6::Test PROPERTIES INTERFACE_COMPILE_DEFINITIONS QT_TESTLIB_LIB)
 endif()
 
 # dnf and rpm live in the system's interpreter; another Python may stand earlier on PATH.
@@ -55,22 +52,17 @@ if(VEM_SANITIZE)
     target_link_options(vem_options INTERFACE -fsanitize=${VEM_SANITIZE})
 endif()
 
-# Sources that do nothing but carry the precompiled headers, one set of headers for libraries and one for tests.
+# A source that does nothing but carry the precompiled headers.
 if(VEM_PCH)
     file(CONFIGURE OUTPUT "${CMAKE_BINARY_DIR}/precompiled.cpp" CONTENT "")
     add_library(vem_pch OBJECT "${CMAKE_BINARY_DIR}/precompiled.cpp")
     target_link_libraries(vem_pch PRIVATE vem_options Qt6::Widgets)
     target_precompile_headers(vem_pch PRIVATE "${CMAKE_CURRENT_LIST_DIR}/precompiled.h")
-    if(VEM_TESTS)
-        add_library(vem_test_pch OBJECT "${CMAKE_BINARY_DIR}/precompiled.cpp")
-        target_link_libraries(vem_test_pch PRIVATE vem_options Qt6::Widgets Qt6::Test)
-        target_precompile_headers(vem_test_pch PRIVATE "${CMAKE_CURRENT_LIST_DIR}/precompiledTest.h")
-    endif()
 endif()
 
-function(vem_precompiled target headers)
+function(vem_precompiled target)
     if(VEM_PCH)
-        target_precompile_headers(${target} REUSE_FROM ${headers})
+        target_precompile_headers(${target} REUSE_FROM vem_pch)
     endif()
 endfunction()
 
@@ -83,11 +75,7 @@ function(vem_library name)
     target_include_directories(vem_${name} PUBLIC "${PROJECT_SOURCE_DIR}")
     target_link_libraries(vem_${name} PUBLIC vem_options Qt6::Widgets)
     vem_link(vem_${name} ${arg_LINKS})
-    if("Qt6::Test" IN_LIST arg_LINKS)
-        vem_precompiled(vem_${name} vem_test_pch)
-    else()
-        vem_precompiled(vem_${name} vem_pch)
-    endif()
+    vem_precompiled(vem_${name})
 endfunction()
 
 # vem_test(name SOURCES file... LINKS folder-or-target... [LABELS label...])
@@ -97,7 +85,7 @@ function(vem_test name)
     add_executable(${name} ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE vem_options Qt6::Test)
     vem_link(${name} ${arg_LINKS})
-    vem_precompiled(${name} vem_test_pch)
+    vem_precompiled(${name})
     target_compile_definitions(${name} PRIVATE
         VEM_TEST_SHARE="${VEM_SHARE_DIR}"
         VEM_TEST_SOURCE="${CMAKE_CURRENT_SOURCE_DIR}")

@@ -3,10 +3,12 @@
 
 from __future__ import annotations
 
+import gzip
 import json
 import os
 import subprocess
 from typing import Any, Optional, Sequence
+from xml.etree import ElementTree
 
 from rpmestate import Estate
 
@@ -27,7 +29,6 @@ dnf.util.ensure_dir(conf.logdir)
 base = dnf.Base(conf)
 base.read_all_repos()
 base.fill_sack()
-base.read_comps(arch_filter=True)
 query = base.sack.query()
 installed = query.installed()
 names = {package.name for package in installed}
@@ -40,7 +41,6 @@ report = {
     "available": text(package for package in available if package.name not in names),
     "arches": sorted({package.arch for package in query}),
     "suites": sorted({package.name for package in query if package.group == "Suite"}),
-    "groups": {group.name: group.visible for group in base.comps.groups},
     "repositories": {repo.id: [repo.name, repo.enabled] for repo in base.repos.values()},
     "packagers": sorted({package.packager for package in query if package.packager}),
     "sizes": {package.name: package.size for package in installed},
@@ -71,4 +71,16 @@ def dnf_report(estate: Estate, home: Optional[str] = None, install: Sequence[str
         encoding="utf-8",
     )
     report: dict[str, Any] = json.loads(done.stdout)
+    report["groups"] = _groups(estate)
     return report
+
+
+def _groups(estate: Estate) -> dict[str, bool]:
+    """The visibility of the groups by name. Not by dnf, whose library for them doesn't work everywhere."""
+    groups = {}
+    for path in estate.repos_dir.glob("*/repodata/*comps.xml*"):
+        if path.suffix in (".xml", ".gz"):
+            with (gzip.open if path.suffix == ".gz" else open)(path, "rb") as file:
+                for group in ElementTree.parse(file).iterfind("group"):
+                    groups[group.findtext("name", "")] = group.findtext("uservisible") != "false"
+    return groups

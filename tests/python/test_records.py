@@ -3,9 +3,15 @@
 
 from __future__ import annotations
 
+import bz2
 import gzip
+import hashlib
+import lzma
+import re
+import shutil
+import subprocess
 from pathlib import Path
-from typing import Dict, Iterator
+from typing import Callable, Dict, Iterator
 
 import pytest
 from program import Program
@@ -31,20 +37,120 @@ def chunk_size(request: pytest.FixtureRequest, monkeypatch: pytest.MonkeyPatch) 
     yield request.param
 
 
-@pytest.mark.usefixtures("chunk_size")
-@pytest.mark.parametrize("ending", ["xml", "xml.gz"])
+def zstd(data: bytes, path: Path) -> None:
+    import rpm
+
+    stream = rpm.fd(str(path), "w", "zstdio")
+    stream.write(data)
+    stream.close()
+
+
+def zchunk(data: bytes, path: Path) -> None:
+    plain = path.with_suffix("")
+    plain.write_bytes(data)
+    if shutil.which("zck") is not None:
+        subprocess.run(["zck", "--output", path, plain], check=True)
+    else:
+        # Beside the stand-in for unzck that reads it again.
+        path.write_bytes(data[::-1])
+    plain.unlink()
+
+
+@pytest.fixture
+def unzck(tmp_path_factory: pytest.TempPathFactory, monkeypatch: pytest.MonkeyPatch) -> None:
+    """The program, or where a system lacks it a stand-in."""
+    if shutil.which("unzck") is None or shutil.which("zck") is None:
+        command = tmp_path_factory.mktemp("bin") / "unzck"
+        command.write_text(
+            "#!/usr/bin/python3\nimport sys\nassert sys.argv[1] == '--stdout'\n"
+            "sys.stdout.buffer.write(open(sys.argv[2], 'rb').read()[::-1])\n"
+        )
+        command.chmod(0o755)
+        monkeypatch.setenv("PATH", str(command.parent), prepend=":")
+
+
+WRITERS: Dict[str, Callable[[bytes, Path], object]] = {
+    "xml": lambda data, path: path.write_bytes(data),
+    "xml.gz": lambda data, path: path.write_bytes(gzip.compress(data)),
+    "xml.bz2": lambda data, path: path.write_bytes(bz2.compress(data)),
+    "xml.xz": lambda data, path: path.write_bytes(lzma.compress(data)),
+    "xml.zst": zstd,
+    "xml.zck": zchunk,
+}
+
+
+@pytest.mark.usefixtures("chunk_size", "unzck")
+@pytest.mark.parametrize("ending", WRITERS)
 def test_each_package_has_its_record(tmp_path: Path, ending: str) -> None:
     from vemyum.records import Records, changes, files
 
     text = metadata({ONE: "<file>/one</file>", TWO: "", THREE: '<file>/a</file><changelog author="A" date="7">t</changelog>'})
     path = tmp_path / f"filelists.{ending}"
-    path.write_bytes(gzip.compress(text.encode()) if ending == "xml.gz" else text.encode())
+    WRITERS[ending](text.encode(), path)
     records = Records(str(path))
     path.unlink()
     found = [records.record(checksum) for checksum in (ONE, TWO, THREE, b"unknown")]
     records.close()
     assert [None if record is None else files(record) for record in found] == [["/one"], [], ["/a"], None]
     assert [None if record is None else changes(record) for record in found] == [[], [], [(7, "A", "t")], None]
+
+
+def test_zchunk_that_cannot_be_read_is_told(tmp_path: Path, monkeypatch: pytest.MonkeyPatch) -> None:
+    from vemyum.records import chunks
+
+    path = tmp_path / "filelists.xml.zck"
+    path.write_bytes(b"no zchunk")
+    commands = tmp_path / "bin"
+    commands.mkdir()
+    monkeypatch.setenv("PATH", str(commands))
+    with pytest.raises(FileNotFoundError, match="unzck"):
+        list(chunks(str(path)))
+    (commands / "unzck").write_text("#!/bin/sh\necho part\nexit 1\n")
+    (commands / "unzck").chmod(0o755)
+    with pytest.raises(OSError, match="unzck cannot read it: .*filelists.xml.zck"):
+        list(chunks(str(path)))
+
+
+def recompress(repodata: Path, ending: str) -> None:
+    """Writes a repository's metadata anew in this form, and what repomd.xml says of it."""
+    repomd = repodata / "repomd.xml"
+    entries = []
+    for entry in re.findall(r"<data type=.*?</data>", repomd.read_text(), re.DOTALL):
+        (name,) = re.findall(r'href="repodata/([^"]*)"', entry)
+        if 'type="group_' in entry:
+            continue
+        from vemyum.records import chunks
+
+        content = b"".join(chunks(str(repodata / name)))
+        (repodata / name).unlink()
+        new = repodata / f"{name.partition('.')[0]}.{ending}"
+        WRITERS[ending](content, new)
+        entry = entry.replace(f"repodata/{name}", f"repodata/{new.name}")
+        for word, data in (("", new.read_bytes()), ("open-", content)):
+            checksum = hashlib.sha256(data).hexdigest()
+            entry = re.sub(rf"(<{word}checksum[^>]*>)[^<]*", rf"\g<1>{checksum}", entry)
+            entry = re.sub(rf"(<{word}size>)[^<]*", rf"\g<1>{len(data)}", entry)
+        entries.append(entry)
+    head, _, tail = re.split(r"(<data.*</data>)", repomd.read_text(), flags=re.DOTALL)
+    repomd.write_text(head + "\n".join(entries) + tail)
+
+
+@pytest.mark.parametrize("ending", [ending for ending in WRITERS if ending != "xml.zck"])
+def test_repository_of_any_compression_tells_groups_files_changes_and_build_host(
+    estate: Estate, program: Program, ending: str
+) -> None:
+    log = "* Sat Nov 21 2026 Ada <ada@estate.example> - 1.0-1\n- First"
+    package = spec("shed", "1.0", files={"/usr/share/shed/door": "x"}, changelog=log)
+    comps = "<comps><group><id>huts</id><name>Huts</name><packagelist><packagereq>shed</packagereq></packagelist></group></comps>"
+    repository = estate.repository("base", estate.build([package]), comps=comps)
+    recompress(repository / "repodata", ending)
+    found = program.collect()
+    assert [(group.name, list(group.mandatory_packages)) for group in found.groups] == [("Huts", ["shed"])]
+    assert found.yumio.collectFileLists() and found.yumio.collectOtherData()
+    shed = found.offered("shed")
+    assert shed.returnFileEntries("file") == ["/usr/share/shed/door"]
+    assert [change[2] for change in shed.returnChangelog()] == ["- First"]
+    assert shed.returnSimple("buildhost") == "builder.estate.example"
 
 
 def test_a_checksum_with_a_digit_too_few_harms_no_other_package(tmp_path: Path) -> None:

@@ -7,15 +7,18 @@ libsolv can tell them too, but looks for each directory of each file among all d
 
 from __future__ import annotations
 
+import errno
 import html
 import os
 import re
+import subprocess
 import tempfile
 from typing import Dict, Iterator, List, Optional, Tuple
 
 import rpm
 
 from .text import valid
+from .texts import _
 
 _CHUNK = 1 << 20
 _RECORD = re.compile(rb"""<package\b[^>]*?\bpkgid=["']([0-9a-fA-F]+)["']""")
@@ -30,7 +33,11 @@ _COMPRESSIONS = {".gz": "gzdio", ".xz": "xzdio", ".bz2": "bzdio", ".zst": "zstdi
 
 def chunks(path: str) -> Iterator[bytes]:
     """The content of a metadata file, uncompressed. OSError."""
-    stream = rpm.fd(path, "r", _COMPRESSIONS.get(os.path.splitext(path)[1], "ufdio"))
+    ending = os.path.splitext(path)[1]
+    if ending == ".zck":
+        yield from _unzck(path)
+        return
+    stream = rpm.fd(path, "r", _COMPRESSIONS.get(ending, "ufdio"))
     try:
         while True:
             chunk = stream.read(_CHUNK)
@@ -39,6 +46,19 @@ def chunks(path: str) -> Iterator[bytes]:
             yield chunk
     finally:
         stream.close()
+
+
+def _unzck(path: str) -> Iterator[bytes]:
+    """By the program of the library that dnf fetches such files with; rpm doesn't read them. OSError."""
+    with subprocess.Popen(["unzck", "--stdout", path], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL) as unzck:
+        assert unzck.stdout is not None
+        while True:
+            chunk = unzck.stdout.read(_CHUNK)
+            if not chunk:
+                break
+            yield chunk
+    if unzck.returncode:
+        raise OSError(errno.EIO, _("unzck cannot read it"), path)
 
 
 class Records:
