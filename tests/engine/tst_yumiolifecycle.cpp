@@ -2,6 +2,7 @@
 #include "LifecycleTest.h"
 #include "base/Application.h"
 #include "engine/WorkThreads.h"
+#include "tests/Eventually.h"
 
 #include <QApplication>
 #include <QProcess>
@@ -158,7 +159,7 @@ void TestYumIOLifecycle::interruptEndsTheProcessAtOnce()
     process.setProcessChannelMode(QProcess::ForwardedChannels);
     process.start(QCoreApplication::applicationFilePath(), {"hang", job});
     QVERIFY(process.waitForStarted());
-    QTRY_VERIFY_WITH_TIMEOUT(calls().contains("waiting"), 30000);
+    EVENTUALLY_VERIFY_WITHIN(calls().contains("waiting"), 30000);
     QCOMPARE(::kill(static_cast<pid_t>(process.processId()), SIGINT), 0);
     QVERIFY(process.waitForFinished());
     QCOMPARE(process.exitStatus(), QProcess::CrashExit);
@@ -225,7 +226,7 @@ void TestYumIOLifecycle::transactionWaitsAtTheGate()
     QVERIFY(!begun.tryAcquire(1, 300));
     QVERIFY(!calls().contains("apply"));
     engine->blocker.release();
-    QTRY_VERIFY(thread.isFinished());
+    EVENTUALLY_VERIFY(thread.isFinished());
     QVERIFY(calls().contains("apply"));
 }
 

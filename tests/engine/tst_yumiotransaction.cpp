@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "EngineTest.h"
+#include "tests/Eventually.h"
 
 class TestYumIOTransaction final : public EngineTest
 {
@@ -70,7 +71,7 @@ void TestYumIOTransaction::callbackBits()
     QFETCH(int, value);
     QFETCH(bool, understood);
     // Values within the first hundredth of a second may be dropped.
-    QTRY_VERIFY(
+    EVENTUALLY_VERIFY(
         engine->script(QStringLiteral("yumIOC.tsCallback(%1, 40, 100, None, None)").arg(what)).isEmpty() &&
         (value < 0 || !engine->progressRecord.lines.isEmpty()));
     QCOMPARE(

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // The repository dialog behind the description's "Details".
 #include "DescribeTest.h"
+#include "tests/Eventually.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -159,7 +160,7 @@ private Q_SLOTS:
             browse->click();
         });
         qputenv("VEMSHARE", share);
-        QTRY_VERIFY(QFile::exists(notes));
+        EVENTUALLY_VERIFY(QFile::exists(notes));
         QFile told(notes);
         QVERIFY(told.open(QFile::ReadOnly));
         QCOMPARE(told.readAll(), QByteArray("http://a.example.org/x86_64/"));

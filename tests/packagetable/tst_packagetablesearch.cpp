@@ -2,6 +2,7 @@
 // Mode Search: which fields of a package or group are tried, in which order, and when the trying ends. The
 // packages are objects of a class that notes down what it is asked.
 #include "TestEngine.h"
+#include "tests/Eventually.h"
 
 #include "packagetable/PackageTableModel.h"
 #include "packagetable/PackageTableSortFilterProxyModel.h"
@@ -375,7 +376,7 @@ private Q_SLOTS:
         proxy->setFilterRegExp("name");
         proxy->setStateFilter(PackageTable::Installable);
         QVERIFY(!served);
-        QTRY_VERIFY(served);
+        EVENTUALLY_VERIFY(served);
     }
 
     void aRowIsSearchedOnceForEachExpression()

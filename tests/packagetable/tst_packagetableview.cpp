@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "TestEngine.h"
+#include "tests/Eventually.h"
 
 #include "packagetable/PackageTableModel.h"
 #include "packagetable/PackageTableView.h"
@@ -535,7 +536,7 @@ private Q_SLOTS:
         QPalette const light = QApplication::palette();
         QPalette const dark = Contrast::darkPalette();
         QApplication::setPalette(dark);
-        QTRY_COMPARE(view->palette().color(QPalette::Base), dark.color(QPalette::Base));
+        EVENTUALLY_COMPARE(view->palette().color(QPalette::Base), dark.color(QPalette::Base));
         for (bool const enabled : {true, false}) {
             window->setEnabled(enabled);
             for (QColor const& ground : Contrast::rowGrounds(dark)) {
@@ -545,7 +546,7 @@ private Q_SLOTS:
         }
         QApplication::setPalette(light);
         window->setEnabled(true);
-        QTRY_COMPARE(colour(0), QColor(Colors::error()));
+        EVENTUALLY_COMPARE(colour(0), QColor(Colors::error()));
         QCOMPARE(colour(1), QColor(Colors::minor()));
     }
 

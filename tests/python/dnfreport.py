@@ -6,6 +6,7 @@ from __future__ import annotations
 import gzip
 import json
 import os
+import re
 import subprocess
 from typing import Any, Optional, Sequence
 from xml.etree import ElementTree
@@ -78,8 +79,8 @@ def dnf_report(estate: Estate, home: Optional[str] = None, install: Sequence[str
 def _groups(estate: Estate) -> dict[str, bool]:
     """The visibility of the groups by name. Not by dnf, whose library for them doesn't work everywhere."""
     groups = {}
-    for path in estate.repos_dir.glob("*/repodata/*comps.xml*"):
-        if path.suffix in (".xml", ".gz"):
+    for path in estate.repos_dir.glob("*/repodata/*"):
+        if re.search(r"(comps|group_gz)\.xml(\.gz)?$", path.name):
             with (gzip.open if path.suffix == ".gz" else open)(path, "rb") as file:
                 for group in ElementTree.parse(file).iterfind("group"):
                     groups[group.findtext("name", "")] = group.findtext("uservisible") != "false"

@@ -3,6 +3,7 @@
 #include "BoxAnswer.h"
 #include "Launches.h"
 #include "repo/Execute.h"
+#include "tests/Eventually.h"
 
 #include <QTest>
 
@@ -102,7 +103,7 @@ void TestExecute::programGetsItsArgumentsAsTheyAre()
     QByteArrayList const words{
         launches.path(QStringLiteral("program")).toLocal8Bit(), "a b", "$(x)", "", "\xe4*"};
     execute(nullptr, words);
-    QTRY_COMPARE(launches.started(), words);
+    EVENTUALLY_COMPARE(launches.started(), words);
     QCOMPARE(boxes.texts, QStringList());
 }
 
@@ -113,18 +114,18 @@ void TestExecute::nobodyWaitsForTheProgram()
     launches.add(
         QStringLiteral("program"), "echo $PPID > parent\nwhile [ ! -e end ]; do sleep 0.05; done\n: > ended");
     execute(nullptr, {launches.path(QStringLiteral("program")).toLocal8Bit()});
-    QTRY_VERIFY(!launches.started().isEmpty());
+    EVENTUALLY_VERIFY(!launches.started().isEmpty());
     QVERIFY(!hasChild());
     QVERIFY(!QFile::exists(launches.path(QStringLiteral("ended"))));
 
     QFile parent(launches.path(QStringLiteral("parent")));
-    QTRY_VERIFY(parent.size() > 0);
+    EVENTUALLY_VERIFY(parent.size() > 0);
     QVERIFY(parent.open(QIODevice::ReadOnly));
     QVERIFY(parent.readAll().trimmed().toLongLong() != ::getpid());
 
     QFile end(launches.path(QStringLiteral("end")));
     QVERIFY(end.open(QIODevice::WriteOnly));
-    QTRY_VERIFY(QFile::exists(launches.path(QStringLiteral("ended"))));
+    EVENTUALLY_VERIFY(QFile::exists(launches.path(QStringLiteral("ended"))));
 }
 
 void TestExecute::programIsNotSearchedFor()
@@ -132,7 +133,7 @@ void TestExecute::programIsNotSearchedFor()
     Launches launches;
     ErrorOutput errors(launches.path(QStringLiteral("errors")));
     execute(nullptr, {"true"});
-    QTRY_COMPARE(
+    EVENTUALLY_COMPARE(
         errors.text(), QByteArray("execv(\"true\", ...) failed; errno = 2 (No such file or directory)\n"));
 }
 
@@ -144,7 +145,7 @@ void TestExecute::missingProgramIsToldOnStandardErrorOnly()
     // However long its name is.
     QByteArray const missing = launches.path(QString(200, u'm')).toLocal8Bit();
     execute(nullptr, {missing, "argument"});
-    QTRY_COMPARE(
+    EVENTUALLY_COMPARE(
         errors.text(), "execv(\"" + missing + "\", ...) failed; errno = 2 (No such file or directory)\n");
     QVERIFY(!hasChild());
     QCOMPARE(boxes.texts, QStringList());

@@ -3,6 +3,7 @@
 #include "BoxAnswer.h"
 #include "ConfFiles.h"
 #include "RepoEditorTest.h"
+#include "tests/Eventually.h"
 
 #include "tests/widgets/Contrast.h"
 #include "widgets/Colors.h"
@@ -171,7 +172,7 @@ private Q_SLOTS:
         QColor const ground = dark.color(QPalette::Window);
         clickCell("fen", 1);
         QApplication::setPalette(dark);
-        QTRY_COMPARE(status()->palette().color(QPalette::Window), ground);
+        EVENTUALLY_COMPARE(status()->palette().color(QPalette::Window), ground);
         QVERIFY(Contrast::ratio(statusColor(), ground) >= Contrast::legible);
         QVERIFY(statusColor().green() > statusColor().red() + 50);
         root->conf.repos[3].id.clear();
@@ -183,7 +184,7 @@ private Q_SLOTS:
         QCOMPARE(statusColor(), dark.color(QPalette::WindowText));
         clickCell("fen", 1);
         QApplication::setPalette(light);
-        QTRY_COMPARE(statusColor(), QColor(Colors::ok()));
+        EVENTUALLY_COMPARE(statusColor(), QColor(Colors::ok()));
         click("Reset All");
         QCOMPARE(statusColor(), light.color(QPalette::WindowText));
     }

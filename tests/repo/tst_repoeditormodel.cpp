@@ -3,6 +3,7 @@
 #include "BoxReader.h"
 #include "ConfRoot.h"
 #include "Launches.h"
+#include "tests/Eventually.h"
 
 #include "repo/RepoEditorModel.h"
 #include "tests/packagetable/TestEngine.h"
@@ -292,7 +293,7 @@ private Q_SLOTS:
         repos()[1].baseurl = QStringLiteral("http://moor/os\nhttp://fen/os");
 
         model->browse(model->index(1, 3), nullptr);
-        QTRY_COMPARE(
+        EVENTUALLY_COMPARE(
             launches.started(),
             (QByteArrayList{
                 QFile::encodeName(launches.path(QStringLiteral("webbrowser"))), "http://moor/os"}));

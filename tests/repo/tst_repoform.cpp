@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // The form of a repository in its window, used as by a user.
 #include "repo/RepoEditorConfigDialog.h"
+#include "tests/Eventually.h"
 
 #include "ConfRoot.h"
 #include "FormUser.h"
@@ -302,7 +303,7 @@ private Q_SLOTS:
         auto const statusColor = [this] { return status()->palette().color(QPalette::WindowText); };
         open(Repo::Entry());
         QApplication::setPalette(dark);
-        QTRY_COMPARE(status()->palette().color(QPalette::Window), ground);
+        EVENTUALLY_COMPARE(status()->palette().color(QPalette::Window), ground);
         QCOMPARE(status()->text(), QStringLiteral("No Identifier specified"));
         QVERIFY(Contrast::ratio(statusColor(), ground) >= Contrast::legible);
         QTest::keyClicks(id(), QStringLiteral("x"));
@@ -317,7 +318,7 @@ private Q_SLOTS:
                 Contrast::legible);
         }
         QApplication::setPalette(light);
-        QTRY_COMPARE(status()->palette().color(QPalette::WindowText), QColor(Colors::warning()));
+        EVENTUALLY_COMPARE(status()->palette().color(QPalette::WindowText), QColor(Colors::warning()));
         verifyStatus(QStringLiteral("No URLs or Mirror list URL specified"), Colors::warning());
     }
 

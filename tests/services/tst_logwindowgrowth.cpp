@@ -2,6 +2,7 @@
 // The log window while the log grows, and with a long log.
 #include "LogWindowTest.h"
 #include "Worker.h"
+#include "tests/Eventually.h"
 
 #include <QDeadlineTimer>
 #include <QScrollBar>
@@ -103,7 +104,7 @@ void TestLogWindowGrowth::floodFromAWorkerArrivesCompletely()
             log.add(Log::Output, 0, QString::number(line));
         }
     });
-    QTRY_COMPARE(textEdit->document()->blockCount(), count);
+    EVENTUALLY_COMPARE(textEdit->document()->blockCount(), count);
     QStringList const shown = lines();
     QCOMPARE(shown.size(), count);
     for (int line = 0; line < count; ++line) {
@@ -120,7 +121,7 @@ void TestLogWindowGrowth::everyNewLineKeepsTheEndInSight()
     for (int line = 0; line < 50; ++line) {
         log.add(Log::Info, 0, QString::number(line));
     }
-    QTRY_VERIFY(bar->maximum() > before + 49 * textEdit->fontMetrics().height());
+    EVENTUALLY_VERIFY(bar->maximum() > before + 49 * textEdit->fontMetrics().height());
     QCOMPARE(bar->value(), bar->maximum());
 }
 
@@ -146,7 +147,7 @@ void TestLogWindowGrowth::longLogIsRenderedInShares()
     QVERIFY(textEdit->document()->blockCount() < count);
     QVERIFY(turnsUntilComplete(count) > 3);
     QScrollBar const* const bar = textEdit->verticalScrollBar();
-    QTRY_VERIFY(bar->maximum() > count * textEdit->fontMetrics().height() * 9 / 10);
+    EVENTUALLY_VERIFY(bar->maximum() > count * textEdit->fontMetrics().height() * 9 / 10);
     QCOMPARE(bar->value(), bar->maximum());
 }
 

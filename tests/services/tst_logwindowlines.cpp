@@ -2,6 +2,7 @@
 // How the lines of the log look.
 #include "LogWindowTest.h"
 #include "services/LogLineWriter.h"
+#include "tests/Eventually.h"
 #include "tests/widgets/Contrast.h"
 #include "widgets/Colors.h"
 #include "widgets/HTextEdit.h"
@@ -84,8 +85,8 @@ void TestLogWindowLines::coloursFollowThePalette()
     QPalette const light = QApplication::palette();
     QPalette const dark = Contrast::darkPalette();
     QApplication::setPalette(dark);
-    QTRY_COMPARE(textEdit->palette().color(QPalette::Base), dark.color(QPalette::Base));
-    QTRY_COMPARE(lines().size(), 4);
+    EVENTUALLY_COMPARE(textEdit->palette().color(QPalette::Base), dark.color(QPalette::Base));
+    EVENTUALLY_COMPARE(lines().size(), 4);
     for (int line = 0; line < 4; ++line) {
         QColor const colour = formatOfLine(line).foreground().color();
         QVERIFY2(
@@ -93,7 +94,7 @@ void TestLogWindowLines::coloursFollowThePalette()
             qPrintable(colour.name()));
     }
     QApplication::setPalette(light);
-    QTRY_COMPARE(formatOfLine(2).foreground().color(), QColor(Colors::error()));
+    EVENTUALLY_COMPARE(formatOfLine(2).foreground().color(), QColor(Colors::error()));
     QCOMPARE(lines().size(), 4);
 }
 
@@ -207,7 +208,7 @@ void TestLogWindowLines::linesLookAsTheirMarkUpTells()
         plain.appendCompact(Log::LineWriter::markUp(entry, plain.palette()));
     }
 
-    QTRY_COMPARE(textEdit->document()->blockCount(), plain.document()->blockCount());
+    EVENTUALLY_COMPARE(textEdit->document()->blockCount(), plain.document()->blockCount());
     QCOMPARE(textEdit->document()->toRawText(), plain.document()->toRawText());
     QCOMPARE(textEdit->document()->toHtml(), plain.document()->toHtml());
     QTextBlock expected = plain.document()->begin();

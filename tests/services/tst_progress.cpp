@@ -5,6 +5,7 @@
 #include "services/Progress.h"
 #include "services/ProgressMinion.h"
 #include "services/ProgressUser.h"
+#include "tests/Eventually.h"
 
 #include <QApplication>
 #include <QDeadlineTimer>
@@ -518,10 +519,10 @@ void TestProgress::manyStepsPaintTheBarsOnce()
     QCOMPARE(paints.count, 0);
     QCOMPARE(totalBar->value(), 200);
     QCOMPARE(itemBar->text(), QStringLiteral("Item 100 (50%)"));
-    QTRY_COMPARE(paints.count, 2);
+    EVENTUALLY_COMPARE(paints.count, 2);
     minion.reset();
     QCOMPARE(paints.count, 2);
-    QTRY_COMPARE(paints.count, 4);
+    EVENTUALLY_COMPARE(paints.count, 4);
 }
 
 QTEST_MAIN(TestProgress)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // The main window at work, over a stand-in for the helper script.
 #include "ShellTest.h"
+#include "tests/Eventually.h"
 
 #include <QAbstractItemView>
 #include <QAction>
@@ -138,7 +139,7 @@ private Q_SLOTS:
         mode()->setCurrentIndex(1);
         QCOMPARE(calls().count(QStringLiteral("collectFileLists")), 1);
         QCOMPARE(calls().count(QStringLiteral("collectOtherData")), 1);
-        QTRY_VERIFY(mode()->toolTip().endsWith(QLatin1String("considerably slower.")));
+        EVENTUALLY_VERIFY(mode()->toolTip().endsWith(QLatin1String("considerably slower.")));
         apply(QStringLiteral("ash"));
         QCOMPARE(calls().count(QStringLiteral("collectFileLists")), 1);
     }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "ShellTest.h"
+#include "tests/Eventually.h"
 
 #include <QApplication>
 #include <QTemporaryDir>
@@ -16,7 +17,7 @@ private Q_SLOTS:
         QTemporaryDir const empty;
         qputenv("VEMSHARE", QFile::encodeName(empty.path()));
         window->show();
-        QTRY_VERIFY(!window->isVisible());
+        EVENTUALLY_VERIFY(!window->isVisible());
         QList<Boxes::Box> const seen = boxes->take();
         QCOMPARE(seen.size(), 1);
         QCOMPARE(seen.first().caption, QStringLiteral("VEM Yum Error"));

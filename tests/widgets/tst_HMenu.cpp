@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "tests/Eventually.h"
 #include "widgets/HMenu.h"
 
 #include <QApplication>
@@ -39,7 +40,7 @@ void tst_HMenu::cleanup()
 {
     QToolTip::hideText();
     bar.reset();
-    QTRY_VERIFY(!QToolTip::isVisible());
+    EVENTUALLY_VERIFY(!QToolTip::isVisible());
 }
 
 void tst_HMenu::askForToolTip()

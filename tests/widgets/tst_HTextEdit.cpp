@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "tests/Eventually.h"
 #include "widgets/HTextEdit.h"
 
 #include <QApplication>
@@ -111,16 +112,16 @@ void tst_HTextEdit::ownContextMenuDoesNotEndEditing()
     QContextMenuEvent event(
         QContextMenuEvent::Mouse, QPoint(5, 5), edit.viewport()->mapToGlobal(QPoint(5, 5)));
     QApplication::sendEvent(edit.viewport(), &event);
-    QTRY_VERIFY(QApplication::activePopupWidget());
+    EVENTUALLY_VERIFY(QApplication::activePopupWidget());
     edit.leave(Qt::OtherFocusReason);
     QCOMPARE(finished.count(), 0);
     QApplication::activePopupWidget()->close();
-    QTRY_VERIFY(!QApplication::activePopupWidget());
+    EVENTUALLY_VERIFY(!QApplication::activePopupWidget());
 
     QMenu menu(&edit);
     menu.addAction(QStringLiteral("Copy"));
     menu.popup(edit.mapToGlobal(QPoint(5, 5)));
-    QTRY_COMPARE(QApplication::activePopupWidget(), &menu);
+    EVENTUALLY_COMPARE(QApplication::activePopupWidget(), &menu);
     edit.leave(Qt::OtherFocusReason);
     QCOMPARE(finished.count(), 0);
     menu.close();
@@ -135,7 +136,7 @@ void tst_HTextEdit::popupOfAnotherWidgetEndsEditing()
     QMenu menu(&other);
     menu.addAction(QStringLiteral("Copy"));
     menu.popup(other.mapToGlobal(QPoint(5, 5)));
-    QTRY_COMPARE(QApplication::activePopupWidget(), &menu);
+    EVENTUALLY_COMPARE(QApplication::activePopupWidget(), &menu);
     QSignalSpy const finished(&edit, &HTextEdit::editingFinished);
 
     edit.leave(Qt::OtherFocusReason);
