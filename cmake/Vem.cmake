@@ -6,6 +6,7 @@ option(VEM_TESTS "Build the tests" ON)
 option(VEM_FUZZ "Build the fuzz targets, with clang" OFF)
 option(VEM_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" ON)
 option(VEM_PCH "Compile the toolkit's headers once for all sources: thrice as fast" OFF)
+set(VEM_LINKER "" CACHE STRING "Linker to use where the compiler finds it, as -fuse-ld= takes it")
 set(VEM_SANITIZE "" CACHE STRING "Sanitizers to build with, as -fsanitize= takes them")
 
 if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
@@ -50,6 +51,14 @@ set(VEM_SANITIZER_ENVIRONMENT
 if(VEM_SANITIZE)
     target_compile_options(vem_options INTERFACE -fsanitize=${VEM_SANITIZE} -fno-omit-frame-pointer)
     target_link_options(vem_options INTERFACE -fsanitize=${VEM_SANITIZE})
+endif()
+
+if(VEM_LINKER)
+    include(CheckLinkerFlag)
+    check_linker_flag(CXX "-fuse-ld=${VEM_LINKER}" VEM_LINKER_FOUND)
+    if(VEM_LINKER_FOUND)
+        target_link_options(vem_options INTERFACE "-fuse-ld=${VEM_LINKER}")
+    endif()
 endif()
 
 # A source that does nothing but carry the precompiled headers.
