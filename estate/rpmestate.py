@@ -22,17 +22,10 @@ A first estate::
     assert estate.installed() == {"lamp-1.0-1.noarch"}
 
 Where the rpm database lies
-    Always at /var/lib/rpm below the root. Debian's rpm looks at $HOME/.rpmdb below the root instead
-    (so another HOME means another, empty database), and dnf's library follows it. So that every tool
-    sees the same packages whatever it believes, `serve_home` puts a relative symbolic link from
-    <root>/$HOME/.rpmdb to /var/lib/rpm; the constructor does it for the present HOME. Whoever runs a
-    program with another HOME calls `serve_home` with that HOME before. The commands that this module
-    runs itself name the path (`--dbpath /var/lib/rpm`) and need no link.
-
-    A program that is embedded in Python and wants /var/lib/rpm without any link can say
-    ``rpm.addMacro("_dbpath", "/var/lib/rpm")``, but only after the last reading of rpm's configuration:
-    importing `rpm` reads it, and libdnf reads it again when its first sack or context is made, which
-    throws the macro away. After `dnf.Base(...)` and before `fill_sack` it holds.
+    Always at /var/lib/rpm below the root, whatever the host's rpm is configured for. The root says so in
+    a macro file of its own, as a system's own rpm would, and the commands that this module runs are told
+    (`--dbpath`). Plain `rpm --root` and `dnf --installroot` read the host's macros and those of the user,
+    never the root's: they find the database with the variables of `Estate.command_environment`.
 
 Who may
     rpm changes its root directory while it installs: the module runs it directly as root (also the root
@@ -43,6 +36,7 @@ Nothing here reads or writes the host's rpm database, and nothing uses the netwo
 
 from __future__ import annotations
 
+import functools
 import os
 import shutil
 import subprocess
@@ -52,6 +46,8 @@ from typing import Mapping, Optional, Sequence, Union
 
 DB_PATH = "/var/lib/rpm"
 """The rpm database below the root."""
+
+_MACROS = f"%_dbpath {DB_PATH}\n"
 
 BUILD_JOBS = 2
 
@@ -171,17 +167,21 @@ class Estate:
         # rpm's %_tmppath: Lua and shell scriptlets are put there before they run.
         (self.root / "var/tmp").mkdir(parents=True, exist_ok=True)
         self.repos_dir.mkdir(exist_ok=True)
-        self.serve_home()
+        macros = self.root / "etc/rpm/macros.estate"
+        macros.parent.mkdir(parents=True, exist_ok=True)
+        macros.write_text(_MACROS, encoding="utf-8")
 
-    def serve_home(self, home: Optional[Union[str, Path]] = None) -> None:
-        """Lets tools that run with this HOME (default: the present one) see the estate's rpm database."""
-        home_text = str(home) if home is not None else os.path.expanduser("~")
-        link = self.root / home_text.lstrip("/") / ".rpmdb"
-        if link.is_symlink():
-            return
-        link.parent.mkdir(parents=True, exist_ok=True)
-        database = self.root / DB_PATH.lstrip("/")
-        link.symlink_to(os.path.relpath(database, link.parent))
+    def command_environment(self) -> dict[str, str]:
+        """The present variables, changed so that plain rpm and dnf commands on the root find its database.
+
+        They name a home whose macros say where it is.
+        """
+        home = self.directory / "home"
+        # rpm's place for them has moved.
+        for place in (home / ".rpmmacros", home / ".config/rpm/macros"):
+            place.parent.mkdir(parents=True, exist_ok=True)
+            place.write_text(_MACROS, encoding="utf-8")
+        return {**os.environ, "HOME": str(home), "XDG_CONFIG_HOME": str(home / ".config")}
 
     # Packages ----------------------------------------------------------------------------------------
 
@@ -315,8 +315,11 @@ class Estate:
     # The managed system --------------------------------------------------------------------------------
 
     def rpm(self, *arguments: Union[str, Path]) -> str:
-        """Runs rpm on the estate's database and gives what it printed."""
-        where = ["--root", str(self.root), "--dbpath", DB_PATH]
+        """Runs rpm on the estate's database and gives what it printed.
+
+        Packages need no signature here, whatever the host demands of its own.
+        """
+        where = ["--root", str(self.root), "--dbpath", DB_PATH, "--define", "_pkgverify_level digest"]
         return run([*_as_root(), "rpm", *where, *arguments])
 
     def install(self, rpms: Sequence[Path], options: Sequence[str] = ()) -> str:
@@ -327,13 +330,23 @@ class Estate:
         """
         if not rpms:
             return ""
-        return self.rpm("--upgrade", "--oldpackage", "--force-debian", *options, *rpms)
+        return self.rpm("--upgrade", "--oldpackage", *install_options(), *options, *rpms)
 
     def installed(self) -> set[str]:
         """The installed packages as name-[epoch:]version-release.arch; keys of the database left out."""
         shape = "%{NAME}\t%|EPOCH?{%{EPOCH}:}|%{VERSION}-%{RELEASE}.%{ARCH}\n"
         rows = (line.split("\t") for line in self.rpm("-qa", "--qf", shape).splitlines())
         return {f"{name}-{rest}" for name, rest in rows if name != "gpg-pubkey"}
+
+
+@functools.lru_cache(maxsize=None)
+def install_options() -> tuple[str, ...]:
+    """What the rpm at hand wants to be told before it installs anything.
+
+    Where another package manager rules the host, rpm may refuse unless it is forced, be it below another root.
+    """
+    force = "--force-debian"
+    return (force,) if force in run(["rpm", "--help"]) else ()
 
 
 def _section(title: str, keys: Mapping[str, Optional[str]]) -> str:

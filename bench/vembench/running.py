@@ -64,7 +64,7 @@ class Ground:
             start = time.monotonic()
             process = subprocess.Popen(
                 dnf_command(estate.root, *words),
-                env=self.environment,
+                env={**estate.command_environment(), "LC_ALL": "C.UTF-8"},
                 stdin=subprocess.DEVNULL,
                 stdout=output,
                 stderr=said,
@@ -89,7 +89,6 @@ class Ground:
         In the first line "seconds" is the time from exec to the table. `helper` holds the variables of
         helper/YumIO.py, which then stands before the program's own script. BenchError when something fails.
         """
-        estate.serve_home(self.home)
         with tempfile.TemporaryDirectory() as directory:
             place = Path(directory)
             environment = {
@@ -148,7 +147,7 @@ def parsed(text: str) -> list[dict[str, Any]]:
 
 def dnf_command(root: Path, *words: str) -> list[str]:
     dnf = shutil.which("dnf", path="/usr/bin:/bin")
-    # Debian's command is a wrapper around this call, in a package that need not be installed.
+    # The command is a wrapper around this call, in a package that need not be installed.
     start = [dnf] if dnf else ["/usr/bin/python3", "-c", DNF_MODULE]
     where = [f"--installroot={root}", "-c", f"{root}/etc/yum.conf"]
     where += [f"--setopt=reposdir={root}/etc/yum.repos.d"]

@@ -131,7 +131,6 @@ def main() -> int:
     arguments = parser.parse_args()
     directory = arguments.directory.resolve()
     if arguments.keep and is_complete(directory):
-        Estate(directory).serve_home()
         return 0
     start = time.monotonic()
     try:

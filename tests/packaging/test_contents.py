@@ -117,6 +117,7 @@ def test_rpm_requires_what_the_program_starts_and_imports(rpm_file: Path) -> Non
     own = {name for name in required if name.startswith("rpmlib(")}
     assert required - libraries - own == {
         "/bin/sh", "hicolor-icon-theme", "polkit", "python3", "python3-dnf", "python3-rpm", "qt6-qtbase-gui",
+        "rpm",
     }
     plain = {re.sub(r"[\d.]*\.so.*", "", name) for name in libraries}
     assert plain >= {"libQt6Core", "libQt6Gui", "libQt6Widgets", "libpython"}
@@ -156,7 +157,7 @@ def test_deb_depends_on_what_the_program_starts_and_imports(deb_file: Path) -> N
     names = {re.sub(r"^libpython3\.\d+$", "libpython3", name) for name in names}
     assert names == {
         "hicolor-icon-theme", "libc6", "libgcc-s1", "libpython3", "libqt6core6", "libqt6gui6", "libqt6widgets6",
-        "libstdc++6", "pkexec", "python3", "python3-dnf", "python3-rpm",
+        "libstdc++6", "pkexec", "python3", "python3-dnf", "python3-rpm", "rpm",
     }
 
 

@@ -45,7 +45,6 @@ def test_the_cache_becomes_a_link_to_dnfs(debian: DebianRoot) -> None:
 
 def test_the_program_updates_a_package_there(debian: DebianRoot, tmp_path: Path) -> None:
     estate = Estate(debian.root / ESTATE.lstrip("/"))
-    estate.serve_home("/root")
     old, kept, new = estate.build([spec("lantern", "1.0"), spec("mooring", "1.0"), spec("lantern", "1.1")])
     estate.write_main_config()
     estate.repository("quay", [new], baseurl=f"file://{ESTATE}/repos/quay")

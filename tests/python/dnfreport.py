@@ -5,10 +5,9 @@ from __future__ import annotations
 
 import gzip
 import json
-import os
 import re
 import subprocess
-from typing import Any, Optional, Sequence
+from typing import Any, Sequence
 from xml.etree import ElementTree
 
 from rpmestate import Estate
@@ -58,15 +57,14 @@ print(json.dumps(report))
 """
 
 
-def dnf_report(estate: Estate, home: Optional[str] = None, install: Sequence[str] = ()) -> dict[str, Any]:
-    """Lists of the estate as dnf sees them under a HOME (default: the present one).
+def dnf_report(estate: Estate, install: Sequence[str] = ()) -> dict[str, Any]:
+    """Lists of the estate as dnf sees them.
 
     With names to `install`, "resolved" is what would go in, or "problem" says why it can't.
     """
-    environment = dict(os.environ) if home is None else {**os.environ, "HOME": home}
     done = subprocess.run(
         ["/usr/bin/python3", "-c", PROGRAM, str(estate.root), *install],
-        env=environment,
+        env=estate.command_environment(),
         check=True,
         stdout=subprocess.PIPE,
         encoding="utf-8",

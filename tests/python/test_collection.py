@@ -14,7 +14,7 @@ import pytest
 from catalogue import Catalogue
 from fake_host import FakeHost
 from program import Program
-from rpmestate import Estate, spec
+from rpmestate import Estate, install_options, spec
 
 
 def names(packages: list) -> list:
@@ -60,7 +60,7 @@ def test_newest_of_several_installed_versions_comes_first(
     estate: Estate, rpms: Catalogue, program: Program
 ) -> None:
     for key in ("core-1.0", "core-3.0", "core-2.0"):
-        estate.rpm("--install", "--oldpackage", rpms[key])
+        estate.rpm("--install", "--oldpackage", *install_options(), rpms[key])
     estate.repository("base", [])
     found = program.collect()
     assert names(found.installed) == ["core-3.0-1.noarch", "core-2.0-1.noarch", "core-1.0-1.noarch"]

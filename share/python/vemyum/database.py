@@ -1,36 +1,105 @@
 # SPDX-License-Identifier: GPL-2.0-or-later
 """Where the rpm database of a managed root lies.
 
-A distribution's rpm may look at a path that depends on who runs it (Debian: ~/.rpmdb). Below a root
-of its own the database is where that system has it, so the path is stated outright.
+rpm is asked. For the running system its configuration says it, as it does for the command line. A system
+below a root of its own has a configuration of its own, which rpm would not read by itself.
 """
 
 from __future__ import annotations
 
+import functools
+import glob
 import os
-from typing import AbstractSet, Optional
+import subprocess
+from typing import AbstractSet, Dict, Optional, Sequence, Tuple
 
 import rpm
 
+from .errors import YumBaseError, os_error_text
 from .text import valid
 from .texts import _
 
-_PLACES = ("/var/lib/rpm", "/usr/lib/sysimage/rpm")
+_MACRO_FILES = (
+    "usr/lib/rpm/macros",
+    "usr/lib/rpm/macros.d/macros.*",
+    # The distribution's own, in a folder of its name.
+    "usr/lib/rpm/*/macros",
+    "etc/rpm/macros.*",
+    "etc/rpm/macros",
+)
+"""Where rpm looks for its macros, in its order (see `rpm --showrc`). Left out are a user's own, and those of the
+processor, which the database doesn't depend on."""
+
+_BUILT_IN = "/var/lib/rpm"
+"""What rpm's own sources say where nobody says anything else."""
+
+_ADMINISTRATORS_HOME = "/root"
+
 _DATABASES = ("rpmdb.sqlite", "Packages.db", "Packages")
+"""The main files of rpm's kinds of databases. Whatever kind is configured, rpm opens the one that is there."""
+
 _FEW = 5
 
 
-def database_directory(root: str) -> Optional[str]:
-    """The directory, as seen from within `root`; None leaves it to rpm's own configuration."""
+def database_directory(root: str) -> str:
+    """The directory, as seen from within `root`. YumBaseError when rpm cannot be asked."""
     if root == "/":
-        return None
-    for place in _PLACES:
-        if any(os.path.exists(os.path.join(root + place, name)) for name in _DATABASES):
-            return place
-    for place in _PLACES:
-        if os.path.isdir(root + place):
-            return place
-    return None
+        return str(rpm.expandMacro("%{_dbpath}"))
+    files = _macro_files(root)
+    stated = _stated_below(root, files) if files else ""
+    return stated or _usual_directory(os.path.expanduser("~"))
+
+
+def _macro_files(root: str) -> Tuple[Tuple[str, int], ...]:
+    """The root's macro files, with what tells whether one has changed."""
+    found = []
+    for place in _MACRO_FILES:
+        for path in glob.iglob(os.path.join(glob.escape(root), place)):
+            try:
+                found.append((path, os.stat(path).st_mtime_ns))
+            except OSError:
+                # A link that leads nowhere.
+                continue
+    return tuple(found)
+
+
+@functools.lru_cache(maxsize=None)
+def _stated_below(root: str, _files: Tuple[Tuple[str, int], ...]) -> str:
+    """What the root's own macros say, empty for nothing.
+
+    Read by a process of its own, so that this one's macros stay as they are. It looks from within the root,
+    whose path rpm might take for several or for a pattern. A place in a home is that of the root's administrator.
+    """
+    home = {"HOME": _ADMINISTRATORS_HOME}
+    return _asked(["--macros=" + ":".join(_MACRO_FILES)], root, home)
+
+
+@functools.lru_cache(maxsize=None)
+def _usual_directory(home: str) -> str:
+    """What the command line would take for a root that says nothing. A place in the caller's home is none there."""
+    stated = _asked([], "/", {})
+    in_home = home != "/" and stated.startswith(home + "/")
+    return stated if stated and not in_home else _BUILT_IN
+
+
+def _asked(options: Sequence[str], directory: str, variables: Dict[str, str]) -> str:
+    """What %_dbpath is for rpm in a process of its own, empty if it is not defined."""
+    try:
+        done = subprocess.run(
+            ["rpm", *options, "--eval", "%{?_dbpath}"],
+            cwd=directory,
+            env={**os.environ, **variables},
+            stdin=subprocess.DEVNULL,
+            stdout=subprocess.PIPE,
+            stderr=subprocess.PIPE,
+        )
+    except OSError as error:
+        fault = os_error_text(error)
+    else:
+        if done.returncode == 0:
+            return os.fsdecode(done.stdout).rstrip("\n")
+        fault = valid(done.stderr).strip()
+    raise YumBaseError(_("rpm cannot be asked where its database is: {fault}").format(fault=fault))
 
 
 def point_rpm_at(root: str) -> None:
@@ -39,8 +108,10 @@ def point_rpm_at(root: str) -> None:
     Needed again whenever rpm's configuration may have been read anew: that forgets the macro. libdnf
     does so when it first looks for the machine's architecture.
     """
+    if root == "/":
+        return
     directory = database_directory(root)
-    if directory is not None and rpm.expandMacro("%_dbpath") != directory:
+    if rpm.expandMacro("%{_dbpath}") != directory:
         rpm.addMacro("_dbpath", directory)
 
 
@@ -50,10 +121,10 @@ def damage(root: str) -> Optional[str]:
     rpm takes an empty file for a new database and a damaged one for one without packages.
     """
     directory = database_directory(root)
-    if directory is None:
-        return None
+    if root != "/":
+        directory = root + directory
     for name in _DATABASES:
-        path = os.path.join(root + directory, name)
+        path = os.path.join(directory, name)
         if os.path.exists(path) and os.path.getsize(path) == 0 and not os.path.exists(path + "-wal"):
             return _("{path} is empty").format(path=path)
     return None

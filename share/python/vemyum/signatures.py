@@ -52,10 +52,10 @@ def _checking_below(root: str) -> Iterator[None]:
 
     dnf leaves the check to the program rpmkeys, which doesn't know of this process's settings.
     """
-    database = database_directory(root)
-    if database is None:
+    if root == "/":
         yield
         return
+    database = database_directory(root)
 
     def check(_: Any, path: str) -> int:
         rpmkeys = shutil.which("rpmkeys")
