@@ -55,8 +55,8 @@ public:
     /// The order of writing: by file, then by position in it. Equal positions have no order.
     [[nodiscard]] static bool filePositionLessThan(Repo::Entry const& a, Repo::Entry const& b);
 
-    /// The path of the main file: "/etc/yum/yum.conf" when it exists, else "/etc/yum.conf", whether that
-    /// exists or not. Looked up at each call.
+    /// The path of the main file: the first that exists of "/etc/yum/yum.conf", "/etc/yum.conf" and
+    /// "/etc/dnf/dnf.conf"; without any "/etc/yum.conf". Looked up at each call.
     [[nodiscard]] static char const* fileName();
 
     QString cachedir;          ///< the package library's cache directory
@@ -75,6 +75,14 @@ Q_SIGNALS:
     void changed();
 
 private:
+    /// A main file, and the defaults of the options that it doesn't state.
+    struct MainFile
+    {
+        char const* path;
+        QStringList reposdirs;
+        QString cachedir;
+    };
+
     /// What reading a line can come to.
     enum ReadResult
     {
@@ -83,6 +91,7 @@ private:
         ReadError = 2
     };
 
+    [[nodiscard]] static MainFile const& mainFile();
     bool readDirectory(QString const& directory);
     bool readDirectoryFile(QString const& path);
     bool readConfFile(std::FILE* stream);

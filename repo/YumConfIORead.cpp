@@ -49,14 +49,15 @@ bool YumConfIO::read(QWidget* window)
 {
     parent = window;
     mainOptions.clear();
-    cachedir = QStringLiteral("/var/cache/yum");
-    reposdirs = {QStringLiteral("/etc/yum/repos.d"), QStringLiteral("/etc/yum.repos.d")};
+    MainFile const& file = mainFile();
+    cachedir = file.cachedir;
+    reposdirs = file.reposdirs;
     mainEnabled = true;
     mainGpgcheck = false;
     repos.clear();
 
     {
-        QString const path = QString::fromLatin1(fileName());
+        QString const path = QString::fromLatin1(file.path);
         unfinishedFile = path;
         File const stream = openFile(diskName(path));
         if (!stream) {

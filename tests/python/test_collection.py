@@ -146,6 +146,27 @@ def test_main_file_and_repository_directory_of_either_place(
     assert not (estate.root / "var/wrong").exists()
 
 
+def test_dnfs_own_main_file_counts_where_no_other_is(
+    estate: Estate, rpms: Catalogue, program: Program
+) -> None:
+    (estate.root / "etc/dnf").mkdir()
+    main = (estate.root / "etc/yum.conf").rename(estate.root / "etc/dnf/dnf.conf")
+    estate.repository("base", rpms.some("battery-1.0"))
+    estate.repository("distro", rpms.some("lamp-1.1"))
+    estate.repository("old", rpms.some("lib-1.0"))
+    for name, folder in (("distro", "etc/distro.repos.d"), ("old", "etc/yum/repos.d")):
+        (estate.root / folder).mkdir(parents=True)
+        (estate.root / f"etc/yum.repos.d/{name}.repo").rename(estate.root / f"{folder}/{name}.repo")
+    assert program.collect().merged() == {"battery": "Available", "lamp": "Available"}
+    assert list((estate.root / "var/cache/dnf").glob("base-*"))
+    assert not (estate.root / "var/cache/yum").exists()
+    program.end()
+
+    (estate.root / "etc/yum.conf").symlink_to(os.path.relpath(main, estate.root / "etc"))
+    assert program.collect().merged() == {"battery": "Available", "lib": "Available"}
+    assert list((estate.root / "var/cache/yum").glob("base-*"))
+
+
 def test_cache_and_log_lie_below_the_root_by_default(lamp: Tuple[Estate, Program]) -> None:
     estate, program = lamp
     program.collect()

@@ -32,7 +32,11 @@ class TestYumConfIO : public QObject
 private Q_SLOTS:
     void startsEmpty();
     void readingTellsTheDefaults();
-    void mainFileIsTheOneInItsOwnDirectoryWhenThatExists();
+    void mainFileIsTheFirstThatExists();
+    void mainFileDecidesTheDefaults_data();
+    void mainFileDecidesTheDefaults();
+    void linkToTheThirdMainFileCountsAsTheSecond();
+    void linkToNowhereIsNoMainFile();
     void mainFileOfTheHostCountsWithoutRoot_data();
     void mainFileOfTheHostCountsWithoutRoot();
     void pathsKeepTheirTextBelowARoot();
@@ -74,10 +78,16 @@ void TestYumConfIO::readingTellsTheDefaults()
     QVERIFY(root.conf.mainOptions.isEmpty());
 }
 
-void TestYumConfIO::mainFileIsTheOneInItsOwnDirectoryWhenThatExists()
+void TestYumConfIO::mainFileIsTheFirstThatExists()
 {
     ConfRoot root;
     QCOMPARE(root.conf.fileName(), "/etc/yum.conf");
+    root.write("/etc/dnf/dnf.conf", "[third]\n");
+    QCOMPARE(root.conf.fileName(), "/etc/dnf/dnf.conf");
+    QVERIFY(root.conf.read(nullptr));
+    QCOMPARE(root.ids(), QStringList(QStringLiteral("third")));
+    QCOMPARE(root.conf.repos[0].file, QStringLiteral("/etc/dnf/dnf.conf"));
+
     root.write("/etc/yum.conf", "[old]\n");
     QCOMPARE(root.conf.fileName(), "/etc/yum.conf");
     root.write("/etc/yum/yum.conf", "[new]\n");
@@ -86,6 +96,60 @@ void TestYumConfIO::mainFileIsTheOneInItsOwnDirectoryWhenThatExists()
     QVERIFY(root.conf.read(nullptr));
     QCOMPARE(root.ids(), QStringList(QStringLiteral("new")));
     QCOMPARE(root.conf.repos[0].file, QStringLiteral("/etc/yum/yum.conf"));
+}
+
+void TestYumConfIO::mainFileDecidesTheDefaults_data()
+{
+    QStringList const yum{QStringLiteral("/etc/yum/repos.d"), QStringLiteral("/etc/yum.repos.d")};
+    QStringList const dnf{QStringLiteral("/etc/yum.repos.d"), QStringLiteral("/etc/distro.repos.d")};
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<QStringList>("reposdirs");
+    QTest::addColumn<QString>("cachedir");
+    QTest::newRow("first") << QByteArray("/etc/yum/yum.conf") << yum << QStringLiteral("/var/cache/yum");
+    QTest::newRow("second") << QByteArray("/etc/yum.conf") << yum << QStringLiteral("/var/cache/yum");
+    QTest::newRow("third") << QByteArray("/etc/dnf/dnf.conf") << dnf << QStringLiteral("/var/cache/dnf");
+}
+
+void TestYumConfIO::mainFileDecidesTheDefaults()
+{
+    QFETCH(QByteArray, file);
+    QFETCH(QStringList, reposdirs);
+    QFETCH(QString, cachedir);
+    ConfRoot root;
+    root.write(file, "[main]\n");
+    root.write("/etc/yum/repos.d/one.repo", "[one]\n");
+    root.write("/etc/yum.repos.d/two.repo", "[two]\n");
+    root.write("/etc/distro.repos.d/three.repo", "[three]\n");
+    QVERIFY(root.conf.read(nullptr));
+    QCOMPARE(root.conf.reposdirs, reposdirs);
+    QCOMPARE(root.conf.cachedir, cachedir);
+    bool const isThird = file == "/etc/dnf/dnf.conf";
+    QStringList const expected = isThird ? QStringList{QStringLiteral("two"), QStringLiteral("three")}
+                                         : QStringList{QStringLiteral("one"), QStringLiteral("two")};
+    QCOMPARE(root.ids(), expected);
+
+    root.write(file, "[main]\nreposdir=/etc/yum/repos.d\ncachedir=/srv/cache\n");
+    QVERIFY(root.conf.read(nullptr));
+    QCOMPARE(root.conf.reposdirs, QStringList(QStringLiteral("/etc/yum/repos.d")));
+    QCOMPARE(root.conf.cachedir, QStringLiteral("/srv/cache"));
+}
+
+void TestYumConfIO::linkToTheThirdMainFileCountsAsTheSecond()
+{
+    ConfRoot root;
+    root.write("/etc/dnf/dnf.conf", "[main]\n[inside]\n");
+    QVERIFY(QFile::link(QStringLiteral("dnf/dnf.conf"), QFile::decodeName(root.onDisk("/etc/yum.conf"))));
+    QVERIFY(root.conf.read(nullptr));
+    QCOMPARE(root.conf.repos[0].file, QStringLiteral("/etc/yum.conf"));
+    QCOMPARE(root.conf.cachedir, QStringLiteral("/var/cache/yum"));
+}
+
+void TestYumConfIO::linkToNowhereIsNoMainFile()
+{
+    ConfRoot root;
+    root.write("/etc/dnf/dnf.conf", "");
+    QVERIFY(QFile::link(QStringLiteral("nowhere"), QFile::decodeName(root.onDisk("/etc/yum.conf"))));
+    QCOMPARE(root.conf.fileName(), "/etc/dnf/dnf.conf");
 }
 
 void TestYumConfIO::mainFileOfTheHostCountsWithoutRoot_data()
@@ -99,15 +163,22 @@ void TestYumConfIO::mainFileOfTheHostCountsWithoutRoot()
 {
     QFETCH(bool, isSet);
     ConfRoot root;
-    bool const isThere = QFileInfo::exists(QStringLiteral("/etc/yum/yum.conf"));
-    // Below the root the other way round, so that a stale root shows.
-    if (!isThere)
-        root.write("/etc/yum/yum.conf", "");
+    QByteArray expected;
+    for (char const* const file : {"/etc/yum/yum.conf", "/etc/yum.conf", "/etc/dnf/dnf.conf"}) {
+        bool const isThere = QFileInfo::exists(QString::fromLatin1(file));
+        if (isThere && expected.isEmpty())
+            expected = file;
+        // Below the root the other way round, so that a stale root shows.
+        if (!isThere)
+            root.write(file, "");
+    }
+    if (expected.isEmpty())
+        expected = "/etc/yum.conf";
     if (isSet)
         qputenv("VEMROOT", "");
     else
         qunsetenv("VEMROOT");
-    QCOMPARE(root.conf.fileName(), isThere ? "/etc/yum/yum.conf" : "/etc/yum.conf");
+    QCOMPARE(root.conf.fileName(), expected.constData());
 }
 
 void TestYumConfIO::pathsKeepTheirTextBelowARoot()

@@ -44,6 +44,8 @@ private Q_SLOTS:
     void repositoriesOfTheMainFileStandBelowItsOptions();
     void lastRepositoryOfTheMainFileLeavesItsOptionsAlone();
     void newMainFileTakesTheMainOptions();
+    void thirdMainFileIsWritten();
+    void mainFileThatIsALinkIsWrittenThrough();
     void noRepositoriesLeaveTheMainFileAlone();
     void sectionsKeepTheirOrderAndAreParted();
     void positionsDecideTheOrderInAFile();
@@ -175,6 +177,33 @@ void TestYumConfIOWrite::newMainFileTakesTheMainOptions()
     QVERIFY(root().conf.write(nullptr));
     QCOMPARE(content(root(), "/etc/yum/yum.conf"), QByteArray("[main]\na=b\n[one]\n"));
     QCOMPARE(content(root(), "/etc/yum.conf"), QByteArray("[main]\na=b\n"));
+}
+
+void TestYumConfIOWrite::thirdMainFileIsWritten()
+{
+    root().write("/etc/dnf/dnf.conf", "[main]\na=b\n[one]\n");
+    root().makeDirectory("/etc/yum.repos.d");
+    root().write("/etc/distro.repos.d/old.repo", "");
+    QVERIFY(root().conf.read(nullptr));
+    root().conf.repos += newRepo(QStringLiteral("two"), QString());
+    QVERIFY(root().conf.write(nullptr));
+    QCOMPARE(content(root(), "/etc/dnf/dnf.conf"), QByteArray("[main]\na=b\n[one]\n"));
+    QCOMPARE(content(root(), "/etc/yum.repos.d/two.repo"), QByteArray("[two]\n"));
+    QCOMPARE(names(root(), "/etc/distro.repos.d"), QList<QByteArray>());
+    QVERIFY(!QFileInfo::exists(QFile::decodeName(root().onDisk("/etc/yum.conf"))));
+}
+
+void TestYumConfIOWrite::mainFileThatIsALinkIsWrittenThrough()
+{
+    QString const link = QFile::decodeName(root().onDisk("/etc/yum.conf"));
+    root().write("/etc/dnf/dnf.conf", "[main]\na=b\n");
+    QVERIFY(QFile::link(QStringLiteral("dnf/dnf.conf"), link));
+    QVERIFY(root().conf.read(nullptr));
+    root().conf.repos += newRepo(QStringLiteral("one"), QStringLiteral("/etc/yum.conf"));
+    QVERIFY(root().conf.write(nullptr));
+    QVERIFY(QFileInfo(link).isSymbolicLink());
+    QVERIFY(!QFileInfo(QFile::decodeName(root().onDisk("/etc/dnf/dnf.conf"))).isSymbolicLink());
+    QCOMPARE(content(root(), "/etc/dnf/dnf.conf"), QByteArray("[main]\na=b\n[one]\n"));
 }
 
 void TestYumConfIOWrite::noRepositoriesLeaveTheMainFileAlone()

@@ -12,7 +12,7 @@ import contextlib
 import glob
 import logging
 import os
-from typing import Dict, Iterator, List
+from typing import Dict, Iterator, List, NamedTuple, Optional, Tuple
 
 import dnf.conf
 import dnf.conf.config
@@ -26,9 +26,28 @@ from .database import point_rpm_at
 from .errors import YumBaseError
 from .texts import _
 
-MAIN_FILES = ("/etc/yum/yum.conf", "/etc/yum.conf")
-REPOSITORY_DIRECTORIES = ("/etc/yum/repos.d", "/etc/yum.repos.d")
-CACHE_DIRECTORY = "/var/cache/yum"
+
+class MainFile(NamedTuple):
+    """A main configuration file, and what holds where it doesn't state these options itself."""
+
+    path: str
+    repository_directories: Tuple[str, ...]
+    cache_directory: Optional[str]
+    """None leaves dnf's own."""
+
+
+_YUM_DIRECTORIES = ("/etc/yum/repos.d", "/etc/yum.repos.d")
+_YUM_CACHE = "/var/cache/yum"
+
+MAIN_FILES = (
+    MainFile("/etc/yum/yum.conf", _YUM_DIRECTORIES, _YUM_CACHE),
+    MainFile("/etc/yum.conf", _YUM_DIRECTORIES, _YUM_CACHE),
+    MainFile("/etc/dnf/dnf.conf", ("/etc/yum.repos.d", "/etc/distro.repos.d"), None),
+)
+"""The first that exists is used."""
+WITHOUT_ANY = MAIN_FILES[1]
+"""The one that is missing where none exists."""
+
 LOG_DIRECTORY = "/var/log"
 PROTECTED_DIRECTORIES = ("/etc/yum/protected.d", "/etc/dnf/protected.d")
 ALWAYS_PROTECTED = ("dnf", "yum")
@@ -44,12 +63,9 @@ def below(root: str, path: str) -> str:
     return path if root == "/" else root + path
 
 
-def main_file(root: str) -> str:
-    """The main configuration file below the root; the last candidate where there is none."""
-    for candidate in MAIN_FILES[:-1]:
-        if os.path.exists(below(root, candidate)):
-            return below(root, candidate)
-    return below(root, MAIN_FILES[-1])
+def main_file(root: str) -> MainFile:
+    """The main configuration file that counts below the root, whether it exists or not."""
+    return next((file for file in MAIN_FILES if os.path.exists(below(root, file.path))), WITHOUT_ANY)
 
 
 def read_configuration() -> dnf.conf.MainConf:
@@ -63,9 +79,11 @@ def read_configuration() -> dnf.conf.MainConf:
     own = None if rights.is_administrator() else rights.own_directory(root)
     conf = dnf.conf.Conf()
     conf.installroot = root
-    _set_defaults(conf, root)
-    with undecodable_named(main_file(root)):
-        conf.read(main_file(root), dnf.conf.config.PRIO_MAINCONFIG)
+    main = main_file(root)
+    _set_defaults(conf, root, main)
+    path = below(root, main.path)
+    with undecodable_named(path):
+        conf.read(path, dnf.conf.config.PRIO_MAINCONFIG)
     point_rpm_at(root)
     _read_variables(conf, root)
     if "releasever" not in conf.substitutions:
@@ -130,14 +148,15 @@ def _release(root: str) -> str:
         return ""
 
 
-def _set_defaults(conf: dnf.conf.MainConf, root: str) -> None:
+def _set_defaults(conf: dnf.conf.MainConf, root: str, main: MainFile) -> None:
     defaults = {
-        "reposdir": list(REPOSITORY_DIRECTORIES),
+        "reposdir": list(main.repository_directories),
         # Whoever can't remove packages may not even be able to read which ones are protected.
         "protected_packages": _protected_packages(root) if rights.is_administrator() else [],
-        "cachedir": CACHE_DIRECTORY,
         "logdir": LOG_DIRECTORY,
     }
+    if main.cache_directory is not None:
+        defaults["cachedir"] = main.cache_directory
     for name, value in defaults.items():
         conf._set_value(name, value, dnf.conf.config.PRIO_DEFAULT)
     if conf._has_option("optional_metadata_types"):

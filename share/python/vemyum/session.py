@@ -14,7 +14,7 @@ import dnf.conf
 from . import host, rights
 from .base import Base, open_base
 from .comps import CompsGroup
-from .configuration import Configuration, main_file, managed_root, read_configuration
+from .configuration import Configuration, below, main_file, managed_root, read_configuration
 from .details import PackageDetails
 from .errors import RepoError, YumBaseError, reported_as
 from .groups import Group, groups_of, read_groups
@@ -51,7 +51,8 @@ class Session:
             if not lenient:
                 raise
             self._fault = error
-            self.repositories = UnreadableRepositories(main_file(managed_root()))
+            root = managed_root()
+            self.repositories = UnreadableRepositories(below(root, main_file(root).path))
         self.conf = Configuration(self._conf.substitutions if self._conf is not None else {})
 
     # Lock ------------------------------------------------------------------------------------------------
