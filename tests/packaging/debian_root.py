@@ -61,7 +61,7 @@ def codename() -> str:
 class DebianRoot:
     """Made by the constructor, which downloads some 150 MB and takes a minute; `remove` it in the end."""
 
-    def __init__(self, deb: Path, with_packages: Sequence[str]) -> None:
+    def __init__(self, deb: Path) -> None:
         self.work = Path(tempfile.mkdtemp(prefix="vem-debian-"))
         self.work.chmod(0o755)
         self.root = self.work / "root"
@@ -71,7 +71,6 @@ class DebianRoot:
             done = subprocess.run(
                 [
                     *own_mounts(), "mmdebstrap", "--mode=root", "--variant=apt", "--format=directory",
-                    f"--include={','.join(with_packages)}",
                     f"--customize-hook=copy-in {deb} /root",
                     # As an administrator installs a package that isn't in the archive.
                     f'--customize-hook=chroot "$1" apt-get -q -y --no-install-recommends install /root/{deb.name}',
