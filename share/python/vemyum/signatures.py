@@ -18,10 +18,8 @@ from .database import database_directory
 from .errors import YumBaseError
 from .texts import _
 
-# Where a package has its signature; rpm 6 has put all of them into one place.
-_FORMATS = ("%{RSAHEADER:pgpsig}", "%{DSAHEADER:pgpsig}", "%{SIGPGP:pgpsig}", "%{SIGGPG:pgpsig}")
-if hasattr(rpm, "RPMTAG_OPENPGP"):
-    _FORMATS = ("%{OPENPGP:pgpsig}", *_FORMATS)
+_SIGNATURES = ("OPENPGP", "RSAHEADER", "DSAHEADER", "SIGPGP", "SIGGPG")
+"""rpm's tags of signatures; the first one came with its sixth version."""
 _FATAL = 2
 
 
@@ -88,8 +86,10 @@ def _key(path: str) -> Optional[str]:
             header = transaction.hdrFromFdno(package.fileno())
         except rpm.error:
             return None
-    for form in _FORMATS:
-        text = header.sprintf(form)
+    for tag in _SIGNATURES:
+        if not hasattr(rpm, f"RPMTAG_{tag}"):
+            continue
+        text = header.sprintf(f"%{{{tag}:pgpsig}}")
         if text and text != "(none)":
             return text
     return None
