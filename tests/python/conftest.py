@@ -43,6 +43,8 @@ def estate(tmp_path: Path, monkeypatch: pytest.MonkeyPatch) -> Estate:
     estate.write_main_config()
     monkeypatch.setenv("HOME", str(home))
     monkeypatch.setenv("VEMROOT", str(estate.root))
+    # No test keeps this machine from shutting down.
+    monkeypatch.setenv("DBUS_SYSTEM_BUS_ADDRESS", f"unix:path={tmp_path}/no-bus")
     return estate
 
 

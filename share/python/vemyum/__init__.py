@@ -12,7 +12,8 @@ The engine runs `YumIO.py`, whose class `YumIO` is the face; the work is done he
     details, records                what the engine reads from a package
     lists, groups                   what a collection hands over
     transaction, solver, download,
-    signatures, display, apply      one apply, from the marks to the new rpm database
+    signatures, display, apply,
+    inhibitor                       one apply, from the marks to the new rpm database
     clean                           emptying the caches
 
 Every function runs on whatever thread the engine calls it on, under the interpreter lock; nothing

@@ -16,6 +16,7 @@ import dnf.repo
 from .database import point_rpm_at
 from .encoding import RepositoryReader
 from .errors import RepoError, YumBaseError
+from .inhibitor import inhibited
 from .messages import heard
 from .metadata import ReadingProgress, RepositoryProgress
 from .queries import MetadataFetcher, ask_by_complete_address, base_addresses, rounds
@@ -120,7 +121,8 @@ class Base(dnf.Base):
     def _run_transaction(self, cb: Any) -> Any:
         if self.before_run is not None:
             self.before_run()
-        return super()._run_transaction(cb)
+        with inhibited():
+            return super()._run_transaction(cb)
 
 
 def address(repo: dnf.repo.Repo) -> str:
