@@ -92,6 +92,11 @@ public:
     /// (again true at a second call, which does nothing); false after a report. GUI thread.
     bool initialize();
 
+    /// Where the script knows that nobody can change the packages of the managed system, says why and asks
+    /// whether to look at them. False when the user would rather leave; true without a word where they can be
+    /// changed. GUI thread, after `initialize`.
+    [[nodiscard]] bool offerLooking();
+
     /// Job: drops all entries and replaces the script's object, so that the next collection starts afresh.
     void clear();
 

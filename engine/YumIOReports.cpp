@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-// How trouble reaches the user: plain boxes, scrollable reports of expected Python exceptions with the log
+// How trouble reaches the user: plain boxes, the offer to look at what can't be changed, scrollable reports of expected Python exceptions with the log
 // lines that led up to them, and the log functions that the helper script calls.
 #include "bridge/PythonApi.h"
 
@@ -35,6 +35,26 @@ void YumIO::error(char const* message)
 void YumIO::warning(char const* message)
 {
     warning(QString::fromUtf8(message));
+}
+
+bool YumIO::offerLooking()
+{
+    QString reason;
+    {
+        PyGILStateWrapper const lock(initialized);
+        // Scripts for older releases don't know the question.
+        if (initialized && PyDict_GetItemString(main_dict, "whyOnlyLooking")) {
+            pyExceptStart();
+            PyRef const answer = pyCall("whyOnlyLooking", "()");
+            pyExceptClear();
+            reason = answer ? pyString(answer.get()) : QString();
+        }
+    }
+    constexpr int look = 0;
+    constexpr int quit = 1;
+    return reason.isEmpty() || !dialogs ||
+           dialogs->warning(
+               tr("VEM Looking Only"), reason, tr("&Look"), tr("&Quit"), QString(), look, quit) == look;
 }
 
 QByteArray YumIO::lastReport() const

@@ -58,7 +58,7 @@ void MainWindow::initialize()
     if (logFlag) {
         displayLog();
     }
-    if (!yumIO->initialize()) {
+    if (!yumIO->initialize() || !yumIO->offerLooking()) {
         quit();
         return;
     }

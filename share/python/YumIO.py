@@ -30,6 +30,7 @@ import bdb  # noqa: E402,F401
 
 from vemyum import clean, host, messages, rights, surroundings  # noqa: E402
 from vemyum.apply import Apply  # noqa: E402
+from vemyum.configuration import managed_root  # noqa: E402
 from vemyum.errors import LockError, RepoError, YumBaseError, reported_as  # noqa: E402
 from vemyum.session import Session  # noqa: E402
 
@@ -45,6 +46,11 @@ if not gc.get_freeze_count():
 def usesSqlite() -> bool:
     """Metadata is never held in sqlite form."""
     return False
+
+
+def whyOnlyLooking() -> Optional[str]:
+    """Why nobody can change the packages of the managed system, in one sentence; None where they can be."""
+    return rights.unchangeable(managed_root())
 
 
 class YumIO:
@@ -130,7 +136,7 @@ class YumIO:
     def apply(self, installs: Sequence[Any], updates: Sequence[Any], removes: Sequence[Any]) -> None:
         """Solves, lists, asks, downloads and runs. YumBaseError; OSError only for a broken pipe."""
         with reported_as(YumBaseError):
-            rights.require_administrator(rights.NO_CHANGE)
+            rights.require_changeable(managed_root())
             Apply(self._session).run(installs, updates, removes)
 
     def usesPresto(self) -> bool:

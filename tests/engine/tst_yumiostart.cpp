@@ -25,6 +25,10 @@ private Q_SLOTS:
     void failedStartMayBeTriedAgain();
     void missingRpmModule();
     void engineThatNeverStarted();
+    void scriptThatDoesNotKnowWhetherOneCanOnlyLook();
+    void changeableSystemIsNotAskedAbout();
+    void unchangeableSystemIsOfferedForLooking();
+    void questionThatFailsIsNoObstacle();
 };
 
 void TestYumIOStart::startGivesTheScriptItsSurroundings()
@@ -174,6 +178,43 @@ void TestYumIOStart::engineThatNeverStarted()
     QCOMPARE(engine->count(), 0);
     engine->error(QStringLiteral("a fault"));
     QCOMPARE(boxes->takeTexts(), QStringList{"a fault"});
+}
+
+void TestYumIOStart::scriptThatDoesNotKnowWhetherOneCanOnlyLook()
+{
+    QVERIFY(engine->offerLooking());
+    writeScript();
+    QVERIFY(engine->initialize());
+    QVERIFY(engine->offerLooking());
+}
+
+void TestYumIOStart::changeableSystemIsNotAskedAbout()
+{
+    writeScript("def whyOnlyLooking():\n    standin.note('why')");
+    QVERIFY(engine->initialize());
+    QVERIFY(engine->offerLooking());
+    QCOMPARE(calls(), (QStringList{"YumIO()", "why"}));
+}
+
+void TestYumIOStart::unchangeableSystemIsOfferedForLooking()
+{
+    writeScript("whyOnlyLooking = lambda: 'The trees are painted.'");
+    QVERIFY(engine->initialize());
+    for (auto const& [press, goesOn] : {std::pair{"Look", true}, {"Quit", false}, {"Escape", false}}) {
+        boxes->press({press});
+        QCOMPARE(engine->offerLooking(), goesOn);
+        QCOMPARE(
+            boxes->take(),
+            (QList<Boxes::Box>{{"VEM Looking Only", "The trees are painted.", {"Look", "Quit"}}}));
+    }
+}
+
+void TestYumIOStart::questionThatFailsIsNoObstacle()
+{
+    writeScript("whyOnlyLooking = lambda: 1/0");
+    QVERIFY(engine->initialize());
+    QVERIFY(engine->offerLooking());
+    QCOMPARE(boxes->takeTexts(), QStringList{"Internal error: python exception occurred from C code\n"});
 }
 
 int main(int argc, char* argv[])

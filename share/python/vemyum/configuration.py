@@ -76,7 +76,7 @@ def read_configuration() -> dnf.conf.MainConf:
     root or a home that cannot be used, OSError.
     """
     root = managed_root()
-    own = None if rights.is_administrator() else rights.own_directory(root)
+    own = rights.own_directory(root) if rights.keeps_own_directory(root) else None
     conf = dnf.conf.Conf()
     conf.installroot = root
     main = main_file(root)

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: GPL-2.0-or-later
-"""Who may change the system, and where the program keeps things for a user who may only look.
+"""Whether the system can be changed and by whom, and where the program keeps things for who may only look.
 
 dnf locks, caches and logs in directories of the system. For anybody but the administrator they all lie in a
 folder of the user's own, one for each root that is looked at, and nothing of the system is touched.
@@ -11,6 +11,7 @@ import contextlib
 import errno
 import hashlib
 import os
+from typing import Optional
 
 import dnf.conf
 import dnf.util
@@ -24,6 +25,11 @@ NO_CHANGE = _(
     "Only the administrator can install, update or remove packages: start the program with administrator rights."
 )
 NO_CLEANING = _("Only the administrator can clean the caches: start the program with administrator rights.")
+IMAGE_BASED = _("This system is image-based: its packages come with its image, and can only be looked at here.")
+READ_ONLY = _("{directory} is read-only: packages can be looked at, not changed.")
+
+_BOOTED_IMAGE = "/run/ostree-booted"
+"""There on a running system that was made from an image, by bootc too, even while its /usr is unlocked for a try."""
 
 _DIRECTORIES = {"cachedir": "cache", "persistdir": "persist", "logdir": "log"}
 
@@ -37,6 +43,38 @@ def require_administrator(refusal: str) -> None:
     """YumBaseError with this sentence for anybody else."""
     if not is_administrator():
         raise YumBaseError(refusal)
+
+
+def unchangeable(root: str) -> Optional[str]:
+    """Why not even the administrator can change packages below this root, in one sentence; None if that is not so.
+
+    Asked anew each time: a file system can be mounted for writing meanwhile.
+    """
+    if os.path.realpath(root) == "/" and os.path.exists(_BOOTED_IMAGE):
+        return IMAGE_BASED
+    usr = os.path.join(root, "usr")
+    return READ_ONLY.format(directory=usr) if _is_read_only(usr) else None
+
+
+def require_changeable(root: str) -> None:
+    """YumBaseError with the reason where packages cannot be changed, by nobody or not by this user."""
+    reason = unchangeable(root)
+    if reason is not None:
+        raise YumBaseError(reason)
+    require_administrator(NO_CHANGE)
+
+
+def keeps_own_directory(root: str) -> bool:
+    """Whether caches and locks lie in a folder of the user's own: the system's are closed, or cannot be written."""
+    return not is_administrator() or _is_read_only(os.path.join(root, "var"))
+
+
+def _is_read_only(directory: str) -> bool:
+    try:
+        return bool(os.statvfs(directory).f_flag & os.ST_RDONLY)
+    except OSError:
+        # What is not there yet is no obstacle.
+        return False
 
 
 def own_directory(root: str) -> str:

@@ -61,8 +61,11 @@ class Session:
         if self._conf is None or LOCK.held:
             return
         LOCK.acquire(self._conf)
-        if not rights.is_administrator():
-            host.log(host.LEVEL_NOTICE, rights.LOOK_ONLY)
+        reason = rights.unchangeable(managed_root())
+        if reason is None and not rights.is_administrator():
+            reason = rights.LOOK_ONLY
+        if reason is not None:
+            host.log(host.LEVEL_NOTICE, reason)
 
     def unlock(self) -> None:
         LOCK.release()

@@ -7,6 +7,7 @@ change `world` or replace methods of YumIO, and reset() takes all of that back.
 from __future__ import annotations
 
 import builtins
+import os
 import sys
 import traceback
 import types
@@ -173,3 +174,5 @@ def install(script: dict[str, Any], forms: Era) -> None:
     script.update(modules, YumIO=YumIO, standin=sys.modules[__name__], yumIOC=yumIOC)
     _methods.update({name: method for name, method in vars(YumIO).items() if callable(method)})
     reset()
+    # What a test wants before anything is asked.
+    exec(os.environ.get("VEM_TEST_STATEMENTS", ""), script)

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+// The start on a system whose packages can't be changed, with a user who gives the answer that VEM_TEST_ANSWER
+// names.
+#include "ShellTest.h"
+
+#include <QAbstractItemView>
+#include <QPushButton>
+#include <QTest>
+
+class MainWindowLookingTest : public ShellTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theUserLooksOrLeaves()
+    {
+        QString const answer = qEnvironmentVariable("VEM_TEST_ANSWER", QStringLiteral("Look"));
+        qputenv(
+            "VEM_TEST_STATEMENTS",
+            "whyOnlyLooking = lambda: 'The trees are painted.'\n"
+            "standin.fail('apply', standin.YumBaseError(whyOnlyLooking()))\n");
+        makeWindow();
+        boxes->press({answer});
+        window->show();
+        if (answer == QLatin1String("Look")) {
+            QTRY_VERIFY_WITH_TIMEOUT(table()->isVisible() && table()->isEnabled(), 20000);
+        } else {
+            QTRY_VERIFY(!window->isVisible());
+        }
+        QCOMPARE(
+            boxes->take(),
+            (QList<Boxes::Box>{
+                {QStringLiteral("VEM Looking Only"),
+                 QStringLiteral("The trees are painted."),
+                 {QStringLiteral("Look"), QStringLiteral("Quit")}}}));
+        if (answer == QLatin1String("Look")) {
+            QCOMPARE(names().size(), 8);
+            clickAction(QStringLiteral("elm"));
+            QString const mark = tipOfAction(QStringLiteral("elm"));
+            button(QStringLiteral("Apply Actions"))->click();
+            QTRY_COMPARE(
+                boxes->takeTexts(),
+                QStringList{QStringLiteral("The trees are painted.\nError applying changes")});
+            QTRY_VERIFY(table()->isEnabled());
+            QCOMPARE(tipOfAction(QStringLiteral("elm")), mark);
+        }
+        delete window;
+    }
+};
+
+QTEST_MAIN(MainWindowLookingTest)
+#include "tst_mainwindowlooking.moc"
