@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-// How trouble reaches the user: plain boxes, the offer to look at what can't be changed, scrollable reports of expected Python exceptions with the log
-// lines that led up to them, and the log functions that the helper script calls.
+// How trouble reaches the user: plain boxes, the offer to look at what can't be changed, scrollable reports
+// of expected Python exceptions with the log lines that led up to them, and the log functions that the helper
+// script calls.
 #include "bridge/PythonApi.h"
 
 #include "engine/YumIO.h"

@@ -44,6 +44,9 @@ public:
     /// missing and repeated identifiers; the answer Yes removes those from `repos`. New repositories get
     /// their file name. Emits nothing.
     ///
+    /// A file that subscription-manager generates stays as it is, byte for byte, as long as its repositories
+    /// are those that were read. Otherwise the user is asked, over `window`, before anything is written.
+    ///
     /// True when the files were written; a failed deletion is told but changes nothing. When false the user
     /// has declined or has seen a message box, files later in the order were not touched and nothing was
     /// deleted.
@@ -103,12 +106,19 @@ private:
     void readRepoOption(QString const& line, bool isNew, Repo::Entry& entry);
     void finishEntry(Repo::Entry& entry, bool isNew);
     static void cleanupRead(Repo::Entry& entry);
+    static bool isGenerated(QString const& file, QString const& head = QString());
     void applyUsedOptions(Repo::Entry const& entry);
 
     bool checkErrors();
     [[nodiscard]] bool hasEmptyId() const;
     [[nodiscard]] QString getDuplicateId() const;
     void cleanupWrite(QList<Repo::Entry>& entries) const;
+    /// The repositories of one file in the order in which it is to hold them; never empty.
+    using FileEntries = QList<Repo::Entry>;
+    [[nodiscard]] QList<FileEntries> entriesByFile() const;
+    bool confirmGenerated(QList<FileEntries> const& files);
+    [[nodiscard]] bool isAsGenerated(QString const& file, FileEntries const& entries) const;
+    void noteWritten(QList<FileEntries> const& files);
     bool writeFile(QString const& file, QList<Repo::Entry> const& entries);
     [[nodiscard]] QByteArray contentOf(QString const& file, QList<Repo::Entry> const& entries) const;
     static bool writeRepo(std::FILE* stream, Repo::Entry const& repo);
@@ -125,5 +135,8 @@ private:
 
     QWidget* parent = nullptr;  ///< under the message boxes; not owned, set by each read and write
     QList<QString> unreadLines; ///< physical lines read ahead, to be read again before the file goes on
-    QString unfinishedFile;     ///< the file in which the last read stopped; empty when it read everything
+    /// The files that subscription-manager generates, and what a write would make of their repositories as
+    /// they were read, or last written.
+    QHash<QString, QByteArray> generated;
+    QString unfinishedFile; ///< the file in which the last read stopped; empty when it read everything
 };

@@ -55,6 +55,7 @@ bool YumConfIO::read(QWidget* window)
     mainEnabled = true;
     mainGpgcheck = false;
     repos.clear();
+    generated.clear();
 
     {
         QString const path = QString::fromLatin1(file.path);
@@ -113,8 +114,11 @@ bool YumConfIO::readDirectoryFile(QString const& path)
         error(tr("Unable to read repository configuration file %1").arg(path));
         return false;
     }
+    qsizetype const first = repos.size();
     if (!readRepoFile(stream.get(), path))
         return false;
+    if (generated.contains(path))
+        generated[path] = contentOf(path, repos.mid(first));
     unfinishedFile.clear();
     return true;
 }
@@ -152,7 +156,7 @@ bool YumConfIO::readConfFile(std::FILE* stream)
 }
 
 /// Reads the sections of a file up to its end. What stands above the first head goes into an entry that is
-/// dropped.
+/// dropped; it tells whether a program writes the file.
 bool YumConfIO::readRepoFile(std::FILE* stream, QString const& file)
 {
     Repo::Entry entry;
@@ -165,7 +169,10 @@ bool YumConfIO::readRepoFile(std::FILE* stream, QString const& file)
         ReadResult const result = readLogicalLine(stream, file, line);
         if (result == ReadError)
             return false;
-        if (result == EndOfFile) {
+        bool const isOver = result == EndOfFile;
+        if (!inSection && (isOver || line.startsWith(u'[')) && isGenerated(file, entry.otherOptions))
+            generated.insert(file, QByteArray());
+        if (isOver) {
             if (inSection)
                 finishEntry(entry, isNew);
             return true;
@@ -311,4 +318,14 @@ void YumConfIO::cleanupRead(Repo::Entry& entry)
 {
     static QRegularExpression const gap(QStringLiteral("[ \\t\\n]+"));
     entry.baseurl.replace(gap, QStringLiteral("\n"));
+}
+
+/// Whether subscription-manager writes the file anew whenever it likes: by its name, or by what it puts above
+/// the first section.
+bool YumConfIO::isGenerated(QString const& file, QString const& head)
+{
+    static QRegularExpression const mark(
+        QStringLiteral("^#.*managed by.*subscription-manager"),
+        QRegularExpression::MultilineOption | QRegularExpression::CaseInsensitiveOption);
+    return file.endsWith(QLatin1String("/redhat.repo")) || head.contains(mark);
 }

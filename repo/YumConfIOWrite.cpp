@@ -55,18 +55,16 @@ bool YumConfIO::write(QWidget* window)
         return false;
     cleanupWrite(repos);
 
-    QList<Repo::Entry> sorted = repos;
-    std::stable_sort(sorted.begin(), sorted.end(), filePositionLessThan);
+    QList<FileEntries> const files = entriesByFile();
+    if (!confirmGenerated(files))
+        return false;
 
     QSet<QString> written;
-    for (auto first = sorted.cbegin(); first != sorted.cend();) {
-        QString const file = first->file;
-        auto const last = std::find_if(
-            first, sorted.cend(), [&file](Repo::Entry const& entry) { return entry.file != file; });
-        if (!writeFile(file, QList<Repo::Entry>(first, last)))
+    for (FileEntries const& entries : files) {
+        QString const file = entries.first().file;
+        if (!isAsGenerated(file, entries) && !writeFile(file, entries))
             return false;
         written.insert(file);
-        first = last;
     }
 
     QString const mainFile = QString::fromLatin1(fileName());
@@ -76,10 +74,75 @@ bool YumConfIO::write(QWidget* window)
         written.insert(mainFile);
     }
 
+    noteWritten(files);
+    for (auto file = generated.cbegin(); file != generated.cend(); ++file)
+        written.insert(file.key());
     // What a failed read did not get to is not out of use.
     if (unfinishedFile.isEmpty())
         removeUnusedFiles(written);
     return true;
+}
+
+QList<YumConfIO::FileEntries> YumConfIO::entriesByFile() const
+{
+    QList<Repo::Entry> sorted = repos;
+    std::stable_sort(sorted.begin(), sorted.end(), filePositionLessThan);
+    QList<FileEntries> files;
+    for (Repo::Entry const& entry : std::as_const(sorted)) {
+        if (files.isEmpty() || files.constLast().constFirst().file != entry.file)
+            files.append(FileEntries());
+        files.last().append(entry);
+    }
+    return files;
+}
+
+/// Whether the repositories of a generated file, some or none, are what it holds.
+bool YumConfIO::isAsGenerated(QString const& file, FileEntries const& entries) const
+{
+    auto const at = generated.constFind(file);
+    return at != generated.cend() && file != unfinishedFile && at.value() == contentOf(file, entries);
+}
+
+/// Asks, once, about all generated files that a write would change or remove. True if there are none.
+bool YumConfIO::confirmGenerated(QList<FileEntries> const& files)
+{
+    QStringList changed;
+    QSet<QString> holding;
+    for (FileEntries const& entries : files) {
+        QString const file = entries.first().file;
+        holding.insert(file);
+        // Nothing is written to the file in which the reading stopped.
+        if ((generated.contains(file) || isGenerated(file)) && file != unfinishedFile &&
+            !isAsGenerated(file, entries))
+            changed += file;
+    }
+    for (auto file = generated.cbegin(); file != generated.cend(); ++file) {
+        if (unfinishedFile.isEmpty() && !holding.contains(file.key()) && !isAsGenerated(file.key(), {}))
+            changed += file.key();
+    }
+    if (changed.isEmpty())
+        return true;
+    changed.sort();
+    return confirm(
+        tr("subscription-manager generates these files and will write them anew, without the changes made "
+           "here: %1.  Its own command, \"subscription-manager repo-override\", makes lasting ones.")
+            .arg(changed.join(QStringLiteral(", "))) +
+        tr("  Proceed?"));
+}
+
+/// What the generated files hold from now on. One that is to be removed is none any more.
+void YumConfIO::noteWritten(QList<FileEntries> const& files)
+{
+    QHash<QString, QByteArray> const before = std::exchange(generated, {});
+    for (FileEntries const& entries : files) {
+        QString const file = entries.first().file;
+        if (before.contains(file) || isGenerated(file))
+            generated.insert(file, contentOf(file, entries));
+    }
+    for (auto file = before.cbegin(); file != before.cend(); ++file) {
+        if (file.value().isEmpty() && !generated.contains(file.key()))
+            generated.insert(file.key(), QByteArray());
+    }
 }
 
 bool YumConfIO::filePositionLessThan(Repo::Entry const& a, Repo::Entry const& b)

@@ -1269,6 +1269,10 @@ Lässt sich für eine einzelne Sitzung übersteuern.</translation>
         <source>Unable to unlink repository configuration file %1</source>
         <translation>Die Paketquellen-Konfigurationsdatei %1 kann nicht gelöscht werden</translation>
     </message>
+    <message>
+        <source>subscription-manager generates these files and will write them anew, without the changes made here: %1.  Its own command, &quot;subscription-manager repo-override&quot;, makes lasting ones.</source>
+        <translation>subscription-manager erzeugt diese Dateien und schreibt sie neu, ohne die hier gemachten Änderungen: %1. Bleibende Änderungen macht sein eigener Befehl „subscription-manager repo-override“.</translation>
+    </message>
 </context>
 <context>
     <name>YumIO</name>
@@ -1813,6 +1817,18 @@ Wie soll fortgefahren werden?</translation>
     <message>
         <source>Obsoleted</source>
         <translation>Ersetzt</translation>
+    </message>
+    <message>
+        <source>VEM Looking Only</source>
+        <translation>VEM - Nur ansehen</translation>
+    </message>
+    <message>
+        <source>&amp;Look</source>
+        <translation>&amp;Ansehen</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
     </message>
 </context>
 <context>

@@ -1269,6 +1269,10 @@ Se puede cambiar para una sesión concreta.</translation>
         <source>Unable to unlink repository configuration file %1</source>
         <translation>No se pudo eliminar (unlink) el archivo de configuración de repositorios %1</translation>
     </message>
+    <message>
+        <source>subscription-manager generates these files and will write them anew, without the changes made here: %1.  Its own command, &quot;subscription-manager repo-override&quot;, makes lasting ones.</source>
+        <translation>subscription-manager genera estos archivos y volverá a escribirlos sin los cambios hechos aquí: %1.  Los cambios duraderos se hacen con su propia orden, «subscription-manager repo-override».</translation>
+    </message>
 </context>
 <context>
     <name>YumIO</name>
@@ -1813,6 +1817,18 @@ pero también pertenece al grupo %5 y por ello se marcó con la acción %6.
     <message>
         <source>Obsoleted</source>
         <translation>Reemplazado</translation>
+    </message>
+    <message>
+        <source>VEM Looking Only</source>
+        <translation>VEM - Solo consulta</translation>
+    </message>
+    <message>
+        <source>&amp;Look</source>
+        <translation>&amp;Ver</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Salir</translation>
     </message>
 </context>
 <context>

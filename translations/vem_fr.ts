@@ -1269,6 +1269,10 @@ Peut être modifié pour une session donnée.</translation>
         <source>Unable to unlink repository configuration file %1</source>
         <translation>Impossible de supprimer (unlink) le fichier de configuration de dépôts %1</translation>
     </message>
+    <message>
+        <source>subscription-manager generates these files and will write them anew, without the changes made here: %1.  Its own command, &quot;subscription-manager repo-override&quot;, makes lasting ones.</source>
+        <translation>subscription-manager génère ces fichiers et les réécrira sans les modifications faites ici&#xa0;: %1. Sa propre commande, «&#xa0;subscription-manager repo-override&#xa0;», en fait de durables.</translation>
+    </message>
 </context>
 <context>
     <name>YumIO</name>
@@ -1813,6 +1817,18 @@ Comment voulez-vous procéder&#xa0;?</translation>
     <message>
         <source>Obsoleted</source>
         <translation>Remplacé</translation>
+    </message>
+    <message>
+        <source>VEM Looking Only</source>
+        <translation>VEM - Consultation seule</translation>
+    </message>
+    <message>
+        <source>&amp;Look</source>
+        <translation>&amp;Consulter</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quitter</translation>
     </message>
 </context>
 <context>

@@ -1269,6 +1269,10 @@ It can be overridden for a particular session.</source>
         <source>Unable to unlink repository configuration file %1</source>
         <translation>リポジトリ設定ファイル %1 を削除できません (unlink)</translation>
     </message>
+    <message>
+        <source>subscription-manager generates these files and will write them anew, without the changes made here: %1.  Its own command, &quot;subscription-manager repo-override&quot;, makes lasting ones.</source>
+        <translation>次のファイルは subscription-manager が生成するもので、ここでの変更を残さずに書き直されます: %1。変更を残すには、専用のコマンド「subscription-manager repo-override」を使ってください。</translation>
+    </message>
 </context>
 <context>
     <name>YumIO</name>
@@ -1813,6 +1817,18 @@ How do you wish to proceed?</source>
     <message>
         <source>Obsoleted</source>
         <translation>廃止済み</translation>
+    </message>
+    <message>
+        <source>VEM Looking Only</source>
+        <translation>VEM - 閲覧のみ</translation>
+    </message>
+    <message>
+        <source>&amp;Look</source>
+        <translation>閲覧(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>終了(&amp;Q)</translation>
     </message>
 </context>
 <context>

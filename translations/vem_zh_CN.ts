@@ -1269,6 +1269,10 @@ It can be overridden for a particular session.</source>
         <source>Unable to unlink repository configuration file %1</source>
         <translation>无法删除仓库配置文件 %1 (unlink)</translation>
     </message>
+    <message>
+        <source>subscription-manager generates these files and will write them anew, without the changes made here: %1.  Its own command, &quot;subscription-manager repo-override&quot;, makes lasting ones.</source>
+        <translation>以下文件由 subscription-manager 生成，它会重新写入这些文件，不保留在此所做的更改：%1。若要持久更改，请使用它自己的命令“subscription-manager repo-override”。</translation>
+    </message>
 </context>
 <context>
     <name>YumIO</name>
@@ -1813,6 +1817,18 @@ How do you wish to proceed?</source>
     <message>
         <source>Obsoleted</source>
         <translation>已废弃</translation>
+    </message>
+    <message>
+        <source>VEM Looking Only</source>
+        <translation>VEM - 仅供查看</translation>
+    </message>
+    <message>
+        <source>&amp;Look</source>
+        <translation>查看(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>退出(&amp;Q)</translation>
     </message>
 </context>
 <context>

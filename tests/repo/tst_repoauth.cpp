@@ -2,6 +2,7 @@
 // The check for missing credentials, with a user who answers its window.
 #include "repo/RepoAuthChecker.h"
 
+#include "BoxAnswer.h"
 #include "ConfRoot.h"
 #include "FormUser.h"
 #include "repo/RepoAuthDialog.h"
@@ -152,6 +153,26 @@ private Q_SLOTS:
         QVERIFY(answerer->shown.first().contains(QLatin1String("u=me&p=")));
         QVERIFY(!answerer->shown.first().contains(QLatin1String("p%26w")));
         QVERIFY(!answerer->shown.first().contains(pw));
+    }
+
+    void aGeneratedFileIsAskedAbout_data()
+    {
+        QTest::addColumn<QMessageBox::StandardButton>("answer");
+        QTest::addColumn<bool>("isWritten");
+        QTest::newRow("yes") << QMessageBox::Yes << true;
+        QTest::newRow("no") << QMessageBox::No << false;
+    }
+
+    void aGeneratedFileIsAskedAbout()
+    {
+        QFETCH(QMessageBox::StandardButton, answer);
+        BoxAnswer const boxes(answer);
+        check("# Managed by (rhsm) subscription-manager\n" + section("a", blank("host")), {{me, pw, ok}});
+
+        QCOMPARE(boxes.texts.size(), 1);
+        QVERIFY(boxes.texts.first().contains(QLatin1String("subscription-manager")));
+        QVERIFY(checker->credentialsChanged && !checker->quitRequested);
+        QTEST(file().contains("u=me"), "isWritten");
     }
 
     void aDisabledRepositoryIsLeftAlone()

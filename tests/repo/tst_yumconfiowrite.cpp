@@ -7,6 +7,7 @@
 #include <QTest>
 
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 using ConfFiles::content;
@@ -61,6 +62,8 @@ private Q_SLOTS:
     void otherSpellingOfThePathDoesNotProtectAFile();
     void allBytesSurvive();
     void linksOwnersAndPermissionsStay();
+    void securityContextStays_data();
+    void securityContextStays();
     void fileThatEverybodyReadsBecomesItsOwnersWithCredentials_data();
     void fileThatEverybodyReadsBecomesItsOwnersWithCredentials();
     void newFileWithCredentialsIsForItsOwnerOnly_data();
@@ -391,6 +394,46 @@ void TestYumConfIOWrite::linksOwnersAndPermissionsStay()
     QVERIFY(QFileInfo(QFile::decodeName(link)).isSymLink());
     QCOMPARE(content(root(), "/etc/kept"), QByteArray("[a]\nname=A\n"));
     QCOMPARE(permissions(root(), "/etc/kept"), 0664);
+}
+
+void TestYumConfIOWrite::securityContextStays_data()
+{
+    QTest::addColumn<QByteArray>("path");
+    QTest::newRow("repository file") << QByteArray("/etc/yum.repos.d/some.repo");
+    QTest::newRow("main file") << QByteArray("/etc/yum.conf");
+}
+
+void TestYumConfIOWrite::securityContextStays()
+{
+    QFETCH(QByteArray, path);
+    QVERIFY(root().readRepoFile("[a]\n"));
+    QByteArray const file = root().onDisk(path);
+    QByteArray const context = "system_u:object_r:etc_t:s0";
+    char const* attribute = "security.selinux";
+    auto const set = [&] {
+        return ::setxattr(file.constData(), attribute, context.constData(), size_t(context.size()), 0) == 0;
+    };
+    // Not everybody may label a file, nor does each file system take labels; any other attribute shows it as
+    // well.
+    if (!set()) {
+        attribute = "user.vem";
+        if (!set())
+            QSKIP("no right to label files here");
+    }
+    struct stat before = {};
+    QCOMPARE(::stat(file.constData(), &before), 0);
+
+    root().conf.repos[0].name = QStringLiteral("A");
+    root().conf.mainOptions = QStringLiteral("[main]\n");
+    QVERIFY(root().conf.write(nullptr));
+
+    struct stat after = {};
+    QCOMPARE(::stat(file.constData(), &after), 0);
+    QCOMPARE(after.st_ino, before.st_ino);
+    QVERIFY(after.st_size != before.st_size);
+    QByteArray found(100, '\0');
+    found.resize(::getxattr(file.constData(), attribute, found.data(), size_t(found.size())));
+    QCOMPARE(found, context);
 }
 
 void TestYumConfIOWrite::fileThatEverybodyReadsBecomesItsOwnersWithCredentials_data()
