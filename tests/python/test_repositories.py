@@ -195,7 +195,7 @@ def test_full_disk_is_told_beside_the_cause(
     served: Estate, program: Program, web: Web, monkeypatch: pytest.MonkeyPatch, blocks: int, told: bool
 ) -> None:
     web.page("/base/repodata/repomd.xml", b"<repomd><data")
-    monkeypatch.setattr("os.statvfs", lambda _: types.SimpleNamespace(f_bavail=blocks, f_frsize=4096))
+    monkeypatch.setattr("os.statvfs", lambda _: types.SimpleNamespace(f_bavail=blocks, f_frsize=4096, f_flag=0))
     with pytest.raises(program.errors.RepoError) as caught:
         program.collect()
     assert (f"Only 20 KiB are free in {served.root}/var/cache/yum." in str(caught.value)) is told

@@ -255,7 +255,7 @@ private Q_SLOTS:
     void fileInWhichTheReadingStoppedIsNotAskedAbout()
     {
         root->write("/etc/yum.conf", "[main]\n");
-        root->write(redhat, head + "[base]\n[broken\n");
+        root->write(redhat, head + "[base]\n[extra]\n[broken\n");
         QVERIFY(!root->conf.read(nullptr));
         QVERIFY(!root->conf.write(nullptr));
         QCOMPARE(boxes->texts.size(), 2);
@@ -263,7 +263,7 @@ private Q_SLOTS:
             boxes->texts.last(),
             BoxAnswer::told(
                 "Unable to write repository configuration file /etc/yum.repos.d/redhat.repo", ECANCELED));
-        QCOMPARE(content(*root, redhat), head + "[base]\n[broken\n");
+        QCOMPARE(content(*root, redhat), head + "[base]\n[extra]\n[broken\n");
     }
 };
 
