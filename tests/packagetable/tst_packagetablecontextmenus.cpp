@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // The two context menus, opened on the real view by the event that a right click sends.
 #include "TestEngine.h"
+#include "tests/ClickEntry.h"
 
 #include "packagetable/PackageTableActionContextMenu.h"
 #include "packagetable/PackageTableModel.h"
@@ -81,8 +82,7 @@ private:
                 chosen = action->text() == text ? action : chosen;
             }
             if (chosen) {
-                QTest::mouseClick(
-                    offer.menu, Qt::LeftButton, Qt::NoModifier, offer.menu->actionGeometry(chosen).center());
+                clickEntry(offer.menu, chosen);
             }
             offer.menu->close();
         });

@@ -6,6 +6,7 @@
 #include "repo/RepoEditorContextMenu.h"
 #include "repo/RepoEditorModel.h"
 #include "repo/RepoEditorView.h"
+#include "tests/ClickEntry.h"
 #include "tests/packagetable/TestEngine.h"
 
 #include <QApplication>
@@ -71,7 +72,7 @@ class RepoEditorViewTest : public QObject
             for (QAction* const action : menu->actions()) {
                 offered.append(action->text());
                 if (action->text() == text) {
-                    QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
+                    clickEntry(menu, action);
                 }
             }
             menu->close();
