@@ -136,8 +136,11 @@ int Dialog::exec()
 
 void Dialog::setVisible(bool visible)
 {
-    bool const wasVisible = isVisible();
-    if (visible && !wasVisible) {
+    if (visible == isVisible()) {
+        // Some releases of the toolkit would show a window anew that is shown: its exec shows it a second time.
+        return;
+    }
+    if (visible) {
         savedReposEnabled = yumConfIO->reposEnabled;
         bool const isRead = yumConfIO->read(parent);
         resetModel();
@@ -154,7 +157,7 @@ void Dialog::setVisible(bool visible)
         setEntryHasChanged(false);
     }
     HDialog::setVisible(visible);
-    if (!visible && wasVisible && (appliedFlag || useChangedFlag || forceReposChanged)) {
+    if (!visible && (appliedFlag || useChangedFlag || forceReposChanged)) {
         Q_EMIT reposChanged();
     }
 }

@@ -2,6 +2,7 @@
 // The start on a system whose packages can't be changed, with a user who gives the answer that
 // VEM_TEST_ANSWER names.
 #include "ShellTest.h"
+#include "tests/Eventually.h"
 
 #include <QAbstractItemView>
 #include <QPushButton>
@@ -22,9 +23,9 @@ private Q_SLOTS:
         boxes->press({answer});
         window->show();
         if (answer == QLatin1String("Look")) {
-            QTRY_VERIFY_WITH_TIMEOUT(table()->isVisible() && table()->isEnabled(), 20000);
+            EVENTUALLY_VERIFY_WITHIN(table()->isVisible() && table()->isEnabled(), 20000);
         } else {
-            QTRY_VERIFY(!window->isVisible());
+            EVENTUALLY_VERIFY(!window->isVisible());
         }
         QCOMPARE(
             boxes->take(), (QList<Boxes::Box>{
