@@ -3,7 +3,6 @@
 
 from __future__ import annotations
 
-import gzip
 import json
 import re
 import subprocess
@@ -76,10 +75,11 @@ def dnf_report(estate: Estate, install: Sequence[str] = ()) -> dict[str, Any]:
 
 def _groups(estate: Estate) -> dict[str, bool]:
     """The visibility of the groups by name. Not by dnf, whose library for them doesn't work everywhere."""
+    from vemyum.records import chunks
+
     groups = {}
     for path in estate.repos_dir.glob("*/repodata/*"):
-        if re.search(r"(comps|group_gz)\.xml(\.gz)?$", path.name):
-            with (gzip.open if path.suffix == ".gz" else open)(path, "rb") as file:
-                for group in ElementTree.parse(file).iterfind("group"):
-                    groups[group.findtext("name", "")] = group.findtext("uservisible") != "false"
+        if re.search(r"(comps|group_gz)\.xml(\.[a-z0-9]+)?$", path.name):
+            for group in ElementTree.fromstring(b"".join(chunks(str(path)))).iterfind("group"):
+                groups[group.findtext("name", "")] = group.findtext("uservisible") != "false"
     return groups

@@ -171,9 +171,13 @@ def german_rpm(tmp_path: Path, monkeypatch: pytest.MonkeyPatch) -> Iterator[None
     folder.mkdir(parents=True)
     texts = 'msgid ""\nmsgstr "Content-Type: text/plain; charset=UTF-8\\n"\nmsgid "error: "\nmsgstr "Fehler: "\n'
     subprocess.run(["msgfmt", "--output-file", folder / "rpm.mo", "-"], input=texts, text=True, check=True)
+    # A locale that is somebody's: in C.UTF-8, the one that every system has, later releases of glibc translate nothing.
+    made = ["localedef", "--no-archive", "--inputfile=de_DE", "--charmap=UTF-8", tmp_path / "de_DE.UTF-8"]
+    subprocess.run(made, check=True)
     before = locale.setlocale(locale.LC_MESSAGES), locale.bindtextdomain("rpm", None)
     monkeypatch.setenv("LANGUAGE", "de")
-    locale.setlocale(locale.LC_MESSAGES, "C.UTF-8")
+    monkeypatch.setenv("LOCPATH", str(tmp_path))
+    locale.setlocale(locale.LC_MESSAGES, "de_DE.UTF-8")
     locale.bindtextdomain("rpm", tmp_path / "locale")
     yield
     locale.setlocale(locale.LC_MESSAGES, before[0])

@@ -181,6 +181,7 @@ def test_database_that_is_read_only_too_can_be_looked_at(look: Look, estate: Est
     place = estate.root / "usr/lib/sysimage/rpm"
     place.parent.mkdir(parents=True)
     shutil.move(str(estate.root / "var/lib/rpm"), place)
+    (estate.root / "etc/rpm/macros.estate").write_text("%_dbpath /usr/lib/sysimage/rpm\n", encoding="utf-8")
     assert look("usr")["table"] == {"lamp": "UpToDate", "lone": "Available"}
 
 

@@ -15,6 +15,7 @@ BESIDE_THE_BUILD = {
     "ccache": "only makes it faster",
     "clang": "makes the fuzz targets",
     "compiler-rt": "makes the fuzz targets",
+    "lld": "only makes it faster",
     "clang-tools-extra": "looks at the sources",
     "ShellCheck": "looks at the sources",
     "libasan": "a checked build",
@@ -31,6 +32,7 @@ NOT_LISTED = {
     "python3": "python3-devel brings it",
     "qt6-qtbase-gui": "qt6-qtbase-devel brings it",
     "qt6-qtwayland": "builds and tests draw on X",
+    "rpm": "rpm-build brings it",
     "xdg-utils": "opens the web browser of the desktop",
 }
 
