@@ -63,7 +63,7 @@ endif()
 
 # A source that does nothing but carry the precompiled headers.
 if(VEM_PCH)
-    file(CONFIGURE OUTPUT "${CMAKE_BINARY_DIR}/precompiled.cpp" CONTENT "")
+    file(CONFIGURE OUTPUT "${CMAKE_BINARY_DIR}/precompiled.cpp" CONTENT "// Empty.\n")
     add_library(vem_pch OBJECT "${CMAKE_BINARY_DIR}/precompiled.cpp")
     target_link_libraries(vem_pch PRIVATE vem_options Qt6::Widgets)
     target_precompile_headers(vem_pch PRIVATE "${CMAKE_CURRENT_LIST_DIR}/precompiled.h")
@@ -95,6 +95,9 @@ function(vem_test name)
     target_link_libraries(${name} PRIVATE vem_options Qt6::Test)
     vem_link(${name} ${arg_LINKS})
     vem_precompiled(${name})
+    # A test includes what moc makes of it: this file is all but empty, and headers would only cost time.
+    set_source_files_properties("${CMAKE_CURRENT_BINARY_DIR}/${name}_autogen/mocs_compilation.cpp"
+        PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
     target_compile_definitions(${name} PRIVATE
         VEM_TEST_SHARE="${VEM_SHARE_DIR}"
         VEM_TEST_SOURCE="${CMAKE_CURRENT_SOURCE_DIR}")
