@@ -6,6 +6,7 @@
 #include "widgets/Sizing.h"
 
 #include <QAccessible>
+#include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QScrollBar>
 #include <algorithm>
@@ -22,6 +23,20 @@ HTableView::HTableView(
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
 }
 
+// Releases of the toolkit differ in whose coordinates they tell the place of the current cell: view's or
+// viewport's.
+bool HTableView::event(QEvent* event)
+{
+    if (event->type() == QEvent::ContextMenu && contextMenuPolicy() == Qt::CustomContextMenu &&
+        static_cast<QContextMenuEvent*>(event)->reason() == QContextMenuEvent::Keyboard &&
+        currentIndex().isValid()) {
+        event->accept();
+        Q_EMIT customContextMenuRequested(visualRect(currentIndex()).center());
+        return true;
+    }
+    return QTableView::event(event);
+}
+
 void HTableView::initViewItemOption(QStyleOptionViewItem* option) const
 {
     QTableView::initViewItemOption(option);
@@ -36,6 +51,8 @@ int HTableView::frameOnlyAroundContentsPixels() const
 
 QSize HTableView::sizeHint() const
 {
+    // Some styles tell the frame's width only then.
+    ensurePolished();
     if (minimumRows != maximumRows) {
         minimumRows = std::min(std::max(rowsForHint(), minimumRows), maximumRows);
         maximumRows = minimumRows;

@@ -44,6 +44,8 @@ public:
     [[nodiscard]] QList<QModelIndex> selectedRows() const;
 
 protected:
+    /// The menu key asks for the menu of the current cell.
+    bool event(QEvent* event) override;
     void initViewItemOption(QStyleOptionViewItem* option) const override;
 
     /// Pixels that the widest cell of the column needs, without a grid line. Asks the model for every row; a

@@ -282,8 +282,7 @@ private Q_SLOTS:
             "1.0",
             "noarch",
             QString::fromUtf8("gr\xc3\xbc\xc3\x9f"),
-            QString(1, QChar(0xd83d)),
-            QString(1, QChar(0xde00)),
+            QStringLiteral("\U0001F600"),
             QString(40, 'x')};
         auto const word = [&] { return words[random.bounded(int(words.size()))]; };
         int const rows = 10000;

@@ -19,7 +19,12 @@ import fake_host  # noqa: E402
 from catalogue import Catalogue  # noqa: E402
 from program import Program  # noqa: E402
 from rpmestate import Estate  # noqa: E402
+from users import use_reachable_folder  # noqa: E402
 from web import Web  # noqa: E402
+
+
+def pytest_configure() -> None:
+    use_reachable_folder()
 
 
 @pytest.fixture(scope="session")

@@ -3,7 +3,10 @@
 
 from __future__ import annotations
 
+import atexit
 import os
+import shutil
+import tempfile
 from pathlib import Path
 
 NOBODY = 65534
@@ -16,3 +19,16 @@ def other_users_exist() -> bool:
         return os.geteuid() == 0 and Path("/proc/self/uid_map").read_text().split()[2] != "1"
     except OSError:
         return False
+
+
+def use_reachable_folder() -> None:
+    """Lets pytest make its folders in one that is this run's alone, and that other users may enter.
+
+    The usual one is shared by all runs of a user, and each closes it to others when it starts, whatever tests of
+    another run have other users do there.
+    """
+    folder = tempfile.mkdtemp(prefix="vem-tests-")
+    os.chmod(folder, 0o755)
+    os.environ["PYTEST_DEBUG_TEMPROOT"] = folder
+    # Behind what pytest itself does there when it ends.
+    atexit.register(shutil.rmtree, folder, ignore_errors=True)

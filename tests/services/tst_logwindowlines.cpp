@@ -239,7 +239,8 @@ void TestLogWindowLines::everyCharacterReadsAsInMarkUp()
     }
     QList<Log::Entry> all{{Log::Info, 0, QStringLiteral("first")}, {Log::Info, 0, QStringLiteral("second")}};
     for (char32_t unit = 0; unit < 0x10000; unit += unit < 0x3000 || unit >= 0xF000 ? 1 : 0x41) {
-        if (unit != U'\n') {
+        // Half a pair is no character, and none comes out of a text that was decoded.
+        if (unit != U'\n' && !QChar::isSurrogate(unit)) {
             all.append({Log::Info, 0, u'a' + QString(QChar(static_cast<char16_t>(unit))) + u'b'});
         }
     }

@@ -13,9 +13,14 @@ import pytest
 
 sys.path.append(str(Path(__file__).resolve().parent.parent / "python"))
 
-from users import other_users_exist  # noqa: E402
+from users import other_users_exist, use_reachable_folder  # noqa: E402
 
 SHARE = Path(__file__).resolve().parent.parent.parent / "share"
+
+
+def pytest_configure() -> None:
+    use_reachable_folder()
+
 
 # Notes arguments, user and environment; ends with the status that it was made for.
 OPENER = """#!/usr/bin/python3
