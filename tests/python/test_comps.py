@@ -67,10 +67,16 @@ def test_only_false_hides_a_group(words: str, visible: bool) -> None:
 
 def test_order_is_what_the_files_say_and_without_a_word_last() -> None:
     texts = [group("none"), group("late", "<display_order>20</display_order>"),
+             group("huge", f"<display_order>{'9' * 5000}</display_order>"),
              group("odd", "<display_order>soon</display_order>"), group("early", "<display_order> 3 </display_order>")]
     groups = read("".join(texts))
-    assert [one.id for one in groups] == ["early", "late", "none", "odd"]
+    assert [one.id for one in groups] == ["early", "late", "none", "huge", "odd"]
     assert groups[-1].order == sys.maxsize
+
+
+def test_what_is_for_another_architecture_is_shown_as_the_command_line_shows_it() -> None:
+    foreign = '<group arch="s390x"><id>far</id></group>' + group(members='<packagereq arch="s390x">far</packagereq>')
+    assert [(one.id, pairs(one)) for one in read(foreign)] == [("far", []), ("g", [("far", "mandatory")])]
 
 
 def test_kinds_and_conditions() -> None:
@@ -98,6 +104,7 @@ def test_declaration_mark_and_other_encodings() -> None:
 @pytest.mark.parametrize(
     "content",
     [b"", b"<comps><group>", b"<comps><group><id>x</grup></comps>", b"<comps>\xff</comps>", b"\0\0\0", b"(\xb5/\xfd",
+     b"<html><body/></html>",
      b'<?xml version="1.0" encoding="nonsense"?><comps/>', b'<?xml version="1.0" encoding="utf-7"?><comps/>'],
 )
 def test_what_is_no_group_file_is_told_and_leaves_the_others_as_they_are(content: bytes) -> None:

@@ -4,6 +4,7 @@
 from __future__ import annotations
 
 import os
+import subprocess
 import sys
 from pathlib import Path
 
@@ -124,7 +125,10 @@ def test_place_in_the_callers_home_is_none_for_another_root(
 
 
 def test_running_system_has_the_place_that_rpm_says() -> None:
-    assert database.database_directory("/") == rpm.expandMacro("%{_dbpath}")
+    # Without what other tests have told this process.
+    rpm.reloadConfig()
+    said = subprocess.run(["rpm", "--eval", "%{_dbpath}"], check=True, capture_output=True, text=True).stdout
+    assert database.database_directory("/") == said.strip()
 
 
 def test_rpm_that_fails_is_told(root: Path, tmp_path: Path, monkeypatch: pytest.MonkeyPatch) -> None:

@@ -14,6 +14,7 @@ from pathlib import Path
 from typing import Callable, Dict, Iterator
 
 import pytest
+from fake_host import FakeHost
 from program import Program
 from rpmestate import Estate, spec
 
@@ -133,6 +134,26 @@ def recompress(repodata: Path, ending: str) -> None:
         entries.append(entry)
     head, _, tail = re.split(r"(<data.*</data>)", repomd.read_text(), flags=re.DOTALL)
     repomd.write_text(head + "\n".join(entries) + tail)
+
+
+def test_metadata_whose_reader_is_missing_cost_no_more_than_they_tell(
+    estate: Estate, program: Program, host: FakeHost, monkeypatch: pytest.MonkeyPatch
+) -> None:
+    from vemyum import details
+
+    def absent(path: str) -> None:
+        raise FileNotFoundError(2, "No such file or directory", "unzck")
+
+    estate.repository("base", estate.build([spec("shed", "1.0")]))
+    found = program.collect()
+    monkeypatch.setattr(details, "chunks", absent)
+    monkeypatch.setattr(details, "Records", absent)
+    shed = found.offered("shed")
+    for _ in range(2):
+        assert not shed.returnSimple("buildhost")
+    assert found.yumio.collectOtherData() and shed.returnChangelog() == []
+    sentence = "The metadata of base cannot be read: [Errno 2] No such file or directory: 'unzck'"
+    assert (host.text("log").count(sentence), host.text("errorlog").count(sentence)) == (1, 1)
 
 
 @pytest.mark.parametrize("ending", [ending for ending in WRITERS if ending != "xml.zck"])

@@ -59,6 +59,7 @@ public:
 
 int heightOfRows(HTableView const& view, int rows)
 {
+    view.ensurePolished();
     return view.frameWidth() + view.horizontalHeader()->sizeHint().height() +
            view.verticalHeader()->defaultSectionSize() * rows + view.frameWidth();
 }

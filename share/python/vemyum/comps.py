@@ -7,7 +7,7 @@ is what that library makes of them where it works.
 
 The form: <comps> holds <group> with <id>, <name> and <description> (again with xml:lang for translations),
 <uservisible>, <display_order> and <packagelist> of <packagereq type="mandatory|default|optional|conditional"
-requires="PACKAGE">NAME</packagereq>.
+requires="PACKAGE">NAME</packagereq>. An attribute `arch` counts for nothing, as on dnf's command line.
 """
 
 from __future__ import annotations
@@ -20,10 +20,11 @@ from typing import Dict, Iterable, List, Optional
 from xml.etree import ElementTree
 
 from .text import valid
+from .texts import _
 
 MANDATORY, DEFAULT, OPTIONAL, CONDITIONAL = "mandatory", "default", "optional", "conditional"
 _LANGUAGE = "{http://www.w3.org/XML/1998/namespace}lang"
-_WHOLE = re.compile(r"[+-]?[0-9]+")
+_WHOLE = re.compile(r"[+-]?[0-9]{1,9}")
 
 
 class CompsError(ValueError):
@@ -90,10 +91,13 @@ def _parsed(content: Iterable[bytes]) -> List[ElementTree.Element]:
     try:
         for piece in content:
             parser.feed(piece)
-        return parser.close().findall("group")
+        root = parser.close()
     except (ElementTree.ParseError, LookupError, ValueError) as error:
         # The latter two are Python's words for an encoding that it doesn't know.
         raise CompsError(str(error)) from error
+    if root.tag != "comps":
+        raise CompsError(_("it holds {element}, not comps").format(element=f"<{root.tag}>"))
+    return root.findall("group")
 
 
 def _joined(old: List[Member], new: List[Member]) -> List[Member]:

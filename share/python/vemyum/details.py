@@ -68,8 +68,12 @@ class PackageDetails:
 
     def _read_changelogs(self, repo: dnf.repo.Repo) -> None:
         path = repo.get_metadata_path("other")
-        if path:
-            self._changelogs[repo.id] = Records(path)
+        try:
+            if path:
+                self._changelogs[repo.id] = Records(path)
+        except FileNotFoundError as error:
+            # Also of a program that reads it. The other repositories' are none the worse for it.
+            host.errorlog(host.LEVEL_NOTICE, _unreadable(repo.id, error))
 
     def files(self, package: dnf.package.Package) -> Optional[List[str]]:
         """The names of a package's files, without directories; None where only the sack knows them."""
@@ -89,10 +93,19 @@ class PackageDetails:
         hosts = self._hosts.get(repository)
         if hosts is None:
             file = self.metadata_file(repository)
-            hosts = dict(_build_hosts(file)) if file else {}
+            hosts = self._hosts_of(repository, file) if file else {}
             self._hosts[repository] = hosts
         _, checksum = package.returnIdSum()
         return hosts.get(checksum)
+
+    @staticmethod
+    def _hosts_of(repository: str, file: str) -> Dict[str, str]:
+        """None where the file cannot be read: one question about a package is not what that should be told by."""
+        try:
+            return dict(_build_hosts(file))
+        except OSError as error:
+            host.log(host.LEVEL_NOTICE, _unreadable(repository, error))
+            return {}
 
     def metadata_file(self, repository: str) -> Optional[str]:
         """The file of the repository's package metadata, None for one that is not loaded."""
@@ -116,6 +129,10 @@ def _record(records: Dict[str, Records], package: dnf.package.Package) -> Option
 def _close_all(records: Dict[str, Records]) -> None:
     while records:
         records.popitem()[1].close()
+
+
+def _unreadable(repository: str, error: OSError) -> str:
+    return _("The metadata of {repository} cannot be read: {error}").format(repository=repository, error=error)
 
 
 def _build_hosts(file: str) -> Iterator[Tuple[str, str]]:
