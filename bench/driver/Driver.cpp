@@ -33,6 +33,25 @@
 namespace
 {
 
+/// A function of the interpreter that the program under test has loaded.
+template <typename Function>
+Function* interpreters(char const* name)
+{
+    return reinterpret_cast<Function*>(dlsym(RTLD_DEFAULT, name));
+}
+
+/// sys.getallocatedblocks(): the function behind it has another name in each release.
+qint64 allocatedBlocks()
+{
+    int const state = interpreters<int()>("PyGILState_Ensure")();
+    void* const answer = interpreters<void*(void*)>("PyObject_CallNoArgs")(
+        interpreters<void*(char const*)>("PySys_GetObject")("getallocatedblocks"));
+    qint64 const blocks = interpreters<qint64(void*)>("PyLong_AsLongLong")(answer);
+    interpreters<void(void*)>("Py_DecRef")(answer);
+    interpreters<void(int)>("PyGILState_Release")(state);
+    return blocks;
+}
+
 double milliseconds(qint64 nanoseconds)
 {
     return static_cast<double>(nanoseconds) / 1e6;
@@ -103,10 +122,7 @@ void addMemory(QJsonObject& line)
     line.insert(
         QLatin1String("allocated"), static_cast<double>(allocated.uordblks + allocated.hblkhd) / 1024);
     // The interpreter has an allocator of its own, which tells how many blocks it has given away.
-    if (auto const blocks =
-            reinterpret_cast<std::ptrdiff_t (*)()>(dlsym(RTLD_DEFAULT, "_Py_GetAllocatedBlocks"))) {
-        line.insert(QLatin1String("blocks"), static_cast<qint64>(blocks()));
-    }
+    line.insert(QLatin1String("blocks"), static_cast<qint64>(allocatedBlocks()));
     QDir const descriptors(QStringLiteral("/proc/self/fd"));
     line.insert(
         QLatin1String("descriptors"),

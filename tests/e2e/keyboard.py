@@ -19,7 +19,10 @@ class Keyboard:
     def focused(self) -> Optional[Atspi.Accessible]:
         """The control that has the keyboard."""
         window = next((w for w in self.program.windows() if has_state(w, Atspi.StateType.ACTIVE)), None)
-        return next((node for node in walk(window) if has_state(node, Atspi.StateType.FOCUSED)), None)
+        nodes = [node for node in walk(window) if has_state(node, Atspi.StateType.FOCUSED)]
+        # Later releases of the toolkit tell it of each closed combo box's current item, too.
+        items = [node for node in nodes if node.get_role() == Atspi.Role.LIST_ITEM]
+        return next((node for node in nodes if node not in items), items[0] if items else None)
 
     def focused_name(self) -> str:
         node = self.focused()
