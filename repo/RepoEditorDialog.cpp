@@ -137,7 +137,8 @@ int Dialog::exec()
 void Dialog::setVisible(bool visible)
 {
     if (visible == isVisible()) {
-        // Some releases of the toolkit would show a window anew that is shown: its exec shows it a second time.
+        // Some releases of the toolkit would show a window anew that is shown: its exec shows it a second
+        // time.
         return;
     }
     if (visible) {

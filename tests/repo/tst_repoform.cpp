@@ -262,7 +262,8 @@ private Q_SLOTS:
         QString const elsewhere = QStringLiteral("File is not in any reposdir directory");
         QTest::newRow("none") << ""
                               << "";
-        QTest::newRow("main file") << "/etc/yum.conf" << "";
+        QTest::newRow("main file") << "/etc/yum.conf"
+                                   << "";
         QTest::newRow("good") << "/etc/yum.repos.d/x.repo"
                               << "";
         QTest::newRow("below") << "/etc/yum.repos.d/sub/x.repo"
