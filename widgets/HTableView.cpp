@@ -51,16 +51,17 @@ int HTableView::frameOnlyAroundContentsPixels() const
 
 QSize HTableView::sizeHint() const
 {
-    // Some styles tell the frame's width only then.
-    ensurePolished();
     if (minimumRows != maximumRows) {
         minimumRows = std::min(std::max(rowsForHint(), minimumRows), maximumRows);
         maximumRows = minimumRows;
     }
     int const last = model()->columnCount() - 1;
-    int const rowHeaderWidth = verticalHeader()->isHidden() ? 0 : verticalHeader()->sizeHint().width();
-    int const columnHeaderHeight =
-        horizontalHeader()->isHidden() ? 0 : horizontalHeader()->sizeHint().height();
+    // A header without sections may answer at first that it has no size at all, which is -1.
+    auto const shown = [](QHeaderView const* header) {
+        return header->isHidden() ? QSize(0, 0) : header->sizeHint().expandedTo(QSize(0, 0));
+    };
+    int const rowHeaderWidth = shown(verticalHeader()).width();
+    int const columnHeaderHeight = shown(horizontalHeader()).height();
     return {
         frameWidth() + rowHeaderWidth + columnViewportPosition(last) + columnWidth(last) +
             frameOnlyAroundContentsPixels() + verticalScrollBar()->sizeHint().width() + frameWidth(),
