@@ -131,8 +131,8 @@ def in_the_users_language(texts: Dict[str, str]) -> str:
 
 def _languages() -> Iterable[str]:
     """By what names a text in the user's language may go, the closest first."""
-    base, _, modifier = locale.setlocale(locale.LC_MESSAGES).partition("@")
-    base = base.partition(".")[0]
+    spelled, _at, modifier = locale.setlocale(locale.LC_MESSAGES).partition("@")
+    base = spelled.partition(".")[0]
     for name in dict.fromkeys((base, base.partition("_")[0])):
         if modifier:
             yield f"{name}@{modifier}"
