@@ -5,6 +5,7 @@
 
 #include "engine/YumIO.h"
 
+#include "base/Interrupt.h"
 #include "engine/TransactionWeight.h"
 #include "services/Progress.h"
 #include "services/ProgressUser.h"
@@ -27,6 +28,17 @@ constexpr unsigned long long downloadSteps = 24000;
 constexpr Steps testSteps = 2000;
 /// Preparing 100, getting ready 1000, the transaction 8000.
 constexpr Steps transactionSteps = 9100;
+
+/// However the helper script's apply ends, nothing works on the system behind it. Where it begins,
+/// `tsInitCallback` tells.
+class TransactionEnd final
+{
+    Q_DISABLE_COPY_MOVE(TransactionEnd)
+
+public:
+    TransactionEnd() = default;
+    ~TransactionEnd() { Interrupt::setTransactionRuns(false); }
+};
 
 } // namespace
 
@@ -56,6 +68,7 @@ bool YumIO::applyReal()
     progress->setupItemActs(solverSteps, run.totalPkgActs + run.nHdrs * actsPerHeader);
 
     {
+        TransactionEnd const transactionEnd;
         YumIOCapturersUser const capturersUser(capturers, this);
         PyObject* const baseError = pyLookup("yum.Errors.YumBaseError");
         pyExceptStart();

@@ -5,6 +5,7 @@
 
 #include "engine/YumIO.h"
 
+#include "base/Interrupt.h"
 #include "engine/BuffetUrl.h"
 #include "engine/TransactionWeight.h"
 #include "services/Progress.h"
@@ -110,6 +111,7 @@ PyObject* YumIO::tsInitCallback(PyObject*, PyObject* args)
     if (!PyArg_ParseTuple(args, "l", &real)) {
         return nullptr;
     }
+    Interrupt::setTransactionRuns(true);
     if (!progress) {
         Py_RETURN_NONE;
     }

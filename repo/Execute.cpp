@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "repo/Execute.h"
 
+#include "base/StartingPoint.h"
+
 #include <QCoreApplication>
 #include <QMessageBox>
 
@@ -18,6 +20,7 @@ namespace
 /// program may run but what ends in `_exit`.
 [[noreturn]] void become(char* const* argv)
 {
+    StartingPoint::restoreInChild();
     execv(argv[0], argv);
     int const cause = errno;
     dprintf(
@@ -27,9 +30,10 @@ namespace
 }
 
 /// In the process between: starts the one that becomes the program, and by ending hands it to the system,
-/// which is going to reap it.
+/// which is going to reap it. The program's session has no terminal, so that Ctrl-C there is not for it.
 [[noreturn]] void startDetached(char* const* argv)
 {
+    setsid();
     pid_t const child = fork();
     if (child == 0)
         become(argv);

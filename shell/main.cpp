@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "base/Application.h"
+#include "base/Interrupt.h"
 #include "base/Share.h"
+#include "base/StartingPoint.h"
 #include "shell/CommandLine.h"
 #include "shell/DefaultStyle.h"
 #include "shell/MainWindow.h"
@@ -11,6 +13,8 @@
 
 int main(int argc, char** argv)
 {
+    StartingPoint::remember();
+    Interrupt::endAtOnce();
     DefaultStyle const defaultStyle(argc, argv);
     QApplication app(argc, argv);
     defaultStyle.set(app, QStringLiteral("plastique"));

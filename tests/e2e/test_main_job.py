@@ -2,6 +2,7 @@
 """The main job on real rpms: see every package, mark, apply; and what may go wrong on the way."""
 from __future__ import annotations
 
+import os
 import signal
 from pathlib import Path
 from typing import Callable
@@ -93,6 +94,23 @@ def test_marks_are_applied_in_one_transaction(site: Estate, start: Start) -> Non
         "fleet-bellows: blown by a shell",
     ):
         assert line in log
+
+
+def test_a_program_started_without_standard_descriptors_applies(site: Estate, tmp_path: Path) -> None:
+    # As a careless launcher does it. What is opened next, the connection to the display for one, must not be taken for
+    # the standard output.
+    arguments = ["-c", 'exec "$0" <&- >&- 2>&-', os.environ["VEM_PROGRAM"]]
+    share = Path(os.environ["VEMSHARE"])
+    with Program(Path("/bin/sh"), site.root, share, tmp_path / "vem.log", arguments) as program:
+        program.wait_ready()
+        descriptors = Path(f"/proc/{program.process.pid}/fd")
+        assert [os.readlink(descriptors / name) for name in "012"] == ["/dev/null"] * 3
+        program.press("Set Update of All Out-of-Date")
+        program.press("Apply Actions")
+        program.press("OK", program.window("Apply"))
+        program.wait_closed("Apply")
+        program.wait_ready()
+        assert "fleet-lamp-1.1-1.noarch" in site.installed()
 
 
 def test_a_cancelled_apply_changes_nothing_and_keeps_the_marks(site: Estate, start: Start) -> None:

@@ -9,6 +9,7 @@
 
 #include <array>
 #include <cerrno>
+#include <csignal>
 
 #include <dlfcn.h>
 #include <sys/wait.h>
@@ -89,6 +90,7 @@ private Q_SLOTS:
 
     void programGetsItsArgumentsAsTheyAre();
     void nobodyWaitsForTheProgram();
+    void programInheritsNothingButTheStandardDescriptors();
     void programIsNotSearchedFor();
     void missingProgramIsToldOnStandardErrorOnly();
     void failingForkIsToldInABox();
@@ -126,6 +128,49 @@ void TestExecute::nobodyWaitsForTheProgram()
     QFile end(launches.path(QStringLiteral("end")));
     QVERIFY(end.open(QIODevice::WriteOnly));
     EVENTUALLY_VERIFY(QFile::exists(launches.path(QStringLiteral("ended"))));
+}
+
+// As it is while a job runs, which blocks a signal and holds files open that others would wait for.
+void TestExecute::programInheritsNothingButTheStandardDescriptors()
+{
+    Launches const launches;
+    QString const told = launches.path(QStringLiteral("told"));
+    QByteArray const output = QFile::encodeName(told);
+    sigset_t blocked;
+    sigset_t before;
+    sigemptyset(&blocked);
+    sigaddset(&blocked, SIGCHLD);
+    ::pthread_sigmask(SIG_BLOCK, &blocked, &before);
+    auto* const pipeAction = std::signal(SIGPIPE, SIG_IGN);
+    auto* const sizeAction = std::signal(SIGXFSZ, SIG_IGN);
+    int const inheritable = ::dup(STDERR_FILENO);
+    execute(
+        nullptr,
+        {"/bin/sh", "-c",
+         "{ echo $$; echo $(cut -d' ' -f6 /proc/$$/stat)\n"
+         "  grep -E '^Sig(Blk|Ign)' /proc/self/status\n"
+         "  for at in /proc/$$/fd/*; do [ -e $at ] && echo ${at##*/}; done } >\"$1\".new; mv \"$1\".new "
+         "\"$1\"",
+         "sh", output});
+    ::close(inheritable);
+    std::signal(SIGPIPE, pipeAction);
+    std::signal(SIGXFSZ, sizeAction);
+    ::pthread_sigmask(SIG_SETMASK, &before, nullptr);
+
+    EVENTUALLY_VERIFY(QFile::exists(told));
+    QFile file(told);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QByteArrayList lines = file.readAll().trimmed().split('\n');
+    QVERIFY(lines.size() > 4);
+    QByteArray const process = lines.takeFirst();
+    QByteArray const session = lines.takeFirst();
+    QVERIFY(session.toLongLong() != ::getsid(0));
+    QVERIFY2(session != process, "who leads a session may get a terminal");
+    QCOMPARE(lines.takeFirst(), QByteArray("SigBlk:\t0000000000000000"));
+    QCOMPARE(lines.takeFirst(), QByteArray("SigIgn:\t0000000000000000"));
+    // Where the shell saves its own output lies above 9.
+    lines.removeIf([](QByteArray const& line) { return line.toInt() > 9; });
+    QCOMPARE(lines, QByteArrayList({"0", "1", "2"}));
 }
 
 void TestExecute::programIsNotSearchedFor()

@@ -29,8 +29,6 @@ private Q_SLOTS:
         qputenv("VEMSHARE", QFile::encodeName(launches.path(QString())));
     }
 
-    void cleanupTestCase() { delete window; }
-
     void init() { launches.forget(); }
 
     void manualOpensInTheBrowser()
@@ -70,6 +68,19 @@ private Q_SLOTS:
         qputenv("VEMSHARE", share);
         QCOMPARE(launches.started(), QByteArrayList());
         QVERIFY(window->isVisible() && window->isEnabled());
+    }
+
+    void browserOutlivesTheProgramsWindow()
+    {
+        launches.add(QStringLiteral("webbrowser"), "while [ ! -e end ]; do sleep 0.05; done\n: > ended");
+        action(QStringLiteral("Manual (html)"))->trigger();
+        EVENTUALLY_VERIFY(!launches.started().isEmpty());
+        window->quit();
+        QVERIFY(!window->isVisible());
+        delete window;
+        QVERIFY(!QFile::exists(launches.path(QStringLiteral("ended"))));
+        QVERIFY(QFile(launches.path(QStringLiteral("end"))).open(QIODevice::WriteOnly));
+        EVENTUALLY_VERIFY(QFile::exists(launches.path(QStringLiteral("ended"))));
     }
 
 private:
