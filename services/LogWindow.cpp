@@ -82,7 +82,8 @@ Window::Window(EntryList& log, QWidget* owner)
 
     auto* const close = new QPushButton(tr("&Close"), this);
     close->setToolTip(tr("Close the Log Window"));
-    connect(close, &QPushButton::clicked, this, &Window::hide);
+    // The toolkit ends the program with the last window that is closed, but not with one that is hidden.
+    connect(close, &QPushButton::clicked, this, &Window::close);
 
     auto* const rows = new QVBoxLayout(this);
     auto* const lower = new QHBoxLayout;
@@ -231,7 +232,7 @@ void Window::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Escape) {
         event->accept();
-        hide();
+        close();
     } else {
         QWidget::keyPressEvent(event);
     }

@@ -179,9 +179,9 @@ void MainWindow::yumConfIOChanged()
 
 void MainWindow::quit()
 {
-    // The application ends with its last visible window.
-    if (logWindow && logWindow->isVisible()) {
-        logWindow->hide();
+    // The application ends with its last window, which the log is when this one has been closed already.
+    if (logWindow) {
+        logWindow->close();
     }
     close();
     // The table reads the engine's rows, so it goes first.
