@@ -232,12 +232,29 @@ void View::currentChanged(QModelIndex const& current, QModelIndex const& previou
     }
 }
 
+// The toolkit makes the first row the current one as soon as a table without one gets the keyboard. Behind a
+// rebuild that happens by itself, and the row that a key then acts on would be one that nobody has chosen.
+// Who comes by Tab has asked for a place in the table.
+void View::focusInEvent(QFocusEvent* event)
+{
+    bool const byTab = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    if (currentIndex().isValid() || byTab) {
+        HTableView::focusInEvent(event);
+    } else {
+        QAbstractScrollArea::focusInEvent(event);
+        viewport()->update();
+    }
+}
+
 // The marks are pictures that the toolkit knows no key for.
 void View::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Space && event->modifiers() == Qt::NoModifier &&
         currentIndex().column() == ActionColumn) {
-        handleActivated(currentIndex());
+        // A key that is held down marks once.
+        if (!event->isAutoRepeat()) {
+            handleActivated(currentIndex());
+        }
     } else {
         HTableView::keyPressEvent(event);
     }

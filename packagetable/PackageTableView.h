@@ -67,6 +67,7 @@ public Q_SLOTS:
 protected:
     void changeEvent(QEvent* event) override;
     void currentChanged(QModelIndex const& current, QModelIndex const& previous) override;
+    void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     [[nodiscard]] int widestCell(ColumnWidth const& width, int column) const override;
     [[nodiscard]] int rowsForHint() const override;

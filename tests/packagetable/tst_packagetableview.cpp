@@ -187,6 +187,44 @@ private Q_SLOTS:
         QCOMPARE(stateChanges.count(), 3);
     }
 
+    void spaceBarHeldDownMarksOnce()
+    {
+        QSignalSpy const stateChanges(view, &View::stateChanged);
+        view->setCurrentIndex(cell(0, 0));
+        QTest::keyPress(view, Qt::Key_Space);
+        QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, QStringLiteral(" "), true);
+        QCoreApplication::sendEvent(view, &repeated);
+        QTest::keyRelease(view, Qt::Key_Space);
+        QCOMPARE(action(0), Package::Update);
+        QCOMPARE(stateChanges.count(), 1);
+    }
+
+    void onlyTabMakesARowCurrentInATableWithoutOne_data()
+    {
+        QTest::addColumn<Qt::FocusReason>("reason");
+        QTest::addColumn<int>("row");
+        QTest::newRow("Tab") << Qt::TabFocusReason << 0;
+        QTest::newRow("Shift+Tab") << Qt::BacktabFocusReason << 0;
+        QTest::newRow("by the program") << Qt::OtherFocusReason << -1;
+        QTest::newRow("closed menu") << Qt::PopupFocusReason << -1;
+        QTest::newRow("menu bar") << Qt::MenuBarFocusReason << -1;
+        QTest::newRow("window") << Qt::ActiveWindowFocusReason << -1;
+    }
+
+    void onlyTabMakesARowCurrentInATableWithoutOne()
+    {
+        QFETCH(Qt::FocusReason, reason);
+        QSignalSpy const moves(view, qOverload<int, int>(&View::currentChanged));
+        model->reset();
+        QFocusEvent event(QEvent::FocusIn, reason);
+        QCoreApplication::sendEvent(view, &event);
+        QTEST(view->currentIndex().row(), "row");
+        QCOMPARE(moves.isEmpty(), !view->currentIndex().isValid());
+        // The arrows still find into the table.
+        QTest::keyClick(view, Qt::Key_Down);
+        QVERIFY(view->currentIndex().isValid());
+    }
+
     void tabLeavesTheTable()
     {
         auto* const field = new QLineEdit(window.get());

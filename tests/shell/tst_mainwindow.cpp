@@ -13,6 +13,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QSpinBox>
+#include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextEdit>
@@ -30,6 +31,30 @@ QWidget* logWindow()
     }
     return nullptr;
 }
+
+class EventCount final : public QObject
+{
+    Q_DISABLE_COPY_MOVE(EventCount)
+
+public:
+    EventCount(QWidget* watched, QEvent::Type counted)
+        : type(counted)
+    {
+        watched->installEventFilter(this);
+    }
+
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        count += event->type() == type;
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    QEvent::Type const type;
+};
 
 } // namespace
 
@@ -262,6 +287,42 @@ private Q_SLOTS:
         QTest::mouseClick(button(QStringLiteral("Clear Actions")), Qt::LeftButton);
     }
 
+    void resizeButtonFitsTheColumns()
+    {
+        auto const* const view = qobject_cast<QTableView*>(table());
+        window->resize();
+        int const fitting = view->columnWidth(3);
+        qobject_cast<QTableView*>(table())->setColumnWidth(3, 10);
+        QTest::mouseClick(button(QStringLiteral("Resize")), Qt::LeftButton);
+        QCOMPARE(view->columnWidth(3), fitting);
+    }
+
+    // Rows are drawn from what was read once, not from the objects that a job may be using.
+    void windowIsPaintedWhileAJobHoldsTheInterpreter()
+    {
+        QTemporaryDir const directory;
+        QString const begun = directory.filePath(QStringLiteral("begun"));
+        QString const done = directory.filePath(QStringLiteral("done"));
+        script(QStringLiteral("import ctypes\n"
+                              "def holding(*lists):\n"
+                              "    open('%1', 'w').close()\n"
+                              "    ctypes.PyDLL(None).usleep(500000)\n"
+                              "    open('%2', 'w').close()\n"
+                              "standin.instead('apply', holding)")
+                   .arg(begun, done));
+        int painted = 0;
+        QTimer painter;
+        connect(&painter, &QTimer::timeout, this, [&] {
+            bool const holding = QFile::exists(begun) && !QFile::exists(done);
+            table()->viewport()->repaint();
+            painted += holding && !QFile::exists(done);
+        });
+        painter.start(5);
+        window->apply();
+        QVERIFY(QFile::exists(done));
+        QVERIFY2(painted > 2, QByteArray::number(painted).constData());
+    }
+
     void describeButtonFollowsTheCurrentRowAndSurvivesARefresh()
     {
         table()->setCurrentIndex(table()->model()->index(0, 3));
@@ -272,6 +333,36 @@ private Q_SLOTS:
         QVERIFY(!table()->currentIndex().isValid());
         QTest::mouseClick(describe, Qt::LeftButton);
         QCOMPARE(QApplication::activeModalWidget(), nullptr);
+    }
+
+    void noRowIsCurrentBehindARebuildAskedForByKeyboard_data()
+    {
+        QTest::addColumn<bool>("byMenu");
+        QTest::newRow("Refresh") << false;
+        QTest::newRow("Cache menu") << true;
+    }
+
+    void noRowIsCurrentBehindARebuildAskedForByKeyboard()
+    {
+        QFETCH(bool, byMenu);
+        window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(window));
+        table()->setFocus();
+        table()->setCurrentIndex(table()->model()->index(1, 0));
+        if (byMenu) {
+            action(QStringLiteral("Clean Headers"))->trigger();
+        } else {
+            // A button that is pressed by its key comes up again a moment later.
+            QTest::keyClick(window, Qt::Key_F, Qt::AltModifier);
+        }
+        EVENTUALLY_VERIFY(calls().contains(QStringLiteral("collectAll")) && table()->isEnabled());
+        QVERIFY(table()->hasFocus());
+        QVERIFY(!table()->currentIndex().isValid());
+        QTest::keyClick(table(), Qt::Key_Space);
+        QVERIFY(!names().isEmpty());
+        for (QString const& name : names()) {
+            QCOMPARE(tipOfAction(name), QString());
+        }
     }
 
     void refreshRebuildsAndKeepsFilterAndSort()
@@ -376,9 +467,15 @@ private Q_SLOTS:
         QVERIFY(during.contains(QLatin1String("halfway")) && !during.contains(QLatin1String("all the way")));
         QVERIFY(logWindow()->findChild<QTextEdit*>()->toPlainText().contains(QLatin1String("all the way")));
 
-        // A second time changes nothing: same window, same text.
+        // A second time changes nothing: same window, same text, in the same place of the pile.
         QString const before = logWindow()->findChild<QTextEdit*>()->toPlainText();
+        window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(window));
+        EventCount const raised(logWindow(), QEvent::ZOrderChange);
         action(QStringLiteral("Log"))->trigger();
+        QCoreApplication::processEvents();
+        QCOMPARE(raised.count, 0);
+        QVERIFY(window->isActiveWindow());
         QCOMPARE(logWindow()->findChild<QTextEdit*>()->toPlainText(), before);
         QVERIFY(logWindow()->isVisible());
 
