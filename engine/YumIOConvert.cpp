@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <charconv>
 #include <cstdlib>
 #include <ctime>
 #include <limits>
@@ -263,7 +264,11 @@ QString YumIO::bytesFormat(unsigned long long bytes)
         }
     }
     bool const oneDecimal = value > 0.0 && value < 9.95;
-    return QString::number(value, 'f', oneDecimal ? 1 : 0) + tr(name);
+    // As printf rounds in the C locale, halves to the even digit; QString rounds them up.
+    std::array<char, 32> digits{};
+    char const* const end =
+        std::to_chars(digits.begin(), digits.end(), value, std::chars_format::fixed, oneDecimal ? 1 : 0).ptr;
+    return QString::fromLatin1(digits.data(), end - digits.data()) + tr(name);
 }
 
 QString YumIO::timeFormat(long long time)

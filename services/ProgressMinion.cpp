@@ -13,6 +13,14 @@ int cut(Steps steps)
     return static_cast<int>(static_cast<unsigned>(steps));
 }
 
+/// Begins a range anew: a maximum that is cut to a negative number takes the bar's minimum along, which stays
+/// there for the ranges that follow.
+void setMaximum(HProgressBar* bar, Steps max)
+{
+    bar->setMinimum(0);
+    bar->setMaximum(cut(max));
+}
+
 /// A bar paints itself at once for each new value, and again for each other change, which takes longer
 /// than a quick job's steps. While one of these stands, it doesn't: it paints all changes in one go when
 /// the GUI thread has served what is waiting.
@@ -51,7 +59,7 @@ void ProgressMinion::startTotal(QString const& name, Steps max)
 {
     PaintLater const paintLater(totalBar, itemBar);
     totalBar->setActivity(name);
-    totalBar->setMaximum(cut(max));
+    setMaximum(totalBar, max);
     totalBar->setValue(0);
     totalBar->setEnabled(true);
     itemBar->reset();
@@ -63,7 +71,7 @@ void ProgressMinion::startItem(QString const& name, Steps total, Steps max)
     PaintLater const paintLater(totalBar, itemBar);
     totalBar->setValue(cut(total));
     itemBar->setActivity(name);
-    itemBar->setMaximum(cut(max));
+    setMaximum(itemBar, max);
     itemBar->setValue(0);
     itemBar->setEnabled(true);
 }

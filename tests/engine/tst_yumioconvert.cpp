@@ -63,8 +63,12 @@ void TestYumIOConvert::sizesForPeople_data()
     row(10, "10b");
     row(999, "999b");
     row(1000, "1.0Kb");
+    row(1280, "1.2Kb");  // 1.25: halves go to the even digit
+    row(1920, "1.9Kb");  // 1.875
     row(10179, "9.9Kb"); // 9.94
     row(10189, "10Kb");  // 9.95
+    row(10752, "10Kb");  // 10.5
+    row(11776, "12Kb");  // 11.5
     row(1023999, "1000Kb");
     row(1024000, "1.0Mb");
     row(1048575999, "1000Mb");

@@ -77,6 +77,7 @@ private Q_SLOTS:
     void endOfActsStandsAtTheEndOfTheStretch();
 
     void minionCutsStepsTo32Bits();
+    void rangeBeginsAtZeroBehindOneThatWasCutBelowIt();
     void everyOtherSlotMovesTheTotalBar();
     void jobThatEndsEarlyEmptiesTheBars();
     void guiThreadStaysPainted();
@@ -383,6 +384,21 @@ void TestProgress::minionCutsStepsTo32Bits()
     QCOMPARE(itemBar->maximum(), 10);
     minion.setItemValue(0, (Steps(5) << 32) + 4);
     QCOMPARE(itemBar->value(), 4);
+}
+
+void TestProgress::rangeBeginsAtZeroBehindOneThatWasCutBelowIt()
+{
+    ProgressMinion minion(totalBar.get(), itemBar.get());
+    minion.startTotal(QStringLiteral("Huge"), Steps(3) << 30);
+    minion.startItem(QStringLiteral("Huge"), 0, Steps(3) << 30);
+    minion.startTotal(QStringLiteral("Usual"), 100);
+    minion.startItem(QStringLiteral("Usual"), 0, 1000);
+    for (HProgressBar const* const bar : {totalBar.get(), itemBar.get()}) {
+        QCOMPARE(bar->minimum(), 0);
+        QCOMPARE(bar->value(), 0);
+    }
+    QCOMPARE(totalBar->maximum(), 100);
+    QCOMPARE(itemBar->maximum(), 1000);
 }
 
 void TestProgress::everyOtherSlotMovesTheTotalBar()
