@@ -24,6 +24,7 @@ private Q_SLOTS:
     void questionMayBeAskedAgain();
 
     void expectedErrorIsShownWithItsLines();
+    void barsStandWhileAFailureIsTold();
     void brokenPipeIsToldAsSuch_data();
     void brokenPipeIsToldAsSuch();
     void otherExceptionsEndWellForTheEngine_data();
@@ -247,6 +248,23 @@ void TestYumIOApply::expectedErrorIsShownWithItsLines()
     QCOMPARE(engine->count(), 12);
     QVERIFY(!engine->progress);
     QVERIFY(!engine->capturers);
+}
+
+// How far it came is a part of the answer to what went wrong.
+void TestYumIOApply::barsStandWhileAFailureIsTold()
+{
+    package("elm")->action = Package::Install;
+    applyDoes("yumIOC.dsTsCheck()\nraise yum.Errors.YumBaseError('no way')");
+    QString total;
+    bool enabled = false;
+    boxes->whileShown([&] {
+        total = totalBar->text();
+        enabled = totalBar->isEnabled();
+    });
+    QVERIFY(!engine->apply());
+    QCOMPARE(boxes->take().size(), 1);
+    QVERIFY2(total.startsWith(QLatin1String("Checking Dependencies: Total Progress")), qUtf8Printable(total));
+    QVERIFY(enabled);
 }
 
 void TestYumIOApply::brokenPipeIsToldAsSuch_data()

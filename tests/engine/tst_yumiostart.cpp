@@ -7,6 +7,8 @@
 #include <QTimer>
 #include <csignal>
 
+#include <unistd.h>
+
 class TestYumIOStart final : public LifecycleTest
 {
     Q_OBJECT
@@ -101,8 +103,20 @@ void TestYumIOStart::missingScript()
 void TestYumIOStart::scriptWithASyntaxError()
 {
     writeText("class YumIO(:\n");
-    QVERIFY(!engine->initialize());
+    // The script is what leads errors into the log; before it runs, they go to the terminal.
+    QFile terminal(directory.filePath("terminal"));
+    QVERIFY(terminal.open(QIODevice::ReadWrite | QIODevice::Truncate));
+    int const saved = ::dup(STDERR_FILENO);
+    ::dup2(terminal.handle(), STDERR_FILENO);
+    bool const started = engine->initialize();
+    ::dup2(saved, STDERR_FILENO);
+    ::close(saved);
+    QVERIFY(!started);
     QCOMPARE(boxes->takeTexts(), QStringList{"Internal error: unable to execute YumIO.py"});
+    QVERIFY(terminal.seek(0));
+    QByteArray const traceback = terminal.readAll();
+    QVERIFY2(traceback.contains("line 1\n    class YumIO(:"), traceback.constData());
+    QVERIFY2(traceback.contains("SyntaxError: "), traceback.constData());
 }
 
 void TestYumIOStart::scriptThatRaises()
