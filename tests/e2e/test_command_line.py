@@ -68,3 +68,10 @@ def test_mistakes_are_followed_by_the_usage_text() -> None:
         answer = run(mistake)
         assert answer.returncode == 1
         assert USAGE in answer.stdout + answer.stderr
+
+
+def test_options_of_the_toolkit_are_not_the_programs() -> None:
+    for style in (["-style", "windows"], ["-style=fusion"]):
+        answer = run(*style, "-h")
+        assert (answer.returncode, answer.stdout, messages(answer)) == (1, USAGE, [])
+        assert messages(run("-h", *style)) == []
