@@ -190,7 +190,7 @@ class Book:
 
     @staticmethod
     def fix_size(program: Program) -> None:
-        """Gives the main window its size for all of its pictures."""
+        """Gives the main window its size for all of its pictures; the buttons of some toolkits want more width."""
         window = program.window("VEM - ")
         box = Area.of(window)
         answer = subprocess.run(
@@ -198,7 +198,7 @@ class Book:
         )
         width, height = MAIN_SIZE
         Program.xdotool("windowsize", answer.stdout.split()[-1], str(width), str(height))
-        wait_for(lambda: (Area.of(window).width, Area.of(window).height) == MAIN_SIZE, f"the size, not {box}", 10)
+        wait_for(lambda: Area.of(window).height == height, f"the size, not {box}", 10)
 
     # The walk on the sample estate.
 
