@@ -289,6 +289,26 @@ def test_collector_works_again_after_a_failed_collection(estate: Estate, program
     assert gc.isenabled()
 
 
+@pytest.mark.parametrize("method, query", [("collectUpdates", "updates"), ("collectAll", "everything")])
+def test_collector_works_again_after_a_failed_list(
+    lamp: Tuple[Estate, Program], monkeypatch: pytest.MonkeyPatch, method: str, query: str
+) -> None:
+    from vemyum.lists import Collector
+
+    def fail(_: Collector) -> None:
+        assert not gc.isenabled()
+        raise program.errors.YumBaseError("it broke")
+
+    program = lamp[1]
+    yumio = program.start()
+    yumio.setupRepos()
+    yumio.setupTs()
+    monkeypatch.setattr(Collector, query, fail)
+    with pytest.raises(program.errors.YumBaseError, match="it broke"):
+        getattr(yumio, method)()
+    assert gc.isenabled()
+
+
 def test_texts_beyond_ascii(estate: Estate, rpms: Catalogue, program: Program, host: FakeHost) -> None:
     estate.repository("base", rpms.some("moebel-1.0"))
     package = program.collect().offered("moebel")

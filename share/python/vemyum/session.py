@@ -27,6 +27,19 @@ from .texts import _
 _NOT_READ = _("The repositories are not read")
 
 
+class _nothing_is_garbage:
+    """Lets Python's garbage collector rest while tens of thousands of objects are made that all stay.
+
+    Not a generator, for the reason that `reported_as` has.
+    """
+
+    def __enter__(self) -> None:
+        gc.disable()
+
+    def __exit__(self, *_: Any) -> None:
+        gc.enable()
+
+
 class Session:
     """The configuration is read by the constructor, everything else by the methods.
 
@@ -78,28 +91,20 @@ class Session:
             raise RepoError(str(self._fault))
         if self._base is None or self._conf is None or self._collector is not None:
             raise RepoError(_("The repositories can be read once only"))
-        # Tens of thousands of objects are made from here on, and none of them is garbage.
-        gc.disable()
-        try:
-            for repo in self._base.repos.values():
-                (repo.enable if self.repositories.repos[repo.id].enabled else repo.disable)()
-            with reported_as(RepoError), light_packages():
-                self._base.load_everything()
-        except BaseException:
-            self.end_bulk()
-            raise
+        for repo in self._base.repos.values():
+            (repo.enable if self.repositories.repos[repo.id].enabled else repo.disable)()
+        with reported_as(RepoError), _nothing_is_garbage(), light_packages():
+            self._base.load_everything()
         self._details = PackageDetails(self._base)
         self._collector = Collector(self._base, self._details)
 
-    def end_bulk(self) -> None:
-        """Lets Python's garbage collector work again."""
-        gc.enable()
-
     def updates(self) -> Sequence[Any]:
-        return self.collector.updates()
+        with _nothing_is_garbage():
+            return self.collector.updates()
 
     def everything(self) -> PackageLists:
-        return self.collector.everything()
+        with _nothing_is_garbage():
+            return self.collector.everything()
 
     def read_groups(self) -> None:
         """GroupsError when there are none."""
@@ -107,7 +112,6 @@ class Session:
         self._comps = read_groups(self.base)
 
     def groups(self) -> List[Group]:
-        self.end_bulk()
         return groups_of(self._comps, self.collector.installed_names)
 
     # Extra data ------------------------------------------------------------------------------------------
@@ -154,7 +158,6 @@ class Session:
 
         Never raises: there is nobody left to tell. A second call does nothing.
         """
-        self.end_bulk()
         details, self._details = self._details, None
         base, self._base = self._base, None
         self._collector = None
