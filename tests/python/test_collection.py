@@ -327,7 +327,13 @@ def test_first_configuration_that_cannot_be_read_ends_the_program(
     Path(estate.root / "etc/yum.conf").write_text("[main\nbroken")
     with pytest.raises(SystemExit):
         program.namespace["YumIO"]()
-    assert "yum.conf" in host.text("errorlog")
+    check_misread(estate, host.text("errorlog"))
+
+
+def check_misread(estate: Estate, report: str) -> None:
+    """The fault is told once, and the path is the one that the configuration knows."""
+    assert report.count("yum.conf") == 1 and report.count("IniParser") == 1
+    assert "/etc/yum.conf" in report and str(estate.root) not in report
 
 
 def test_main_file_that_is_not_utf8_is_named_with_its_line(
@@ -339,7 +345,7 @@ def test_main_file_that_is_not_utf8_is_named_with_its_line(
     line = (estate.root / "etc/yum.conf").read_bytes().count(b"\n")
     with pytest.raises(SystemExit):
         program.namespace["YumIO"]()
-    assert f"/etc/yum.conf, line {line}: the text is not in UTF-8" in host.text("errorlog")
+    assert host.text("errorlog") == f"/etc/yum.conf, line {line}: the text is not in UTF-8"
 
 
 def test_variable_that_is_not_utf8_is_named(lamp: Tuple[Estate, Program], host: FakeHost) -> None:
@@ -366,9 +372,22 @@ def test_later_configuration_that_cannot_be_read_is_told_by_the_repositories(
     (estate.root / "etc/yum.conf").write_text("[main\nbroken")
     program.clear()
     yumio = program.start()
-    assert [repo.enabled for repo in yumio.repos.repos.values()] == [1]
-    with pytest.raises(program.errors.RepoError, match="yum.conf"):
+    assert [(repo.name, repo.enabled) for repo in yumio.repos.repos.values()] == [("/etc/yum.conf", 1)]
+    with pytest.raises(program.errors.RepoError) as caught:
         yumio.setupRepos()
+    check_misread(estate, str(caught.value))
+
+
+def test_configuration_that_breaks_before_an_apply_is_told_once(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
+) -> None:
+    estate.repository("base", rpms.some("lone-1.0"))
+    found = program.collect()
+    (estate.root / "etc/yum.conf").write_text("[main\nbroken")
+    with pytest.raises(program.errors.YumBaseError) as caught:
+        found.yumio.apply([found.offered("lone")], [], [])
+    check_misread(estate, str(caught.value))
+    assert not host.named("userconfirm")
 
 
 def test_broken_repository_file_is_passed_over_with_a_word(
@@ -377,4 +396,5 @@ def test_broken_repository_file_is_passed_over_with_a_word(
     estate, program = lamp
     (estate.root / "etc/yum.repos.d/bad.repo").write_text("[bad\nname=x")
     assert program.collect().merged() == {"lamp": "OutOfDate"}
-    assert "bad.repo" in host.text("log") + host.text("errorlog")
+    said = host.text("log") + host.text("errorlog")
+    assert "/etc/yum.repos.d/bad.repo" in said and f"{estate.root}/etc" not in said

@@ -77,7 +77,7 @@ def test_file_that_is_not_utf8_is_told_with_its_line(lamp: Tuple[Estate, Program
     file = append(estate, b"name=" + LATIN1 + b"\n")
     line = file.read_bytes().count(b"\n")
     program.start()
-    assert f"{file}, line {line}, is read as Latin-1" in host.text("log")
+    assert f"/etc/yum.repos.d/{file.name}, line {line}, is read as Latin-1" in host.text("log")
 
 
 def test_nothing_of_the_file_is_changed_or_left_elsewhere(

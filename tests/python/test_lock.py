@@ -13,6 +13,7 @@ from typing import Any, Iterator, List, Tuple
 
 import pytest
 from catalogue import Catalogue
+from fake_host import FakeHost
 from program import Program
 from rpmestate import Estate
 
@@ -88,6 +89,37 @@ def test_this_process_is_refused_and_may_try_again(lamp: Tuple[Estate, Program],
     other.end()
     yumio.lock()
     yumio.flush()
+
+
+def test_session_without_a_configuration_takes_no_lock(lamp: Tuple[Estate, Program], host: FakeHost) -> None:
+    """The engine takes a lock() that returns for a lock that holds."""
+    estate, program = lamp
+    other = Other()
+    with pytest.raises(program.errors.LockError, match=f"held by process {other.pid} "):
+        program.start()
+    main = estate.root / "etc/yum.conf"
+    readable = main.read_text()
+    main.write_text("no ini file")
+    host.reset()
+    yumio = program.namespace["YumIO"]()
+    with pytest.raises(program.errors.LockError, match="'/etc/yum.conf' failed"):
+        yumio.lock()
+    assert "'/etc/yum.conf' failed" in host.text("errorlog")
+    main.write_text(readable)
+    yumio = program.namespace["YumIO"]()
+    with pytest.raises(program.errors.LockError, match=f"held by process {other.pid} "):
+        yumio.lock()
+    other.end()
+    yumio.lock()
+    assert all(file.read_text() == str(os.getpid()) for file in lock_files(estate))
+
+
+def test_lock_that_is_held_outlives_a_configuration_that_cannot_be_read(lamp: Tuple[Estate, Program]) -> None:
+    estate, program = lamp
+    program.start()
+    (estate.root / "etc/yum.conf").write_text("no ini file")
+    program.namespace["YumIO"]().lock()
+    assert all(file.read_text() == str(os.getpid()) for file in lock_files(estate))
 
 
 def test_lock_outlives_sessions_and_applies(

@@ -187,7 +187,7 @@ def test_cache_that_cannot_be_used_is_named(lamp: Tuple[Estate, Program], host: 
     cache = estate.root / "var/cache/yum"
     cache.rename(cache.with_name("elsewhere"))
     cache.write_text("a file where the directory should be")
-    unreadable(program, str(cache))
+    unreadable(program, ": /var/cache/yum: ")
 
 
 @pytest.mark.parametrize(("blocks", "told"), [(5, True), (1 << 20, False)])

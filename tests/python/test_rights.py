@@ -278,7 +278,7 @@ def test_repository_file_with_a_secret_leaves_the_others(house: Guests) -> None:
     secret.chmod(0o600)
     said = house.run(COLLECT)
     assert said["table"] == {"lamp": "OutOfDate", "lone": "Available"}
-    assert f"{secret}: Permission denied" in said["log"]
+    assert "/etc/yum.repos.d/secret.repo: Permission denied" in said["log"]
 
 
 def test_unreadable_main_file_leaves_the_repositories(house: Guests) -> None:
@@ -286,7 +286,7 @@ def test_unreadable_main_file_leaves_the_repositories(house: Guests) -> None:
     main.chmod(0o600)
     said = house.run(COLLECT)
     assert said["table"] == {"lamp": "OutOfDate", "lone": "Available"}
-    assert f"{main}: Permission denied" in said["log"]
+    assert "/etc/yum.conf: Permission denied" in said["log"]
 
 
 def test_unreadable_list_of_protected_packages_is_not_missed(house: Guests) -> None:

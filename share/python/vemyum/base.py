@@ -13,6 +13,7 @@ import dnf.conf
 import dnf.exceptions
 import dnf.repo
 
+from .configuration import misread
 from .database import point_rpm_at
 from .encoding import RepositoryReader
 from .errors import RepoError, YumBaseError
@@ -42,11 +43,15 @@ class Base(dnf.Base):
         """The command line that dnf's history tells."""
 
     def read_all_repos(self, opts: Any = None) -> None:
-        for repo in RepositoryReader(self.conf, opts):
-            try:
-                self.repos.add(repo)
-            except dnf.exceptions.ConfigError as error:
-                logging.getLogger("dnf").warning("%s", error)
+        """YumBaseError when the main file has become unreadable meanwhile: it may hold repositories, too."""
+        try:
+            for repo in RepositoryReader(self.conf, opts):
+                try:
+                    self.repos.add(repo)
+                except dnf.exceptions.ConfigError as error:
+                    logging.getLogger("dnf").warning("%s", error)
+        except dnf.exceptions.ConfigError as error:
+            raise misread(error) from error
 
     def load_everything(self) -> None:
         """Reads the enabled repositories and the rpm database.

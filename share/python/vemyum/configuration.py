@@ -12,6 +12,7 @@ import contextlib
 import glob
 import logging
 import os
+import re
 from typing import Dict, Iterator, List, NamedTuple, Optional, Tuple
 
 import dnf.conf
@@ -63,6 +64,18 @@ def below(root: str, path: str) -> str:
     return path if root == "/" else root + path
 
 
+def as_configured(text: str) -> str:
+    """`text` with each path below the managed root as the configuration states it, which knows no such root."""
+    root = managed_root()
+    return text if root == "/" else re.sub(rf"(?<![\w./-]){re.escape(root)}(?=/)", "", text)
+
+
+def misread(error: dnf.exceptions.ConfigError) -> YumBaseError:
+    """What is wrong with a file of the configuration, told once: dnf repeats what its library says."""
+    said = error.__context__ if isinstance(error.__context__, RuntimeError) else error
+    return YumBaseError(as_configured(str(said)))
+
+
 def main_file(root: str) -> MainFile:
     """The main configuration file that counts below the root, whether it exists or not."""
     return next((file for file in MAIN_FILES if os.path.exists(below(root, file.path))), WITHOUT_ANY)
@@ -82,8 +95,11 @@ def read_configuration() -> dnf.conf.MainConf:
     main = main_file(root)
     _set_defaults(conf, root, main)
     path = below(root, main.path)
-    with undecodable_named(path):
-        conf.read(path, dnf.conf.config.PRIO_MAINCONFIG)
+    try:
+        with undecodable_named(path):
+            conf.read(path, dnf.conf.config.PRIO_MAINCONFIG)
+    except dnf.exceptions.ConfigError as error:
+        raise misread(error) from error
     point_rpm_at(root)
     _read_variables(conf, root)
     if "releasever" not in conf.substitutions:

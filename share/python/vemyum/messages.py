@@ -13,6 +13,7 @@ from typing import Iterator
 import dnf.logging
 
 from . import host
+from .configuration import as_configured
 
 _RPM_LOGGER = "dnf.rpm"
 
@@ -31,9 +32,9 @@ class HostHandler(logging.Handler):
             if record.levelno > logging.INFO:
                 host.errorlog(host.LEVEL_QUIET, text)
         elif record.levelno >= logging.ERROR:
-            host.errorlog(host.LEVEL_ERROR, text)
+            host.errorlog(host.LEVEL_ERROR, as_configured(text))
         else:
-            host.log(_level(record.levelno), text)
+            host.log(_level(record.levelno), as_configured(text))
 
 
 def _level(levelno: int) -> int:

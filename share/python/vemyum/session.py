@@ -14,9 +14,9 @@ import dnf.conf
 from . import host, rights
 from .base import Base, open_base
 from .comps import CompsGroup
-from .configuration import Configuration, below, main_file, managed_root, read_configuration
+from .configuration import Configuration, as_configured, main_file, managed_root, read_configuration
 from .details import PackageDetails
-from .errors import RepoError, YumBaseError, reported_as
+from .errors import LockError, RepoError, YumBaseError, reported_as
 from .groups import Group, groups_of, read_groups
 from .lists import Collector, PackageLists
 from .lock import LOCK
@@ -61,18 +61,20 @@ class Session:
                 self.repositories = Repositories(self._base.repos.values())
         except YumBaseError as error:
             self.close()
+            self._fault = YumBaseError(as_configured(str(error)))
             if not lenient:
-                raise
-            self._fault = error
-            root = managed_root()
-            self.repositories = UnreadableRepositories(below(root, main_file(root).path))
+                raise self._fault from error
+            self.repositories = UnreadableRepositories(main_file(managed_root()).path)
         self.conf = Configuration(self._conf.substitutions if self._conf is not None else {})
 
     # Lock ------------------------------------------------------------------------------------------------
 
     def lock(self) -> None:
-        if self._conf is None or LOCK.held:
+        """LockError, also for a configuration that cannot be read: it says where the lock's files lie."""
+        if LOCK.held:
             return
+        if self._conf is None:
+            raise LockError(str(self._fault))
         LOCK.acquire(self._conf)
         reason = rights.unchangeable(managed_root())
         if reason is None and not rights.is_administrator():
