@@ -4,6 +4,7 @@
 from __future__ import annotations
 
 import bz2
+import errno
 import gzip
 import hashlib
 import lzma
@@ -112,6 +113,50 @@ def test_zchunk_that_cannot_be_read_is_told(tmp_path: Path, monkeypatch: pytest.
         list(chunks(str(path)))
 
 
+@pytest.mark.usefixtures("chunk_size", "unzck")
+@pytest.mark.parametrize("ending", ["xml", "xml.gz", "xml.zck"])
+@pytest.mark.parametrize(
+    "text",
+    ["", "no markup at all", "<html>gone</html>", '<otherdata packages="1"><package id="1"/></otherdata>'],
+    ids=["empty", "text", "page", "other form"],
+)
+def test_metadata_without_a_package_that_is_recognised_is_told(tmp_path: Path, text: str, ending: str) -> None:
+    from vemyum.details import _build_hosts
+    from vemyum.records import Records, Unrecognised
+
+    path = tmp_path / f"other.{ending}"
+    WRITERS[ending](text.encode(), path)
+    for read in (Records, lambda path: list(_build_hosts(path))):
+        with pytest.raises(Unrecognised, match=f"no package is recognised in it: '{re.escape(str(path))}'"):
+            read(str(path))
+
+
+@pytest.mark.usefixtures("chunk_size")
+@pytest.mark.parametrize("root", ["metadata", "filelists", "otherdata"])
+def test_metadata_that_lists_no_package_is_fine(tmp_path: Path, root: str) -> None:
+    from vemyum.details import _build_hosts
+    from vemyum.records import Records
+
+    path = tmp_path / f"{root}.xml"
+    path.write_text(f'<?xml version="1.0"?>\n<{root} xmlns="http://md.example/{root}" packages="0">\n</{root}>\n')
+    assert list(_build_hosts(str(path))) == []
+    records = Records(str(path))
+    assert records.record(ONE) is None
+    records.close()
+
+
+def test_package_without_a_build_host_is_recognised(tmp_path: Path) -> None:
+    from vemyum.details import _build_hosts
+
+    package = "<package type='rpm'><checksum type='sha256' pkgid='YES'>{}</checksum>{}</package>"
+    host = "<format><rpm:buildhost>a.example</rpm:buildhost></format>"
+    path = tmp_path / "primary.xml"
+    path.write_text(f"<metadata>{package.format('ab', '')}</metadata>")
+    assert list(_build_hosts(str(path))) == []
+    path.write_text(f"<metadata>{package.format('ab', '')}{package.format('cd', host)}</metadata>")
+    assert list(_build_hosts(str(path))) == [("cd", "a.example")]
+
+
 def recompress(repodata: Path, ending: str) -> None:
     """Writes a repository's metadata anew in this form, and what repomd.xml says of it."""
     repomd = repodata / "repomd.xml"
@@ -156,12 +201,92 @@ def test_metadata_whose_reader_is_missing_cost_no_more_than_they_tell(
     assert (host.text("log").count(sentence), host.text("errorlog").count(sentence)) == (1, 1)
 
 
+LOG = "* Sat Nov 21 2026 Ada <ada@estate.example> - 1.0-1\n- First"
+
+
+def test_repository_whose_metadata_is_not_recognised_costs_only_itself(
+    estate: Estate, program: Program, host: FakeHost, tmp_path: Path, monkeypatch: pytest.MonkeyPatch
+) -> None:
+    from dnf.repo import Repo
+
+    place = Repo.get_metadata_path
+    odd = tmp_path / "odd.xml"
+    odd.write_text("something else")
+    for id, name in (("base", "shed"), ("more", "barn")):
+        package = spec(name, "1.0", files={f"/usr/share/{name}/door": "x"}, changelog=LOG)
+        estate.repository(id, estate.build([package]))
+    found = program.collect()
+    shed, barn = found.offered("shed"), found.offered("barn")
+    monkeypatch.setattr(
+        Repo, "get_metadata_path", lambda repo, kind: str(odd) if repo.id == "base" else place(repo, kind)
+    )
+    assert found.yumio.collectFileLists() and found.yumio.collectOtherData()
+    fault = f"[Errno {errno.EILSEQ}] no package is recognised in it: '{odd}'"
+    assert host.text("errorlog").splitlines() == [
+        f"The file lists of base are read slowly: {fault}",
+        f"The metadata of base cannot be read: {fault}",
+    ]
+    assert shed.returnFileEntries("file") == ["/usr/share/shed/door"]
+    assert barn.returnChangelog() and barn.returnSimple("buildhost") == "builder.estate.example"
+    assert shed.returnChangelog() == [] and not shed.returnSimple("buildhost")
+    assert f"The metadata of base cannot be read: {fault}" in host.text("log")
+
+
+@pytest.mark.usefixtures("unzck")
+def test_zchunk_metadata_tell_files_changes_and_build_host(
+    estate: Estate, program: Program, host: FakeHost, monkeypatch: pytest.MonkeyPatch
+) -> None:
+    """As where dnf's libraries read zchunk; where they don't, they fetch the other form."""
+    from dnf.repo import Repo
+    from vemyum.records import chunks
+
+    asked = set()
+    place = Repo.get_metadata_path
+
+    def zchunk_place(repo: Repo, kind: str) -> str:
+        path = Path(place(repo, kind))
+        copy = path.with_suffix(".zck")
+        if not copy.exists():
+            zchunk(b"".join(chunks(str(path))), copy)
+        asked.add(kind)
+        return str(copy)
+
+    package = spec("shed", "1.0", files={"/usr/share/shed/door": "x"}, changelog=LOG)
+    estate.repository("base", estate.build([package]))
+    found = program.collect()
+    monkeypatch.setattr(Repo, "get_metadata_path", zchunk_place)
+    assert found.yumio.collectFileLists() and found.yumio.collectOtherData()
+    shed = found.offered("shed")
+    assert shed.returnFileEntries("file") == ["/usr/share/shed/door"]
+    assert [change[2] for change in shed.returnChangelog()] == ["- First"]
+    assert shed.returnSimple("buildhost") == "builder.estate.example"
+    assert asked == {"filelists", "other", "primary"} and not host.text("errorlog")
+
+
+@pytest.mark.parametrize("vanishes", ["before", "after"])
+def test_metadata_that_vanished_leave_their_fields_empty(
+    estate: Estate, program: Program, host: FakeHost, vanishes: str
+) -> None:
+    """As when the repository changed on its server, and another load fetched it anew."""
+    estate.repository("base", estate.build([spec("shed", "1.0", changelog=LOG)]))
+    found = program.collect()
+    shed = found.offered("shed")
+    if vanishes == "after":
+        shed.localHdr()
+    for path in (estate.root / "var/cache/yum").rglob("*.xml*"):
+        path.unlink()
+    for _ in range(2):
+        assert not shed.returnSimple("buildhost")
+    assert shed.returnSimple("license") and shed.returnPrco("provides") and shed.returnChangelog() == []
+    assert host.text("log").count("The metadata of base cannot be read: [Errno 2]") == 1
+    assert not host.text("errorlog")
+
+
 @pytest.mark.parametrize("ending", [ending for ending in WRITERS if ending != "xml.zck"])
 def test_repository_of_any_compression_tells_groups_files_changes_and_build_host(
     estate: Estate, program: Program, ending: str
 ) -> None:
-    log = "* Sat Nov 21 2026 Ada <ada@estate.example> - 1.0-1\n- First"
-    package = spec("shed", "1.0", files={"/usr/share/shed/door": "x"}, changelog=log)
+    package = spec("shed", "1.0", files={"/usr/share/shed/door": "x"}, changelog=LOG)
     comps = "<comps><group><id>huts</id><name>Huts</name><packagelist><packagereq>shed</packagereq></packagelist></group></comps>"
     repository = estate.repository("base", estate.build([package]), comps=comps)
     recompress(repository / "repodata", ending)

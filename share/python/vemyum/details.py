@@ -15,11 +15,11 @@ import dnf.repo
 from . import host
 from .base import Base, open_base
 from .metadata import reading_reported
-from .records import Records, changes, chunks, files
+from .records import Recognition, Records, Unrecognised, changes, chunks, files
 from .text import valid
 from .texts import _
 
-_HOSTS = re.compile(rb'<checksum[^>]*\bpkgid="YES"[^>]*>\s*([0-9a-f]+)\s*<|<rpm:buildhost>([^<]*)<')
+_HOSTS = re.compile(rb"""<checksum[^>]*\bpkgid=["']YES["'][^>]*>\s*([0-9a-f]+)\s*<|<rpm:buildhost>([^<]*)<""")
 
 
 class PackageDetails:
@@ -71,7 +71,7 @@ class PackageDetails:
         try:
             if path:
                 self._changelogs[repo.id] = Records(path)
-        except FileNotFoundError as error:
+        except (FileNotFoundError, Unrecognised) as error:
             # Also of a program that reads it. The other repositories' are none the worse for it.
             host.errorlog(host.LEVEL_NOTICE, _unreadable(repo.id, error))
 
@@ -136,8 +136,9 @@ def _unreadable(repository: str, error: OSError) -> str:
 
 
 def _build_hosts(file: str) -> Iterator[Tuple[str, str]]:
-    """Pairs of a package's checksum and its build host, from a repository's primary metadata."""
+    """Pairs of a package's checksum and its build host, from a repository's primary metadata. OSError, Unrecognised."""
     checksum, rest = None, b""
+    recognition = Recognition(file)
     for chunk in chunks(file):
         data = rest + chunk
         end = 0
@@ -147,5 +148,7 @@ def _build_hosts(file: str) -> Iterator[Tuple[str, str]]:
                 checksum = match.group(1).decode("ascii")
             elif checksum:
                 yield checksum, sys.intern(html.unescape(valid(match.group(2))))
+        recognition.see(data, checksum is not None)
         # A tag may be cut in two by the end of the chunk.
         rest = data[max(end, data.rfind(b">", 0, max(0, len(data) - 1024))) :]
+    recognition.check()

@@ -21,6 +21,8 @@ from .text import valid
 from .texts import _
 
 _CHUNK = 1 << 20
+_LIST = re.compile(rb"<(?:metadata|filelists|otherdata)\b")
+_PACKAGE = re.compile(rb"<package\b")
 _RECORD = re.compile(rb"""<package\b[^>]*?\bpkgid=["']([0-9a-fA-F]+)["']""")
 _FILE = re.compile(r"""<file(?: type="file")?>([^<]*)<""")
 _END = r"""[^<]*?(?:/>|>([^<]*)</changelog)"""
@@ -33,6 +35,8 @@ _COMPRESSIONS = {".gz": "gzdio", ".xz": "xzdio", ".bz2": "bzdio", ".zst": "zstdi
 
 def chunks(path: str) -> Iterator[bytes]:
     """The content of a metadata file, uncompressed. OSError."""
+    # rpm tells no path, and other programs no cause.
+    os.stat(path)
     ending = os.path.splitext(path)[1]
     if ending == ".zck":
         yield from _unzck(path)
@@ -61,11 +65,37 @@ def _unzck(path: str) -> Iterator[bytes]:
         raise OSError(errno.EIO, _("unzck cannot read it"), path)
 
 
+class Unrecognised(OSError):
+    """The file can be read, but not as metadata."""
+
+
+class Recognition:
+    """Tells a metadata file without packages from one in which none is recognised: its form may be unknown."""
+
+    def __init__(self, path: str) -> None:
+        self._path = path
+        self._known = False
+        self._is_list = False
+        self._lists_packages = False
+
+    def see(self, data: bytes, known: bool) -> None:
+        """Takes in a piece of the file that cuts no tag; `known` says whether a package was recognised in it."""
+        self._known = self._known or known
+        if not self._known:
+            self._is_list = self._is_list or _LIST.search(data) is not None
+            self._lists_packages = self._lists_packages or _PACKAGE.search(data) is not None
+
+    def check(self) -> None:
+        """To be called at the end of the file. Unrecognised."""
+        if not self._known and (self._lists_packages or not self._is_list):
+            raise Unrecognised(errno.EILSEQ, _("no package is recognised in it"), self._path)
+
+
 class Records:
     """The records of one metadata file. They lie uncompressed in a file without a name, not in memory."""
 
     def __init__(self, path: str) -> None:
-        """Reads the file through. OSError."""
+        """Reads the file through. OSError, Unrecognised."""
         self._places: Dict[bytes, int] = {}
         """By a package's checksum, in hexadecimal digits: its place among the starts."""
         self._starts: List[int] = []
@@ -78,14 +108,18 @@ class Records:
 
     def _copy(self, path: str) -> None:
         written, rest = 0, b""
+        recognition = Recognition(path)
         for chunk in chunks(path):
             data = rest + chunk
             # A tag may be cut in two by the end of the chunk.
             cut = data.rfind(b"<")
             end = cut if cut >= 0 and data.find(b">", cut) < 0 else len(data)
             self._write(data[:end], written)
+            recognition.see(data[:end], bool(self._starts))
             written, rest = written + end, data[end:]
         self._write(rest, written)
+        recognition.see(rest, bool(self._starts))
+        recognition.check()
         self._starts.append(written + len(rest))
 
     def _write(self, data: bytes, offset: int) -> None:
