@@ -6,6 +6,7 @@
 
 #include "engine/YumIO.h"
 
+#include "services/YumIOCapturers.h"
 #include "services/YumIODialogs.h"
 
 #include <QMutexLocker>
@@ -101,6 +102,10 @@ void YumIO::pythonExceptionV(QString const& text)
 
 void YumIO::reportException(QString const& value, QString const& text)
 {
+    if (capturers) {
+        // What has just been written belongs to this report, and may not have been read yet.
+        capturers->drain();
+    }
     qsizetype start = logMark;
     if (start == -1) {
         QMutexLocker const locker(&logEntries);

@@ -69,10 +69,7 @@ YumIOCapturers::~YumIOCapturers()
         closeSaved();
         return;
     }
-    // The pipes are emptied first, so that what stdio still holds finds room in them.
-    minion->readStdout();
-    minion->readStderr();
-    flushStdio();
+    drain();
     bool const restored = restore();
     closeSaved();
     if (!restored) {
@@ -84,6 +81,21 @@ YumIOCapturers::~YumIOCapturers()
     closeFd(stderrPipe[1]);
     minion->deactivate();
     minion->deleteLater();
+}
+
+void YumIOCapturers::drain()
+{
+    if (!minion) {
+        return;
+    }
+    auto const read = [this] {
+        minion->readStdout();
+        minion->readStderr();
+    };
+    // The pipes are emptied first, so that what stdio still holds finds room in them.
+    read();
+    flushStdio();
+    read();
 }
 
 bool YumIOCapturers::openPipes()

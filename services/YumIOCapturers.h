@@ -20,6 +20,9 @@ public:
     /// Puts the descriptors back. What was written before that has reached the sink when this returns.
     ~YumIOCapturers() override;
 
+    /// Has what was written until now reach the sink before this returns. Any thread.
+    void drain();
+
 private:
     [[nodiscard]] bool openPipes();
     [[nodiscard]] bool redirect();

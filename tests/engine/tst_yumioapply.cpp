@@ -25,6 +25,8 @@ private Q_SLOTS:
 
     void expectedErrorIsShownWithItsLines();
     void barsStandWhileAFailureIsTold();
+    void expectedErrorIsShownWithTheLastOutput_data();
+    void expectedErrorIsShownWithTheLastOutput();
     void brokenPipeIsToldAsSuch_data();
     void brokenPipeIsToldAsSuch();
     void otherExceptionsEndWellForTheEngine_data();
@@ -265,6 +267,29 @@ void TestYumIOApply::barsStandWhileAFailureIsTold()
     QCOMPARE(boxes->take().size(), 1);
     QVERIFY2(total.startsWith(QLatin1String("Checking Dependencies: Total Progress")), qUtf8Printable(total));
     QVERIFY(enabled);
+}
+
+void TestYumIOApply::expectedErrorIsShownWithTheLastOutput_data()
+{
+    QTest::addColumn<QString>("exception");
+    QTest::addColumn<QString>("report");
+    QTest::newRow("error of the library") << "yum.Errors.YumBaseError('it broke')"
+                                          << "it broke\nError applying changes";
+    QTest::newRow("broken pipe") << "BrokenPipeError(32, 'x')"
+                                 << "Error applying changes: Exiting on Broken Pipe";
+}
+
+void TestYumIOApply::expectedErrorIsShownWithTheLastOutput()
+{
+    QFETCH(QString, exception);
+    applyDoes(
+        "os.system('echo of a child >&2')\nos.write(1, b'no fault\\n')\nos.write(2, b'last words\\n')\n"
+        "raise " +
+        exception);
+    QVERIFY(!engine->apply());
+    QFETCH(QString, report);
+    QCOMPARE(boxes->takeTexts(), QStringList{"of a child\nlast words\n" + report});
+    QVERIFY(engine->logLines(Log::Output).contains("no fault"));
 }
 
 void TestYumIOApply::brokenPipeIsToldAsSuch_data()

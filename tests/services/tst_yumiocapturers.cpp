@@ -131,6 +131,7 @@ private Q_SLOTS:
     void lastLineWithoutLineFeedIsNotFiled();
     void outputOfTheLastMomentIsThereWhenTheGuardIsGone();
     void textThatStdioHoldsIsNotLost();
+    void drainingBringsWhatWasWrittenBefore();
     void captureMayEndBeforeTheEventLoopTurns();
     void moreThanAPipeHoldsArrivesInOrder();
     void linesStayInOrderWhileTwoThreadsRead();
@@ -219,6 +220,28 @@ void TestYumIOCapturers::textThatStdioHoldsIsNotLost()
         whenGone = sink.output();
     });
     QCOMPARE(whenGone, QStringList(QStringLiteral("through stdio")));
+}
+
+void TestYumIOCapturers::drainingBringsWhatWasWrittenBefore()
+{
+    LogSink sink;
+    QStringList drained;
+    QStringList errorsDrained;
+    // The reader's own thread, which has no event loop yet, reads nothing meanwhile.
+    {
+        YumIOCapturers capturers(&sink);
+        put(STDOUT_FILENO, "first\n");
+        put(STDERR_FILENO, "fault\n");
+        std::fputs("through stdio\n", stdout);
+        capturers.drain();
+        drained = sink.output();
+        errorsDrained = sink.lines(Log::Error);
+        put(STDOUT_FILENO, "after\n");
+    }
+    serveDeferredDeletes();
+    QCOMPARE(drained, QStringList({QStringLiteral("first"), QStringLiteral("through stdio")}));
+    QCOMPARE(errorsDrained, QStringList(QStringLiteral("fault")));
+    QCOMPARE(sink.output().constLast(), QStringLiteral("after"));
 }
 
 void TestYumIOCapturers::captureMayEndBeforeTheEventLoopTurns()
