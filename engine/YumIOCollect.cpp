@@ -353,6 +353,9 @@ void YumIO::collectPkg(
     entry.buildTime = plainNumber("buildtime", number) ? number : buildTimeOf(pkg);
     entry.buildTimeText = timeFormat(entry.buildTime);
     entry.pyObject = std::move(package);
+    // What this package lacks has been reported. An exception that is left here would look like one of the
+    // iteration over the packages, and fail the collection.
+    PyErr_Clear();
 }
 
 bool YumIO::collectGroups(EntryHash& hash, PyObject* groupResult)

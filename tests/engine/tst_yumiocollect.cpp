@@ -32,6 +32,7 @@ private Q_SLOTS:
     void iterationThatBreaksFailsTheCollection();
     void severalInstalledVersionsMakeAChain();
     void packageWithoutMembersIsReportedAndKept();
+    void packageWithoutFieldsHarmsNoOther();
 
     void plainAttributesStandForMethods();
     void oddPlainValuesAreAskedForTheLongWay();
@@ -344,6 +345,26 @@ void TestYumIOCollect::packageWithoutMembersIsReportedAndKept()
     QVERIFY(bare);
     QCOMPARE(bare->verRel + bare->repo + bare->arch + bare->summary, QString());
     QCOMPARE(bare->sizeText, QStringLiteral("0b"));
+}
+
+void TestYumIOCollect::packageWithoutFieldsHarmsNoOther()
+{
+    // In the end of its list nothing comes after it that would take away the exception.
+    SCRIPT("class Bare:\n"
+           "    def __init__(self, name):\n        self.name = name\n"
+           "    arch, size = 'noarch', 5\n"
+           "    def printVer(self):\n        return '1-1'\n"
+           "standin.world.updates.append(Bare('bare'))\n"
+           "standin.world.installed.append(Bare('plain'))\n"
+           "standin.world.available.append(Bare('last'))");
+    QVERIFY(engine->collect({}));
+    QVERIFY(boxes->takeTexts().contains("Internal error: method returnSimple not found\n"));
+    QCOMPARE(engine->count(), 12 + 3);
+    QCOMPARE(package("bare")->state, Package::OutOfDate);
+    QCOMPARE(package("plain")->state, Package::UpToDate);
+    QCOMPARE(package("last")->state, Package::Available);
+    QCOMPARE(package("last")->verRel, QStringLiteral("1-1"));
+    QCOMPARE(package("last")->summary + package("last")->repo, QString());
 }
 
 void TestYumIOCollect::plainAttributesStandForMethods()
