@@ -68,6 +68,18 @@ bool CollectOtherDataThread::work()
     return yumIO->collectOtherDataReal();
 }
 
+CollectBuildHostThread::CollectBuildHostThread(
+    YumIO* engine, QEventLoop& callersLoop, Package::Entry const& entryToAskFor)
+    : WorkThread(engine, callersLoop),
+      entry(entryToAskFor)
+{
+}
+
+bool CollectBuildHostThread::work()
+{
+    return yumIO->collectBuildHostReal(entry);
+}
+
 ApplyThread::ApplyThread(YumIO* engine, QEventLoop& callersLoop)
     : WorkThread(engine, callersLoop)
 {

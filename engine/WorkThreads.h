@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "engine/Package.h"
+
 #include <QHash>
 #include <QString>
 #include <QThread>
@@ -87,6 +89,20 @@ public:
 
 protected:
     bool work() override;
+};
+
+class CollectBuildHostThread final : public WorkThread
+{
+    Q_OBJECT
+
+public:
+    CollectBuildHostThread(YumIO* engine, QEventLoop& callersLoop, Package::Entry const& entryToAskFor);
+
+protected:
+    bool work() override;
+
+private:
+    Package::Entry const& entry;
 };
 
 class ApplyThread final : public WorkThread

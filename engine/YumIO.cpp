@@ -291,6 +291,17 @@ bool YumIO::collectOtherData()
     return thread.result;
 }
 
+bool YumIO::collectBuildHost(Package::Entry const& entry)
+{
+    if (buildHostAtHand(entry)) {
+        return true;
+    }
+    QEventLoop loop;
+    CollectBuildHostThread thread(this, loop, entry);
+    execWorkThread(loop, thread);
+    return thread.result;
+}
+
 bool YumIO::apply()
 {
     QEventLoop loop;

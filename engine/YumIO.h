@@ -107,6 +107,12 @@ public:
     /// been done in this collection.
     bool collectFileLists();
     bool collectOtherData();
+    /// Job: asks for the build host of the entry, so that `getBuildHost` has it at hand. A script may have to
+    /// read through all that a repository tells of its packages for that, once for each repository.
+    bool collectBuildHost(Package::Entry const& entry);
+    /// Whether that job has nothing to do: the entry is installed or a group, or a package of its repository
+    /// has been asked for its build host in this collection.
+    [[nodiscard]] bool buildHostAtHand(Package::Entry const& entry) const;
     /// Job: applies all marks in one transaction. True when the user confirmed and the script's `apply`
     /// ended without an expected exception; the caller must then rebuild. False: nothing to rebuild, marks
     /// and table stay as they are.
@@ -258,6 +264,7 @@ protected:
     friend class CollectThread;
     friend class CollectFileListsThread;
     friend class CollectOtherDataThread;
+    friend class CollectBuildHostThread;
     friend class ApplyThread;
 
     // Jobs.
@@ -270,6 +277,7 @@ protected:
     bool collectReal(QHash<QString, bool> const& repoStates);
     bool collectFileListsReal();
     bool collectOtherDataReal();
+    bool collectBuildHostReal(Package::Entry const& entry);
     bool applyReal();
 
     // Collection.
@@ -459,6 +467,7 @@ protected:
     HProgressBar* itemBar = nullptr;
     Progress* progress = nullptr;     ///< of the job in progress; null between jobs
     QStringList repoNames;            ///< ids of the enabled repositories
+    QSet<QString> buildHostRepos;     ///< repositories whose build hosts are at hand
     QString repoContents;             ///< what is being loaded from the repositories, in words
     int repoAct = 0;                  ///< position among the acts of loading
     long long repoActTotal = 0;       ///< total of the act last started

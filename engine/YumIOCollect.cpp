@@ -58,6 +58,7 @@ bool YumIO::collectReal(QHash<QString, bool> const& repoStates)
     PyGILStateWrapper const lock(true);
     fileListsCollected = false;
     otherDataCollected = false;
+    buildHostRepos.clear();
     progress->startTotal(tr("Initializing: Total Progress"), collectionSteps);
     progress->startItem(tr("Preparing"), preparingSteps, 1);
 

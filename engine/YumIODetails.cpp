@@ -84,6 +84,26 @@ bool YumIO::collectOtherDataReal()
         tr("Unable to collect miscellaneous data"));
 }
 
+bool YumIO::buildHostAtHand(Package::Entry const& entry) const
+{
+    return entry.kind == Package::Group || entry.state == Package::UpToDate ||
+           buildHostRepos.contains(entry.repo);
+}
+
+bool YumIO::collectBuildHostReal(Package::Entry const& entry)
+{
+    ProgressUser const progressUser(progress, totalBar, itemBar);
+    YumIODialogsUser const dialogsUser(dialogs, parent);
+    log(Log::Action, 0, tr("Collecting Build Hosts"));
+    PyGILStateWrapper const lock(true);
+    progress->startTotal(tr("Loading build hosts: Total Progress"), readingSteps);
+    progress->startItem(tr("Reading repositories"), readingSteps, 1);
+    // A fault is left to whoever wants the text.
+    bool const answered = bool(pyQuickCall(entry.pyObject.get(), "returnSimple", "buildhost"));
+    buildHostRepos.insert(entry.repo);
+    return answered;
+}
+
 bool YumIO::collectExtraDataReal(
     bool YumIO::*collected, QString const& heading, QString const& contents, QString const& total,
     char const* method, QString const& failure)

@@ -334,6 +334,11 @@ void Model::describe(QModelIndex const& index, QWidget* parent)
     if (!describeDialog) {
         describeDialog = new Describe::Dialog(parent);
     }
+    if (!yumIO->buildHostAtHand(*entry)) {
+        Q_EMIT busy(true);
+        yumIO->collectBuildHost(*entry);
+        Q_EMIT busy(false);
+    }
     describeDialog->config(yumIO, *entry, yumConfIO);
     describeDialog->exec();
 }

@@ -67,7 +67,7 @@ public:
     void reset();
 
     /// Shows the description of the entry as a modal dialog. The dialog is made by the first call, over the
-    /// `parent` of that call, and used again.
+    /// `parent` of that call, and used again. What takes long to read is read by a job before, see `busy`.
     void describe(QModelIndex const& index, QWidget* parent);
     /// Shows the repository of the entry in the user's browser; `parent` is the parent of error messages.
     void browse(QModelIndex const& index, QWidget* parent);
@@ -85,6 +85,11 @@ public Q_SLOTS:
     void setUpdateAll();
     /// Takes away all marks.
     void clearActions();
+
+Q_SIGNALS:
+    /// `describe` begins, or has ended, a job of the engine: events are served meanwhile, and until its end
+    /// nobody may ask for another job or rebuild the list.
+    void busy(bool begins);
 
 private:
     struct StateColors

@@ -173,6 +173,7 @@ void MainWindow::createMainArea()
     yumIO = new YumIO;
     connect(yumIO, &YumIO::collectedExtraData, this, &MainWindow::collectedExtraData);
     model = new PackageTable::Model(yumIO, tableArea);
+    connect(model, &PackageTable::Model::busy, this, [this](bool begins) { setReady(!begins); });
     view = new PackageTable::View(model, PackageTable::Updatable, false, yumIO, tableArea);
     connect(
         view, qOverload<int, int>(&PackageTable::View::currentChanged), this, &MainWindow::currentChanged);

@@ -170,6 +170,11 @@ void Driver::answer(QDialog* dialog)
 {
     settle();
     auto const buttons = dialog->findChildren<QPushButton*>();
+    if (dialog->windowTitle() == QLatin1String("VEM Package Description")) {
+        answering = false;
+        saying(QStringLiteral("Close"), buttons)->click();
+        return;
+    }
     QPushButton* const ok = saying(QStringLiteral("OK"), buttons);
     if (!ok || !saying(QStringLiteral("Cancel"), buttons)) {
         // No question: it tells of a fault.
@@ -249,6 +254,8 @@ void Driver::perform(QJsonObject const& step)
         clickHeader(value.toInt());
     } else if (what == QLatin1String("select")) {
         select(value);
+    } else if (what == QLatin1String("describe")) {
+        describe(value.toInt());
     } else if (what == QLatin1String("menu")) {
         trigger(value.toString());
     } else if (what != QLatin1String("walk")) {
@@ -305,6 +312,12 @@ void Driver::select(QJsonValue const& what)
     } else {
         what.toBool() ? table->selectAll() : table->clearSelection();
     }
+}
+
+void Driver::describe(int row)
+{
+    table->setCurrentIndex(table->model()->index(row, 0));
+    press(QStringLiteral("Describe"));
 }
 
 void Driver::clickHeader(int column)

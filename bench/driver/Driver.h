@@ -46,6 +46,8 @@ private:
     void type(QString const& text);
     /// All rows or none, or the first so many.
     void select(QJsonValue const& what);
+    /// Has the row described, and closes the description as soon as it is painted.
+    void describe(int row);
     void clickHeader(int column);
     void trigger(QString const& text);
     [[nodiscard]] QJsonArray walkedWidths() const;

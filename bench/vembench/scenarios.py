@@ -137,6 +137,20 @@ def search(ground: Ground, build: Build, estate: Estate, samples: Samples) -> No
             samples.add("gap/loading of the extra data", line["gap"])
 
 
+def describe(ground: Ground, build: Build, estate: Estate, samples: Samples) -> None:
+    """The first question about a package of a repository, also after a refresh, which forgets what was read."""
+    steps: list[Step] = [
+        {"do": "choose", "value": ["View", "View Installable"]},
+        {"do": "describe", "value": 0, "name": "describe/after the start"},
+        {"do": "describe", "value": 1, "name": "describe/again"},
+        {"do": "press", "value": "Refresh"},
+        {"do": "describe", "value": 0, "name": "describe/after a refresh"},
+    ]
+    for line in ground.program(build, estate, steps)[1:]:
+        if "name" in line:
+            samples.add(line["name"], line["gap"])
+
+
 def growth(ground: Ground, build: Build, estate: Estate, samples: Samples) -> None:
     steps: list[Step] = [{"do": "press", "value": "Refresh"}] * REFRESHES
     lines = ground.program(build, estate, steps)[1:]

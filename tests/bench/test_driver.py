@@ -74,6 +74,13 @@ def test_a_search_loads_the_extra_data_before_it_is_measured(ground: Ground, est
     assert len(ours.names_of("gap")) == 2
 
 
+def test_descriptions_are_measured(ground: Ground, estate: Estate) -> None:
+    ours = Samples()
+    scenarios.describe(ground, BUILD, estate, ours)
+    assert len(ours.names_of("describe")) == 3
+    assert all(ours.median(name) > 0 for name in ours.names_of("describe"))
+
+
 def test_lines_reach_the_log_window(ground: Ground, estate: Estate, monkeypatch: pytest.MonkeyPatch) -> None:
     monkeypatch.setattr(scenarios, "LOG_LINES", 500)
     ours = Samples()

@@ -35,6 +35,8 @@ private Q_SLOTS:
     void changeLogsOfARepository_data();
     void changeLogsOfARepository();
     void changeLogFollowsTheVersion();
+    void buildHostIsReadByOneJobForEachRepository();
+    void buildHostThatCannotBeReadIsToldOnce();
     void packageWithoutAnythingIsEmpty();
     void groupsHaveNeither();
     void sortingOfLines();
@@ -430,6 +432,48 @@ void TestYumIODetails::changeLogFollowsTheVersion()
     SCRIPT("elm.changelog = None");
     engine->setVersion("2.3.0");
     QCOMPARE(engine->getChangeLog(*package("elm")), QString());
+}
+
+void TestYumIODetails::buildHostIsReadByOneJobForEachRepository()
+{
+    SCRIPT("import threading\n"
+           "gui = threading.get_ident()\n"
+           "def watch(package):\n"
+           "    simple = package.returnSimple\n"
+           "    def returnSimple(key):\n"
+           "        where = 'here' if threading.get_ident() == gui else 'on a worker'\n"
+           "        standin.note(f'{key} of {package.plain_name} {where}')\n"
+           "        return simple(key)\n"
+           "    package.returnSimple = returnSimple\n"
+           "for package in standin.world.updates + standin.world.installed + standin.world.available:\n"
+           "    watch(package)");
+    QVERIFY(!engine->buildHostAtHand(*package("elm")));
+    QVERIFY(engine->collectBuildHost(*package("elm")));
+    // Of the same repository.
+    QVERIFY(engine->buildHostAtHand(*package("fir")));
+    QVERIFY(engine->collectBuildHost(*package("fir")));
+    QVERIFY(!engine->buildHostAtHand(*package("alder")));
+    QVERIFY(engine->collectBuildHost(*package("alder")));
+    QVERIFY(engine->collectBuildHost(*package("birch")));
+    QVERIFY(engine->collectBuildHost(*group("Garden")));
+    QCOMPARE(
+        engine->calls(), (QStringList{"buildhost of elm on a worker", "buildhost of alder on a worker"}));
+    QCOMPARE(
+        engine->logLines(Log::Action), (QStringList{"Collecting Build Hosts", "Collecting Build Hosts"}));
+    engine->clear();
+    QVERIFY(collected());
+    QVERIFY(!engine->buildHostAtHand(*package("elm")));
+}
+
+void TestYumIODetails::buildHostThatCannotBeReadIsToldOnce()
+{
+    SCRIPT("def returnSimple(key):\n    raise ValueError(key)\n"
+           "standin.world.find('available', 'elm').returnSimple = returnSimple");
+    QVERIFY(!engine->collectBuildHost(*package("elm")));
+    QVERIFY(engine->collectBuildHost(*package("elm")));
+    QCOMPARE(boxes->takeTexts(), QStringList());
+    QCOMPARE(engine->getBuildHost(*package("elm")), QString());
+    QCOMPARE(boxes->takeTexts(), QStringList{"Internal error: python exception occurred from C code\n"});
 }
 
 void TestYumIODetails::packageWithoutAnythingIsEmpty()

@@ -5,6 +5,8 @@
 #include "packagetable/PackageTableModel.h"
 #include "widgets/Sizing.h"
 
+#include <QSignalSpy>
+
 class TestDescribeDialog final : public DescribeTest
 {
     Q_OBJECT
@@ -347,6 +349,25 @@ private Q_SLOTS:
         QVERIFY(!labels(seen.at(1)).contains(QStringLiteral("Version")));
         QVERIFY(sizes.at(1).height() < sizes.at(0).height());
         QCOMPARE(boxes->take().size(), 2);
+    }
+
+    void whatTakesLongIsReadBeforeTheDialogOpens()
+    {
+        QVERIFY(collected());
+        Model model(engine.get(), nullptr);
+        QWidget window;
+        QSignalSpy const busy(&model, &Model::busy);
+        QList<qsizetype> changesBefore;
+        boxes->whileShown([&] { changesBefore.append(busy.size()); });
+        // Once for a repository, and never for what is installed.
+        for (char const* const name : {"birch", "elm", "fir"}) {
+            model.describe(model.index(rowOf(QString::fromLatin1(name)), 0), &window);
+        }
+        QCOMPARE(changesBefore, (QList<qsizetype>{0, 2, 2}));
+        QCOMPARE(busy.size(), 2);
+        QCOMPARE(busy.at(0), QVariantList{true});
+        QCOMPARE(busy.at(1), QVariantList{false});
+        QCOMPARE(boxes->take().size(), 3);
     }
 
     void theWidgetOfTheFirstDescriptionOwnsTheDialog()

@@ -365,6 +365,36 @@ private Q_SLOTS:
         }
     }
 
+    void describeKeepsTheWindowBusyUntilTheBuildHostIsRead()
+    {
+        apply(QStringLiteral("^elm "));
+        QTemporaryDir directory;
+        QString const flag = directory.filePath(QStringLiteral("go"));
+        script(QStringLiteral("import os, time\n"
+                              "elm = standin.world.find('available', 'elm')\n"
+                              "simple = elm.returnSimple\n"
+                              "def waiting(key):\n"
+                              "    for turn in range(1000 if key == 'buildhost' else 0):\n"
+                              "        if os.path.exists('%1'): break\n"
+                              "        time.sleep(0.005)\n"
+                              "    return simple(key)\n"
+                              "elm.returnSimple = waiting")
+                   .arg(flag));
+        table()->setCurrentIndex(table()->model()->index(0, 3));
+        bool enabled = true;
+        QTimer::singleShot(50, this, [&] {
+            enabled = table()->isEnabled() || action(QStringLiteral("Quit"))->isEnabled();
+            QFile file(flag);
+            QVERIFY(file.open(QIODevice::WriteOnly));
+        });
+        QTest::mouseClick(button(QStringLiteral("Describe")), Qt::LeftButton);
+        QVERIFY(QFile::exists(flag));
+        QVERIFY(!enabled);
+        QVERIFY(table()->isEnabled());
+        QCOMPARE(boxes->take().size(), 1);
+        QCOMPARE(table()->currentIndex().row(), 0);
+    }
+
     void refreshRebuildsAndKeepsFilterAndSort()
     {
         apply(QStringLiteral("^(alder|elm|ivy)"));
