@@ -1830,6 +1830,14 @@ Wie soll fortgefahren werden?</translation>
         <source>&amp;Quit</source>
         <translation>&amp;Beenden</translation>
     </message>
+    <message>
+        <source>Collecting Build Hosts</source>
+        <translation>Rechner, auf denen Pakete erstellt wurden, werden ermittelt</translation>
+    </message>
+    <message>
+        <source>Loading build hosts: Total Progress</source>
+        <translation>Rechner, auf denen Pakete erstellt wurden, werden geladen: Gesamtfortschritt</translation>
+    </message>
 </context>
 <context>
     <name>YumIOCapturers</name>

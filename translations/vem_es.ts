@@ -1830,6 +1830,14 @@ pero también pertenece al grupo %5 y por ello se marcó con la acción %6.
         <source>&amp;Quit</source>
         <translation>&amp;Salir</translation>
     </message>
+    <message>
+        <source>Collecting Build Hosts</source>
+        <translation>Recopilando equipos de compilación</translation>
+    </message>
+    <message>
+        <source>Loading build hosts: Total Progress</source>
+        <translation>Carga de los equipos de compilación: progreso total</translation>
+    </message>
 </context>
 <context>
     <name>YumIOCapturers</name>

@@ -1830,6 +1830,14 @@ Comment voulez-vous procéder&#xa0;?</translation>
         <source>&amp;Quit</source>
         <translation>&amp;Quitter</translation>
     </message>
+    <message>
+        <source>Collecting Build Hosts</source>
+        <translation>Collecte des hôtes de compilation</translation>
+    </message>
+    <message>
+        <source>Loading build hosts: Total Progress</source>
+        <translation>Chargement des hôtes de compilation&#xa0;: progression totale</translation>
+    </message>
 </context>
 <context>
     <name>YumIOCapturers</name>

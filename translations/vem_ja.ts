@@ -1830,6 +1830,14 @@ How do you wish to proceed?</source>
         <source>&amp;Quit</source>
         <translation>終了(&amp;Q)</translation>
     </message>
+    <message>
+        <source>Collecting Build Hosts</source>
+        <translation>ビルドホストを収集中</translation>
+    </message>
+    <message>
+        <source>Loading build hosts: Total Progress</source>
+        <translation>ビルドホストの読み込み: 全体の進捗</translation>
+    </message>
 </context>
 <context>
     <name>YumIOCapturers</name>

@@ -1830,6 +1830,14 @@ How do you wish to proceed?</source>
         <source>&amp;Quit</source>
         <translation>退出(&amp;Q)</translation>
     </message>
+    <message>
+        <source>Collecting Build Hosts</source>
+        <translation>正在收集构建主机</translation>
+    </message>
+    <message>
+        <source>Loading build hosts: Total Progress</source>
+        <translation>加载构建主机：总进度</translation>
+    </message>
 </context>
 <context>
     <name>YumIOCapturers</name>
