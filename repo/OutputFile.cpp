@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "repo/OutputFile.h"
 
+#include "base/ManagedRoot.h"
+
 #include <cerrno>
 #include <utility>
 
@@ -17,32 +19,34 @@ OutputFile::~OutputFile()
     errno = cause;
 }
 
-bool OutputFile::open(QByteArray const& name, bool isPrivate)
+bool OutputFile::open(QByteArray const& path, bool isPrivate)
 {
-    descriptor = ::open(name.constData(), O_WRONLY | O_CREAT | O_CLOEXEC, isPrivate ? 0600 : 0666);
+    // A pipe would wait for its reader.
+    descriptor = ManagedRoot::open(path, O_WRONLY | O_CREAT | O_NONBLOCK, isPrivate ? 0600 : 0666);
     if (descriptor < 0)
         return false;
     struct stat status = {};
     if (fstat(descriptor, &status) != 0)
         return false;
-    isRegular = S_ISREG(status.st_mode);
-    oldSize = isRegular ? status.st_size : 0;
+    if (!S_ISREG(status.st_mode)) {
+        errno = EINVAL;
+        return false;
+    }
+    oldSize = status.st_size;
     // Whoever shut a file off from the others has chosen its permissions; any other holds no secret yet.
     bool const isOpenToAll = (status.st_mode & S_IRWXO) != 0;
-    return !(isPrivate && isRegular && isOpenToAll) || fchmod(descriptor, S_IRUSR | S_IWUSR) == 0;
+    return !(isPrivate && isOpenToAll) || fchmod(descriptor, S_IRUSR | S_IWUSR) == 0;
 }
 
 bool OutputFile::write(QByteArray const& content)
 {
-    if (!reserve(content.size()) || !writeAll(content))
-        return false;
-    return !isRegular || ftruncate(descriptor, content.size()) == 0;
+    return reserve(content.size()) && writeAll(content) && ftruncate(descriptor, content.size()) == 0;
 }
 
 /// Gets the room for what `size` exceeds the present size by, before anything is overwritten.
 bool OutputFile::reserve(qint64 size)
 {
-    if (!isRegular || size <= oldSize)
+    if (size <= oldSize)
         return true;
     int outcome;
     do {
@@ -73,8 +77,7 @@ bool OutputFile::writeAll(QByteArray const& content)
 
 bool OutputFile::close()
 {
-    // Special files have nothing to bring to a disk and say so.
-    bool const isStored = fsync(descriptor) == 0 || errno == EINVAL || errno == EROFS;
+    bool const isStored = fsync(descriptor) == 0;
     int const cause = errno;
     bool const isClosed = ::close(std::exchange(descriptor, -1)) == 0;
     if (!isStored)

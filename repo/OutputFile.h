@@ -3,8 +3,9 @@
 
 #include <QByteArray>
 
-/// One file that is written anew, in place: links, owner and permissions of a file that exists stay, but for
-/// those that would let everybody read a secret. A value on the stack of the writer; any thread.
+/// One file of the managed system that is written anew, in place: links, owner and permissions of a file that
+/// exists stay, but for those that would let everybody read a secret. A value on the stack of the writer; any
+/// thread.
 ///
 /// What the file held is kept until there is room for what it is to hold, so that a full disk does not cost
 /// the user the file. Each operation answers false with errno saying why; nothing is reported here.
@@ -19,7 +20,8 @@ public:
 
     /// Opens for writing and creates what isn't there. The content stays. Where `isPrivate` says so, a file
     /// that is new or open to everybody is its owner's only from here on.
-    [[nodiscard]] bool open(QByteArray const& name, bool isPrivate);
+    /// Anything but a regular file is refused.
+    [[nodiscard]] bool open(QByteArray const& path, bool isPrivate);
 
     /// Makes `content` all that the file holds.
     [[nodiscard]] bool write(QByteArray const& content);
@@ -32,6 +34,5 @@ private:
     bool writeAll(QByteArray const& content);
 
     int descriptor = -1;
-    bool isRegular = false; ///< neither a device nor a pipe
-    qint64 oldSize = 0;     ///< bytes that the file held when it was opened
+    qint64 oldSize = 0; ///< bytes that the file held when it was opened
 };

@@ -3,10 +3,10 @@
 // reading of the files stands in YumConfIORead.cpp, the writing in YumConfIOWrite.cpp.
 #include "repo/YumConfIO.h"
 
+#include "base/ManagedRoot.h"
+
 #include <algorithm>
 #include <array>
-
-#include <sys/stat.h>
 
 YumConfIO::YumConfIO(QList<YumRepoEnabled> const& requests, QHash<QString, bool>& sessionFlags)
     : usedOptions(requests),
@@ -36,18 +36,23 @@ YumConfIO::MainFile const& YumConfIO::mainFile()
 
     auto const found = std::find_if(files.begin(), files.end(), [](MainFile const& file) {
         struct stat status = {};
-        return stat(diskName(QString::fromLatin1(file.path)).constData(), &status) == 0;
+        return ManagedRoot::inspect(file.path, status);
     });
     return found != files.end() ? *found : files[1];
 }
 
-QByteArray YumConfIO::diskName(QString const& path)
+/// The repository directories; one that is listed by several paths is taken once, by the first.
+QStringList YumConfIO::directories() const
 {
-    QByteArray const root = qgetenv("VEMROOT");
-    QByteArray name = path.toLatin1();
-    if (root.isEmpty())
-        return name;
-    return name.startsWith('/') ? root + name : root + '/' + name;
+    QStringList once;
+    QSet<QByteArray> met;
+    for (QString const& directory : reposdirs) {
+        QByteArray const identity = ManagedRoot::identity(directory.toLatin1());
+        if (!met.contains(identity))
+            once += directory;
+        met.insert(identity);
+    }
+    return once;
 }
 
 void YumConfIO::applyUsedOptions(Repo::Entry const& entry)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "repo/ConfText.h"
 #include "repo/RepoEntry.h"
 #include "repo/YumRepoEnabled.h"
 
@@ -14,6 +15,7 @@
 
 #include <cstdio>
 
+class Descriptor;
 class QWidget;
 
 /// The package library's configuration in memory: the main file, then every ".repo" file of every repository
@@ -24,7 +26,10 @@ class QWidget;
 ///
 /// Files are bytes: each byte is one character of the same value (Latin-1) here and goes back out as the
 /// same byte, in texts and in paths alike. When the environment variable VEMROOT is set, the files are those
-/// below that directory; paths keep their text everywhere but at the disk.
+/// below that directory; paths keep their text everywhere but at the disk. Two paths of one file mean that
+/// file: it is read once, and written and kept whichever of them a repository names.
+///
+/// A file that begins with a UTF-8 byte order mark, or whose lines all end in CR LF, keeps both.
 class YumConfIO final : public QObject
 {
     Q_OBJECT
@@ -51,8 +56,8 @@ public:
     /// has declined or has seen a message box, files later in the order were not touched and nothing was
     /// deleted.
     ///
-    /// After a read that failed, what it did not get to is kept: nothing is deleted, and the file in which it
-    /// stopped can't be written.
+    /// Only a new file is written, or one that the last read read whole: else the user is told, and nothing
+    /// at all is written. After a read that failed nothing is deleted either.
     bool write(QWidget* window);
 
     /// The order of writing: by file, then by position in it. Equal positions have no order.
@@ -86,22 +91,18 @@ private:
         QString cachedir;
     };
 
-    /// What reading a line can come to.
-    enum ReadResult
-    {
-        Line = 0,
-        EndOfFile = 1,
-        ReadError = 2
-    };
+    /// Takes the text of a file apart; false after a report.
+    using TakeText = bool (YumConfIO::*)(ConfText& text, QString const& file);
 
     [[nodiscard]] static MainFile const& mainFile();
-    bool readDirectory(QString const& directory);
-    bool readDirectoryFile(QString const& path);
-    bool readConfFile(std::FILE* stream);
-    bool readRepoFile(std::FILE* stream, QString const& file);
-    ReadResult readLogicalLine(std::FILE* stream, QString const& file, QString& line);
-    ReadResult readLine(std::FILE* stream, QString const& file, QString& line);
-    void unreadLine(QString const& line);
+    [[nodiscard]] QStringList directories() const;
+    bool readMainFile(QString const& path, QSet<QByteArray>& met);
+    bool readDirectory(QString const& directory, QSet<QByteArray>& met);
+    bool readDirectoryFile(QString const& path, QSet<QByteArray>& met);
+    bool readFile(Descriptor const& file, QString const& path, TakeText take);
+    [[nodiscard]] static QString notRegular(QString const& path);
+    bool readConfFile(ConfText& text, QString const& file);
+    bool readRepoFile(ConfText& text, QString const& file);
     static bool isOption(QString const& line, QString const& option, QString& value);
     void readRepoOption(QString const& line, bool isNew, Repo::Entry& entry);
     void finishEntry(Repo::Entry& entry, bool isNew);
@@ -116,27 +117,33 @@ private:
     /// The repositories of one file in the order in which it is to hold them; never empty.
     using FileEntries = QList<Repo::Entry>;
     [[nodiscard]] QList<FileEntries> entriesByFile() const;
+    [[nodiscard]] QHash<QByteArray, QString> knownFiles() const;
+    [[nodiscard]] QString unreadFile(QList<FileEntries> const& files) const;
+    [[nodiscard]] static bool isMainFile(QString const& file);
     bool confirmGenerated(QList<FileEntries> const& files);
     [[nodiscard]] bool isAsGenerated(QString const& file, FileEntries const& entries) const;
     void noteWritten(QList<FileEntries> const& files);
     bool writeFile(QString const& file, QList<Repo::Entry> const& entries);
     [[nodiscard]] QByteArray contentOf(QString const& file, QList<Repo::Entry> const& entries) const;
     static bool writeRepo(std::FILE* stream, Repo::Entry const& repo);
-    bool removeUnusedFiles(QSet<QString> const& written);
-    bool removeUnusedFilesOf(QString const& directory, QSet<QString> const& written);
+    bool removeUnusedFiles(QSet<QByteArray> const& used);
+    bool findUnusedFiles(QString const& directory, QSet<QByteArray> const& used, QStringList& unused);
 
     /// Shows `message` with errno behind it, in a critical box over `parent`.
     void error(QString const& message);
+    /// Shows `message` alone in such a box.
+    void tell(QString const& message);
     /// Asks in a critical box over `parent`; whether the answer was Yes.
     bool confirm(QString const& question);
 
-    /// The name of `path` for system calls: its bytes, below VEMROOT when that is set.
-    [[nodiscard]] static QByteArray diskName(QString const& path);
-
-    QWidget* parent = nullptr;  ///< under the message boxes; not owned, set by each read and write
-    QList<QString> unreadLines; ///< physical lines read ahead, to be read again before the file goes on
+    QWidget* parent = nullptr; ///< under the message boxes; not owned, set by each read and write
     /// The files that subscription-manager generates, and what a write would make of their repositories as
     /// they were read, or last written.
     QHash<QString, QByteArray> generated;
-    QString unfinishedFile; ///< the file in which the last read stopped; empty when it read everything
+    QHash<QString, ConfForm> forms; ///< in what form each file was read
+    /// The files that were read whole, or written since, by their resolved paths; the path that each was read
+    /// by.
+    QHash<QByteArray, QString> filesRead;
+    QSet<QString> passedOver; ///< what is no regular file and was told
+    QString unfinishedFile;   ///< the file in which the last read stopped; empty when it read everything
 };

@@ -15,8 +15,13 @@ void YumConfIO::error(QString const& message)
     QString const suffix =
         tr("; errno = %1 (%2).").arg(QString::number(cause), QString::fromLocal8Bit(std::strerror(cause)));
 
+    tell(message + suffix);
+}
+
+void YumConfIO::tell(QString const& message)
+{
     QMessageBox box(
-        QMessageBox::Critical, tr("VEM Repository Editor Error"), message + suffix, QMessageBox::Ok, parent);
+        QMessageBox::Critical, tr("VEM Repository Editor Error"), message, QMessageBox::Ok, parent);
     // A line of a file is never markup.
     box.setTextFormat(Qt::PlainText);
     box.exec();

@@ -2,34 +2,37 @@
 // The configuration's reading: directories, files, lines, options.
 #include "repo/YumConfIO.h"
 
+#include "base/Descriptor.h"
+#include "base/ManagedRoot.h"
+#include "repo/ConfText.h"
+
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <cerrno>
-#include <memory>
 
-#include <dirent.h>
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace
 {
 
-struct FileCloser
+/// All that a file holds; false for an error.
+bool readAll(Descriptor const& file, QByteArray& content)
 {
-    void operator()(std::FILE* stream) const { std::fclose(stream); }
-};
-
-struct DirectoryCloser
-{
-    void operator()(DIR* directory) const { closedir(directory); }
-};
-
-using File = std::unique_ptr<std::FILE, FileCloser>;
-using Directory = std::unique_ptr<DIR, DirectoryCloser>;
-
-/// Opens for reading; the descriptor does not pass to programs started meanwhile.
-File openFile(QByteArray const& diskName)
-{
-    return File(std::fopen(diskName.constData(), "re"));
+    constexpr qsizetype most = 65536;
+    struct stat status = {};
+    if (fstat(file.get(), &status) == 0)
+        content.reserve(qsizetype(status.st_size) + most);
+    for (;;) {
+        qsizetype const before = content.size();
+        content.resize(before + most);
+        ssize_t const count = ::read(file.get(), content.data() + before, most);
+        content.resize(before + (count > 0 ? count : 0));
+        if (count == 0 || (count < 0 && errno != EINTR))
+            return count == 0;
+    }
 }
 
 bool isBlank(QChar character)
@@ -41,6 +44,15 @@ bool isBlank(QChar character)
 bool isOn(QString const& value)
 {
     return value != u'0';
+}
+
+/// A line that ends in CR LF, in a file where others don't, says the same without the CR.
+QString withoutReturns(QString const& line)
+{
+    qsizetype length = line.size();
+    while (length > 0 && line[length - 1] == u'\r')
+        --length;
+    return line.first(length);
 }
 
 } // namespace
@@ -56,22 +68,14 @@ bool YumConfIO::read(QWidget* window)
     mainGpgcheck = false;
     repos.clear();
     generated.clear();
+    forms.clear();
+    filesRead.clear();
 
-    {
-        QString const path = QString::fromLatin1(file.path);
-        unfinishedFile = path;
-        File const stream = openFile(diskName(path));
-        if (!stream) {
-            error(tr("Unable to read yum configuration file %1").arg(path));
-            return false;
-        }
-        if (!readConfFile(stream.get()))
-            return false;
-        unfinishedFile.clear();
-    }
-
-    for (QString const& directory : std::as_const(reposdirs)) {
-        if (!readDirectory(directory))
+    QSet<QByteArray> met;
+    if (!readMainFile(QString::fromLatin1(file.path), met))
+        return false;
+    for (QString const& directory : directories()) {
+        if (!readDirectory(directory, met))
             return false;
     }
 
@@ -79,65 +83,104 @@ bool YumConfIO::read(QWidget* window)
     return true;
 }
 
-/// Reads the ".repo" files of `directory`, in the order in which it lists them. One that can't be opened is
-/// passed over: of the default directories only one exists as a rule.
-bool YumConfIO::readDirectory(QString const& directory)
-{
-    Directory const stream(opendir(diskName(directory).constData()));
-    if (!stream)
-        return true;
-
-    while (dirent const* const item = ::readdir(stream.get())) {
-        QString const name = QString::fromLatin1(item->d_name);
-        if (name.endsWith(QLatin1String(".repo")) && !readDirectoryFile(directory + u'/' + name))
-            return false;
-    }
-    return true;
-}
-
-bool YumConfIO::readDirectoryFile(QString const& path)
+bool YumConfIO::readMainFile(QString const& path, QSet<QByteArray>& met)
 {
     unfinishedFile = path;
-    QByteArray const name = diskName(path);
     struct stat status = {};
-    if (stat(name.constData(), &status) != 0) {
+    // To open what is no file might wait for ever, or set something going; a directory does neither.
+    if (ManagedRoot::inspect(path.toLatin1(), status) && !S_ISREG(status.st_mode) &&
+        !S_ISDIR(status.st_mode)) {
+        tell(notRegular(path));
+        return false;
+    }
+    Descriptor const file(ManagedRoot::open(path.toLatin1(), O_RDONLY));
+    if (!file) {
+        error(tr("Unable to read yum configuration file %1").arg(path));
+        return false;
+    }
+    met.insert(ManagedRoot::identity(path.toLatin1()));
+    return readFile(file, path, &YumConfIO::readConfFile);
+}
+
+/// Reads the ".repo" files of `directory`, in the order in which it lists them. One that can't be opened is
+/// passed over: of the default directories only one exists as a rule.
+bool YumConfIO::readDirectory(QString const& directory, QSet<QByteArray>& met)
+{
+    QByteArrayList const names = ManagedRoot::names(directory.toLatin1());
+    return std::all_of(names.cbegin(), names.cend(), [&](QByteArray const& name) {
+        return !name.endsWith(".repo") ||
+               readDirectoryFile(directory + u'/' + QString::fromLatin1(name), met);
+    });
+}
+
+QString YumConfIO::notRegular(QString const& path)
+{
+    return tr("%1 is not a regular file.  It is neither read nor changed.").arg(path);
+}
+
+/// Reads one file, unless it has been `met` by another path.
+bool YumConfIO::readDirectoryFile(QString const& path, QSet<QByteArray>& met)
+{
+    unfinishedFile = path;
+    struct stat status = {};
+    if (!ManagedRoot::inspect(path.toLatin1(), status)) {
         error(tr("Unable to stat repository configuration file %1").arg(path));
         return false;
     }
-    if (S_ISDIR(status.st_mode)) {
+    QByteArray const identity = ManagedRoot::identity(path.toLatin1());
+    if (S_ISDIR(status.st_mode) || met.contains(identity)) {
+        unfinishedFile.clear();
+        return true;
+    }
+    if (!S_ISREG(status.st_mode)) {
+        if (!passedOver.contains(path))
+            tell(notRegular(path));
+        passedOver.insert(path);
         unfinishedFile.clear();
         return true;
     }
 
-    File const stream = openFile(name);
-    if (!stream) {
+    Descriptor const file(ManagedRoot::open(path.toLatin1(), O_RDONLY));
+    if (!file) {
         error(tr("Unable to read repository configuration file %1").arg(path));
         return false;
     }
+    met.insert(identity);
     qsizetype const first = repos.size();
-    if (!readRepoFile(stream.get(), path))
+    if (!readFile(file, path, &YumConfIO::readRepoFile))
         return false;
     if (generated.contains(path))
         generated[path] = contentOf(path, repos.mid(first));
+    return true;
+}
+
+/// Reads the whole of an open file, whose text `take` takes apart.
+bool YumConfIO::readFile(Descriptor const& file, QString const& path, TakeText take)
+{
+    QByteArray content;
+    if (!readAll(file, content)) {
+        error(tr("Error reading repository configuration file %1").arg(path));
+        return false;
+    }
+    ConfText text(content);
+    forms.insert(path, text.form());
+    if (!(this->*take)(text, path))
+        return false;
+    filesRead.insert(ManagedRoot::resolved(path.toLatin1()), path);
     unfinishedFile.clear();
     return true;
 }
 
 /// Reads the main section, then what repositories the main file holds. Lines before "[main]" are treated as
 /// if they stood inside it.
-bool YumConfIO::readConfFile(std::FILE* stream)
+bool YumConfIO::readConfFile(ConfText& text, QString const& file)
 {
-    for (;;) {
-        QString line;
-        ReadResult const result = readLogicalLine(stream, QString::fromLatin1(fileName()), line);
-        if (result == ReadError)
-            return false;
-        if (result == EndOfFile)
-            break;
-
-        if (line != QLatin1String("[main]")) {
-            if (line.startsWith(u'[')) {
-                unreadLine(line);
+    QString line;
+    while (text.takeLine(line)) {
+        QString const head = withoutReturns(line);
+        if (head != QLatin1String("[main]")) {
+            if (head.startsWith(u'[')) {
+                text.putBack();
                 break;
             }
             QString value;
@@ -152,12 +195,12 @@ bool YumConfIO::readConfFile(std::FILE* stream)
         }
         mainOptions += line + u'\n';
     }
-    return readRepoFile(stream, QString::fromLatin1(fileName()));
+    return readRepoFile(text, file);
 }
 
 /// Reads the sections of a file up to its end. What stands above the first head goes into an entry that is
 /// dropped; it tells whether a program writes the file.
-bool YumConfIO::readRepoFile(std::FILE* stream, QString const& file)
+bool YumConfIO::readRepoFile(ConfText& text, QString const& file)
 {
     Repo::Entry entry;
     entry.file = file;
@@ -166,10 +209,7 @@ bool YumConfIO::readRepoFile(std::FILE* stream, QString const& file)
 
     for (;;) {
         QString line;
-        ReadResult const result = readLogicalLine(stream, file, line);
-        if (result == ReadError)
-            return false;
-        bool const isOver = result == EndOfFile;
+        bool const isOver = !text.takeLine(line);
         if (!inSection && (isOver || line.startsWith(u'[')) && isGenerated(file, entry.otherOptions))
             generated.insert(file, QByteArray());
         if (isOver) {
@@ -183,7 +223,8 @@ bool YumConfIO::readRepoFile(std::FILE* stream, QString const& file)
             continue;
         }
 
-        if (!line.endsWith(u']')) {
+        QString const head = withoutReturns(line);
+        if (!head.endsWith(u']')) {
             error(tr("Malformed section name in line: %1").arg(line));
             return false;
         }
@@ -191,7 +232,7 @@ bool YumConfIO::readRepoFile(std::FILE* stream, QString const& file)
             finishEntry(entry, isNew);
 
         Repo::Entry next;
-        next.id = line.mid(1, line.size() - 2);
+        next.id = head.mid(1, head.size() - 2);
         next.file = file;
         next.filePosition = entry.filePosition + 1.0;
         entry = next;
@@ -233,64 +274,6 @@ void YumConfIO::finishEntry(Repo::Entry& entry, bool isNew)
     repos.append(entry);
 }
 
-/// A logical line is a physical one with all that follow it and begin with a blank or a tab.
-YumConfIO::ReadResult YumConfIO::readLogicalLine(std::FILE* stream, QString const& file, QString& line)
-{
-    if (unreadLines.isEmpty()) {
-        ReadResult const result = readLine(stream, file, line);
-        if (result != Line)
-            return result;
-    } else {
-        line = unreadLines.takeFirst();
-        // With another line waiting behind it, it has been through here before and is complete.
-        if (!unreadLines.isEmpty())
-            return Line;
-    }
-
-    for (;;) {
-        QString next;
-        switch (readLine(stream, file, next)) {
-        case ReadError:
-            return ReadError;
-        case EndOfFile:
-            unreadLines.clear();
-            return Line;
-        case Line:
-            break;
-        }
-        if (next.isEmpty() || !isBlank(next.front())) {
-            unreadLines.append(next);
-            return Line;
-        }
-        line += u'\n' + next;
-    }
-}
-
-/// Reads up to a line feed, which is not part of the line. A last line without one counts unless it is empty.
-YumConfIO::ReadResult YumConfIO::readLine(std::FILE* stream, QString const& file, QString& line)
-{
-    line.clear();
-    for (;;) {
-        errno = 0;
-        int const byte = std::getc(stream);
-        if (byte == '\n')
-            return Line;
-        if (byte != EOF) {
-            line += QLatin1Char(static_cast<char>(byte));
-            continue;
-        }
-        if (errno == 0)
-            return line.isEmpty() ? EndOfFile : Line;
-        error(tr("Error reading repository configuration file %1").arg(file));
-        return ReadError;
-    }
-}
-
-void YumConfIO::unreadLine(QString const& line)
-{
-    unreadLines.prepend(line);
-}
-
 /// Whether `line` sets `option`; its value goes to `value`. The option's name has to fill the line up to the
 /// separator, so that one behind a comment sign matches nothing.
 bool YumConfIO::isOption(QString const& line, QString const& option, QString& value)
@@ -309,7 +292,7 @@ bool YumConfIO::isOption(QString const& line, QString const& option, QString& va
     qsizetype start = at + 1;
     while (start < line.size() && isBlank(line[start]))
         ++start;
-    value = line.mid(start);
+    value = withoutReturns(line.mid(start));
     return true;
 }
 

@@ -2,6 +2,7 @@
 // The configuration's writing: the check of identifiers, the files, the removal of those out of use.
 #include "repo/YumConfIO.h"
 
+#include "base/ManagedRoot.h"
 #include "repo/Buffet.h"
 #include "repo/OutputFile.h"
 
@@ -11,9 +12,7 @@
 #include <memory>
 #include <utility>
 
-#include <dirent.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace
 {
@@ -46,6 +45,11 @@ bool holdsCredentials(Repo::Entry const& entry)
            Repo::Buffet::getAuth(entry.otherOptions, keyName, name, keyPassword, password);
 }
 
+QByteArray identity(QString const& file)
+{
+    return ManagedRoot::identity(file.toLatin1());
+}
+
 } // namespace
 
 bool YumConfIO::write(QWidget* window)
@@ -56,31 +60,68 @@ bool YumConfIO::write(QWidget* window)
     cleanupWrite(repos);
 
     QList<FileEntries> const files = entriesByFile();
+    if (QString const file = unreadFile(files); !file.isEmpty()) {
+        tell(tr("The file %1 has not been read, or not to its end.  Nothing is written, so that "
+                "nothing in it is lost.")
+                 .arg(file));
+        return false;
+    }
     if (!confirmGenerated(files))
         return false;
 
-    QSet<QString> written;
+    bool isMainWritten = false;
     for (FileEntries const& entries : files) {
         QString const file = entries.first().file;
         if (!isAsGenerated(file, entries) && !writeFile(file, entries))
             return false;
-        written.insert(file);
+        isMainWritten = isMainWritten || isMainFile(file);
     }
-
     QString const mainFile = QString::fromLatin1(fileName());
-    if (!written.contains(mainFile)) {
-        if (!writeFile(mainFile, {}))
-            return false;
-        written.insert(mainFile);
-    }
+    if (!isMainWritten && !writeFile(mainFile, {}))
+        return false;
 
     noteWritten(files);
-    for (auto file = generated.cbegin(); file != generated.cend(); ++file)
-        written.insert(file.key());
     // What a failed read did not get to is not out of use.
-    if (unfinishedFile.isEmpty())
-        removeUnusedFiles(written);
+    if (!unfinishedFile.isEmpty())
+        return true;
+    // Asked now that all of them are there.
+    QSet<QByteArray> used{identity(mainFile)};
+    for (FileEntries const& entries : files)
+        used.insert(identity(entries.first().file));
+    for (auto file = generated.cbegin(); file != generated.cend(); ++file)
+        used.insert(identity(file.key()));
+    removeUnusedFiles(used);
     return true;
+}
+
+/// The paths of the files whose content is known, by what they are now.
+QHash<QByteArray, QString> YumConfIO::knownFiles() const
+{
+    QHash<QByteArray, QString> known;
+    for (auto file = filesRead.cbegin(); file != filesRead.cend(); ++file)
+        known.insert(ManagedRoot::identity(file.key()), file.value());
+    return known;
+}
+
+/// The first of the files to be written that holds what isn't known here; empty if there is none.
+QString YumConfIO::unreadFile(QList<FileEntries> const& files) const
+{
+    QHash<QByteArray, QString> const known = knownFiles();
+    QStringList targets{QString::fromLatin1(fileName())};
+    for (FileEntries const& entries : files)
+        targets += entries.first().file;
+    for (QString const& file : std::as_const(targets)) {
+        struct stat status = {};
+        bool const isThere = ManagedRoot::inspect(file.toLatin1(), status) && !S_ISDIR(status.st_mode);
+        if (file == unfinishedFile || (isThere && !known.contains(identity(file))))
+            return file;
+    }
+    return QString();
+}
+
+bool YumConfIO::isMainFile(QString const& file)
+{
+    return identity(file) == ManagedRoot::identity(fileName());
 }
 
 QList<YumConfIO::FileEntries> YumConfIO::entriesByFile() const
@@ -100,7 +141,7 @@ QList<YumConfIO::FileEntries> YumConfIO::entriesByFile() const
 bool YumConfIO::isAsGenerated(QString const& file, FileEntries const& entries) const
 {
     auto const at = generated.constFind(file);
-    return at != generated.cend() && file != unfinishedFile && at.value() == contentOf(file, entries);
+    return at != generated.cend() && at.value() == contentOf(file, entries);
 }
 
 /// Asks, once, about all generated files that a write would change or remove. True if there are none.
@@ -111,9 +152,7 @@ bool YumConfIO::confirmGenerated(QList<FileEntries> const& files)
     for (FileEntries const& entries : files) {
         QString const file = entries.first().file;
         holding.insert(file);
-        // Nothing is written to the file in which the reading stopped.
-        if ((generated.contains(file) || isGenerated(file)) && file != unfinishedFile &&
-            !isAsGenerated(file, entries))
+        if ((generated.contains(file) || isGenerated(file)) && !isAsGenerated(file, entries))
             changed += file;
     }
     for (auto file = generated.cbegin(); file != generated.cend(); ++file) {
@@ -204,9 +243,10 @@ QString YumConfIO::getDuplicateId() const
     return ids.join(QStringLiteral(", "));
 }
 
-/// Gives each repository the full path of its file.
+/// Gives each repository the full path of its file: of several paths of one, the one that it was read by.
 void YumConfIO::cleanupWrite(QList<Repo::Entry>& entries) const
 {
+    QHash<QByteArray, QString> paths = knownFiles();
     for (Repo::Entry& entry : entries) {
         if (entry.file.isEmpty())
             entry.file = entry.id + QStringLiteral(".repo");
@@ -215,6 +255,10 @@ void YumConfIO::cleanupWrite(QList<Repo::Entry>& entries) const
         // The name that the disk is going to know: under any other the removal of unused files would not
         // recognise the file, and two names that become one there would overwrite each other.
         entry.file = QString::fromLatin1(entry.file.toLatin1());
+        QString& path = paths[identity(entry.file)];
+        if (path.isNull())
+            path = entry.file;
+        entry.file = path;
     }
 }
 
@@ -224,12 +268,8 @@ bool YumConfIO::writeFile(QString const& file, QList<Repo::Entry> const& entries
     OutputFile output;
     bool const isPrivate = std::any_of(entries.cbegin(), entries.cend(), holdsCredentials);
     bool isWritten = false;
-    if (file == unfinishedFile) {
-        // Only a part of it is known here.
-        errno = ECANCELED;
-    } else if (file.contains(QChar::Null)) {
-        errno = EINVAL;
-    } else if (output.open(diskName(file), isPrivate)) {
+    if (output.open(file.toLatin1(), isPrivate)) {
+        filesRead.insert(ManagedRoot::resolved(file.toLatin1()), file);
         // The content comes after the opening, since a main file that is new decides which one is the main.
         isWritten = output.write(contentOf(file, entries)) && output.close();
     }
@@ -245,7 +285,7 @@ QByteArray YumConfIO::contentOf(QString const& file, QList<Repo::Entry> const& e
     std::FILE* const stream = open_memstream(&buffer, &size);
     if (!stream)
         qBadAlloc();
-    if (file == QLatin1String(fileName()))
+    if (isMainFile(file))
         put(stream, mainOptions);
     for (qsizetype at = 0; at < entries.size(); ++at) {
         if (at > 0)
@@ -256,7 +296,7 @@ QByteArray YumConfIO::contentOf(QString const& file, QList<Repo::Entry> const& e
     if (std::fclose(stream) != 0 || !isWhole)
         qBadAlloc();
     std::unique_ptr<char, decltype(&std::free)> const owner(buffer, &std::free);
-    return QByteArray(buffer, static_cast<qsizetype>(size));
+    return forms.value(file).bytesOf(QByteArray(buffer, static_cast<qsizetype>(size)));
 }
 
 /// Writes one section, the understood options first, in a fixed order. Always true.
@@ -277,35 +317,38 @@ bool YumConfIO::writeRepo(std::FILE* stream, Repo::Entry const& repo)
     return true;
 }
 
-/// Deletes every file of the repository directories that is not in `written`, whatever its name. The first
-/// failure is told and ends it.
-bool YumConfIO::removeUnusedFiles(QSet<QString> const& written)
+/// Deletes every file of the repository directories that is none of the `used`, whatever its name. Of a link
+/// only the link goes. The first failure is told and ends it.
+bool YumConfIO::removeUnusedFiles(QSet<QByteArray> const& used)
 {
-    return std::all_of(reposdirs.cbegin(), reposdirs.cend(), [&](QString const& directory) {
-        return removeUnusedFilesOf(directory, written);
+    // All are looked at first: a file that is gone leaves links to it that can't be.
+    QStringList unused;
+    QStringList const folders = directories();
+    bool const isAllKnown = std::all_of(folders.cbegin(), folders.cend(), [&](QString const& directory) {
+        return findUnusedFiles(directory, used, unused);
     });
+    bool const isRemoved = std::all_of(unused.cbegin(), unused.cend(), [this](QString const& path) {
+        filesRead.remove(ManagedRoot::resolved(path.toLatin1()));
+        if (ManagedRoot::unlink(path.toLatin1()))
+            return true;
+        error(tr("Unable to unlink repository configuration file %1").arg(path));
+        return false;
+    });
+    return isAllKnown && isRemoved;
 }
 
-bool YumConfIO::removeUnusedFilesOf(QString const& directory, QSet<QString> const& written)
+/// False, after a report, where one can't be looked at.
+bool YumConfIO::findUnusedFiles(QString const& directory, QSet<QByteArray> const& used, QStringList& unused)
 {
-    std::unique_ptr<DIR, int (*)(DIR*)> const stream(opendir(diskName(directory).constData()), &closedir);
-    if (!stream)
-        return true;
-
-    while (dirent const* const item = ::readdir(stream.get())) {
-        QString const path = directory + u'/' + QString::fromLatin1(item->d_name);
-        QByteArray const name = diskName(path);
+    for (QByteArray const& name : ManagedRoot::names(directory.toLatin1())) {
+        QString const path = directory + u'/' + QString::fromLatin1(name);
         struct stat status = {};
-        if (stat(name.constData(), &status) != 0) {
+        if (!ManagedRoot::inspect(path.toLatin1(), status)) {
             error(tr("Unable to stat repository configuration file %1").arg(path));
             return false;
         }
-        if (S_ISDIR(status.st_mode) || written.contains(path))
-            continue;
-        if (unlink(name.constData()) != 0) {
-            error(tr("Unable to unlink repository configuration file %1").arg(path));
-            return false;
-        }
+        if (S_ISREG(status.st_mode) && !used.contains(identity(path)))
+            unused += path;
     }
     return true;
 }

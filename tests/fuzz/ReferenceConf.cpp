@@ -12,12 +12,37 @@ bool isBlank(char byte)
     return byte == ' ' || byte == '\t';
 }
 
-QByteArrayList logicalLines(QByteArray const& text)
+QByteArrayList physicalLines(QByteArray const& text)
 {
-    QByteArrayList physical = text.split('\n');
-    if (physical.last().isEmpty())
-        physical.removeLast();
+    QByteArrayList lines = text.split('\n');
+    if (lines.last().isEmpty())
+        lines.removeLast();
+    return lines;
+}
 
+/// Whether a CR stands before each line feed; not where there is none.
+bool endsInReturns(QByteArray const& text)
+{
+    char before = 0;
+    bool isFound = false;
+    for (char const byte : text) {
+        if (byte == '\n' && before != '\r')
+            return false;
+        isFound = isFound || byte == '\n';
+        before = byte;
+    }
+    return isFound;
+}
+
+QByteArray withoutReturns(QByteArray text)
+{
+    while (text.endsWith('\r'))
+        text.chop(1);
+    return text;
+}
+
+QByteArrayList logicalLines(QByteArrayList const& physical)
+{
     QByteArrayList logical;
     for (QByteArray const& line : physical) {
         if (!logical.isEmpty() && !line.isEmpty() && isBlank(line.front()))
@@ -46,7 +71,7 @@ std::optional<QByteArray> valueOf(QByteArray const& line, QByteArray const& opti
     QByteArray value = line.mid(separator + 1);
     while (!value.isEmpty() && isBlank(value.front()))
         value.remove(0, 1);
-    return value;
+    return withoutReturns(value);
 }
 
 /// Addresses as they are written: one a line, the further ones indented.
@@ -111,15 +136,38 @@ struct OpenSection
 
 } // namespace
 
-ReferenceConf::ReferenceConf(QByteArray const& text, Kind kind)
+ReferenceConf::ReferenceConf(QByteArray const& content, Kind kind)
+    : hasMark(content.left(3) == "\xef\xbb\xbf")
 {
-    QByteArrayList lines = logicalLines(text);
+    QByteArray const text = content.mid(hasMark ? 3 : 0);
+    hasReturns = endsInReturns(text);
+    QByteArrayList physical = physicalLines(text);
+    for (QByteArray& line : physical) {
+        if (hasReturns && line.endsWith('\r'))
+            line.chop(1);
+    }
+    // What half of an end leaves is no line.
+    if (hasReturns && !physical.isEmpty() && physical.last().isEmpty() && !text.endsWith('\n'))
+        physical.removeLast();
+
+    QByteArrayList lines = logicalLines(physical);
     while (kind == MainFile && !lines.isEmpty() &&
-           (lines.first() == "[main]" || !lines.first().startsWith('['))) {
+           (withoutReturns(lines.first()) == "[main]" || !lines.first().startsWith('['))) {
         readMainOption(lines.first());
         mainOptions += lines.takeFirst() + '\n';
     }
     readSections(lines);
+}
+
+QByteArray ReferenceConf::formed(QByteArray const& text) const
+{
+    QByteArray result = hasMark ? "\xef\xbb\xbf" : "";
+    for (char const byte : text) {
+        if (hasReturns && byte == '\n')
+            result += '\r';
+        result += byte;
+    }
+    return result;
 }
 
 void ReferenceConf::readMainOption(QByteArray const& line)
@@ -144,13 +192,14 @@ void ReferenceConf::readSections(QByteArrayList const& lines)
         if (open)
             sections.last().written = open->written();
         open.reset();
-        if (!line.endsWith(']')) {
+        QByteArray const head = withoutReturns(line);
+        if (!head.endsWith(']')) {
             isWellFormed = false;
             return;
         }
         open.emplace();
-        open->head = line;
-        sections += Section{line.mid(1, line.size() - 2), {}, {}};
+        open->head = head;
+        sections += Section{head.mid(1, head.size() - 2), {}, {}};
     }
     if (open)
         sections.last().written = open->written();

@@ -14,7 +14,7 @@ public:
     struct Section
     {
         QByteArray id;
-        QByteArray written;  ///< as it is to stand in the file, without the blank line between two
+        QByteArray written;  ///< as it is to stand in the file but for the form, without the blank line
         QList<bool> enabled; ///< what its `enabled` lines say, in their order
     };
 
@@ -27,10 +27,15 @@ public:
     ReferenceConf(QByteArray const& text, Kind kind);
 
     bool isWellFormed = true; ///< every section head has its closing bracket
-    QByteArray mainOptions;   ///< of a main file, as it is to stand there
+    bool hasMark = false;     ///< a byte order mark stands first
+    bool hasReturns = false;  ///< each line that has an end ends in CR LF
+    QByteArray mainOptions;   ///< of a main file, as it is to stand there but for the form
     QByteArrayList reposdirs{"/etc/yum/repos.d", "/etc/yum.repos.d"};
     bool mainEnabled = true;
     QList<Section> sections; ///< up to the first head that isn't well formed
+
+    /// `text` with the mark and the ends that this file has.
+    [[nodiscard]] QByteArray formed(QByteArray const& text) const;
 
 private:
     void readMainOption(QByteArray const& line);

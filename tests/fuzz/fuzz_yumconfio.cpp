@@ -95,6 +95,18 @@ Files filesOf(QByteArray const& input)
     return files;
 }
 
+/// The directories, each once, whatever it is called.
+QByteArrayList plain(QByteArrayList const& directories)
+{
+    QByteArrayList once;
+    for (QByteArray const& directory : directories) {
+        QByteArray const path = QDir::cleanPath(u'/' + QString::fromLatin1(directory)).toLatin1();
+        if (!once.contains(path))
+            once += path;
+    }
+    return once;
+}
+
 bool isRepoFile(QByteArray const& path)
 {
     return path.endsWith(".repo");
@@ -134,7 +146,7 @@ Files expectedFiles(Root const& root, Files const& files, ReferenceConf const& m
             sections += (sections.isEmpty() ? "" : "\n") + section.written;
         }
         if (isMain || !sections.isEmpty())
-            expected[path] += file.mainOptions + sections;
+            expected[path] = file.formed(file.mainOptions + sections);
     }
     // A directory that isn't one of the configuration's is left alone.
     for (auto const& [path, text] : files) {
@@ -193,8 +205,8 @@ void writeAfterFault(Root const& root, Files const& files, YumConfIO& conf)
 
 void readAndWrite(Root const& root, Files const& files)
 {
-    ReferenceConf const main(files.at("/etc/yum.conf"), ReferenceConf::MainFile);
-    // Directories are held below the root by their names alone.
+    ReferenceConf main(files.at("/etc/yum.conf"), ReferenceConf::MainFile);
+    // What stands before ".." has to be there, which names don't tell.
     for (QByteArray const& directory : main.reposdirs) {
         if (directory.contains(".."))
             return;
@@ -211,11 +223,12 @@ void readAndWrite(Root const& root, Files const& files)
         found += directory.toLatin1();
     require(found == main.reposdirs, "the directories are those of the main file");
 
-    // Another spelling of a directory does not protect its files from removal.
-    bool const isPlain = std::all_of(found.begin(), found.end(), [](QByteArray const& directory) {
-        return directory == "/etc/yum.repos.d" || directory == "/etc/yum/repos.d";
-    });
-    if (!isPlain)
+    main.reposdirs = plain(main.reposdirs);
+    bool const isOurs =
+        std::all_of(main.reposdirs.begin(), main.reposdirs.end(), [](QByteArray const& directory) {
+            return directory == "/etc/yum.repos.d" || directory == "/etc/yum/repos.d";
+        });
+    if (!isOurs)
         return;
     require(isRead == areWellFormed(files, main), "what has all its brackets can be read, and nothing else");
     require(errorsTold == (isRead ? 0 : 1), "a fault is told once");
@@ -241,6 +254,11 @@ void readAndWrite(Root const& root, Files const& files)
 // Instead of a user in front of message boxes: one who looks on, and says Yes.
 
 void YumConfIO::error(QString const&)
+{
+    ++errorsTold;
+}
+
+void YumConfIO::tell(QString const&)
 {
     ++errorsTold;
 }

@@ -36,6 +36,20 @@ QByteArray withFinalLineFeed(QByteArray const& text)
     return text.isEmpty() || text.endsWith('\n') ? text : text + '\n';
 }
 
+/// The value of an option as it is understood: a CR before the line feed is none of it.
+QByteArray withoutReturns(QByteArray value)
+{
+    while (value.endsWith('\r'))
+        value.chop(1);
+    return value;
+}
+
+/// Whether not all lines end in CR LF, by chance, which would make it a file of another form.
+bool hasPlainEnd(QByteArray const& text)
+{
+    return text.count("\r\n") < text.count('\n');
+}
+
 } // namespace
 
 GeneratedConf::GeneratedConf(quint32 seed)
@@ -113,7 +127,7 @@ void GeneratedConf::addSections(File& file, int count)
         addSection(file);
     }
     // A last line without a line feed counts.
-    if (count > 0 && maybe(3))
+    if (count > 0 && maybe(3) && hasPlainEnd(file.text.chopped(1)))
         file.text.chop(1);
 }
 
@@ -135,6 +149,7 @@ void GeneratedConf::addSection(File& file)
                 value = QByteArrayList{"0", "1", "0 ", "00", "no", ""}[below(6)];
             value += continuations();
             text += names[size_t(kind)] + blanks() + (maybe(2) ? ":" : "=") + blanks() + value + '\n';
+            value = withoutReturns(value);
             if (kind >= 3)
                 value = value == "0" ? "0" : "1";
             else if (kind == 1)

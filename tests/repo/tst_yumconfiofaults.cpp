@@ -10,7 +10,10 @@
 #include <cerrno>
 #include <cstring>
 
+#include <sys/mount.h>
 #include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/sysmacros.h>
 #include <sys/un.h>
 #include <unistd.h>
 
@@ -51,14 +54,16 @@ private Q_SLOTS:
     void missingMainFileIsTold();
     void unreadableMainFileIsTold();
     void repositoryFileThatCannotBeLookedAtIsTold();
-    void repositoryFileThatCannotBeOpenedIsTold();
+    void anythingButAFileIsToldOnceAndLeftAlone_data();
+    void anythingButAFileIsToldOnceAndLeftAlone();
+    void mainFileThatIsAPipeIsTold();
     void filesThatMayNotBeReadAreTold();
     void readErrorOfARepositoryFileIsTold();
     void malformedHeadIsTold_data();
     void malformedHeadIsTold();
     void malformedHeadLosesTheSectionBeforeIt();
     void linesOfFilesAreShownAsPlainText();
-    void lineReadAheadOfAFaultIsReadAgain();
+    void readAfterAFaultBeginsAfresh();
 };
 
 void TestYumConfIOFaults::missingMainFileIsTold()
@@ -106,20 +111,62 @@ void TestYumConfIOFaults::repositoryFileThatCannotBeLookedAtIsTold()
     QCOMPARE(root.ids(), QStringList(QStringLiteral("a")));
 }
 
-void TestYumConfIOFaults::repositoryFileThatCannotBeOpenedIsTold()
+void TestYumConfIOFaults::anythingButAFileIsToldOnceAndLeftAlone_data()
 {
+    QTest::addColumn<QByteArray>("kind");
+    for (char const* const kind : {"pipe", "socket", "device", "link"})
+        QTest::newRow(kind) << QByteArray(kind);
+}
+
+void TestYumConfIOFaults::anythingButAFileIsToldOnceAndLeftAlone()
+{
+    QFETCH(QByteArray, kind);
     BoxReader boxes;
     ConfRoot root;
     root.write("/etc/yum.conf", "[a]\n");
     root.makeDirectory("/etc/yum/repos.d");
-    QVERIFY(makeSocket(root.onDisk("/etc/yum/repos.d/socket.repo")));
+    QByteArray const place = root.onDisk("/etc/yum/repos.d/odd.repo");
+    if (kind == "pipe")
+        QCOMPARE(::mkfifo(place.constData(), 0600), 0);
+    if (kind == "socket")
+        QVERIFY(makeSocket(place));
+    if (kind == "device" && ::mknod(place.constData(), S_IFCHR | 0600, makedev(1, 3)) != 0)
+        QSKIP("no right to make devices");
+    if (kind == "link") {
+        QCOMPARE(::mkfifo(root.onDisk("/pipe").constData(), 0600), 0);
+        QVERIFY(QFile::link(QStringLiteral("/pipe"), QFile::decodeName(place)));
+    }
     root.write("/etc/yum.repos.d/later.repo", "[later]\n");
-    QVERIFY(!root.conf.read(nullptr));
-    QCOMPARE(
-        boxes.texts,
-        QStringList(
-            told("Unable to read repository configuration file /etc/yum/repos.d/socket.repo", ENXIO)));
-    QCOMPARE(root.ids(), QStringList(QStringLiteral("a")));
+
+    QStringList const words(
+        QStringLiteral("/etc/yum/repos.d/odd.repo is not a regular file.  It is neither read nor changed."));
+    for (int time = 0; time < 2; ++time) {
+        QVERIFY(root.conf.read(nullptr));
+        QCOMPARE(root.ids(), QStringList({QStringLiteral("a"), QStringLiteral("later")}));
+        QVERIFY(root.conf.write(nullptr));
+        QCOMPARE(boxes.texts, words);
+    }
+    QVERIFY(QFileInfo(QFile::decodeName(place)).isSymLink() || QFileInfo::exists(QFile::decodeName(place)));
+
+    // Nor is it written.
+    root.conf.repos.last().file = QStringLiteral("/etc/yum/repos.d/odd.repo");
+    QVERIFY(!root.conf.write(nullptr));
+    QCOMPARE(boxes.texts.size(), 2);
+}
+
+void TestYumConfIOFaults::mainFileThatIsAPipeIsTold()
+{
+    BoxReader boxes;
+    ConfRoot root;
+    root.makeDirectory("/etc");
+    QCOMPARE(::mkfifo(root.onDisk("/etc/yum.conf").constData(), 0600), 0);
+    for (int time = 1; time <= 2; ++time) {
+        QVERIFY(!root.conf.read(nullptr));
+        QCOMPARE(boxes.texts.size(), time);
+        QCOMPARE(
+            boxes.texts.last(),
+            QStringLiteral("/etc/yum.conf is not a regular file.  It is neither read nor changed."));
+    }
 }
 
 void TestYumConfIOFaults::filesThatMayNotBeReadAreTold()
@@ -160,12 +207,15 @@ void TestYumConfIOFaults::readErrorOfARepositoryFileIsTold()
     BoxReader boxes;
     ConfRoot root;
     root.write("/etc/yum.conf", "[a]\n");
-    root.makeDirectory("/etc/yum/repos.d");
-    // The first page of a process is never mapped, so this opens well and can't be read.
-    QVERIFY(QFile::link(
-        QStringLiteral("/proc/self/mem"), QFile::decodeName(root.onDisk("/etc/yum/repos.d/memory.repo"))));
+    root.write("/etc/yum/repos.d/memory.repo", "");
     root.write("/etc/yum.repos.d/later.repo", "[later]\n");
-    QVERIFY(!root.conf.read(nullptr));
+    // The first page of a process is never mapped, so this opens well and can't be read.
+    QByteArray const memory = root.onDisk("/etc/yum/repos.d/memory.repo");
+    if (::mount("/proc/self/mem", memory.constData(), nullptr, MS_BIND, nullptr) != 0)
+        QSKIP("no right to mount");
+    bool const isRead = root.conf.read(nullptr);
+    ::umount2(memory.constData(), MNT_DETACH);
+    QVERIFY(!isRead);
     QCOMPARE(
         boxes.texts,
         QStringList(told("Error reading repository configuration file /etc/yum/repos.d/memory.repo", EIO)));
@@ -223,18 +273,24 @@ void TestYumConfIOFaults::linesOfFilesAreShownAsPlainText()
         qPrintable(boxes.texts.value(0)));
 }
 
-void TestYumConfIOFaults::lineReadAheadOfAFaultIsReadAgain()
+void TestYumConfIOFaults::readAfterAFaultBeginsAfresh()
 {
     BoxReader boxes;
     ConfRoot root;
-    root.write("/etc/yum.conf", "[main]\n");
-    root.write("/etc/yum.repos.d/some.repo", "[broken\nleft over\n");
+    QByteArray const main = "[main]\nreposdir=/etc/one\n";
+    root.write("/etc/yum.conf", main);
+    root.write("/etc/one/some.repo", "[broken\nleft over\n");
+    root.write("/etc/yum.repos.d/other.repo", "[other]\n");
     QVERIFY(!root.conf.read(nullptr));
-    QVERIFY(root.readRepoFile("[a]\n"));
-    QCOMPARE(root.conf.mainOptions, QStringLiteral("left over\n"));
 
-    QVERIFY(root.readMain("[main]\n"));
-    QCOMPARE(root.conf.mainOptions, QStringLiteral("[main]\n"));
+    root.write("/etc/one/some.repo", "[a]\n");
+    QVERIFY(root.conf.read(nullptr));
+    QCOMPARE(root.ids(), QStringList(QStringLiteral("a")));
+    QCOMPARE(root.conf.mainOptions, QString::fromLatin1(main));
+    QCOMPARE(root.conf.reposdirs, QStringList(QStringLiteral("/etc/one")));
+    QVERIFY(root.conf.write(nullptr));
+    QVERIFY(QFileInfo::exists(QFile::decodeName(root.onDisk("/etc/yum.repos.d/other.repo"))));
+    QCOMPARE(boxes.texts.size(), 1);
 }
 
 QTEST_MAIN(TestYumConfIOFaults)

@@ -259,10 +259,8 @@ private Q_SLOTS:
         QVERIFY(!root->conf.read(nullptr));
         QVERIFY(!root->conf.write(nullptr));
         QCOMPARE(boxes->texts.size(), 2);
-        QCOMPARE(
-            boxes->texts.last(),
-            BoxAnswer::told(
-                "Unable to write repository configuration file /etc/yum.repos.d/redhat.repo", ECANCELED));
+        QVERIFY(boxes->texts.last().startsWith(
+            QLatin1String("The file /etc/yum.repos.d/redhat.repo has not been read, or not to its end.")));
         QCOMPARE(content(*root, redhat), head + "[base]\n[extra]\n[broken\n");
     }
 };

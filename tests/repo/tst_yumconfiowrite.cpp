@@ -59,7 +59,6 @@ private Q_SLOTS:
     void removedSectionLeavesTheOthers();
     void filesWithoutARepositoryAreDeleted();
     void directoriesStay();
-    void otherSpellingOfThePathDoesNotProtectAFile();
     void allBytesSurvive();
     void linksOwnersAndPermissionsStay();
     void securityContextStays_data();
@@ -347,14 +346,6 @@ void TestYumConfIOWrite::directoriesStay()
     QVERIFY(root().conf.write(nullptr));
     QCOMPARE(names(root(), "/etc/yum.repos.d"), (QList<QByteArray>{"some.repo", "x.repo"}));
     QCOMPARE(names(root(), "/etc/yum.repos.d/x.repo"), QList<QByteArray>{"inner"});
-}
-
-void TestYumConfIOWrite::otherSpellingOfThePathDoesNotProtectAFile()
-{
-    QVERIFY(root().readRepoFile("[a]\n"));
-    root().conf.repos[0].file = QStringLiteral("/etc/../etc/yum.repos.d/some.repo");
-    QVERIFY(root().conf.write(nullptr));
-    QCOMPARE(names(root(), "/etc/yum.repos.d"), QList<QByteArray>());
 }
 
 void TestYumConfIOWrite::allBytesSurvive()

@@ -28,6 +28,14 @@ QString sharedIds(char const* ids)
     return QString::fromLatin1(sharedIdWords).arg(QString::fromLatin1(ids));
 }
 
+/// The words about a file whose content isn't known.
+QString unread(char const* file)
+{
+    return QStringLiteral("The file %1 has not been read, or not to its end.  Nothing is written, so that "
+                          "nothing in it is lost.")
+        .arg(QString::fromLatin1(file));
+}
+
 void link(ConfRoot const& root, QByteArray const& path, char const* target)
 {
     QCOMPARE(::symlink(target, root.onDisk(path).constData()), 0);
@@ -92,6 +100,9 @@ private Q_SLOTS:
     void fileThatWasReadInPartIsKept();
     void unreadMainFileIsKept();
     void readThatWorksAgainEndsTheKeeping();
+    void unreadFileIsNotWritten();
+    void otherFileIsNotWritten();
+    void fileThatWasWrittenIsKnown();
 
     void longestLineSurvives();
 };
@@ -276,10 +287,14 @@ void TestYumConfIOWriteFaults::fullDiskIsTold()
 {
     BoxAnswer boxes;
     ConfRoot root;
+    root.makeDirectory("/etc/yum.repos.d");
+    SmallDisk const disk(root.onDisk("/etc/yum.repos.d"));
+    if (!disk)
+        QSKIP("no right to mount a small disk");
     root.write("/etc/yum.repos.d/unused", "x");
     QVERIFY(root.readRepoFile("[a]\n"));
-    link(root, "/etc/yum.repos.d/full.repo", "/dev/full");
     root.conf.repos += newRepo(QStringLiteral("full"), QStringLiteral("/etc/yum.repos.d/full.repo"));
+    root.conf.repos.last().otherOptions = QString(100000, u'x');
     QVERIFY(!root.conf.write(nullptr));
     QCOMPARE(
         boxes.texts,
@@ -292,10 +307,13 @@ void TestYumConfIOWriteFaults::fullDiskOfTheMainFileIsTold()
 {
     BoxAnswer boxes;
     ConfRoot root;
+    root.makeDirectory("/etc");
+    SmallDisk const disk(root.onDisk("/etc"));
+    if (!disk)
+        QSKIP("no right to mount a small disk");
     root.write("/etc/yum.repos.d/unused", "x");
     QVERIFY(root.readMain("[main]\n"));
-    root.remove("/etc/yum.conf");
-    link(root, "/etc/yum.conf", "/dev/full");
+    root.conf.mainOptions = QString(100000, u'x');
     QVERIFY(!root.conf.write(nullptr));
     QCOMPARE(
         boxes.texts,
@@ -399,7 +417,7 @@ void TestYumConfIOWriteFaults::fileThatCannotBeDeletedEndsTheCleaningUp()
     QVERIFY(root.conf.read(nullptr));
     // What something is mounted on can't be deleted.
     QByteArray const busy = root.onDisk("/etc/one/busy");
-    if (::mount("/dev/null", busy.constData(), nullptr, MS_BIND, nullptr) != 0)
+    if (::mount(busy.constData(), busy.constData(), nullptr, MS_BIND, nullptr) != 0)
         QSKIP("no right to mount");
     bool const isWritten = root.conf.write(nullptr);
     ::umount2(busy.constData(), MNT_DETACH);
@@ -434,10 +452,7 @@ void TestYumConfIOWriteFaults::fileThatWasReadInPartIsKept()
     QVERIFY(!root.readRepoFile(text));
     QCOMPARE(root.ids(), QStringList(QStringLiteral("a")));
     QVERIFY(!root.conf.write(nullptr));
-    QCOMPARE(
-        boxes.texts.last(),
-        BoxAnswer::told(
-            "Unable to write repository configuration file /etc/yum.repos.d/some.repo", ECANCELED));
+    QCOMPARE(boxes.texts.last(), unread("/etc/yum.repos.d/some.repo"));
     QCOMPARE(content(root, "/etc/yum.repos.d/some.repo"), text);
 }
 
@@ -449,6 +464,7 @@ void TestYumConfIOWriteFaults::unreadMainFileIsKept()
     root.write("/etc/yum.repos.d/a.repo", "[a]\n");
     QVERIFY(!root.readMain(text));
     QVERIFY(!root.conf.write(nullptr));
+    QCOMPARE(boxes.texts.last(), unread("/etc/yum.conf"));
     QCOMPARE(content(root, "/etc/yum.conf"), text);
     QCOMPARE(content(root, "/etc/yum.repos.d/a.repo"), QByteArray("[a]\n"));
 }
@@ -463,6 +479,78 @@ void TestYumConfIOWriteFaults::readThatWorksAgainEndsTheKeeping()
     QVERIFY(root.readRepoFile("[a]\nname=A\n"));
     QVERIFY(root.conf.write(nullptr));
     QCOMPARE(names(root, "/etc/yum.repos.d"), (QList<QByteArray>{"directory.repo", "some.repo"}));
+}
+
+void TestYumConfIOWriteFaults::unreadFileIsNotWritten()
+{
+    BoxAnswer boxes;
+    ConfRoot root;
+    root.write("/etc/yum.conf", "[main]\nreposdir=/etc/one /etc/two /etc/three\n");
+    root.write("/etc/one/a.repo", "lost\n[a]\n");
+    root.write("/etc/two/broken.repo", "[broken\n");
+    root.write("/etc/three/c.repo", "[c]\n");
+    QVERIFY(!root.conf.read(nullptr));
+    boxes.texts.clear();
+    for (char const* const file : {"/etc/three/c.repo", "/etc/two/broken.repo", "/etc//three/c.repo"}) {
+        root.conf.repos += newRepo(QStringLiteral("new"), QString::fromLatin1(file));
+        QVERIFY(!root.conf.write(nullptr));
+        QCOMPARE(boxes.texts, QStringList(unread(file)));
+        boxes.texts.clear();
+        root.conf.repos.removeLast();
+    }
+    // Not even what comes before it.
+    QCOMPARE(content(root, "/etc/one/a.repo"), QByteArray("lost\n[a]\n"));
+    QCOMPARE(content(root, "/etc/two/broken.repo"), QByteArray("[broken\n"));
+    QCOMPARE(content(root, "/etc/three/c.repo"), QByteArray("[c]\n"));
+}
+
+void TestYumConfIOWriteFaults::otherFileIsNotWritten()
+{
+    BoxAnswer boxes;
+    ConfRoot root;
+    QVERIFY(root.readRepoFile("[a]\n"));
+    root.write("/etc/fstab", "disks\n");
+    root.write("/etc/yum.repos.d/since.repo", "[since]\n");
+    for (char const* const file : {"/etc/fstab", "/etc/yum.repos.d/since.repo"}) {
+        root.conf.repos[0].file = QString::fromLatin1(file);
+        QVERIFY(!root.conf.write(nullptr));
+        QCOMPARE(boxes.texts.takeLast(), unread(file));
+    }
+    QCOMPARE(content(root, "/etc/fstab"), QByteArray("disks\n"));
+    QCOMPARE(names(root, "/etc/yum.repos.d"), (QList<QByteArray>{"since.repo", "some.repo"}));
+
+    // A main file that has come since is another main file.
+    root.conf.repos[0].file = QStringLiteral("/etc/yum.repos.d/some.repo");
+    root.write("/etc/yum/yum.conf", "[main]\nnew\n");
+    QVERIFY(!root.conf.write(nullptr));
+    QCOMPARE(boxes.texts, QStringList(unread("/etc/yum/yum.conf")));
+    QCOMPARE(content(root, "/etc/yum/yum.conf"), QByteArray("[main]\nnew\n"));
+}
+
+void TestYumConfIOWriteFaults::fileThatWasWrittenIsKnown()
+{
+    BoxAnswer boxes;
+    ConfRoot root;
+    QVERIFY(root.readRepoFile("[a]\n"));
+    root.conf.repos += newRepo(QStringLiteral("k"), QStringLiteral("/etc/yum.repos.d/k.repo"));
+    root.conf.repos += newRepo(QStringLiteral("z"), QStringLiteral("/nowhere/z.repo"));
+    QVERIFY(!root.conf.write(nullptr));
+    QCOMPARE(boxes.texts.size(), 1);
+    // What the first try has made is no other's.
+    root.conf.repos.last().file = QStringLiteral("/etc/yum.repos.d/z.repo");
+    QVERIFY(root.conf.write(nullptr));
+    root.conf.repos.last().name = QStringLiteral("Z");
+    QVERIFY(root.conf.write(nullptr));
+    QCOMPARE(content(root, "/etc/yum.repos.d/z.repo"), QByteArray("[z]\nname=Z\n"));
+    QCOMPARE(boxes.texts.size(), 1);
+
+    // Once it is gone, what stands there is.
+    root.conf.repos.removeLast();
+    QVERIFY(root.conf.write(nullptr));
+    root.write("/etc/yum.repos.d/z.repo", "[other]\n");
+    root.conf.repos += newRepo(QStringLiteral("z"), QStringLiteral("/etc/yum.repos.d/z.repo"));
+    QVERIFY(!root.conf.write(nullptr));
+    QCOMPARE(boxes.texts.last(), unread("/etc/yum.repos.d/z.repo"));
 }
 
 void TestYumConfIOWriteFaults::longestLineSurvives()
