@@ -5,6 +5,7 @@
 #include "packagetable/PackageTableDescribeInstanceArea.h"
 #include "widgets/Fonts.h"
 #include "widgets/HSeparator.h"
+#include "widgets/Sizing.h"
 
 #include <QCloseEvent>
 #include <QLabel>
@@ -55,9 +56,11 @@ void Dialog::config(YumIO* yumIO, Package::Entry const& entry, YumConfIO* yumCon
     }
     content->setLayout(layout);
     contentLayout->addWidget(content);
-    // The size of the description before would stay otherwise, as well as the layout's idea of it.
+    // The size of the description before would stay otherwise, as well as the layout's idea of it. The
+    // toolkit's own adjusting stops at two thirds of the screen, which leaves installed versions a line each.
+    ensurePolished();
     QDialog::layout()->activate();
-    adjustSize();
+    resize(sizeHint().boundedTo(Sizing::screenLimit(this)));
 }
 
 void Dialog::dropContent()

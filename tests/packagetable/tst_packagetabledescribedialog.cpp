@@ -324,6 +324,38 @@ private Q_SLOTS:
         QCOMPARE(area->frameShape(), QFrame::NoFrame);
     }
 
+    void installedVersionsShowAllTheirRowsUpToNineTenthsOfTheScreen()
+    {
+        SCRIPT("standin.world.find('available', 'alder').simple.update(\n"
+               "    description='\\n'.join(['word'] * 60))");
+        QVERIFY(collected());
+        QFont const before = QApplication::font();
+        // So that there is a window that two thirds of this screen are too low for, and nine tenths not.
+        int const screen = dialog->screen()->geometry().height();
+        QSize wanted;
+        for (int pixels = 40; pixels > 4; --pixels) {
+            QFont font = before;
+            font.setPixelSize(pixels);
+            QApplication::setFont(font);
+            dialog = std::make_unique<Dialog>(nullptr);
+            config(entry(QStringLiteral("alder")));
+            wanted = dialog->sizeHint();
+            if (wanted.height() <= screen * 9 / 10) {
+                break;
+            }
+        }
+        QVERIFY(wanted.height() > screen * 2 / 3);
+        boxes->whileShown([&] {
+            QCOMPARE(dialog->size(), wanted.boundedTo(Sizing::screenLimit(dialog.get())));
+            for (HScrollArea const* const area : areas(*dialog)) {
+                QCOMPARE(area->height(), area->sizeHint().height());
+            }
+        });
+        dialog->exec();
+        QApplication::setFont(before);
+        QCOMPARE(boxes->take().size(), 1);
+    }
+
     void eachDescriptionBeginsWithNothingOfTheOneBefore()
     {
         QVERIFY(collected());
