@@ -7,6 +7,14 @@
 #include <QFocusEvent>
 #include <QTextBlock>
 
+namespace
+{
+
+constexpr QChar carriageReturn = u'\r';
+constexpr QChar symbolOfCarriageReturn(0x240d);
+
+} // namespace
+
 HTextEdit::HTextEdit(QWidget* parent)
     : QTextEdit(parent)
 {
@@ -29,6 +37,20 @@ QSize HTextEdit::sizeHint() const
         hint.setHeight(frameWidth() + rows * fontMetrics().lineSpacing() + frameWidth());
     }
     return hint.boundedTo(Sizing::screenLimit(this));
+}
+
+void HTextEdit::setVerbatim(QString text)
+{
+    setPlainText(text.replace(carriageReturn, symbolOfCarriageReturn));
+}
+
+QString HTextEdit::verbatim() const
+{
+    return document()
+        ->toRawText()
+        .replace(QChar::ParagraphSeparator, u'\n')
+        .replace(QChar::LineSeparator, u'\n')
+        .replace(symbolOfCarriageReturn, carriageReturn);
 }
 
 void HTextEdit::appendCompact(QString const& text)

@@ -18,6 +18,12 @@ public:
 
     [[nodiscard]] QSize sizeHint() const override;
 
+    /// A text of which each character comes back as it was: `toPlainText` gives a blank for the one that
+    /// doesn't break, which may be a part of a letter, and a line feed for a carriage return, which this
+    /// shows as its symbol. A line feed parts lines.
+    void setVerbatim(QString text);
+    [[nodiscard]] QString verbatim() const;
+
     /// Appends a paragraph that stands without space above and below it.
     void appendCompact(QString const& text);
 

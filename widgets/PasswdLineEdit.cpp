@@ -4,9 +4,12 @@
 #include "widgets/Fonts.h"
 #include "widgets/PasswdEvents.h"
 #include "widgets/PasswdMask.h"
+#include "widgets/PasswdQuiet.h"
 
 #include <QContextMenuEvent>
 #include <QResizeEvent>
+
+#include <utility>
 
 PasswdLineEdit::PasswdLineEdit(QRegularExpression const& regExp, QWidget* parent)
     : QLineEdit(parent),
@@ -25,6 +28,7 @@ PasswdLineEdit::PasswdLineEdit(QRegularExpression const& regExp, QWidget* parent
 
 void PasswdLineEdit::setRealText(QString const& text)
 {
+    PasswdQuiet const quiet(this, shadow.get());
     shadow->setText(text);
 }
 
@@ -42,6 +46,7 @@ bool PasswdLineEdit::event(QEvent* event)
         }
         return answer;
     }
+    PasswdQuiet const quiet(this, shadow.get());
     ++busy;
     follow();
     bool const answer = QLineEdit::event(event);
@@ -82,13 +87,20 @@ void PasswdLineEdit::contextMenuEvent(QContextMenuEvent*) {}
 
 void PasswdLineEdit::textChanged(QString const& text)
 {
+    showMasked(text);
+    Q_EMIT realTextChanged(text);
+}
+
+void PasswdLineEdit::showMasked(QString const& text)
+{
     ++busy;
     int const position = shadow->cursorPosition();
     setText(masked(text));
     setCursorPosition(position);
     shadow->setCursorPosition(position);
     --busy;
-    Q_EMIT realTextChanged(text);
+    QString const before = std::exchange(told, this->text());
+    PasswdQuiet::tell(this, before, told);
 }
 
 QString PasswdLineEdit::masked(QString const& text) const
@@ -105,7 +117,15 @@ void PasswdLineEdit::adopt(QString const& edited)
     if (busy > 0) {
         return;
     }
+    // The toolkit tells the text only after this.
+    PasswdQuiet::untilEventsAreServed(this, shadow.get());
     int const position = cursorPosition();
-    setRealText(PasswdMask::adopt(shadow->text(), masked(shadow->text()), edited, this));
+    QString const before = shadow->text();
+    QString const real = PasswdMask::adopt(before, masked(before), edited, this);
+    setRealText(real);
+    if (real == before) {
+        // No change for the shadow, but what is masked was shown.
+        showMasked(real);
+    }
     setCursorPosition(position);
 }

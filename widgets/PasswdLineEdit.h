@@ -10,7 +10,8 @@
 /// parent widget, GUI thread.
 ///
 /// A hidden twin, the shadow, holds the real text. The field passes on what the user does; whenever the
-/// shadow's text changes, the shown text is made from it anew. `text()` is the masked text.
+/// shadow's text changes, the shown text is made from it anew. `text()` is the masked text, which is also
+/// what screen readers are told.
 class PasswdLineEdit : public QLineEdit
 {
     Q_OBJECT
@@ -40,6 +41,8 @@ private Q_SLOTS:
 
 private:
     [[nodiscard]] QString masked(QString const& text) const;
+    /// Makes the shown text from the real one and tells it to screen readers.
+    void showMasked(QString const& text);
     /// Puts the shadow's selection where the user sees it.
     void follow();
     /// The field has a text that came neither from the shadow nor by an event, as a screen reader sets it.
@@ -48,5 +51,6 @@ private:
     QRegularExpression pattern;
     /// Without a parent, so that nothing ever shows it.
     std::unique_ptr<QLineEdit> shadow;
+    QString told; ///< the shown text as screen readers know it
     int busy = 0; ///< not 0 while a change of the shown text is known to stem from this class
 };

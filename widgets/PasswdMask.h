@@ -11,6 +11,9 @@ class QWidget;
 class PasswdMask
 {
 public:
+    /// What the widget's style shows for each character of a password.
+    [[nodiscard]] static QChar character(QWidget const* widget);
+
     /// Replaces the first group of `match` in `text`, the subject of the match, by as many mask characters
     /// of the widget's style.
     static void cover(QString& text, QRegularExpressionMatch const& match, QWidget const* widget);

@@ -4,6 +4,7 @@
 #include "widgets/Fonts.h"
 #include "widgets/PasswdEvents.h"
 #include "widgets/PasswdMask.h"
+#include "widgets/PasswdQuiet.h"
 
 #include <QContextMenuEvent>
 #include <QMouseEvent>
@@ -12,6 +13,7 @@
 #include <QTextCursor>
 
 #include <algorithm>
+#include <utility>
 
 /// Opens to the field what a text edit keeps to itself.
 class PasswdTextEdit::Shadow final : public HTextEdit
@@ -62,12 +64,13 @@ void PasswdTextEdit::init()
 
 void PasswdTextEdit::setRealPlainText(QString const& text)
 {
-    shadow->setPlainText(text);
+    PasswdQuiet const quiet(this, shadow.get());
+    shadow->setVerbatim(text);
 }
 
 QString PasswdTextEdit::realPlainText() const
 {
-    return shadow->toPlainText();
+    return shadow->verbatim();
 }
 
 bool PasswdTextEdit::event(QEvent* event)
@@ -94,6 +97,7 @@ bool PasswdTextEdit::handle(QEvent* event, Base const& base, Twin const& twin)
         }
         return answer;
     }
+    PasswdQuiet const quiet(this, shadow.get());
     ++busy;
     follow();
     bool const answer = base();
@@ -127,7 +131,7 @@ void PasswdTextEdit::preventDrag(QEvent const* event)
 
 void PasswdTextEdit::follow()
 {
-    if (toPlainText().size() != shadow->toPlainText().size()) {
+    if (verbatim().size() != shadow->verbatim().size()) {
         return;
     }
     QTextCursor const shown = textCursor();
@@ -155,7 +159,7 @@ void PasswdTextEdit::textChanged()
     ++busy;
     int const position = shadow->textCursor().position();
     int const scrolled = verticalScrollBar()->value();
-    setPlainText(masked(shadow->toPlainText()));
+    setVerbatim(masked(shadow->verbatim()));
     verticalScrollBar()->setValue(scrolled);
     QTextCursor cursor = textCursor();
     cursor.setPosition(position);
@@ -164,7 +168,14 @@ void PasswdTextEdit::textChanged()
     cursor.setPosition(position);
     shadow->setTextCursor(cursor);
     --busy;
+    tellShown();
     Q_EMIT realTextChanged();
+}
+
+void PasswdTextEdit::tellShown()
+{
+    QString const before = std::exchange(told, verbatim());
+    PasswdQuiet::tell(this, before, told);
 }
 
 QString PasswdTextEdit::masked(QString const& text) const
@@ -178,16 +189,20 @@ QString PasswdTextEdit::masked(QString const& text) const
 
 void PasswdTextEdit::adopt()
 {
-    QString const shown = masked(shadow->toPlainText());
+    QString const edited = verbatim();
+    QString const shown = masked(shadow->verbatim());
     // A change of the font alone is told as one of the text.
-    if (busy > 0 || toPlainText() == shown) {
+    if (busy > 0 || edited == shown) {
         return;
     }
-    QString const real = PasswdMask::adopt(shadow->toPlainText(), shown, toPlainText(), this);
-    if (masked(real) == toPlainText()) {
+    // The toolkit has told it before this.
+    told = edited;
+    QString const real = PasswdMask::adopt(shadow->verbatim(), shown, edited, this);
+    if (masked(real) == edited) {
         // Whoever edits may be about to go on at a place that setting the text would lose.
-        QSignalBlocker const quiet(shadow.get());
-        shadow->setPlainText(real);
+        PasswdQuiet const quiet(this, shadow.get());
+        QSignalBlocker const silent(shadow.get());
+        shadow->setVerbatim(real);
         follow();
         Q_EMIT realTextChanged();
     } else {

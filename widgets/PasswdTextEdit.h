@@ -44,6 +44,8 @@ private:
 
     void init();
     [[nodiscard]] QString masked(QString const& text) const;
+    /// Tells screen readers what is shown from now on.
+    void tellShown();
     /// Handles an event by `base`, which is this field's, and by `twin`, which is the shadow's.
     template <typename Base, typename Twin>
     bool handle(QEvent* event, Base const& base, Twin const& twin);
@@ -57,5 +59,6 @@ private:
     QRegularExpression pattern;
     /// Without a parent, so that nothing ever shows it.
     std::unique_ptr<Shadow> shadow;
+    QString told; ///< the shown text as screen readers know it
     int busy = 0; ///< not 0 while a change of the shown text is known to stem from this class
 };

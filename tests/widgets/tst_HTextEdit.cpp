@@ -42,6 +42,8 @@ private Q_SLOTS:
     void ownContextMenuDoesNotEndEditing();
     void popupOfAnotherWidgetEndsEditing();
     void compactLinesStandWithoutSpace();
+    void everyByteComesBack();
+    void typedLinesArePartedByLineFeeds();
 };
 
 void tst_HTextEdit::hintCountsCharactersAndLines()
@@ -157,6 +159,31 @@ void tst_HTextEdit::compactLinesStandWithoutSpace()
         QCOMPARE(block.blockFormat().topMargin(), 0.0);
         QCOMPARE(block.blockFormat().bottomMargin(), 0.0);
     }
+}
+
+void tst_HTextEdit::everyByteComesBack()
+{
+    QString bytes;
+    for (ushort code = 0; code < 256; ++code) {
+        bytes += QChar(code);
+    }
+    HTextEdit edit(nullptr);
+    edit.setVerbatim(bytes + QStringLiteral("\r\n") + bytes + u'\n');
+
+    QCOMPARE(edit.verbatim(), bytes + QStringLiteral("\r\n") + bytes + u'\n');
+    QVERIFY(edit.toPlainText().contains(QChar(0x240d)));
+}
+
+void tst_HTextEdit::typedLinesArePartedByLineFeeds()
+{
+    HTextEdit edit(nullptr);
+    QTest::keyClicks(&edit, QStringLiteral("a"));
+    QTest::keyClick(&edit, Qt::Key_Return);
+    QTest::keyClicks(&edit, QStringLiteral("b"));
+    QTest::keyClick(&edit, Qt::Key_Return, Qt::ShiftModifier);
+    QTest::keyClicks(&edit, QStringLiteral("c"));
+
+    QCOMPARE(edit.verbatim(), QStringLiteral("a\nb\nc"));
 }
 
 QTEST_MAIN(tst_HTextEdit)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "widgets/PasswdLineEdit.h"
 
+#include "HeardTexts.h"
 #include "PasswdUser.h"
 
 #include <QAccessible>
@@ -173,6 +174,64 @@ private Q_SLOTS:
         accessible->setText(QAccessible::Value, QStringLiteral("http://z/?key=other&path=q"));
         QCOMPARE(edit->realText(), QStringLiteral("http://z/?key=other&path=q"));
         QCOMPARE(edit->text(), QStringLiteral("http://z/?key=%1&path=q").arg(mask(5)));
+    }
+
+    void theRealTextSetThroughAccessibilityStaysMasked()
+    {
+        QString const real = QStringLiteral("http://x/?key=abc&path=p");
+        edit->setRealText(real);
+        HeardTexts const reader;
+        QAccessible::queryAccessibleInterface(edit.get())->setText(QAccessible::Value, real);
+
+        QCOMPARE(edit->text(), QStringLiteral("http://x/?key=%1&path=p").arg(mask(3)));
+        QCOMPARE(edit->realText(), real);
+        QVERIFY(!reader.contain(QStringLiteral("abc")));
+    }
+
+    void readersHearWhatIsShown()
+    {
+        HeardTexts const reader;
+        edit->setRealText(QStringLiteral("key=abc&"));
+        QCOMPARE(reader.texts, QStringList(QStringLiteral("key=%1&").arg(mask(3))));
+        edit->setCursorPosition(8);
+        QTest::keyClicks(edit.get(), QStringLiteral("z"));
+        QCOMPARE(reader.texts.last(), QStringLiteral("z"));
+        edit->setCursorPosition(5);
+        QTest::keyClicks(edit.get(), QStringLiteral("z"));
+        QCOMPARE(reader.texts.last(), mask(1));
+
+        QCOMPARE(edit->realText(), QStringLiteral("key=azbc&z"));
+        QCOMPARE(reader.texts.size(), 3);
+        QCOMPARE(reader.tellers, QList<QObject*>{edit.get()});
+    }
+
+    void readersNeverHearWhatIsMasked()
+    {
+        HeardTexts const reader;
+        QTest::keyClicks(edit.get(), QStringLiteral("key=&"));
+        edit->setCursorPosition(4);
+        QApplication::clipboard()->setText(QStringLiteral("secret"));
+        QTest::keySequence(edit.get(), QKeySequence(QKeySequence::Paste));
+        PasswdUser::compose(edit.get(), QStringLiteral("composed"));
+        QTest::keySequence(edit.get(), QKeySequence(QKeySequence::Undo));
+        QCOMPARE(edit->realText(), QStringLiteral("key=secret&"));
+        QTest::keySequence(edit.get(), QKeySequence(QKeySequence::SelectAll));
+        QTest::keySequence(edit.get(), QKeySequence(QKeySequence::Cut));
+        QTest::keySequence(edit.get(), QKeySequence(QKeySequence::Paste));
+        QCOMPARE(edit->realText(), QStringLiteral("key=secret&"));
+
+        QVERIFY2(!reader.contain(QStringLiteral("secret")), qPrintable(reader.texts.join(u'\n')));
+        QVERIFY2(!reader.contain(QStringLiteral("composed")), qPrintable(reader.texts.join(u'\n')));
+        QCOMPARE(reader.tellers, QList<QObject*>{edit.get()});
+    }
+
+    void readersDoNotHearAgainWhatBecomesMasked()
+    {
+        HeardTexts const reader;
+        QTest::keyClicks(edit.get(), QStringLiteral("key=secret&"));
+
+        QCOMPARE(edit->text(), QStringLiteral("key=%1&").arg(mask(6)));
+        QVERIFY(!reader.contain(QStringLiteral("secret")));
     }
 
     void listenersHearWhenBothTextsAreFinal()

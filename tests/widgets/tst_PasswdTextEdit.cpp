@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "widgets/PasswdTextEdit.h"
 
+#include "HeardTexts.h"
 #include "PasswdUser.h"
 
 #include <QAccessible>
@@ -169,6 +170,70 @@ private Q_SLOTS:
 
         QCOMPARE(edit->realPlainText(), QStringLiteral("http://host/?key=abc&"));
         QCOMPARE(edit->toPlainText(), QStringLiteral("http://host/?key=%1&").arg(mask(3)));
+    }
+
+    void theRealTextSetThroughAccessibilityStaysMasked()
+    {
+        QString const real = QStringLiteral("http://x/?key=abc&");
+        edit->setRealPlainText(real);
+        QAccessibleEditableTextInterface* const accessible =
+            QAccessible::queryAccessibleInterface(edit.get())->editableTextInterface();
+        accessible->replaceText(0, static_cast<int>(real.size()), real);
+
+        QCOMPARE(edit->toPlainText(), QStringLiteral("http://x/?key=%1&").arg(mask(3)));
+        QCOMPARE(edit->realPlainText(), real);
+    }
+
+    void readersHearWhatIsShown()
+    {
+        HeardTexts const reader;
+        edit->setRealPlainText(QStringLiteral("key=abc&"));
+        QCOMPARE(reader.texts, QStringList(QStringLiteral("key=%1&").arg(mask(3))));
+        putCursor(8);
+        QTest::keyClicks(edit.get(), QStringLiteral("z"));
+        QCOMPARE(reader.texts.last(), QStringLiteral("z"));
+        putCursor(5);
+        QTest::keyClicks(edit.get(), QStringLiteral("z"));
+        QCOMPARE(reader.texts.last(), mask(1));
+
+        QCOMPARE(edit->realPlainText(), QStringLiteral("key=azbc&z"));
+        QCOMPARE(reader.texts.size(), 3);
+        QCOMPARE(reader.tellers, QList<QObject*>{edit.get()});
+    }
+
+    void readersNeverHearWhatIsMasked()
+    {
+        HeardTexts const reader;
+        QTest::keyClicks(edit.get(), QStringLiteral("key=&"));
+        putCursor(4);
+        QApplication::clipboard()->setText(QStringLiteral("secret"));
+        QTest::keySequence(edit.get(), QKeySequence(QKeySequence::Paste));
+        PasswdUser::compose(edit.get(), QStringLiteral("composed"));
+        QTest::keySequence(edit.get(), QKeySequence(QKeySequence::Undo));
+        QCOMPARE(edit->realPlainText(), QStringLiteral("key=secret&"));
+        QTest::keySequence(edit.get(), QKeySequence(QKeySequence::SelectAll));
+        QTest::keySequence(edit.get(), QKeySequence(QKeySequence::Cut));
+        QTest::keySequence(edit.get(), QKeySequence(QKeySequence::Paste));
+        QCOMPARE(edit->realPlainText(), QStringLiteral("key=secret&"));
+
+        QVERIFY2(!reader.contain(QStringLiteral("secret")), qPrintable(reader.texts.join(u'\n')));
+        QVERIFY2(!reader.contain(QStringLiteral("composed")), qPrintable(reader.texts.join(u'\n')));
+        QCOMPARE(reader.tellers, QList<QObject*>{edit.get()});
+    }
+
+    void everyByteComesBack()
+    {
+        QString bytes;
+        for (ushort code = 1; code < 256; ++code) {
+            bytes += QChar(code);
+        }
+        QString const real = bytes + QStringLiteral("key=a\u00a0b\r\n&") + bytes;
+        edit->setRealPlainText(real);
+        QCOMPARE(edit->realPlainText(), real);
+
+        putCursor(0);
+        QTest::keyClick(edit.get(), Qt::Key_Z);
+        QCOMPARE(edit->realPlainText(), u'z' + real);
     }
 
     void aNewFontLeavesTheText()
