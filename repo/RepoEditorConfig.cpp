@@ -3,9 +3,11 @@
 #include "repo/RepoEditorConfig.h"
 
 #include "repo/Buffet.h"
+#include "repo/RepoFields.h"
 #include "repo/YumConfIO.h"
 #include "widgets/Colors.h"
 #include "widgets/HTextEdit.h"
+#include "widgets/PasswdEchoEdit.h"
 #include "widgets/PasswdLineEdit.h"
 #include "widgets/PasswdTextEdit.h"
 
@@ -41,14 +43,31 @@ void RepoEditor::Config::setEntry(Repo::Entry const& entry)
     bool const isBuffet = showAuth(entry);
     enabledBox->setCurrentIndex(entry.enabled);
     gpgcheckBox->setCurrentIndex(entry.gpgcheck);
-    otherOptionsEdit->setPlainText(entry.otherOptions);
+    otherOptionsEdit->setVerbatim(entry.otherOptions);
     fileEdit->setText(entry.file);
     filePositionBox->setValue(entry.filePosition);
+    loaded = entry;
+    shown = fields();
     blockChanged = false;
     setFieldsEnabled(true, isBuffet);
 }
 
 Repo::Entry RepoEditor::Config::toEntry() const
+{
+    Repo::Entry entry = fields();
+    auto const take = [&](QString Repo::Entry::*text, QString (*clean)(QString)) {
+        // What the user has left alone stays as the file has it.
+        entry.*text = entry.*text == shown.*text ? loaded.*text : clean(entry.*text);
+    };
+    take(&Repo::Entry::id, RepoFields::oneLine);
+    take(&Repo::Entry::name, RepoFields::oneLine);
+    take(&Repo::Entry::mirrorlist, RepoFields::oneLine);
+    take(&Repo::Entry::file, RepoFields::oneLine);
+    take(&Repo::Entry::otherOptions, RepoFields::optionLines);
+    return entry;
+}
+
+Repo::Entry RepoEditor::Config::fields() const
 {
     Repo::Entry entry;
     entry.id = idEdit->text();
@@ -57,24 +76,46 @@ Repo::Entry RepoEditor::Config::toEntry() const
     entry.mirrorlist = mirrorlistEdit->realText();
     entry.enabled = enabledBox->currentIndex();
     entry.gpgcheck = gpgcheckBox->currentIndex();
-    entry.otherOptions = otherOptionsEdit->toPlainText();
+    entry.otherOptions = otherOptionsEdit->verbatim();
     entry.file = fileEdit->text();
     entry.filePosition = filePositionBox->value();
     return entry;
 }
 
+QString RepoEditor::Config::refusal() const
+{
+    QString const text = otherOptionsEdit->verbatim();
+    if (text == shown.otherOptions) {
+        return {};
+    }
+    std::optional<RepoFields::Misread> const misread = RepoFields::findMisread(text, loaded.otherOptions);
+    if (!misread) {
+        return {};
+    }
+    return (misread->kind == RepoFields::Misread::SectionHead
+                ? tr("Line %1 of Other Options would begin another section")
+                : tr("Line %1 of Other Options is indented, but there is no option that it could continue"))
+        .arg(misread->line);
+}
+
 bool RepoEditor::Config::setStatus(YumConfIO const* yumConfIO, QLabel* label) const
 {
+    auto const refuse = [label](QString const& text) {
+        label->setPalette(Colors::makeError(label->palette()));
+        label->setText(text);
+        return true;
+    };
     auto const warn = [label](QString const& text) {
         label->setPalette(Colors::makeWarning(label->palette()));
         label->setText(text);
         return true;
     };
+    if (QString const words = refusal(); !words.isEmpty()) {
+        return refuse(words);
+    }
     Repo::Entry const entry = toEntry();
     if (entry.id.isEmpty()) {
-        label->setPalette(Colors::makeError(label->palette()));
-        label->setText(tr("No Identifier specified"));
-        return true;
+        return refuse(tr("No Identifier specified"));
     }
     if (entry.baseurl.isEmpty() && entry.mirrorlist.isEmpty()) {
         return warn(tr("No URLs or Mirror list URL specified"));
@@ -111,8 +152,8 @@ void RepoEditor::Config::setFocus()
 void RepoEditor::Config::authChanged(QString const&)
 {
     blockChanged = true;
-    QString const name = authNameEdit->text();
-    QString const password = authPasswordEdit->text();
+    QString const name = RepoFields::oneLine(authNameEdit->text());
+    QString const password = RepoFields::oneLine(authPasswordEdit->text());
     baseurlEdit->setRealPlainText(Repo::Buffet::replaceAuth(baseurlEdit->realPlainText(), name, password));
     mirrorlistEdit->setRealText(Repo::Buffet::replaceAuth(mirrorlistEdit->realText(), name, password));
     blockChanged = false;

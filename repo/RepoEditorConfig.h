@@ -7,6 +7,7 @@
 #include <QString>
 
 class HTextEdit;
+class PasswdEchoEdit;
 class PasswdLineEdit;
 class PasswdTextEdit;
 class QComboBox;
@@ -40,8 +41,12 @@ public:
     /// Shows a repository and enables the form. Emits nothing.
     void setEntry(Repo::Entry const& entry);
 
-    /// What the fields say, with the real passwords.
+    /// What the fields say, with the real passwords. A text that the user hasn't changed is the one that was
+    /// given, byte for byte.
     [[nodiscard]] Repo::Entry toEntry() const;
+
+    /// Why the fields can't be taken as they are; empty when they can.
+    [[nodiscard]] QString refusal() const;
 
     /// Tells the first problem in `label`, by text and colour; false, and nothing told, when there is none.
     bool setStatus(YumConfIO const* yumConfIO, QLabel* label) const;
@@ -69,12 +74,16 @@ private:
     /// A box with the three values of a Repo::Switch.
     QComboBox* createSwitch(QWidget* parent, QString const& toolTip);
 
+    /// What stands in the fields, be it changed or not.
+    [[nodiscard]] Repo::Entry fields() const;
     /// Shows the credentials of the entry's addresses; true when it has any.
     bool showAuth(Repo::Entry const& entry);
     void setCaptions(QString const& keyName, QString const& keyPassword);
     void setFieldsEnabled(bool enabled, bool authEnabled);
 
     bool blockChanged = false; ///< while true, changes of fields are not the user's
+    Repo::Entry loaded;        ///< what was given
+    Repo::Entry shown;         ///< what the fields made of that
     QLineEdit* idEdit = nullptr;
     QLineEdit* nameEdit = nullptr;
     PasswdTextEdit* baseurlEdit = nullptr;
@@ -82,7 +91,7 @@ private:
     QLabel* authNameLabel = nullptr;
     QLineEdit* authNameEdit = nullptr;
     QLabel* authPasswordLabel = nullptr;
-    QLineEdit* authPasswordEdit = nullptr;
+    PasswdEchoEdit* authPasswordEdit = nullptr;
     QComboBox* enabledBox = nullptr;
     QComboBox* gpgcheckBox = nullptr;
     HTextEdit* otherOptionsEdit = nullptr;

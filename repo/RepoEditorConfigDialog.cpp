@@ -87,6 +87,10 @@ void RepoEditor::ConfigDialog::ok()
         reject();
         return;
     }
+    if (!config->refusal().isEmpty()) {
+        // The status line has it.
+        return;
+    }
     Repo::Entry const edited = config->toEntry();
     yumConfIO->reposEnabled[edited.id] =
         edited.enabled == Repo::Yes || (edited.enabled == Repo::Default && yumConfIO->mainEnabled);

@@ -26,7 +26,8 @@ public:
     ~ConfigDialog() override;
 
     /// The repository to edit, which has to outlive the run. It changes only when the dialog is accepted,
-    /// which it is only if something changed; the session's flag of its identifier follows it then.
+    /// which it is only if something changed that can be written as it looks; the session's flag of its
+    /// identifier follows it then.
     void setEntry(Repo::Entry* entry);
 
     void setVisible(bool visible) override;

@@ -5,6 +5,7 @@
 #include "widgets/Colors.h"
 #include "widgets/Fonts.h"
 #include "widgets/HTextEdit.h"
+#include "widgets/PasswdEchoEdit.h"
 #include "widgets/PasswdLineEdit.h"
 #include "widgets/PasswdTextEdit.h"
 
@@ -92,8 +93,7 @@ QWidget* RepoEditor::Config::createAuth(QWidget* parent)
     authNameEdit = new QLineEdit(group);
     authNameEdit->setToolTip(
         tr("Authentication name for a repository using the buffet authentication method"));
-    authPasswordEdit = new QLineEdit(group);
-    authPasswordEdit->setEchoMode(QLineEdit::Password);
+    authPasswordEdit = new PasswdEchoEdit(group);
     authPasswordEdit->setToolTip(
         tr("Authentication password for a repository using the buffet authentication method"));
     layout->addWidget(authNameLabel, 0, 0);
@@ -104,7 +104,7 @@ QWidget* RepoEditor::Config::createAuth(QWidget* parent)
         // The keys of an address, whatever they are.
         label->setTextFormat(Qt::PlainText);
     }
-    for (QLineEdit const* const edit : {authNameEdit, authPasswordEdit}) {
+    for (QLineEdit const* const edit : {authNameEdit, static_cast<QLineEdit*>(authPasswordEdit)}) {
         connect(edit, &QLineEdit::textEdited, this, &Config::authChanged);
     }
     return group;
