@@ -29,7 +29,8 @@ bool getAuth(
 [[nodiscard]] QString replaceAuth(QString const& urls, QString const& name, QString const& password);
 [[nodiscard]] QString replaceAuth(QString const& urls, QString const& password);
 
-/// The text with the password of each buffet address replaced by three stars, for those who only look.
+/// The text with the password of each buffet address, and of each user before a host, replaced by three
+/// stars, for those who only look.
 [[nodiscard]] QString maskPasswords(QString urls);
 
 /// What a field that masks passwords looks for, the coded password being the first group: the whole of a

@@ -79,6 +79,10 @@ void RepoAuth::Checker::check(QWidget* parent, YumConfIO* yumConfIO)
 
 void RepoAuth::Checker::replace(Repo::Entry& entry, Auth const& auth)
 {
+    if (auth.name.isEmpty() && auth.password.isEmpty()) {
+        // Other addresses of the repository may have theirs.
+        return;
+    }
     entry.baseurl = Repo::Buffet::replaceAuth(entry.baseurl, auth.name, auth.password);
     entry.mirrorlist = Repo::Buffet::replaceAuth(entry.mirrorlist, auth.name, auth.password);
 }

@@ -40,7 +40,8 @@ public:
     Checker(Checker const&) = delete;
     Checker& operator=(Checker const&) = delete;
 
-    /// Puts the credentials into all buffet addresses of the repository, which keep their keys.
+    /// Puts the credentials into all buffet addresses of the repository, which keep their keys. Blank ones
+    /// change nothing.
     static void replace(Repo::Entry& entry, Auth const& auth);
 
     bool quitRequested = false;      ///< the user wants the program to end

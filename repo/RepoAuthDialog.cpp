@@ -3,8 +3,11 @@
 
 #include "repo/Buffet.h"
 #include "repo/RepoEntry.h"
+#include "repo/RepoFields.h"
 #include "widgets/Fonts.h"
 #include "widgets/HSeparator.h"
+#include "widgets/PasswdEchoEdit.h"
+#include "widgets/PasswdMask.h"
 #include "widgets/Sizing.h"
 
 #include <QApplication>
@@ -12,7 +15,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QStyle>
 #include <QVBoxLayout>
 
 RepoAuth::Dialog::Dialog(QWidget* parent)
@@ -34,13 +36,14 @@ RepoAuth::Dialog::Dialog(QWidget* parent)
     baseurlLabel = addValue(grid, tr("URLs"));
     mirrorlistLabel = addValue(grid, tr("Mirror list URL"));
     grid->addWidget(new HSeparator(this), grid->rowCount(), 0, 1, 2);
-    authNameEdit = addEdit(
-        grid, authNameLabel,
+    authNameEdit = new QLineEdit(this);
+    authNameLabel = addEdit(
+        grid, authNameEdit,
         tr("Authentication name for a repository using the buffet authentication method"));
-    authPasswordEdit = addEdit(
-        grid, authPasswordLabel,
+    authPasswordEdit = new PasswdEchoEdit(this);
+    authPasswordLabel = addEdit(
+        grid, authPasswordEdit,
         tr("Authentication password for a repository using the buffet authentication method"));
-    authPasswordEdit->setEchoMode(QLineEdit::Password);
     authNameLabel->setText(tr("Name"));
     authPasswordLabel->setText(tr("Password"));
     grid->setColumnStretch(1, 1);
@@ -77,17 +80,16 @@ QLabel* RepoAuth::Dialog::addValue(QGridLayout* grid, QString const& caption)
     return value;
 }
 
-QLineEdit* RepoAuth::Dialog::addEdit(QGridLayout* grid, QLabel*& caption, QString const& toolTip)
+QLabel* RepoAuth::Dialog::addEdit(QGridLayout* grid, QLineEdit* edit, QString const& toolTip)
 {
     int const row = grid->rowCount();
-    caption = new QLabel(this);
+    auto* const caption = new QLabel(this);
     caption->setTextFormat(Qt::PlainText);
-    auto* const edit = new QLineEdit(this);
     edit->setToolTip(toolTip);
     grid->addWidget(caption, row, 0);
     grid->addWidget(edit, row, 1);
     connect(edit, &QLineEdit::textEdited, this, &Dialog::authChanged);
-    return edit;
+    return caption;
 }
 
 QPushButton* RepoAuth::Dialog::createButton(QString const& text, void (Dialog::*slot)())
@@ -102,8 +104,6 @@ void RepoAuth::Dialog::exec(Repo::Entry* asked)
     entry = asked;
     idLabel->setText(entry->id);
     nameLabel->setText(entry->name);
-    baseurlLabel->setText(entry->baseurl);
-    mirrorlistLabel->setText(entry->mirrorlist);
 
     QString keyName, name, keyPassword, password;
     Repo::Buffet::getAuth(*entry, keyName, name, keyPassword, password);
@@ -113,6 +113,7 @@ void RepoAuth::Dialog::exec(Repo::Entry* asked)
     authPasswordEdit->setAccessibleName(keyPassword.isEmpty() ? tr("Password") : keyPassword);
     authNameEdit->setText(name);
     authPasswordEdit->setText(password);
+    showUrls();
 
     setAnswersEnabled(true);
     authNameEdit->setFocus();
@@ -192,15 +193,9 @@ void RepoAuth::Dialog::handleQuit()
     done(Quit);
 }
 
-// The addresses follow the typing, the password as its mask.
 void RepoAuth::Dialog::authChanged(QString const&)
 {
-    int const mask = style()->styleHint(QStyle::SH_LineEdit_PasswordCharacter, nullptr, this);
-    QString const password(authPasswordEdit->text().size(), QChar(static_cast<ushort>(mask)));
-    for (QLabel* const label : {baseurlLabel, mirrorlistLabel}) {
-        label->setText(Repo::Buffet::replaceAuth(
-            label->text(), authNameLabel->text(), authNameEdit->text(), authPasswordLabel->text(), password));
-    }
+    showUrls();
 }
 
 void RepoAuth::Dialog::setAnswersEnabled(bool enabled)
@@ -210,17 +205,33 @@ void RepoAuth::Dialog::setAnswersEnabled(bool enabled)
     }
 }
 
-// The labels hold the entry's addresses, with a mask at most where the password goes.
+QString RepoAuth::Dialog::filled(QString const& urls, QString const& password) const
+{
+    QString const name = RepoFields::oneLine(authNameEdit->text());
+    if (name.isEmpty() && password.isEmpty()) {
+        // Other addresses of the repository may have theirs.
+        return urls;
+    }
+    return Repo::Buffet::replaceAuth(urls, authNameLabel->text(), name, authPasswordLabel->text(), password);
+}
+
+// The addresses follow the typing, the password as its mask, and those that they hold are never shown.
+void RepoAuth::Dialog::showUrls()
+{
+    if (!entry) {
+        return;
+    }
+    QString const password(RepoFields::oneLine(authPasswordEdit->text()).size(), PasswdMask::character(this));
+    baseurlLabel->setText(filled(Repo::Buffet::maskPasswords(entry->baseurl), password));
+    mirrorlistLabel->setText(filled(Repo::Buffet::maskPasswords(entry->mirrorlist), password));
+}
+
 void RepoAuth::Dialog::setUrls()
 {
     if (!entry) {
         return;
     }
-    auto const filled = [this](QLabel const* label) {
-        return Repo::Buffet::replaceAuth(
-            label->text(), authNameLabel->text(), authNameEdit->text(), authPasswordLabel->text(),
-            authPasswordEdit->text());
-    };
-    entry->baseurl = filled(baseurlLabel);
-    entry->mirrorlist = filled(mirrorlistLabel);
+    QString const password = RepoFields::oneLine(authPasswordEdit->text());
+    entry->baseurl = filled(entry->baseurl, password);
+    entry->mirrorlist = filled(entry->mirrorlist, password);
 }

@@ -4,6 +4,7 @@
 #include <QDialog>
 #include <QEventLoop>
 
+class PasswdEchoEdit;
 class QGridLayout;
 class QLabel;
 class QLineEdit;
@@ -39,8 +40,8 @@ public:
 
     using QDialog::exec;
     /// Asks about `entry` and comes back with an answer in `result()`. OK, ApplyAll and ApplyHost have put
-    /// the name and password into the entry's addresses; the others leave it alone. Escape, and closing the
-    /// window, are SkipAll; the end of the program is Quit.
+    /// the name and password into the entry's addresses, unless both are blank; the others leave it alone.
+    /// Escape, and closing the window, are SkipAll; the end of the program is Quit.
     void exec(Repo::Entry* entry);
 
     /// Pairs with the busy cursor of the main window, which stands while this is hidden.
@@ -62,10 +63,15 @@ private Q_SLOTS:
 
 private:
     QLabel* addValue(QGridLayout* grid, QString const& caption);
-    QLineEdit* addEdit(QGridLayout* grid, QLabel*& caption, QString const& toolTip);
+    /// Answers the field's caption.
+    QLabel* addEdit(QGridLayout* grid, QLineEdit* edit, QString const& toolTip);
     QPushButton* createButton(QString const& text, void (Dialog::*slot)());
     /// The buttons that wait for a question. The two that apply an answer to others keep their state.
     void setAnswersEnabled(bool enabled);
+    /// The addresses with the name typed and this password; as they were when both are blank.
+    [[nodiscard]] QString filled(QString const& urls, QString const& password) const;
+    /// Shows the addresses of the entry as they would become.
+    void showUrls();
     /// Puts what the user typed into the addresses of the entry.
     void setUrls();
 
@@ -76,7 +82,7 @@ private:
     QLabel* authNameLabel = nullptr;
     QLineEdit* authNameEdit = nullptr;
     QLabel* authPasswordLabel = nullptr;
-    QLineEdit* authPasswordEdit = nullptr;
+    PasswdEchoEdit* authPasswordEdit = nullptr;
     QPushButton* quitButton = nullptr;
     QPushButton* disableButton = nullptr;
     QPushButton* skipAllButton = nullptr;

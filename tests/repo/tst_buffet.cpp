@@ -221,6 +221,9 @@ void TestBuffet::passwordsAreMasked_data()
     row("/buffet?u=&p=1&path=\n/buffet?=&=2&path=", "/buffet?u=&p=***&path=\n/buffet?=&=***&path=");
     row("/buffet?u=me&p=&path=/os", "/buffet?u=me&p=&path=/os");
     row("http://h/os?u=me&p=pw", "http://h/os?u=me&p=pw");
+    row("http://me:p%26w@h/os\nhttp://:x@h/", "http://me:***@h/os\nhttp://:***@h/");
+    row("http://me:x@h/buffet?u=me&p=y&path=/os", "http://me:***@h/buffet?u=me&p=***&path=/os");
+    row("http://me:@h:80/a@b", "http://me:@h:80/a@b");
 }
 
 void TestBuffet::passwordsAreMasked()
