@@ -241,10 +241,16 @@ void Dialog::addAccepted(Repo::Entry entry)
 
 void Dialog::remove()
 {
-    QList<QModelIndex> const rows = view->selectedRows();
+    // A row is told once for each of its cells that are selected apart.
+    QList<int> rows;
+    for (QModelIndex const& index : view->selectedRows()) {
+        if (!rows.contains(index.row())) {
+            rows.append(index.row());
+        }
+    }
     view->setCurrentRow(-1);
-    for (QModelIndex const& index : rows) {
-        model->removeRow(index.row(), {});
+    for (int const row : rows) {
+        model->removeRow(row, {});
     }
     setConfigHasChanged(true);
 }

@@ -235,6 +235,16 @@ private Q_SLOTS:
         QCOMPARE(shown().size(), 3);
     }
 
+    void aRowOfTwoSelectedCellsIsRemovedOnce()
+    {
+        clickCell("fen", 2);
+        clickCell("fen", 3, Qt::ControlModifier);
+        clickCell("moor", 3, Qt::ControlModifier);
+        clickCell("moor", 3, Qt::ControlModifier);
+        click("Remove");
+        QCOMPARE(shown(), (QStringList{"marsh", "moor", "weald"}));
+    }
+
     void removeOfNothingStillCountsAsAChange()
     {
         clickCell("fen", 2);
