@@ -22,7 +22,12 @@ OutputFile::~OutputFile()
 bool OutputFile::open(QByteArray const& path, bool isPrivate)
 {
     // A pipe would wait for its reader.
-    descriptor = ManagedRoot::open(path, O_WRONLY | O_CREAT | O_NONBLOCK, isPrivate ? 0600 : 0666);
+    int const flags = O_CREAT | O_NONBLOCK;
+    mode_t const mode = isPrivate ? 0600 : 0666;
+    descriptor = ManagedRoot::open(path, flags | O_RDWR, mode);
+    // Some may only write.
+    if (descriptor < 0 && errno == EACCES)
+        descriptor = ManagedRoot::open(path, flags | O_WRONLY, mode);
     if (descriptor < 0)
         return false;
     struct stat status = {};
@@ -33,9 +38,28 @@ bool OutputFile::open(QByteArray const& path, bool isPrivate)
         return false;
     }
     oldSize = status.st_size;
-    // Whoever shut a file off from the others has chosen its permissions; any other holds no secret yet.
-    bool const isOpenToAll = (status.st_mode & S_IRWXO) != 0;
-    return !(isPrivate && isOpenToAll) || fchmod(descriptor, S_IRUSR | S_IWUSR) == 0;
+    return true;
+}
+
+QByteArray OutputFile::content() const
+{
+    QByteArray bytes(oldSize, '\0');
+    qsizetype size = 0;
+    while (size < bytes.size()) {
+        ssize_t const count =
+            pread(descriptor, bytes.data() + size, static_cast<size_t>(bytes.size() - size), size);
+        if (count == 0 || (count < 0 && errno != EINTR))
+            break;
+        if (count > 0)
+            size += count;
+    }
+    bytes.truncate(size);
+    return bytes;
+}
+
+bool OutputFile::makePrivate()
+{
+    return fchmod(descriptor, S_IRUSR | S_IWUSR) == 0;
 }
 
 bool OutputFile::write(QByteArray const& content)

@@ -4,8 +4,7 @@
 #include <QByteArray>
 
 /// One file of the managed system that is written anew, in place: links, owner and permissions of a file that
-/// exists stay, but for those that would let everybody read a secret. A value on the stack of the writer; any
-/// thread.
+/// exists stay unless it is made private. A value on the stack of the writer; any thread.
 ///
 /// What the file held is kept until there is room for what it is to hold, so that a full disk does not cost
 /// the user the file. Each operation answers false with errno saying why; nothing is reported here.
@@ -18,10 +17,15 @@ public:
     /// Closes what a failure left open.
     ~OutputFile();
 
-    /// Opens for writing and creates what isn't there. The content stays. Where `isPrivate` says so, a file
-    /// that is new or open to everybody is its owner's only from here on.
-    /// Anything but a regular file is refused.
+    /// Opens for writing and creates what isn't there, for its owner only where `isPrivate` says so. The
+    /// content stays. Anything but a regular file is refused.
     [[nodiscard]] bool open(QByteArray const& path, bool isPrivate);
+
+    /// What the file holds; empty when it may not be read.
+    [[nodiscard]] QByteArray content() const;
+
+    /// Makes the file its owner's only, whatever it was.
+    [[nodiscard]] bool makePrivate();
 
     /// Makes `content` all that the file holds.
     [[nodiscard]] bool write(QByteArray const& content);

@@ -3,7 +3,7 @@
 #include "repo/YumConfIO.h"
 
 #include "base/ManagedRoot.h"
-#include "repo/Buffet.h"
+#include "repo/Credentials.h"
 #include "repo/OutputFile.h"
 
 #include <algorithm>
@@ -37,12 +37,17 @@ void putSwitch(std::FILE* stream, char const* name, qint32 value)
         std::fprintf(stream, "%s=%s\n", name, value == Repo::Yes ? "1" : "0");
 }
 
-/// Whether a section holds a password, be it in a line that is commented out.
-bool holdsCredentials(Repo::Entry const& entry)
+QSet<QString> credentialsOf(QByteArray const& content)
 {
-    QString keyName, name, keyPassword, password;
-    return Repo::Buffet::getAuth(entry, keyName, name, keyPassword, password) ||
-           Repo::Buffet::getAuth(entry.otherOptions, keyName, name, keyPassword, password);
+    return credentialsIn(QString::fromLatin1(content));
+}
+
+/// Replaces what a file holds. Who comes to hold a credential that it didn't hold is its owner's only from
+/// then on; otherwise whoever opened a file to others has chosen that.
+bool replaceContent(OutputFile& output, QByteArray const& content)
+{
+    bool const isPrivate = !credentialsOf(output.content()).contains(credentialsOf(content));
+    return (!isPrivate || output.makePrivate()) && output.write(content);
 }
 
 QByteArray identity(QString const& file)
@@ -266,12 +271,12 @@ void YumConfIO::cleanupWrite(QList<Repo::Entry>& entries) const
 bool YumConfIO::writeFile(QString const& file, QList<Repo::Entry> const& entries)
 {
     OutputFile output;
-    bool const isPrivate = std::any_of(entries.cbegin(), entries.cend(), holdsCredentials);
+    bool const isPrivate = !credentialsOf(contentOf(file, entries)).isEmpty();
     bool isWritten = false;
     if (output.open(file.toLatin1(), isPrivate)) {
         filesRead.insert(ManagedRoot::resolved(file.toLatin1()), file);
         // The content comes after the opening, since a main file that is new decides which one is the main.
-        isWritten = output.write(contentOf(file, entries)) && output.close();
+        isWritten = replaceContent(output, contentOf(file, entries)) && output.close();
     }
     if (!isWritten)
         error(tr("Unable to write repository configuration file %1").arg(file));

@@ -63,8 +63,8 @@ private Q_SLOTS:
     void linksOwnersAndPermissionsStay();
     void securityContextStays_data();
     void securityContextStays();
-    void fileThatEverybodyReadsBecomesItsOwnersWithCredentials_data();
-    void fileThatEverybodyReadsBecomesItsOwnersWithCredentials();
+    void fileBecomesItsOwnersWithAddedCredentials_data();
+    void fileBecomesItsOwnersWithAddedCredentials();
     void newFileWithCredentialsIsForItsOwnerOnly_data();
     void newFileWithCredentialsIsForItsOwnerOnly();
     void fileThatGetsShorterLosesItsOldEnd();
@@ -427,23 +427,46 @@ void TestYumConfIOWrite::securityContextStays()
     QCOMPARE(found, context);
 }
 
-void TestYumConfIOWrite::fileThatEverybodyReadsBecomesItsOwnersWithCredentials_data()
+void TestYumConfIOWrite::fileBecomesItsOwnersWithAddedCredentials_data()
 {
-    QTest::addColumn<int>("before");
-    QTest::addColumn<int>("after");
-    QTest::newRow("open to all") << 0664 << 0600;
-    QTest::newRow("open to a group, which somebody has chosen") << 0640 << 0640;
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<QString>("url");
+    QTest::addColumn<QString>("options");
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<int>("modeAfter");
+    QString const blank = QStringLiteral("http://h/buffet?u=&p=&path=/");
+    QString const full = QString::fromLatin1(buffetUrl);
+    auto const row = [](char const* name, QByteArray const& before, QString const& url,
+                        QString const& options, int mode, int modeAfter) {
+        QTest::newRow(name) << before << url << options << mode << modeAfter;
+    };
+    QString const password = QStringLiteral("password=x\n");
+    row("address", "", full, {}, 0664, 0600);
+    row("address, open to a group", "", full, {}, 0640, 0600);
+    row("option", "", {}, password, 0644, 0600);
+    row("user", "", QStringLiteral("http://me:x@host/"), {}, 0644, 0600);
+    row("filled in", "mirrorlist=" + blank.toLatin1() + '\n', full, {}, 0644, 0600);
+    row("a second one", "password=x\n", full, password, 0644, 0600);
+    row("another", "password=y\n", {}, password, 0644, 0600);
+    row("the same", "password=x\n", {}, password + QStringLiteral("cost=5\n"), 0644, 0644);
+    row("one less", "proxy_password=y\npassword=x\n", {}, password, 0640, 0640);
+    row("blank", "", blank, {}, 0644, 0644);
+    row("none", "", QStringLiteral("http://h/"), {}, 0640, 0640);
 }
 
-void TestYumConfIOWrite::fileThatEverybodyReadsBecomesItsOwnersWithCredentials()
+void TestYumConfIOWrite::fileBecomesItsOwnersWithAddedCredentials()
 {
-    QFETCH(int, before);
-    QVERIFY(root().readRepoFile("[a]\n"));
+    QFETCH(QByteArray, before);
+    QFETCH(QString, url);
+    QFETCH(QString, options);
+    QFETCH(int, mode);
+    QVERIFY(root().readRepoFile("[a]\n" + before));
     char const* const file = "/etc/yum.repos.d/some.repo";
-    QCOMPARE(::chmod(root().onDisk(file).constData(), static_cast<mode_t>(before)), 0);
-    root().conf.repos[0].mirrorlist = QString::fromLatin1(buffetUrl);
+    QCOMPARE(::chmod(root().onDisk(file).constData(), static_cast<mode_t>(mode)), 0);
+    root().conf.repos[0].mirrorlist = url;
+    root().conf.repos[0].otherOptions = options;
     QVERIFY(root().conf.write(nullptr));
-    QTEST(permissions(root(), file), "after");
+    QTEST(permissions(root(), file), "modeAfter");
 }
 
 void TestYumConfIOWrite::newFileWithCredentialsIsForItsOwnerOnly_data()
@@ -452,6 +475,9 @@ void TestYumConfIOWrite::newFileWithCredentialsIsForItsOwnerOnly_data()
     QTest::newRow("baseurl") << QStringLiteral("baseurl");
     QTest::newRow("mirrorlist") << QStringLiteral("mirrorlist");
     QTest::newRow("comment") << QStringLiteral("otherOptions");
+    QTest::newRow("option") << QStringLiteral("password");
+    QTest::newRow("option for the proxy") << QStringLiteral("proxy_password");
+    QTest::newRow("user of an address") << QStringLiteral("user");
 }
 
 void TestYumConfIOWrite::newFileWithCredentialsIsForItsOwnerOnly()
@@ -465,11 +491,17 @@ void TestYumConfIOWrite::newFileWithCredentialsIsForItsOwnerOnly()
         secret.baseurl = QStringLiteral("http://plain\n") + url;
     else if (field == QLatin1String("mirrorlist"))
         secret.mirrorlist = url;
+    else if (field.endsWith(QLatin1String("password")))
+        secret.otherOptions = field + QStringLiteral("=x\n");
+    else if (field == QLatin1String("user"))
+        secret.baseurl = QStringLiteral("http://me:x@host/");
     else
         secret.otherOptions = QStringLiteral("#baseurl=") + url + u'\n';
     root().conf.repos += newRepo(QStringLiteral("first"), secret.file);
     root().conf.repos += secret;
-    root().conf.repos += newRepo(QStringLiteral("open"));
+    Repo::Entry open = newRepo(QStringLiteral("open"));
+    open.baseurl = QStringLiteral("http://h/buffet?u=&p=&path=/");
+    root().conf.repos += open;
 
     mode_t const before = ::umask(022);
     bool const isWritten = root().conf.write(nullptr);
