@@ -48,7 +48,8 @@ def home(tmp_path_factory: pytest.TempPathFactory) -> Iterator[None]:
 
 @pytest.fixture(scope="session")
 def rpm_file() -> Path:
-    (found,) = (path for path in PACKAGES.glob("vem-*.rpm") if not path.name.endswith(".src.rpm"))
+    # Beside it lie the sources and, where rpmbuild takes them apart, debuginfo and debugsource.
+    (found,) = (path for path in PACKAGES.glob("vem-[0-9]*.rpm") if not path.name.endswith(".src.rpm"))
     return found
 
 

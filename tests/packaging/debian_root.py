@@ -71,6 +71,8 @@ class DebianRoot:
             done = subprocess.run(
                 [
                     *own_mounts(), "mmdebstrap", "--mode=root", "--variant=apt", "--format=directory",
+                    # A mirror's list of a release in the making may be older than it says it may become.
+                    '--aptopt=Acquire::Check-Valid-Until "false"',
                     f"--customize-hook=copy-in {deb} /root",
                     # As an administrator installs a package that isn't in the archive.
                     f'--customize-hook=chroot "$1" apt-get -q -y --no-install-recommends install /root/{deb.name}',

@@ -82,8 +82,10 @@ def test_program_is_stripped_and_takes_libraries_from_the_system_only(package: P
 def test_no_file_tells_where_it_was_built(package: Package) -> None:
     for path in package.files():
         content = package.place(path).read_bytes()
-        for folder in (str(TOP), str(PACKAGES), "/rpmbuild/", "BUILDROOT"):
+        for folder in (str(PACKAGES), "/rpmbuild/", "BUILDROOT"):
             assert folder.encode() not in content, f"{path} names {folder}"
+        # Not as a part of another path, such as that of the program: the sources may lie in a folder with a short name.
+        assert not re.search(rb"(?<![\w.-])" + re.escape(f"{TOP}/".encode()), content), f"{path} names {TOP}"
 
 
 def test_the_desktop_is_pointed_to_what_is_installed(package: Package) -> None:
@@ -154,6 +156,8 @@ def test_deb_names_itself(deb_file: Path) -> None:
 def test_deb_depends_on_what_the_program_starts_and_imports(deb_file: Path) -> None:
     names = {re.split(r"[ (|]", word.strip())[0] for word in fields(deb_file)["Depends"].split(",")}
     names = {re.sub(r"^libpython3\.\d+$", "libpython3", name) for name in names}
+    # Libraries that were built anew for 64 bits of time.
+    names = {name.removesuffix("t64") for name in names}
     assert names == {
         "hicolor-icon-theme", "libc6", "libgcc-s1", "libpython3", "libqt6core6", "libqt6gui6", "libqt6widgets6",
         "libstdc++6", "pkexec", "python3", "python3-dnf", "python3-rpm", "rpm",
