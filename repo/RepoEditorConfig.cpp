@@ -94,7 +94,7 @@ QString RepoEditor::Config::refusal() const
     }
     return (misread->kind == RepoFields::Misread::SectionHead
                 ? tr("Line %1 of Other Options would begin another section")
-                : tr("Line %1 of Other Options is indented, but there is no option that it could continue"))
+                : tr("Line %1 of Other Options is indented but continues no option"))
         .arg(misread->line);
 }
 

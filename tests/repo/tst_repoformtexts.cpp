@@ -209,8 +209,8 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("words");
-        QString const indented = QStringLiteral(
-            "Line %1 of Other Options is indented, but there is no option that it could continue");
+        QString const indented =
+            QStringLiteral("Line %1 of Other Options is indented but continues no option");
         QTest::newRow("first") << " cost=5" << indented.arg(1);
         QTest::newRow("below a comment") << "cost=5\n# note\n\tgpgkey=x" << indented.arg(3);
         QTest::newRow("head") << "cost=5\n[more]"
