@@ -986,6 +986,14 @@ in einer Konfigurationsdatei mit mehreren Konfigurationen bestimmt</translation>
         <source>Sort Position</source>
         <translation>Sortierposition</translation>
     </message>
+    <message>
+        <source>Line %1 of Other Options would begin another section</source>
+        <translation>Zeile %1 der weiteren Optionen würde einen anderen Abschnitt beginnen</translation>
+    </message>
+    <message>
+        <source>Line %1 of Other Options is indented but continues no option</source>
+        <translation>Zeile %1 der weiteren Optionen ist eingerückt, setzt aber keine Option fort</translation>
+    </message>
 </context>
 <context>
     <name>RepoEditor::ConfigDialog</name>

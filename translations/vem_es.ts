@@ -986,6 +986,14 @@ en un archivo que contiene varias configuraciones</translation>
         <source>Sort Position</source>
         <translation>Posición</translation>
     </message>
+    <message>
+        <source>Line %1 of Other Options would begin another section</source>
+        <translation>La línea %1 de las otras opciones empezaría otra sección</translation>
+    </message>
+    <message>
+        <source>Line %1 of Other Options is indented but continues no option</source>
+        <translation>La línea %1 de las otras opciones tiene sangría, pero no continúa ninguna opción</translation>
+    </message>
 </context>
 <context>
     <name>RepoEditor::ConfigDialog</name>

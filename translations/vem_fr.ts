@@ -986,6 +986,14 @@ dans un fichier de configuration qui en contient plusieurs</translation>
         <source>Sort Position</source>
         <translation>Position de tri</translation>
     </message>
+    <message>
+        <source>Line %1 of Other Options would begin another section</source>
+        <translation>La ligne %1 des autres options commencerait une autre section</translation>
+    </message>
+    <message>
+        <source>Line %1 of Other Options is indented but continues no option</source>
+        <translation>La ligne %1 des autres options est en retrait, mais ne prolonge aucune option</translation>
+    </message>
 </context>
 <context>
     <name>RepoEditor::ConfigDialog</name>

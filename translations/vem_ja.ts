@@ -986,6 +986,14 @@ in a configuration file which contains multiple configurations</source>
         <source>Sort Position</source>
         <translation>並び順</translation>
     </message>
+    <message>
+        <source>Line %1 of Other Options would begin another section</source>
+        <translation>その他のオプションの %1 行目は別のセクションの始まりになります</translation>
+    </message>
+    <message>
+        <source>Line %1 of Other Options is indented but continues no option</source>
+        <translation>その他のオプションの %1 行目は字下げされていますが、続きとなるオプションがありません</translation>
+    </message>
 </context>
 <context>
     <name>RepoEditor::ConfigDialog</name>

@@ -986,6 +986,14 @@ in a configuration file which contains multiple configurations</source>
         <source>Sort Position</source>
         <translation>排序位置</translation>
     </message>
+    <message>
+        <source>Line %1 of Other Options would begin another section</source>
+        <translation>其他选项的第 %1 行会开始另一个节</translation>
+    </message>
+    <message>
+        <source>Line %1 of Other Options is indented but continues no option</source>
+        <translation>其他选项的第 %1 行有缩进，但没有可接续的选项</translation>
+    </message>
 </context>
 <context>
     <name>RepoEditor::ConfigDialog</name>
