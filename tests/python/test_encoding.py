@@ -72,6 +72,20 @@ def test_identifier_beyond_ascii_costs_only_its_own_repository(
     assert "Bad id for repo: B\u00fcro" in host.text("log")
 
 
+@pytest.mark.parametrize("mark", [b"", b"\xef\xbb\xbf"])
+@pytest.mark.parametrize("name", [b"Base", UTF8, LATIN1])
+@pytest.mark.parametrize("ends", [b"\n", b"\r\n"])
+def test_mark_and_ends_of_a_file_cost_nothing(
+    lamp: Tuple[Estate, Program], mark: bytes, name: bytes, ends: bytes
+) -> None:
+    estate, program = lamp
+    for file in (estate.root / "etc/yum.repos.d/base.repo", estate.root / "etc/yum.conf"):
+        text = file.read_bytes() + (b"name=" + name + b"\nenabled=1\n" if file.suffix == ".repo" else b"")
+        file.write_bytes(mark + text.replace(b"\n", ends))
+    assert names(program) == {"base": name.decode("latin-1" if name == LATIN1 else "utf-8")}
+    assert program.collect().offered("lamp").version == "1.1"
+
+
 def test_file_that_is_not_utf8_is_told_with_its_line(lamp: Tuple[Estate, Program], host: FakeHost) -> None:
     estate, program = lamp
     file = append(estate, b"name=" + LATIN1 + b"\n")

@@ -1,18 +1,16 @@
 # SPDX-License-Identifier: GPL-2.0-or-later
-"""The configuration: which root is managed, and dnf's settings for it.
+"""The configuration: dnf's settings for the managed root.
 
-VEMROOT names the root; every path of the configuration lies below it. Unset, the root is "/". The
-main file, the repository directories and the cache are where the configuration editor takes them
-to be, so that both speak of the same files.
+Every path of the configuration lies below the root. The main file, the repository directories and the
+cache are where the configuration editor takes them to be, so that both speak of the same files.
 """
 
 from __future__ import annotations
 
 import contextlib
-import glob
 import logging
 import os
-import re
+import tempfile
 from typing import Dict, Iterator, List, NamedTuple, Optional, Tuple
 
 import dnf.conf
@@ -25,6 +23,7 @@ import libdnf.conf
 from . import rights
 from .database import point_rpm_at
 from .errors import YumBaseError
+from .root import as_configured, below, files, managed_root, within
 from .texts import _
 
 
@@ -54,22 +53,6 @@ PROTECTED_DIRECTORIES = ("/etc/yum/protected.d", "/etc/dnf/protected.d")
 ALWAYS_PROTECTED = ("dnf", "yum")
 
 
-def managed_root() -> str:
-    """The root that is managed: an absolute path without a slash at its end, or "/"."""
-    return os.path.abspath(os.environ.get("VEMROOT") or "/")
-
-
-def below(root: str, path: str) -> str:
-    """`path` of the managed system as a path of the process."""
-    return path if root == "/" else root + path
-
-
-def as_configured(text: str) -> str:
-    """`text` with each path below the managed root as the configuration states it, which knows no such root."""
-    root = managed_root()
-    return text if root == "/" else re.sub(rf"(?<![\w./-]){re.escape(root)}(?=/)", "", text)
-
-
 def misread(error: dnf.exceptions.ConfigError) -> YumBaseError:
     """What is wrong with a file of the configuration, told once: dnf repeats what its library says."""
     said = error.__context__ if isinstance(error.__context__, RuntimeError) else error
@@ -78,7 +61,13 @@ def misread(error: dnf.exceptions.ConfigError) -> YumBaseError:
 
 def main_file(root: str) -> MainFile:
     """The main configuration file that counts below the root, whether it exists or not."""
-    return next((file for file in MAIN_FILES if os.path.exists(below(root, file.path))), WITHOUT_ANY)
+    return next((file for file in MAIN_FILES if _is_there(root, file.path)), WITHOUT_ANY)
+
+
+def _is_there(root: str, path: str) -> bool:
+    with contextlib.suppress(OSError):
+        return os.path.exists(below(root, path))
+    return False
 
 
 def read_configuration() -> dnf.conf.MainConf:
@@ -95,6 +84,9 @@ def read_configuration() -> dnf.conf.MainConf:
     main = main_file(root)
     _set_defaults(conf, root, main)
     path = below(root, main.path)
+    if os.path.exists(path) and not (os.path.isfile(path) or os.path.isdir(path)):
+        # To open a pipe would wait for ever.
+        raise YumBaseError(_("{file} is not a regular file").format(file=main.path))
     try:
         with undecodable_named(path):
             conf.read(path, dnf.conf.config.PRIO_MAINCONFIG)
@@ -131,14 +123,21 @@ def undecodable_named(file: str) -> Iterator[None]:
 
 def _read_variables(conf: dnf.conf.MainConf, root: str) -> None:
     """The variables that the managed system defines, a file each. YumBaseError names one that isn't UTF-8."""
-    try:
-        conf.substitutions.update_from_etc(root, varsdir=conf.varsdir)
-    except UnicodeDecodeError as error:
-        for directory in conf.varsdir:
-            for file in sorted(glob.glob(glob.escape(below(root, directory)) + "/*")):
-                if os.path.isfile(file):
-                    _require_utf8(file, error)
-        raise
+    found = [pair for directory in conf.varsdir for pair in files(root, directory, "*")]
+    if not found:
+        return
+    # dnf would follow links of the managed system out of the root.
+    with tempfile.TemporaryDirectory(prefix="vem-") as folder:
+        for path, file in found:
+            link = os.path.join(folder, path.lstrip("/"))
+            os.makedirs(os.path.dirname(link), exist_ok=True)
+            os.symlink(os.path.abspath(file), link)
+        try:
+            conf.substitutions.update_from_etc(folder, varsdir=conf.varsdir)
+        except UnicodeDecodeError as error:
+            for _path, file in found:
+                _require_utf8(file, error)
+            raise
 
 
 def _require_utf8(file: str, stumble: Exception) -> None:
@@ -184,8 +183,8 @@ def _protected_packages(root: str) -> List[str]:
     """The packages that the managed system says must stay; dnf itself would ask this machine's files."""
     names = list(ALWAYS_PROTECTED)
     for directory in PROTECTED_DIRECTORIES:
-        for path in sorted(glob.glob(glob.escape(below(root, directory)) + "/*.conf")):
-            with open(path, encoding="utf-8", errors="replace") as file:
+        for _path, place in files(root, directory, "*.conf"):
+            with open(place, encoding="utf-8", errors="replace") as file:
                 lines = (line.partition("#")[0].strip() for line in file)
                 names += [name for line in lines for name in line.replace(",", " ").split()]
     return list(dict.fromkeys(names))

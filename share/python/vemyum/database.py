@@ -7,8 +7,8 @@ below a root of its own has a configuration of its own, which rpm would not read
 
 from __future__ import annotations
 
+import contextlib
 import functools
-import glob
 import os
 import subprocess
 from typing import AbstractSet, Dict, Optional, Sequence, Tuple
@@ -16,16 +16,17 @@ from typing import AbstractSet, Dict, Optional, Sequence, Tuple
 import rpm
 
 from .errors import YumBaseError, os_error_text
+from .root import below, files, within
 from .text import valid
 from .texts import _
 
 _MACRO_FILES = (
-    "usr/lib/rpm/macros",
-    "usr/lib/rpm/macros.d/macros.*",
+    ("/usr/lib/rpm", "macros"),
+    ("/usr/lib/rpm/macros.d", "macros.*"),
     # The distribution's own, in a folder of its name.
-    "usr/lib/rpm/*/macros",
-    "etc/rpm/macros.*",
-    "etc/rpm/macros",
+    ("/usr/lib/rpm", "*/macros"),
+    ("/etc/rpm", "macros.*"),
+    ("/etc/rpm", "macros"),
 )
 """Where rpm looks for its macros, in its order (see `rpm --showrc`). Left out are a user's own, and those of the
 processor, which the database doesn't depend on."""
@@ -42,36 +43,35 @@ _FEW = 5
 
 
 def database_directory(root: str) -> str:
-    """The directory, as seen from within `root`. YumBaseError when rpm cannot be asked."""
+    """The directory, as seen from within `root`, from without too. YumBaseError when rpm cannot be asked, OSError."""
     if root == "/":
         return str(rpm.expandMacro("%{_dbpath}"))
-    files = _macro_files(root)
-    stated = _stated_below(root, files) if files else ""
-    return stated or _usual_directory(os.path.expanduser("~"))
+    macros = _macro_files(root)
+    stated = _stated_below(root, macros) if macros else ""
+    return within(root, below(root, stated or _usual_directory(os.path.expanduser("~"))))
 
 
 def _macro_files(root: str) -> Tuple[Tuple[str, int], ...]:
     """The root's macro files, with what tells whether one has changed."""
     found = []
-    for place in _MACRO_FILES:
-        for path in glob.iglob(os.path.join(glob.escape(root), place)):
-            try:
-                found.append((path, os.stat(path).st_mtime_ns))
-            except OSError:
-                # A link that leads nowhere.
-                continue
+    for directory, pattern in _MACRO_FILES:
+        for _path, place in files(root, directory, pattern):
+            # It may be gone by now.
+            with contextlib.suppress(OSError):
+                found.append((place, os.stat(place).st_mtime_ns))
     return tuple(found)
 
 
 @functools.lru_cache(maxsize=None)
-def _stated_below(root: str, _files: Tuple[Tuple[str, int], ...]) -> str:
+def _stated_below(root: str, macros: Tuple[Tuple[str, int], ...]) -> str:
     """What the root's own macros say, empty for nothing.
 
     Read by a process of its own, so that this one's macros stay as they are. It looks from within the root,
     whose path rpm might take for several or for a pattern. A place in a home is that of the root's administrator.
     """
     home = {"HOME": _ADMINISTRATORS_HOME}
-    return _asked(["--macros=" + ":".join(_MACRO_FILES)], root, home)
+    names = [within(root, place).lstrip("/") for place, _time in macros]
+    return _asked(["--macros=" + ":".join(names)], root, home)
 
 
 @functools.lru_cache(maxsize=None)
@@ -120,9 +120,7 @@ def damage(root: str) -> Optional[str]:
 
     rpm takes an empty file for a new database and a damaged one for one without packages.
     """
-    directory = database_directory(root)
-    if root != "/":
-        directory = root + directory
+    directory = below(root, database_directory(root))
     for name in _DATABASES:
         path = os.path.join(directory, name)
         if os.path.exists(path) and os.path.getsize(path) == 0 and not os.path.exists(path + "-wal"):

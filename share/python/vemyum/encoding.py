@@ -10,12 +10,16 @@ from __future__ import annotations
 import codecs
 import contextlib
 import logging
+import os
 import tempfile
-from typing import Any, Iterator, Optional, Tuple
+from typing import Any, Dict, Iterator, List, Optional, Tuple
 
 import dnf.conf.read
+import dnf.exceptions
+import dnf.util
 
 from .errors import os_error_text
+from .root import files, within
 from .text import valid
 from .texts import _
 
@@ -32,13 +36,44 @@ codecs.register_error(_UTF8_ELSE_LATIN1, _as_latin1)
 
 
 class RepositoryReader(dnf.conf.read.RepoReader):
-    """dnf's reader of all configured repositories."""
+    """dnf's reader of all configured repositories.
+
+    As the configuration editor it reads each file and directory once, whatever its paths are, and regular files
+    only.
+    """
+
+    def __iter__(self) -> Iterator[Any]:
+        yield from self._get_repos(self.conf.config_file_path)
+        for path in self._files():
+            try:
+                yield from self._get_repos(path)
+            except dnf.exceptions.ConfigError as error:
+                logging.getLogger("dnf").warning("%s", error)
+
+    def _files(self) -> List[str]:
+        """The repository files of all directories, in dnf's order: that of their names without the ending."""
+        root = self.conf.installroot
+        found = [pair for folder in self.conf.reposdir for pair in files(root, within(root, folder), "*.repo")]
+        found.sort(key=lambda pair: dnf.util.split_path(pair[0][: -len(".repo")]))
+        paths: Dict[Tuple[int, int], str] = {_identity(self.conf.config_file_path): ""}
+        for _path, place in found:
+            paths.setdefault(_identity(place), place)
+        return [path for path in paths.values() if path]
 
     def _get_repos(self, repofn: str) -> Iterator[Any]:
         with _utf8_file(repofn) as file:
             for repo in super()._get_repos(file):
                 repo.repofile = valid(repofn)
                 yield repo
+
+
+def _identity(path: str) -> Tuple[int, int]:
+    """What tells files apart; the same for all that are gone."""
+    try:
+        status = os.stat(path)
+    except OSError:
+        return (0, 0)
+    return (status.st_dev, status.st_ino)
 
 
 @contextlib.contextmanager

@@ -13,7 +13,7 @@ from typing import Iterator
 import dnf.logging
 
 from . import host
-from .configuration import as_configured
+from .root import as_configured
 
 _RPM_LOGGER = "dnf.rpm"
 

@@ -18,6 +18,7 @@ import dnf.util
 import dnf.yum.misc
 
 from .errors import YumBaseError, os_error_text
+from .root import below
 from .texts import _
 
 LOOK_ONLY = _("Started without administrator rights: packages can be looked at, not changed.")
@@ -52,8 +53,7 @@ def unchangeable(root: str) -> Optional[str]:
     """
     if os.path.realpath(root) == "/" and os.path.exists(_BOOTED_IMAGE):
         return IMAGE_BASED
-    usr = os.path.join(root, "usr")
-    return READ_ONLY.format(directory=usr) if _is_read_only(usr) else None
+    return READ_ONLY.format(directory=os.path.join(root, "usr")) if _is_read_only(root, "/usr") else None
 
 
 def require_changeable(root: str) -> None:
@@ -66,12 +66,12 @@ def require_changeable(root: str) -> None:
 
 def keeps_own_directory(root: str) -> bool:
     """Whether caches and locks lie in a folder of the user's own: the system's are closed, or cannot be written."""
-    return not is_administrator() or _is_read_only(os.path.join(root, "var"))
+    return not is_administrator() or _is_read_only(root, "/var")
 
 
-def _is_read_only(directory: str) -> bool:
+def _is_read_only(root: str, directory: str) -> bool:
     try:
-        return bool(os.statvfs(directory).f_flag & os.ST_RDONLY)
+        return bool(os.statvfs(below(root, directory)).f_flag & os.ST_RDONLY)
     except OSError:
         # What is not there yet is no obstacle.
         return False

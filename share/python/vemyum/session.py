@@ -14,13 +14,14 @@ import dnf.conf
 from . import host, rights
 from .base import Base, open_base
 from .comps import CompsGroup
-from .configuration import Configuration, as_configured, main_file, managed_root, read_configuration
+from .configuration import Configuration, main_file, read_configuration
 from .details import PackageDetails
 from .errors import LockError, RepoError, YumBaseError, reported_as
 from .groups import Group, groups_of, read_groups
 from .lists import Collector, PackageLists
 from .lock import LOCK
 from .repositories import Repositories, UnreadableRepositories
+from .root import as_configured, managed_root
 from .sack import light_packages
 from .texts import _
 
