@@ -1281,6 +1281,14 @@ Lässt sich für eine einzelne Sitzung übersteuern.</translation>
         <source>subscription-manager generates these files and will write them anew, without the changes made here: %1.  Its own command, &quot;subscription-manager repo-override&quot;, makes lasting ones.</source>
         <translation>subscription-manager erzeugt diese Dateien und schreibt sie neu, ohne die hier gemachten Änderungen: %1. Bleibende Änderungen macht sein eigener Befehl „subscription-manager repo-override“.</translation>
     </message>
+    <message>
+        <source>%1 is not a regular file.  It is neither read nor changed.</source>
+        <translation>%1 ist keine gewöhnliche Datei. Sie wird weder gelesen noch geändert.</translation>
+    </message>
+    <message>
+        <source>The file %1 has not been read, or not to its end.  Nothing is written, so that nothing in it is lost.</source>
+        <translation>Die Datei %1 wurde nicht oder nicht bis zum Ende gelesen. Es wird nichts geschrieben, damit nichts aus ihr verloren geht.</translation>
+    </message>
 </context>
 <context>
     <name>YumIO</name>

@@ -1281,6 +1281,14 @@ Se puede cambiar para una sesión concreta.</translation>
         <source>subscription-manager generates these files and will write them anew, without the changes made here: %1.  Its own command, &quot;subscription-manager repo-override&quot;, makes lasting ones.</source>
         <translation>subscription-manager genera estos archivos y volverá a escribirlos sin los cambios hechos aquí: %1.  Los cambios duraderos se hacen con su propia orden, «subscription-manager repo-override».</translation>
     </message>
+    <message>
+        <source>%1 is not a regular file.  It is neither read nor changed.</source>
+        <translation>%1 no es un archivo normal.  No se lee ni se modifica.</translation>
+    </message>
+    <message>
+        <source>The file %1 has not been read, or not to its end.  Nothing is written, so that nothing in it is lost.</source>
+        <translation>El archivo %1 no se ha leído, o no hasta el final.  No se escribe nada, para que no se pierda nada de él.</translation>
+    </message>
 </context>
 <context>
     <name>YumIO</name>

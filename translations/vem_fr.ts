@@ -1281,6 +1281,14 @@ Peut être modifié pour une session donnée.</translation>
         <source>subscription-manager generates these files and will write them anew, without the changes made here: %1.  Its own command, &quot;subscription-manager repo-override&quot;, makes lasting ones.</source>
         <translation>subscription-manager génère ces fichiers et les réécrira sans les modifications faites ici&#xa0;: %1. Sa propre commande, «&#xa0;subscription-manager repo-override&#xa0;», en fait de durables.</translation>
     </message>
+    <message>
+        <source>%1 is not a regular file.  It is neither read nor changed.</source>
+        <translation>%1 n’est pas un fichier ordinaire. Il n’est ni lu ni modifié.</translation>
+    </message>
+    <message>
+        <source>The file %1 has not been read, or not to its end.  Nothing is written, so that nothing in it is lost.</source>
+        <translation>Le fichier %1 n’a pas été lu, ou pas jusqu’au bout. Rien n’est écrit, afin que rien n’en soit perdu.</translation>
+    </message>
 </context>
 <context>
     <name>YumIO</name>

@@ -1281,6 +1281,14 @@ It can be overridden for a particular session.</source>
         <source>subscription-manager generates these files and will write them anew, without the changes made here: %1.  Its own command, &quot;subscription-manager repo-override&quot;, makes lasting ones.</source>
         <translation>次のファイルは subscription-manager が生成するもので、ここでの変更を残さずに書き直されます: %1。変更を残すには、専用のコマンド「subscription-manager repo-override」を使ってください。</translation>
     </message>
+    <message>
+        <source>%1 is not a regular file.  It is neither read nor changed.</source>
+        <translation>%1 は通常のファイルではありません。読み込みも変更も行いません。</translation>
+    </message>
+    <message>
+        <source>The file %1 has not been read, or not to its end.  Nothing is written, so that nothing in it is lost.</source>
+        <translation>ファイル %1 は読み込まれていないか、最後まで読み込まれていません。内容が失われないように、何も書き込みません。</translation>
+    </message>
 </context>
 <context>
     <name>YumIO</name>

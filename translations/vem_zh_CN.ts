@@ -1281,6 +1281,14 @@ It can be overridden for a particular session.</source>
         <source>subscription-manager generates these files and will write them anew, without the changes made here: %1.  Its own command, &quot;subscription-manager repo-override&quot;, makes lasting ones.</source>
         <translation>以下文件由 subscription-manager 生成，它会重新写入这些文件，不保留在此所做的更改：%1。若要持久更改，请使用它自己的命令“subscription-manager repo-override”。</translation>
     </message>
+    <message>
+        <source>%1 is not a regular file.  It is neither read nor changed.</source>
+        <translation>%1 不是普通文件，既不会读取也不会更改。</translation>
+    </message>
+    <message>
+        <source>The file %1 has not been read, or not to its end.  Nothing is written, so that nothing in it is lost.</source>
+        <translation>文件 %1 未读取，或未读取到末尾。为避免丢失其中的内容，不会写入任何内容。</translation>
+    </message>
 </context>
 <context>
     <name>YumIO</name>
