@@ -169,7 +169,8 @@ def test_main_file_that_is_a_pipe_is_told(estate: Estate, program: Program, host
     os.mkfifo(main)
     with pytest.raises(SystemExit):
         program.start()
-    assert f"{main} is not a regular file" in host.text("errorlog")
+    report = host.text("errorlog")
+    assert "/etc/yum.conf is not a regular file" in report and str(main) not in report
 
 
 def test_main_file_that_leads_round_in_circles_is_told(lamp: Tuple[Estate, Program]) -> None:
@@ -179,7 +180,7 @@ def test_main_file_that_leads_round_in_circles_is_told(lamp: Tuple[Estate, Progr
     main.unlink()
     main.symlink_to("/etc/yum.conf")
     yumio = program.namespace["YumIO"]()
-    assert yumio.repos.repos.keys() == {str(main)}
+    assert yumio.repos.repos.keys() == {"/etc/yum.conf"}
     with pytest.raises(program.errors.RepoError, match="Too many levels of symbolic links"):
         yumio.setupRepos()
 
