@@ -33,6 +33,10 @@ void openInChild()
 
 [[noreturn]] void waitForever()
 {
+    // No other signal is for this thread: a transaction waits for those of its own children.
+    sigset_t all;
+    sigfillset(&all);
+    ::pthread_sigmask(SIG_SETMASK, &all, nullptr);
     sigset_t const set = justInterrupt();
     while (true) {
         int signal = 0;

@@ -191,19 +191,23 @@ bool inspect(QByteArray const& path, struct stat& status)
     return file && fstat(file.get(), &status) == 0;
 }
 
-QByteArrayList names(QByteArray const& directory)
+std::optional<QByteArrayList> names(QByteArray const& directory)
 {
     Descriptor folder(open(directory, O_RDONLY | O_DIRECTORY));
     std::unique_ptr<DIR, int (*)(DIR*)> const stream(folder ? fdopendir(folder.get()) : nullptr, &closedir);
     if (!stream)
-        return {};
+        return std::nullopt;
     (void)folder.release();
     QByteArrayList found;
+    errno = 0;
     while (dirent const* const item = readdir(stream.get())) {
         QByteArray const name = item->d_name;
         if (name != "." && name != "..")
             found += name;
+        errno = 0;
     }
+    if (errno != 0)
+        return std::nullopt;
     return found;
 }
 

@@ -4,6 +4,8 @@
 #include <QByteArray>
 #include <QByteArrayList>
 
+#include <optional>
+
 #include <sys/stat.h>
 
 /// The files of the managed system: those below the directory that the environment variable VEMROOT names,
@@ -22,9 +24,9 @@ namespace ManagedRoot
 /// stat(2): links are followed.
 [[nodiscard]] bool inspect(QByteArray const& path, struct stat& status);
 
-/// The names in a directory, in the order in which it gives them, without "." and ".."; none where it can't
-/// be opened.
-[[nodiscard]] QByteArrayList names(QByteArray const& directory);
+/// The names in a directory, in the order in which it gives them, without "." and ".."; nothing, rather than
+/// a part of them, where it can't be read to its end.
+[[nodiscard]] std::optional<QByteArrayList> names(QByteArray const& directory);
 
 /// unlink(2): of a link, the link itself goes.
 [[nodiscard]] bool unlink(QByteArray const& path);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "base/StartingPoint.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <climits>
@@ -84,8 +85,11 @@ void StartingPoint::restoreInChild()
         }
     }
     if (::close_range(standardDescriptors, UINT_MAX, 0) != 0) {
-        // A kernel, or a sandbox, without the call.
-        for (long descriptor = ::sysconf(_SC_OPEN_MAX) - 1; descriptor >= standardDescriptors; --descriptor) {
+        // A kernel, or a sandbox, without the call. Some allow a thousand million descriptors; nobody has as
+        // many.
+        constexpr long most = 65536;
+        for (long descriptor = std::min(::sysconf(_SC_OPEN_MAX), most);
+             --descriptor >= standardDescriptors;) {
             ::close(static_cast<int>(descriptor));
         }
     }

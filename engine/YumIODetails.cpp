@@ -94,7 +94,6 @@ bool YumIO::collectBuildHostReal(Package::Entry const& entry)
 {
     ProgressUser const progressUser(progress, totalBar, itemBar);
     YumIODialogsUser const dialogsUser(dialogs, parent);
-    log(Log::Action, 0, tr("Collecting Build Hosts"));
     PyGILStateWrapper const lock(true);
     progress->startTotal(tr("Loading build hosts: Total Progress"), readingSteps);
     progress->startItem(tr("Reading repositories"), readingSteps, 1);

@@ -111,7 +111,7 @@ PyObject* YumIO::tsInitCallback(PyObject*, PyObject* args)
     if (!PyArg_ParseTuple(args, "l", &real)) {
         return nullptr;
     }
-    Interrupt::setTransactionRuns(true);
+    Interrupt::setTransactionRuns(real != 0);
     if (!progress) {
         Py_RETURN_NONE;
     }

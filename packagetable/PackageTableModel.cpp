@@ -335,9 +335,14 @@ void Model::describe(QModelIndex const& index, QWidget* parent)
         describeDialog = new Describe::Dialog(parent);
     }
     if (!yumIO->buildHostAtHand(*entry)) {
+        bool const wasVisible = parent->isVisible();
         Q_EMIT busy(true);
         yumIO->collectBuildHost(*entry);
         Q_EMIT busy(false);
+        if (wasVisible && !parent->isVisible()) {
+            // Closed meanwhile, and with it the program.
+            return;
+        }
     }
     describeDialog->config(yumIO, *entry, yumConfIO);
     describeDialog->exec();

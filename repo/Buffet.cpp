@@ -75,7 +75,7 @@ QString Repo::Buffet::maskPasswords(QString urls)
 {
     static QRegularExpression const password(
         QStringLiteral("(/buffet\\?[^&\\s]*=[^&\\s]*&[^&\\s=]*=)[^&\\s]+(?=&path=)"), unicode);
-    static QRegularExpression const userPassword(QStringLiteral("(://[^/?#\\s:@]*:)[^/\\s@]+(?=@)"), unicode);
+    static QRegularExpression const userPassword(QStringLiteral("(://[^/?#\\s:@]*:)[^/\\s]+(?=@)"), unicode);
     urls.replace(password, QStringLiteral("\\1***"));
     return urls.replace(userPassword, QStringLiteral("\\1***"));
 }

@@ -10,7 +10,7 @@ QSet<QString> credentialsIn(QString const& text)
     static QRegularExpression const option(
         QStringLiteral("^[ \\t#;]*\\w*password[ \\t]*[=:][ \\t]*(?:\\r?\\n[ \\t]+)*(\\S*)"),
         QRegularExpression::MultilineOption);
-    static QRegularExpression const user(QStringLiteral("://([^/?#\\s:@]*):([^/\\s@]*)@"));
+    static QRegularExpression const user(QStringLiteral("://([^/?#\\s:@]*):([^/\\s]*)@"));
     static QRegularExpression const buffet(
         QStringLiteral("/buffet\\?[^&\\s]*?=([^&\\s]*)&[^&\\s]*?=([^&\\s]*)&path="));
 

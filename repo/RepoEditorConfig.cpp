@@ -92,10 +92,15 @@ QString RepoEditor::Config::refusal() const
     if (!misread) {
         return {};
     }
-    return (misread->kind == RepoFields::Misread::SectionHead
-                ? tr("Line %1 of Other Options would begin another section")
-                : tr("Line %1 of Other Options is indented but continues no option"))
-        .arg(misread->line);
+    switch (misread->kind) {
+    case RepoFields::Misread::SectionHead:
+        return tr("Line %1 of Other Options would begin another section").arg(misread->line);
+    case RepoFields::Misread::NoOption:
+        return tr("Line %1 of Other Options is no option: it lacks \"=\"").arg(misread->line);
+    case RepoFields::Misread::Continuation:
+        break;
+    }
+    return tr("Line %1 of Other Options is indented but continues no option").arg(misread->line);
 }
 
 bool RepoEditor::Config::setStatus(YumConfIO const* yumConfIO, QLabel* label) const

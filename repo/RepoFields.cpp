@@ -25,6 +25,8 @@ QList<RepoFields::Misread> misreadLines(QStringList const& lines)
             followsOption = line.front() != u'#' && line.front() != u';';
             if (line.front() == u'[') {
                 found.append({RepoFields::Misread::SectionHead, at + 1});
+            } else if (followsOption && !line.contains(u'=')) {
+                found.append({RepoFields::Misread::NoOption, at + 1});
             }
         } else if (!followsOption && !line.trimmed().isEmpty()) {
             found.append({RepoFields::Misread::Continuation, at + 1});

@@ -22,7 +22,9 @@ struct Misread
     enum Kind
     {
         Continuation, ///< indented below nothing that it could continue
-        SectionHead
+        SectionHead,
+        NoOption ///< lacks the sign between an option and its value, for which the library drops the whole
+                 ///< file
     };
 
     Kind kind;

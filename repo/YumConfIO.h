@@ -117,6 +117,7 @@ private:
     /// The repositories of one file in the order in which it is to hold them; never empty.
     using FileEntries = QList<Repo::Entry>;
     [[nodiscard]] QList<FileEntries> entriesByFile() const;
+    [[nodiscard]] bool isAllKnown() const;
     [[nodiscard]] QHash<QByteArray, QString> knownFiles() const;
     [[nodiscard]] QString unreadFile(QList<FileEntries> const& files) const;
     [[nodiscard]] static bool isMainFile(QString const& file);
@@ -146,4 +147,5 @@ private:
     QHash<QByteArray, QString> filesRead;
     QSet<QString> passedOver; ///< what is no regular file and was told
     QString unfinishedFile;   ///< the file in which the last read stopped; empty when it read everything
+    bool isAllListed = true;  ///< no directory that is there kept its files from the last read
 };

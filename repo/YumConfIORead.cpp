@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <optional>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -70,6 +71,7 @@ bool YumConfIO::read(QWidget* window)
     generated.clear();
     forms.clear();
     filesRead.clear();
+    isAllListed = true;
 
     QSet<QByteArray> met;
     if (!readMainFile(QString::fromLatin1(file.path), met))
@@ -93,7 +95,7 @@ bool YumConfIO::readMainFile(QString const& path, QSet<QByteArray>& met)
         tell(notRegular(path));
         return false;
     }
-    Descriptor const file(ManagedRoot::open(path.toLatin1(), O_RDONLY));
+    Descriptor const file(ManagedRoot::open(path.toLatin1(), O_RDONLY | O_NONBLOCK));
     if (!file) {
         error(tr("Unable to read yum configuration file %1").arg(path));
         return false;
@@ -106,8 +108,12 @@ bool YumConfIO::readMainFile(QString const& path, QSet<QByteArray>& met)
 /// passed over: of the default directories only one exists as a rule.
 bool YumConfIO::readDirectory(QString const& directory, QSet<QByteArray>& met)
 {
-    QByteArrayList const names = ManagedRoot::names(directory.toLatin1());
-    return std::all_of(names.cbegin(), names.cend(), [&](QByteArray const& name) {
+    std::optional<QByteArrayList> const names = ManagedRoot::names(directory.toLatin1());
+    if (!names) {
+        isAllListed = isAllListed && (errno == ENOENT || errno == ENOTDIR);
+        return true;
+    }
+    return std::all_of(names->cbegin(), names->cend(), [&](QByteArray const& name) {
         return !name.endsWith(".repo") ||
                readDirectoryFile(directory + u'/' + QString::fromLatin1(name), met);
     });
@@ -140,7 +146,7 @@ bool YumConfIO::readDirectoryFile(QString const& path, QSet<QByteArray>& met)
         return true;
     }
 
-    Descriptor const file(ManagedRoot::open(path.toLatin1(), O_RDONLY));
+    Descriptor const file(ManagedRoot::open(path.toLatin1(), O_RDONLY | O_NONBLOCK));
     if (!file) {
         error(tr("Unable to read repository configuration file %1").arg(path));
         return false;
@@ -310,5 +316,8 @@ bool YumConfIO::isGenerated(QString const& file, QString const& head)
     static QRegularExpression const mark(
         QStringLiteral("^#.*managed by.*subscription-manager"),
         QRegularExpression::MultilineOption | QRegularExpression::CaseInsensitiveOption);
-    return file.endsWith(QLatin1String("/redhat.repo")) || head.contains(mark);
+    QString const name = QStringLiteral("/redhat.repo");
+    // By any path that leads to it.
+    return file.endsWith(name) || ManagedRoot::resolved(file.toLatin1()).endsWith(name.toLatin1()) ||
+           head.contains(mark);
 }

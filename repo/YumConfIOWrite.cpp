@@ -10,6 +10,7 @@
 #include <cerrno>
 #include <cstdlib>
 #include <memory>
+#include <optional>
 #include <utility>
 
 #include <sys/stat.h>
@@ -87,7 +88,7 @@ bool YumConfIO::write(QWidget* window)
 
     noteWritten(files);
     // What a failed read did not get to is not out of use.
-    if (!unfinishedFile.isEmpty())
+    if (!isAllKnown())
         return true;
     // Asked now that all of them are there.
     QSet<QByteArray> used{identity(mainFile)};
@@ -97,6 +98,12 @@ bool YumConfIO::write(QWidget* window)
         used.insert(identity(file.key()));
     removeUnusedFiles(used);
     return true;
+}
+
+/// Whether the last read met every file there was, so that one without repositories here is out of use.
+bool YumConfIO::isAllKnown() const
+{
+    return unfinishedFile.isEmpty() && isAllListed;
 }
 
 /// The paths of the files whose content is known, by what they are now.
@@ -161,7 +168,7 @@ bool YumConfIO::confirmGenerated(QList<FileEntries> const& files)
             changed += file;
     }
     for (auto file = generated.cbegin(); file != generated.cend(); ++file) {
-        if (unfinishedFile.isEmpty() && !holding.contains(file.key()) && !isAsGenerated(file.key(), {}))
+        if (isAllKnown() && !holding.contains(file.key()) && !isAsGenerated(file.key(), {}))
             changed += file.key();
     }
     if (changed.isEmpty())
@@ -329,23 +336,26 @@ bool YumConfIO::removeUnusedFiles(QSet<QByteArray> const& used)
     // All are looked at first: a file that is gone leaves links to it that can't be.
     QStringList unused;
     QStringList const folders = directories();
-    bool const isAllKnown = std::all_of(folders.cbegin(), folders.cend(), [&](QString const& directory) {
+    bool const isAllSeen = std::all_of(folders.cbegin(), folders.cend(), [&](QString const& directory) {
         return findUnusedFiles(directory, used, unused);
     });
     bool const isRemoved = std::all_of(unused.cbegin(), unused.cend(), [this](QString const& path) {
-        filesRead.remove(ManagedRoot::resolved(path.toLatin1()));
-        if (ManagedRoot::unlink(path.toLatin1()))
+        QByteArray const resolved = ManagedRoot::resolved(path.toLatin1());
+        if (ManagedRoot::unlink(path.toLatin1())) {
+            filesRead.remove(resolved);
             return true;
+        }
         error(tr("Unable to unlink repository configuration file %1").arg(path));
         return false;
     });
-    return isAllKnown && isRemoved;
+    return isAllSeen && isRemoved;
 }
 
 /// False, after a report, where one can't be looked at.
 bool YumConfIO::findUnusedFiles(QString const& directory, QSet<QByteArray> const& used, QStringList& unused)
 {
-    for (QByteArray const& name : ManagedRoot::names(directory.toLatin1())) {
+    std::optional<QByteArrayList> const names = ManagedRoot::names(directory.toLatin1());
+    for (QByteArray const& name : names.value_or(QByteArrayList())) {
         QString const path = directory + u'/' + QString::fromLatin1(name);
         struct stat status = {};
         if (!ManagedRoot::inspect(path.toLatin1(), status)) {

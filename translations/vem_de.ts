@@ -994,6 +994,10 @@ in einer Konfigurationsdatei mit mehreren Konfigurationen bestimmt</translation>
         <source>Line %1 of Other Options is indented but continues no option</source>
         <translation>Zeile %1 der weiteren Optionen ist eingerückt, setzt aber keine Option fort</translation>
     </message>
+    <message>
+        <source>Line %1 of Other Options is no option: it lacks &quot;=&quot;</source>
+        <translation>Zeile %1 der weiteren Optionen ist keine Option: ihr fehlt „=“</translation>
+    </message>
 </context>
 <context>
     <name>RepoEditor::ConfigDialog</name>
@@ -1845,10 +1849,6 @@ Wie soll fortgefahren werden?</translation>
     <message>
         <source>&amp;Quit</source>
         <translation>&amp;Beenden</translation>
-    </message>
-    <message>
-        <source>Collecting Build Hosts</source>
-        <translation>Rechner, auf denen Pakete erstellt wurden, werden ermittelt</translation>
     </message>
     <message>
         <source>Loading build hosts: Total Progress</source>

@@ -994,6 +994,10 @@ en un archivo que contiene varias configuraciones</translation>
         <source>Line %1 of Other Options is indented but continues no option</source>
         <translation>La línea %1 de las otras opciones tiene sangría, pero no continúa ninguna opción</translation>
     </message>
+    <message>
+        <source>Line %1 of Other Options is no option: it lacks &quot;=&quot;</source>
+        <translation>La línea %1 de las otras opciones no es una opción: le falta «=»</translation>
+    </message>
 </context>
 <context>
     <name>RepoEditor::ConfigDialog</name>
@@ -1845,10 +1849,6 @@ pero también pertenece al grupo %5 y por ello se marcó con la acción %6.
     <message>
         <source>&amp;Quit</source>
         <translation>&amp;Salir</translation>
-    </message>
-    <message>
-        <source>Collecting Build Hosts</source>
-        <translation>Recopilando equipos de compilación</translation>
     </message>
     <message>
         <source>Loading build hosts: Total Progress</source>

@@ -994,6 +994,10 @@ dans un fichier de configuration qui en contient plusieurs</translation>
         <source>Line %1 of Other Options is indented but continues no option</source>
         <translation>La ligne %1 des autres options est en retrait, mais ne prolonge aucune option</translation>
     </message>
+    <message>
+        <source>Line %1 of Other Options is no option: it lacks &quot;=&quot;</source>
+        <translation>La ligne %1 des autres options n’est pas une option : il lui manque « = »</translation>
+    </message>
 </context>
 <context>
     <name>RepoEditor::ConfigDialog</name>
@@ -1845,10 +1849,6 @@ Comment voulez-vous procéder&#xa0;?</translation>
     <message>
         <source>&amp;Quit</source>
         <translation>&amp;Quitter</translation>
-    </message>
-    <message>
-        <source>Collecting Build Hosts</source>
-        <translation>Collecte des hôtes de compilation</translation>
     </message>
     <message>
         <source>Loading build hosts: Total Progress</source>

@@ -994,6 +994,10 @@ in a configuration file which contains multiple configurations</source>
         <source>Line %1 of Other Options is indented but continues no option</source>
         <translation>その他のオプションの %1 行目は字下げされていますが、続きとなるオプションがありません</translation>
     </message>
+    <message>
+        <source>Line %1 of Other Options is no option: it lacks &quot;=&quot;</source>
+        <translation>その他のオプションの %1 行目はオプションではありません。「=」がありません</translation>
+    </message>
 </context>
 <context>
     <name>RepoEditor::ConfigDialog</name>
@@ -1845,10 +1849,6 @@ How do you wish to proceed?</source>
     <message>
         <source>&amp;Quit</source>
         <translation>終了(&amp;Q)</translation>
-    </message>
-    <message>
-        <source>Collecting Build Hosts</source>
-        <translation>ビルドホストを収集中</translation>
     </message>
     <message>
         <source>Loading build hosts: Total Progress</source>

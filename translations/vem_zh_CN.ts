@@ -994,6 +994,10 @@ in a configuration file which contains multiple configurations</source>
         <source>Line %1 of Other Options is indented but continues no option</source>
         <translation>其他选项的第 %1 行有缩进，但没有可接续的选项</translation>
     </message>
+    <message>
+        <source>Line %1 of Other Options is no option: it lacks &quot;=&quot;</source>
+        <translation>其他选项的第 %1 行不是选项：缺少“=”</translation>
+    </message>
 </context>
 <context>
     <name>RepoEditor::ConfigDialog</name>
@@ -1845,10 +1849,6 @@ How do you wish to proceed?</source>
     <message>
         <source>&amp;Quit</source>
         <translation>退出(&amp;Q)</translation>
-    </message>
-    <message>
-        <source>Collecting Build Hosts</source>
-        <translation>正在收集构建主机</translation>
     </message>
     <message>
         <source>Loading build hosts: Total Progress</source>

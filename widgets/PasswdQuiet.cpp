@@ -59,11 +59,15 @@ PasswdQuiet::PasswdQuiet(QObject const* quietField, QObject const* quietTwin)
     : field(quietField),
       twin(quietTwin)
 {
+    bool const isFirst = fields.isEmpty();
     fields.append(field);
     twins.append(twin);
     QAccessible::UpdateHandler const handler = QAccessible::installUpdateHandler(filter);
-    if (handler != filter) {
+    if (isFirst) {
         next = handler;
+    } else if (handler != filter) {
+        // Whoever has come in between may pass on to the filter already.
+        QAccessible::installUpdateHandler(handler);
     }
 }
 

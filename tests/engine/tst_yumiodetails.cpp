@@ -458,8 +458,7 @@ void TestYumIODetails::buildHostIsReadByOneJobForEachRepository()
     QVERIFY(engine->collectBuildHost(*group("Garden")));
     QCOMPARE(
         engine->calls(), (QStringList{"buildhost of elm on a worker", "buildhost of alder on a worker"}));
-    QCOMPARE(
-        engine->logLines(Log::Action), (QStringList{"Collecting Build Hosts", "Collecting Build Hosts"}));
+    QVERIFY2(engine->logLines(Log::Action).isEmpty(), "a look at a package is nothing that was done");
     engine->clear();
     QVERIFY(collected());
     QVERIFY(!engine->buildHostAtHand(*package("elm")));

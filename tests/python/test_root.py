@@ -204,6 +204,18 @@ def test_variables_of_the_host_are_none(lamp: Tuple[Estate, Program], tmp_path: 
     assert "word" not in program.start().conf.yumvar
 
 
+def test_directory_of_variables_above_the_root_is_the_one_inside(lamp: Tuple[Estate, Program]) -> None:
+    estate, program = lamp
+    variables = estate.root / "data/vars"
+    variables.mkdir(parents=True)
+    (variables / "word").write_text("inside\nrest\n")
+    outside = estate.root.parent / "data"
+    with open(estate.root / "etc/yum.conf", "a", encoding="utf-8") as main:
+        main.write("varsdir=/../data/vars\n")
+    assert program.start().conf.yumvar["word"] == "inside"
+    assert not outside.exists()
+
+
 def test_protected_packages_are_those_of_the_root(estate: Estate, tmp_path: Path) -> None:
     folder = estate.root / "etc/dnf/protected.d"
     folder.mkdir(parents=True)

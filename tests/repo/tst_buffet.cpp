@@ -223,6 +223,7 @@ void TestBuffet::passwordsAreMasked_data()
     row("http://h/os?u=me&p=pw", "http://h/os?u=me&p=pw");
     row("http://me:p%26w@h/os\nhttp://:x@h/", "http://me:***@h/os\nhttp://:***@h/");
     row("http://me:x@h/buffet?u=me&p=y&path=/os", "http://me:***@h/buffet?u=me&p=***&path=/os");
+    row("http://me:p@w@h/os@1", "http://me:***@h/os@1");
     row("http://me:@h:80/a@b", "http://me:@h:80/a@b");
 }
 

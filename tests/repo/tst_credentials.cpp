@@ -58,6 +58,9 @@ private Q_SLOTS:
         QVERIFY(one.contains(credentialsIn(QStringLiteral("url=http://a:b@other/\n"))));
         QVERIFY(!one.contains(credentialsIn(QStringLiteral("url=http://a:c@h/\n"))));
         QVERIFY(!one.contains(credentialsIn(QStringLiteral("password=y\n"))));
+        QVERIFY(
+            credentialsIn(QStringLiteral("http://a:p@b@h/")) !=
+            credentialsIn(QStringLiteral("http://a:p@c@h/")));
     }
 };
 

@@ -163,7 +163,8 @@ private Q_SLOTS:
         edited->setFocus();
         bool const isLine = qobject_cast<QLineEdit*>(edited);
         QTest::keyClick(edited, Qt::Key_End, isLine ? Qt::NoModifier : Qt::ControlModifier);
-        QTest::keyClicks(edited, QStringLiteral("z"));
+        bool const isOptions = group == optionsGroup;
+        QTest::keyClicks(edited, isOptions ? QStringLiteral("y=z") : QStringLiteral("z"));
         pressOk();
         QCOMPARE(dialog->result(), int(QDialog::Accepted));
 
@@ -180,7 +181,7 @@ private Q_SLOTS:
             QVERIFY(entry.mirrorlist.endsWith(QLatin1String("\xffz")));
             expected.mirrorlist = entry.mirrorlist;
         } else if (field == QLatin1String("Other Options:")) {
-            expected.otherOptions += u'z';
+            expected.otherOptions += QStringLiteral("y=z");
         } else if (field == QLatin1String("File")) {
             QVERIFY(entry.file.endsWith(QLatin1String("\xffz")));
             expected.file = entry.file;
@@ -213,6 +214,8 @@ private Q_SLOTS:
             QStringLiteral("Line %1 of Other Options is indented but continues no option");
         QTest::newRow("first") << " cost=5" << indented.arg(1);
         QTest::newRow("below a comment") << "cost=5\n# note\n\tgpgkey=x" << indented.arg(3);
+        QTest::newRow("no option") << "cost=5\nfoo"
+                                   << "Line 2 of Other Options is no option: it lacks \"=\"";
         QTest::newRow("head") << "cost=5\n[more]"
                               << "Line 2 of Other Options would begin another section";
     }

@@ -87,6 +87,7 @@ private Q_SLOTS:
     void missingDirectoryIsTold();
     void directoryInPlaceOfAFileIsTold();
     void fileThatMayNotBeWrittenIsTold();
+    void directoryThatCouldNotBeListedKeepsItsFiles();
     void fullDiskIsTold();
     void fullDiskOfTheMainFileIsTold();
     void fullDiskKeepsWhatTheFileHeld();
@@ -281,6 +282,35 @@ void TestYumConfIOWriteFaults::fileThatMayNotBeWrittenIsTold()
             "Unable to write repository configuration file /etc/yum.repos.d/some.repo", EACCES)));
     QCOMPARE(content(root, "/etc/yum.repos.d/some.repo"), "[a]\n");
     QCOMPARE(names(root, "/etc/yum.repos.d"), (QList<QByteArray>{"some.repo", "unused"}));
+}
+
+// As after a directory that isn't there, the reading goes on without a word; but nobody knows what is out of
+// use.
+void TestYumConfIOWriteFaults::directoryThatCouldNotBeListedKeepsItsFiles()
+{
+    BoxAnswer boxes;
+    ConfRoot root;
+    root.write("/etc/yum.conf", "[main]\nreposdir=/etc/yum.repos.d /shut\n");
+    root.write("/etc/yum.repos.d/some.repo", "[a]\n");
+    root.write("/shut/other.repo", "[b]\n");
+    root.openToAll();
+    root.setPermissions("/shut", QFile::WriteOwner | QFile::ExeOwner);
+    {
+        Unprivileged const user;
+        if (!user)
+            QSKIP("Root can't become another user here.");
+        QVERIFY(root.conf.read(nullptr));
+    }
+    QCOMPARE(root.conf.repos.size(), 1);
+    root.setPermissions("/shut", QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    QVERIFY(root.conf.write(nullptr));
+    QCOMPARE(content(root, "/shut/other.repo"), "[b]\n");
+    QCOMPARE(boxes.texts, QStringList());
+
+    QVERIFY(root.conf.read(nullptr));
+    root.conf.repos.removeLast();
+    QVERIFY(root.conf.write(nullptr));
+    QCOMPARE(names(root, "/shut"), QList<QByteArray>());
 }
 
 void TestYumConfIOWriteFaults::fullDiskIsTold()

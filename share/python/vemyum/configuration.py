@@ -10,7 +10,6 @@ from __future__ import annotations
 import contextlib
 import logging
 import os
-import tempfile
 from typing import Dict, Iterator, List, NamedTuple, Optional, Tuple
 
 import dnf.conf
@@ -123,21 +122,18 @@ def undecodable_named(file: str) -> Iterator[None]:
 
 def _read_variables(conf: dnf.conf.MainConf, root: str) -> None:
     """The variables that the managed system defines, a file each. YumBaseError names one that isn't UTF-8."""
-    found = [pair for directory in conf.varsdir for pair in files(root, directory, "*")]
-    if not found:
-        return
-    # dnf would follow links of the managed system out of the root.
-    with tempfile.TemporaryDirectory(prefix="vem-") as folder:
-        for path, file in found:
-            link = os.path.join(folder, path.lstrip("/"))
-            os.makedirs(os.path.dirname(link), exist_ok=True)
-            os.symlink(os.path.abspath(file), link)
+    # As dnf does it, which would follow links of the managed system out of the root.
+    for path, file in (pair for directory in conf.varsdir for pair in files(root, directory, "*")):
         try:
-            conf.substitutions.update_from_etc(folder, varsdir=conf.varsdir)
+            with open(file, encoding="utf-8") as stream:
+                value = stream.readline()
+            conf.substitutions[os.path.basename(path)] = value.removesuffix("\n")
         except UnicodeDecodeError as error:
-            for _path, file in found:
-                _require_utf8(file, error)
+            _require_utf8(file, error)
             raise
+        except (OSError, dnf.exceptions.Error) as error:
+            # One that may not be read, or not be set in this version of dnf.
+            logging.getLogger("dnf").warning("%s", error)
 
 
 def _require_utf8(file: str, stumble: Exception) -> None:

@@ -16,7 +16,7 @@ from typing import AbstractSet, Dict, Optional, Sequence, Tuple
 import rpm
 
 from .errors import YumBaseError, os_error_text
-from .root import below, files, within
+from .root import as_configured, below, files, within
 from .text import valid
 from .texts import _
 
@@ -124,7 +124,7 @@ def damage(root: str) -> Optional[str]:
     for name in _DATABASES:
         path = os.path.join(directory, name)
         if os.path.exists(path) and os.path.getsize(path) == 0 and not os.path.exists(path + "-wal"):
-            return _("{path} is empty").format(path=path)
+            return _("{path} is empty").format(path=as_configured(path))
     return None
 
 
