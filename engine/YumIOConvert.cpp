@@ -296,7 +296,7 @@ QString YumIO::timeFormat(long long time)
     }
 
     // "Thu Jan  1 00:00:00 1970"
-    std::array<char, 24> text;
+    std::array<char, 24> text{};
     text.fill(' ');
     auto const put = [&text](std::size_t at, std::size_t digits, long number) {
         for (std::size_t place = at + digits; place-- > at; number /= 10) {

@@ -241,7 +241,8 @@ void View::focusInEvent(QFocusEvent* event)
     if (currentIndex().isValid() || byTab) {
         HTableView::focusInEvent(event);
     } else {
-        QAbstractScrollArea::focusInEvent(event);
+        // What stands between would choose the row.
+        QAbstractScrollArea::focusInEvent(event); // NOLINT(bugprone-parent-virtual-call)
         viewport()->update();
     }
 }
