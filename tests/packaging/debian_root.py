@@ -44,9 +44,20 @@ def own_mounts() -> list[str]:
 
 def debian_sources() -> str:
     """The Debian archives that this machine uses, as lines of a sources.list; those of others left out."""
+    known = _known_sources([])
+    if known:
+        return known
+    # Nothing was fetched here yet, or what was has been cleaned away, as images and folders of a system come.
+    with tempfile.TemporaryDirectory(prefix="vem-apt-") as lists:
+        options = [f"--option=Dir::State::Lists={lists}", "--option=Acquire::Check-Valid-Until=false"]
+        subprocess.run(["apt-get", *options, "--quiet=2", "update"], check=True)
+        return _known_sources(options)
+
+
+def _known_sources(options: Sequence[str]) -> str:
     shape = "deb $(REPO_URI) $(RELEASE) $(COMPONENT)"
     lines = subprocess.run(
-        ["apt-get", "indextargets", "--format", shape, "Created-By: Packages", "Origin: Debian"],
+        ["apt-get", *options, "indextargets", "--format", shape, "Created-By: Packages", "Origin: Debian"],
         check=True, capture_output=True, text=True,
     ).stdout.splitlines()
     return "".join(f"{line}\n" for line in sorted(set(lines)))
