@@ -1,16 +1,34 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "base/Interrupt.h"
 
-#include <atomic>
+#include "base/StartingPoint.h"
+
 #include <csignal>
+#include <cstdlib>
+#include <mutex>
 #include <thread>
+#include <utility>
 
 #include <pthread.h>
 
 namespace
 {
 
-std::atomic<bool> transactionRuns{false};
+/// What has to hold while the waiting thread makes up its mind about a signal.
+struct Transaction
+{
+    std::mutex mutex;
+    bool runs = false;
+    bool interrupted = false;
+    std::string words;
+};
+
+/// Never destroyed: the waiting thread lives as long as the process.
+Transaction& transaction()
+{
+    static auto* const only = new Transaction;
+    return *only;
+}
 
 sigset_t justInterrupt()
 {
@@ -43,13 +61,12 @@ void openInChild()
         if (::sigwait(&set, &signal) != 0) {
             continue;
         }
-        if (!transactionRuns) {
-            std::signal(SIGINT, SIG_DFL);
+        std::lock_guard const lock(transaction().mutex);
+        if (!transaction().runs) {
+            Interrupt::end();
         }
-        // To this thread, which is the only one that it can be handed to.
-        block(false);
-        std::raise(SIGINT);
-        block(true);
+        transaction().interrupted = true;
+        StartingPoint::tell(transaction().words.c_str());
     }
 }
 
@@ -62,7 +79,25 @@ void Interrupt::endAtOnce()
     std::thread(&waitForever).detach();
 }
 
-void Interrupt::setTransactionRuns(bool runs)
+void Interrupt::transactionBegins(std::string words)
 {
-    transactionRuns = runs;
+    std::lock_guard const lock(transaction().mutex);
+    transaction().runs = true;
+    transaction().words = std::move(words);
+}
+
+bool Interrupt::transactionEnds()
+{
+    std::lock_guard const lock(transaction().mutex);
+    transaction().runs = false;
+    return std::exchange(transaction().interrupted, false);
+}
+
+void Interrupt::end()
+{
+    std::signal(SIGINT, SIG_DFL);
+    block(false);
+    std::raise(SIGINT);
+    // Not reached unless SIGINT is ignored for good.
+    std::_Exit(EXIT_FAILURE);
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include <string>
+
 /// Ctrl-C on the terminal. Libraries take SIGINT for themselves at times, the interpreter while it starts and
 /// a download while it runs, and what came then would be lost or end nothing but the download.
 namespace Interrupt
@@ -12,8 +14,15 @@ namespace Interrupt
 /// interpreter may be, do not.
 void endAtOnce();
 
-/// While an rpm transaction runs, SIGINT does what those who work there have arranged, who know what must not
-/// be cut off. Any thread.
-void setTransactionRuns(bool runs);
+/// From here on SIGINT doesn't end the process: it is answered by `words` on the terminal, and noted. Any
+/// thread.
+void transactionBegins(std::string words);
+
+/// SIGINT ends the process again. True when it came since `transactionBegins`: the caller is to leave things
+/// in order and call `end`. Any thread; a second call answers false.
+[[nodiscard]] bool transactionEnds();
+
+/// Ends the process as SIGINT does. Any thread.
+[[noreturn]] void end();
 
 } // namespace Interrupt

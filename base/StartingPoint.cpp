@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <climits>
 #include <csignal>
+#include <cstring>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -73,6 +74,13 @@ void StartingPoint::remember()
     }
     rootDirectory = ::open("/", O_PATH | O_DIRECTORY | O_CLOEXEC);
     workingDirectory = ::open(".", O_PATH | O_DIRECTORY | O_CLOEXEC);
+}
+
+void StartingPoint::tell(char const* words)
+{
+    int const remembered = descriptors[STDERR_FILENO];
+    // There is nobody to be told when nobody listens.
+    static_cast<void>(!::write(remembered >= 0 ? remembered : STDERR_FILENO, words, std::strlen(words)));
 }
 
 void StartingPoint::restoreInChild()

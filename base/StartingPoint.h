@@ -12,6 +12,9 @@ namespace StartingPoint
 /// first thing of `main`. What can't be had is not remembered.
 void remember();
 
+/// Writes words for whoever started the process to the error output that it was started with. Any thread.
+void tell(char const* words);
+
 /// Back to what was remembered, and to a signal mask and signal actions as a program expects them; no other
 /// descriptor stays open. For a process between fork and exec, which has no other threads: only what a signal
 /// handler may call is called. Without `remember` the descriptors, root and directory stay as they are.

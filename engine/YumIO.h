@@ -281,6 +281,8 @@ protected:
     bool applyReal();
 
     // Collection.
+    void startCollectionProgress();
+    /// A script that finds a transaction of another process at work may show it meanwhile, as its own.
     bool takeLock();
     bool readRepositories(QHash<QString, bool> const& repoStates);
     bool collectPackages();
@@ -364,6 +366,9 @@ protected:
 
     // Apply.
     bool splitMarks(PyObject* installs, PyObject* updates, PyObject* removes);
+    /// Behind a transaction during which the user wanted the program to end: tells on the terminal what went
+    /// wrong, gives the lock back and ends the process.
+    [[noreturn]] void leaveAfterInterrupt(bool succeeded);
     bool addUpdatePair(Package::Entry const& entry, PyObject* updates);
     void prepareTransactionProgress();
     void dsTsInfo(QString const& line);
@@ -456,6 +461,8 @@ protected:
     QSet<QString> sharedTexts;        ///< of the collection in progress
     int jobHolds = 0;                 ///< JobHold objects alive
     bool locked = false;              ///< this process holds the package library's lock
+    bool watching = false;            ///< the transaction on show is another process's
+    bool watched = false;             ///< there was one
     bool yumVersionKnown = false;
     QString yumVersionText;
     bool sqliteKnown = false, sqlite = false;

@@ -6,6 +6,7 @@
 #include "engine/YumIO.h"
 
 #include "base/Interrupt.h"
+#include "base/StartingPoint.h"
 #include "engine/TransactionWeight.h"
 #include "services/Progress.h"
 #include "services/ProgressUser.h"
@@ -28,17 +29,6 @@ constexpr unsigned long long downloadSteps = 24000;
 constexpr Steps testSteps = 2000;
 /// Preparing 100, getting ready 1000, the transaction 8000.
 constexpr Steps transactionSteps = 9100;
-
-/// However the helper script's apply ends, nothing works on the system behind it. Where it begins,
-/// `tsInitCallback` tells.
-class TransactionEnd final
-{
-    Q_DISABLE_COPY_MOVE(TransactionEnd)
-
-public:
-    TransactionEnd() = default;
-    ~TransactionEnd() { Interrupt::setTransactionRuns(false); }
-};
 
 } // namespace
 
@@ -68,7 +58,6 @@ bool YumIO::applyReal()
     progress->setupItemActs(solverSteps, run.totalPkgActs + run.nHdrs * actsPerHeader);
 
     {
-        TransactionEnd const transactionEnd;
         YumIOCapturersUser const capturersUser(capturers, this);
         PyObject* const baseError = pyLookup("yum.Errors.YumBaseError");
         pyExceptStart();
@@ -76,6 +65,9 @@ bool YumIO::applyReal()
         pyExceptExpect(PyExc_IOError);
         PyRef const result =
             pyMethodCall(yumIO.get(), "apply", "(O,O,O)", installs.get(), updates.get(), removes.get());
+        if (Interrupt::transactionEnds()) {
+            leaveAfterInterrupt(bool(result));
+        }
         if (pyExceptMatches(result.get(), baseError)) {
             pythonExceptionV(tr("Error applying changes"));
             return false;
@@ -91,6 +83,20 @@ bool YumIO::applyReal()
     progress->reset();
     run.updateNames.clear();
     return run.applyConfirmed;
+}
+
+void YumIO::leaveAfterInterrupt(bool succeeded)
+{
+    if (!succeeded) {
+        // There is no window any more to tell it in.
+        PyRef const value = pyExceptValuef();
+        QString const words = value ? pyString(value.get()) : QString();
+        StartingPoint::tell(tr("Error applying changes").toLocal8Bit() + "\n" + words.toLocal8Bit() + "\n");
+    }
+    pyExceptClear();
+    PyErr_Clear();
+    pyMethodCall(yumIO.get(), "unlock", "()");
+    Interrupt::end();
 }
 
 bool YumIO::splitMarks(PyObject* installs, PyObject* updates, PyObject* removes)

@@ -59,8 +59,7 @@ bool YumIO::collectReal(QHash<QString, bool> const& repoStates)
     fileListsCollected = false;
     otherDataCollected = false;
     buildHostRepos.clear();
-    progress->startTotal(tr("Initializing: Total Progress"), collectionSteps);
-    progress->startItem(tr("Preparing"), preparingSteps, 1);
+    startCollectionProgress();
 
     bool const collected =
         takeLock() && readRepositories(repoStates) && collectPackages() && collectGroupData();
@@ -68,6 +67,12 @@ bool YumIO::collectReal(QHash<QString, bool> const& repoStates)
     // An expected exception that was reported without being fetched must not meet the next call.
     PyErr_Clear();
     return collected;
+}
+
+void YumIO::startCollectionProgress()
+{
+    progress->startTotal(tr("Initializing: Total Progress"), collectionSteps);
+    progress->startItem(tr("Preparing"), preparingSteps, 1);
 }
 
 bool YumIO::takeLock()
@@ -78,7 +83,13 @@ bool YumIO::takeLock()
     PyObject* const lockError = pyLookup("yum.Errors.LockError");
     pyExceptStart();
     pyExceptExpect(lockError);
+    watching = true;
     PyRef const result = pyMethodCall(yumIO.get(), "lock", "()");
+    watching = false;
+    if (std::exchange(watched, false)) {
+        progress->reset();
+        startCollectionProgress();
+    }
     if (pyExceptMatches(result.get(), lockError)) {
         pythonException(tr("Unable to obtain yum lock"));
         return false;

@@ -111,7 +111,21 @@ PyObject* YumIO::tsInitCallback(PyObject*, PyObject* args)
     if (!PyArg_ParseTuple(args, "l", &real)) {
         return nullptr;
     }
-    Interrupt::setTransactionRuns(real != 0);
+    if (watching) {
+        // Behind this one the collection starts its bars again.
+        watched = true;
+        run = ApplyRun();
+        if (progress) {
+            progress->reset();
+            progress->startTotal(tr("Running Transaction: Total Progress"), getReadySteps + runSteps);
+            progress->startItem(tr("Preparing to Run Transaction"), getReadySteps, 1);
+        }
+        Py_RETURN_NONE;
+    }
+    if (real) {
+        QString const words = tr("The transaction goes on; the program ends when it has come to its end.");
+        Interrupt::transactionBegins((words + QLatin1Char('\n')).toLocal8Bit().toStdString());
+    }
     if (!progress) {
         Py_RETURN_NONE;
     }
@@ -143,7 +157,9 @@ PyObject* YumIO::tsInitCallback(PyObject*, PyObject* args)
 void YumIO::startPuttingIn(QString const& name, bool update, long long total)
 {
     QString const text = update ? tr("Updating %1").arg(name) : tr("Installing %1").arg(name);
-    if (Package::Entry const* const entry = findPackage(name)) {
+    if (watching) {
+        ++run.actsDone;
+    } else if (Package::Entry const* const entry = findPackage(name)) {
         run.actsDone += weightOfInstalling(entry->size);
     }
     log(Log::Info, 1, text);
@@ -153,7 +169,9 @@ void YumIO::startPuttingIn(QString const& name, bool update, long long total)
 void YumIO::startTakingOut(QString const& name, bool update, long long total)
 {
     QString const text = update ? tr("Completing update for: %1").arg(name) : tr("Removing %1").arg(name);
-    if (Package::Entry const* const entry = findPackage(name)) {
+    if (watching) {
+        ++run.actsDone;
+    } else if (Package::Entry const* const entry = findPackage(name)) {
         if (!update) {
             run.actsDone += weightOfSize(entry->size);
         } else if (entry->installed) {
@@ -221,9 +239,9 @@ PyObject* YumIO::tsEvent(PyObject*, PyObject* args)
     long long elementValue = 0;
     long long elementTotal = 0;
     long ordinal = 0;
-    long ignored = 0;
+    long count = 0;
     if (!PyArg_ParseTuple(
-            args, "OlLLll", &package, &action, &elementValue, &elementTotal, &ordinal, &ignored)) {
+            args, "OlLLll", &package, &action, &elementValue, &elementTotal, &ordinal, &count)) {
         return nullptr;
     }
     if (!progress) {
@@ -231,6 +249,10 @@ PyObject* YumIO::tsEvent(PyObject*, PyObject* args)
     }
     // Reported for every chunk of every file: a package is new when its ordinal is.
     bool const isNew = static_cast<unsigned long long>(ordinal) != run.lastEventPkg;
+    if (watching && run.lastEventPkg == 0) {
+        // There is no table yet to weigh the packages by: each counts the same.
+        progress->setupItemActs(runSteps, static_cast<Steps>(count));
+    }
     switch (action) {
     case tsUpdate:
     case tsObsoleting:

@@ -1854,6 +1854,10 @@ Wie soll fortgefahren werden?</translation>
         <source>Loading build hosts: Total Progress</source>
         <translation>Rechner, auf denen Pakete erstellt wurden, werden geladen: Gesamtfortschritt</translation>
     </message>
+    <message>
+        <source>The transaction goes on; the program ends when it has come to its end.</source>
+        <translation>Die Transaktion läuft weiter; das Programm endet, sobald sie abgeschlossen ist.</translation>
+    </message>
 </context>
 <context>
     <name>YumIOCapturers</name>

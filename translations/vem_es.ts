@@ -1854,6 +1854,10 @@ pero también pertenece al grupo %5 y por ello se marcó con la acción %6.
         <source>Loading build hosts: Total Progress</source>
         <translation>Carga de los equipos de compilación: progreso total</translation>
     </message>
+    <message>
+        <source>The transaction goes on; the program ends when it has come to its end.</source>
+        <translation>La transacción continúa; el programa terminará cuando esta haya finalizado.</translation>
+    </message>
 </context>
 <context>
     <name>YumIOCapturers</name>

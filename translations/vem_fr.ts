@@ -1854,6 +1854,10 @@ Comment voulez-vous procéder&#xa0;?</translation>
         <source>Loading build hosts: Total Progress</source>
         <translation>Chargement des hôtes de compilation&#xa0;: progression totale</translation>
     </message>
+    <message>
+        <source>The transaction goes on; the program ends when it has come to its end.</source>
+        <translation>La transaction continue&#xa0;; le programme se terminera lorsqu’elle sera achevée.</translation>
+    </message>
 </context>
 <context>
     <name>YumIOCapturers</name>

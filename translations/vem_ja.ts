@@ -1854,6 +1854,10 @@ How do you wish to proceed?</source>
         <source>Loading build hosts: Total Progress</source>
         <translation>ビルドホストの読み込み: 全体の進捗</translation>
     </message>
+    <message>
+        <source>The transaction goes on; the program ends when it has come to its end.</source>
+        <translation>トランザクションは続行されます。プログラムはトランザクションの完了後に終了します。</translation>
+    </message>
 </context>
 <context>
     <name>YumIOCapturers</name>

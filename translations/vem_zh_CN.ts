@@ -1854,6 +1854,10 @@ How do you wish to proceed?</source>
         <source>Loading build hosts: Total Progress</source>
         <translation>加载构建主机：总进度</translation>
     </message>
+    <message>
+        <source>The transaction goes on; the program ends when it has come to its end.</source>
+        <translation>事务仍在继续；事务完成后程序将退出。</translation>
+    </message>
 </context>
 <context>
     <name>YumIOCapturers</name>

@@ -6,18 +6,19 @@ VEM_BENCH_SCRIPT
 VEM_BENCH_LINES
     how many lines each collection shall say in addition
 VEM_BENCH_TIMES
-    file for one JSON object a line: how an apply's seconds are divided between dnf, everything else, and
-    the wait for the user's answer
+    file for a JSON object: how an apply's seconds are divided between dnf and everything else, the wait for
+    the user's answer left out. The process that applies is run by apply-child.py beside this file.
+VEM_BENCH_HELPER
+    the folder of this file, which its runner doesn't tell
 """
 
 from __future__ import annotations
 
 import functools
-import inspect
 import json
 import os
 import time
-from typing import Any, Callable, Dict, List
+from typing import Any
 
 _script = os.environ["VEM_BENCH_SCRIPT"]
 with open(_script, encoding="utf-8") as _file:
@@ -37,69 +38,39 @@ def _say_lines(lines: int) -> None:
     YumIO.collectUpdates = collect_updates  # type: ignore[name-defined]  # noqa: F821
 
 
-class Times:
-    """Seconds by who has spent them. Whoever calls another one doesn't spend that one's seconds."""
-
-    def __init__(self) -> None:
-        self.seconds: Dict[str, float] = {}
-        self._stack: List[str] = []
-        self._since = time.perf_counter()
-
-    def _pass(self) -> None:
-        now = time.perf_counter()
-        if self._stack:
-            spender = self._stack[-1]
-            self.seconds[spender] = self.seconds.get(spender, 0.0) + now - self._since
-        self._since = now
-
-    def of(self, spender: str, function: Callable[..., Any]) -> Callable[..., Any]:
-        """`function`, its time put down to `spender`."""
-
-        @functools.wraps(function)
-        def timed(*arguments: Any, **named: Any) -> Any:
-            self._pass()
-            self._stack.append(spender)
-            try:
-                return function(*arguments, **named)
-            finally:
-                self._pass()
-                self._stack.pop()
-
-        return timed
-
-
-_DNF_WORK = (
-    "read_all_repos fill_sack resolve download_packages do_transaction package_signature_check close".split()
-)
-
-
 def _tell_times(path: str) -> None:
-    import dnf
     import yumIOC
-    from vemyum import display
+    from vemyum.apply import parent
 
-    # Now: during a transaction, paths may mean something else.
-    output = open(path, "a", encoding="utf-8", buffering=1)  # noqa: SIM115
-    times = Times()
-    for name in _DNF_WORK:
-        setattr(dnf.Base, name, times.of("dnf", getattr(dnf.Base, name)))
-    for name, function in inspect.getmembers(display.Display, inspect.isfunction):
-        if name in vars(display.Display) and not name.startswith("__"):
-            setattr(display.Display, name, times.of("feedback", function))
-    for name, function in inspect.getmembers(yumIOC, callable):
-        if not name.startswith("__"):
-            setattr(yumIOC, name, times.of("question" if name == "userconfirm" else "feedback", function))
+    script = os.path.join(os.environ["VEM_BENCH_HELPER"], "apply-child.py")
+    parent.COMMAND = [parent.COMMAND[0], script]
     original = YumIO.apply  # type: ignore[name-defined]  # noqa: F821
-    whole = times.of("rest", original)
+    ask = yumIOC.userconfirm
+    asked = 0.0
+
+    def userconfirm() -> Any:
+        nonlocal asked
+        since = time.perf_counter()
+        try:
+            return ask()
+        finally:
+            asked += time.perf_counter() - since
 
     @functools.wraps(original)
     def apply(*arguments: Any) -> Any:
-        times.seconds.clear()
+        nonlocal asked
+        asked = 0.0
+        since = time.perf_counter()
         try:
-            return whole(*arguments)
+            return original(*arguments)
         finally:
-            print(json.dumps(times.seconds), file=output)
+            whole = time.perf_counter() - since - asked
+            with open(path, encoding="utf-8") as file:
+                dnf = json.load(file)
+            with open(path, "w", encoding="utf-8") as file:
+                json.dump({"dnf": dnf, "rest": whole - dnf}, file)
 
+    yumIOC.userconfirm = userconfirm
     YumIO.apply = apply  # type: ignore[name-defined]  # noqa: F821
 
 

@@ -104,7 +104,11 @@ class Ground:
             }
             if helper is not None:
                 environment["VEMSHARE"] = str(share_with_helper(build.share, place / "share"))
-                environment.update(helper, VEM_BENCH_SCRIPT=str(build.share / "python/YumIO.py"))
+                environment.update(
+                    helper,
+                    VEM_BENCH_SCRIPT=str(build.share / "python/YumIO.py"),
+                    VEM_BENCH_HELPER=str(HELPER.parent),
+                )
             (place / "steps").write_text(json.dumps(list(steps)), encoding="utf-8")
             (place / "output").touch()
             with open(place / "said", "wb") as said:

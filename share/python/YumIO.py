@@ -29,7 +29,7 @@ streams.replace_streams()
 import bdb  # noqa: E402,F401
 
 from vemyum import clean, host, messages, rights, surroundings  # noqa: E402
-from vemyum.apply import Apply  # noqa: E402
+from vemyum.apply.parent import Apply  # noqa: E402
 from vemyum.errors import LockError, RepoError, YumBaseError, reported_as  # noqa: E402
 from vemyum.root import managed_root  # noqa: E402
 from vemyum.session import Session  # noqa: E402

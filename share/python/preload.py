@@ -14,4 +14,5 @@ sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 
 import rpm  # noqa: E402,F401
 
-from vemyum import apply, clean, messages, session, streams, surroundings  # noqa: E402,F401
+from vemyum import clean, messages, session, streams, surroundings  # noqa: E402,F401
+from vemyum.apply import parent  # noqa: E402,F401

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "base/Interrupt.h"
+#include "base/StartingPoint.h"
 #include "tests/bridge/ChildProcess.h"
 
 #include <QTest>
@@ -60,17 +61,54 @@ private Q_SLOTS:
         QCOMPARE(WTERMSIG(status), SIGINT);
     }
 
-    void belongsToTheHandlerWhileATransactionRuns()
+    void doesNotEndAProcessInATransaction()
     {
         int const status = statusOfChild([] {
             Interrupt::endAtOnce();
             std::signal(SIGINT, &takeForItself);
-            Interrupt::setTransactionRuns(true);
+            Interrupt::transactionBegins("It goes on.\n");
             ::kill(::getpid(), SIGINT);
             return stayAlive();
         });
         QVERIFY(WIFEXITED(status));
-        QCOMPARE(WEXITSTATUS(status), 3);
+        QCOMPARE(WEXITSTATUS(status), 4);
+    }
+
+    void isAnsweredOnTheTerminalDuringATransaction()
+    {
+        int ends[2];
+        QCOMPARE(::pipe(ends), 0);
+        int const status = statusOfChild([&ends] {
+            ::dup2(ends[1], STDERR_FILENO);
+            StartingPoint::remember();
+            // As an apply does, which captures what is written there.
+            ::dup2(::open("/dev/null", O_WRONLY), STDERR_FILENO);
+            Interrupt::endAtOnce();
+            Interrupt::transactionBegins("It goes on.\n");
+            ::kill(::getpid(), SIGINT);
+            return stayAlive();
+        });
+        ::close(ends[1]);
+        QVERIFY(WIFEXITED(status));
+        char said[64] = {};
+        QCOMPARE(::read(ends[0], said, sizeof said - 1), 12);
+        QCOMPARE(said, "It goes on.\n");
+        ::close(ends[0]);
+    }
+
+    void isRememberedOnceForTheEndOfATransaction()
+    {
+        int const status = statusOfChild([] {
+            Interrupt::endAtOnce();
+            Interrupt::transactionBegins("");
+            ::kill(::getpid(), SIGINT);
+            stayAlive();
+            bool const first = Interrupt::transactionEnds();
+            bool const second = Interrupt::transactionEnds();
+            return first && !second ? 0 : 1;
+        });
+        QVERIFY(WIFEXITED(status));
+        QCOMPARE(WEXITSTATUS(status), 0);
     }
 
     void endsTheProcessAgainBehindATransaction()
@@ -78,15 +116,24 @@ private Q_SLOTS:
         int const status = statusOfChild([] {
             Interrupt::endAtOnce();
             std::signal(SIGINT, &takeForItself);
-            Interrupt::setTransactionRuns(true);
-            ::kill(::getpid(), SIGINT);
-            if (stayAlive() != 3) {
+            Interrupt::transactionBegins("");
+            if (Interrupt::transactionEnds()) {
                 return 5;
             }
-            handled = 0;
-            Interrupt::setTransactionRuns(false);
             ::kill(::getpid(), SIGINT);
             return stayAlive();
+        });
+        QVERIFY(WIFSIGNALED(status));
+        QCOMPARE(WTERMSIG(status), SIGINT);
+    }
+
+    void endingIsDyingOfTheSignalOnAnyThread()
+    {
+        int const status = statusOfChild([] {
+            Interrupt::endAtOnce();
+            std::signal(SIGINT, &takeForItself);
+            std::thread([] { Interrupt::end(); }).join();
+            return 5;
         });
         QVERIFY(WIFSIGNALED(status));
         QCOMPARE(WTERMSIG(status), SIGINT);

@@ -105,7 +105,7 @@ def test_an_apply_is_divided_between_dnf_and_the_rest(ground: Ground, tmp_path: 
     before = real.installed()
     scenarios.apply(ground, BUILD, real, ours)
     assert real.installed() == before
-    parts = ("dnf's own work in the program", "feedback to the window", "marks, listing, checks")
+    parts = ("dnf's own work for the program", "its start, listing, checks, feedback")
     told = [ours.median(f"apply seconds/{part}") for part in parts]
     assert all(seconds > 0 for seconds in told)
     assert sum(told) < ours.median("upgrade")

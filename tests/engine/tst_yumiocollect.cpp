@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "EngineTest.h"
+#include "base/Interrupt.h"
 
 class TestYumIOCollect final : public EngineTest
 {
@@ -17,6 +18,7 @@ private Q_SLOTS:
     void repositoriesHaveToBeThere();
 
     void lockIsTakenOncePerProcess();
+    void transactionOfAnotherProcessIsShownWhileTheLockIsWaitedFor();
     void refusedLockIsTriedAgain();
     void lockThatBreaksIsNoLock();
     void expectedFailures_data();
@@ -150,6 +152,37 @@ void TestYumIOCollect::lockIsTakenOncePerProcess()
     QVERIFY(engine->collect({}));
     QCOMPARE(engine->calls().count("lock"), 1);
     QCOMPARE(engine->calls().count("YumIO()"), 1);
+}
+
+void TestYumIOCollect::transactionOfAnotherProcessIsShownWhileTheLockIsWaitedFor()
+{
+    SCRIPT("import types\n"
+           "def lock():\n"
+           "    yumIOC.tsInitCallback(1)\n"
+           "    yumIOC.tsEvent(types.SimpleNamespace(name='elsewhere'), 10, 0, 50, 1, 2)\n"
+           "    yumIOC.tsEvent('elsewhere', 90, 1, 1, 2, 2)\n"
+           "standin.instead('lock', lock)");
+    QVERIFY(engine->collect({}));
+    QStringList const shown = told([](Progress& progress) {
+        progress.reset();
+        progress.startTotal("Running Transaction: Total Progress", 9000);
+        progress.startItem("Preparing to Run Transaction", 1000, 1);
+        progress.setupItemActs(8000, 2);
+        progress.startItemAct("Updating elsewhere", 50, 1);
+        progress.setItemValue(0);
+        progress.startItemAct("Completing update for: elsewhere", 1, 2);
+        progress.setItemValue(1);
+        progress.reset();
+        progress.startTotal("Initializing: Total Progress", 24000);
+    });
+    QStringList const lines = engine->progressRecord.lines;
+    qsizetype const begin = lines.indexOf(shown.at(1)) - 1;
+    QVERIFY(begin > 0);
+    QCOMPARE(lines.mid(begin, shown.size()), shown);
+    QVERIFY(engine->logLines(Log::Info).contains("Updating elsewhere (1)"));
+    QVERIFY(engine->locked);
+    // SIGINT ends the process at any moment: the transaction is not this one's.
+    QVERIFY(!Interrupt::transactionEnds());
 }
 
 void TestYumIOCollect::refusedLockIsTriedAgain()

@@ -50,6 +50,11 @@ NOARCH: Dict[str, str] = {
     "badpost-1.0": spec("badpost", scriptlets={"post -p <lua>": 'error("half way")'}),
     "badpreun-1.0": spec("badpreun", scriptlets={"preun -p <lua>": 'error("staying")'}),
     "talk-1.0": spec("talk", requires=("/bin/sh",), scriptlets={"post": "echo first line\necho second line"}),
+    "slow-1.0": spec(
+        "slow",
+        requires=("/bin/sh",),
+        scriptlets={"post": ": > /running\nwhile ! [ -e /go-on ]; do sleep 0.05; done"},
+    ),
     "core-1.0": spec("core", "1.0", provides=("installonlypkg(kernel)",), files={"/boot/core-1.0": "1"}),
     "core-2.0": spec("core", "2.0", provides=("installonlypkg(kernel)",), files={"/boot/core-2.0": "2"}),
     "core-3.0": spec("core", "3.0", provides=("installonlypkg(kernel)",), files={"/boot/core-3.0": "3"}),

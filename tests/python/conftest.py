@@ -6,7 +6,7 @@ from __future__ import annotations
 import os
 import sys
 from pathlib import Path
-from typing import Iterator, Tuple
+from typing import Callable, Iterator, Tuple
 
 import pytest
 
@@ -64,6 +64,21 @@ def program(estate: Estate, host: fake_host.FakeHost) -> Iterator[Program]:
         program.end()
         sys.stdout, sys.stderr = streams
         os.chdir("/")
+
+
+@pytest.fixture
+def in_child(program: Program, tmp_path: Path, monkeypatch: pytest.MonkeyPatch) -> Callable[[str], None]:
+    """Has the process that applies changes run these lines, too, before it begins."""
+    from vemyum.apply import parent
+
+    script = tmp_path / "child.py"
+
+    def run_first(lines: str) -> None:
+        lead = f"import sys\nsys.path.insert(0, {str(TOP / 'share/python')!r})\n"
+        script.write_text(f"{lead}{lines}\nfrom vemyum.apply import child\nchild.main(int(sys.argv[1]))\n")
+        monkeypatch.setattr(parent, "COMMAND", [sys.executable, "-B", str(script)])
+
+    return run_first
 
 
 @pytest.fixture

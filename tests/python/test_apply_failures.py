@@ -4,12 +4,10 @@
 from __future__ import annotations
 
 import locale
-import os
 import subprocess
 from pathlib import Path
-from typing import Any, Iterator, Tuple
+from typing import Any, Callable, Iterator, Tuple
 
-import dnf.db.history
 import pytest
 from catalogue import Catalogue
 from fake_host import FakeHost
@@ -87,15 +85,34 @@ def test_vanished_rpm_file_is_named(
     fails(program, lambda: found.yumio.apply([found.offered("lone")], [], []), "lone-1.0-1.noarch", str(rpm))
 
 
-def test_rpm_file_that_vanishes_late_is_named(
-    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost, monkeypatch: pytest.MonkeyPatch
-) -> None:
-    import vemyum.apply
+def in_work(in_child: Callable[[str], None], line: str) -> None:
+    """Changes a step of the work; the module wants the host's, which the process itself makes later."""
+    in_child(
+        f"""
+import os, sys
+from vemyum.apply import child
+do = child._work
+def changed(parent):
+    from vemyum.apply import work
+    import dnf.db.history
+    {line}
+    return do(parent)
+child._work = changed
+"""
+    )
 
+
+def fail_with(error: str) -> str:
+    return f"def fail(*_): raise {error}"
+
+
+def test_rpm_file_that_vanishes_late_is_named(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost, in_child: Callable[[str], None]
+) -> None:
     directory = estate.repository("base", rpms.some("lone-1.0"))
     found = program.collect()
     (rpm,) = directory.glob("*.rpm")
-    monkeypatch.setattr(vemyum.apply, "check_signatures", lambda base, packages: rpm.unlink())
+    in_work(in_child, f"work.check_signatures = lambda base, packages: os.unlink({str(rpm)!r})")
     text = fails(program, lambda: found.yumio.apply([found.offered("lone")], [], []), str(rpm))
     assert "No such file" in text
 
@@ -119,11 +136,35 @@ def test_damaged_rpm_file_stops_before_anything_is_installed(
 def test_package_that_was_removed_meanwhile_is_named(
     estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
 ) -> None:
-    estate.install(rpms.some("lone-1.0"))
+    estate.install(rpms.some("lone-1.0", "battery-1.0"))
     estate.repository("base", [])
     found = program.collect()
     estate.rpm("--erase", "lone")
     fails(program, lambda: found.yumio.apply([], [], [found.there("lone")]), "lone-1.0-1.noarch", "refresh")
+
+
+@pytest.mark.parametrize("damage", ["missing", "emptied", "a page of zeros"])
+def test_database_that_was_damaged_since_the_table_was_filled_stops_the_apply(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost, damage: str
+) -> None:
+    """dnf would take what is left for the whole system, and a missing database for a new one."""
+    estate.install(rpms.some("battery-1.0", "lib-1.0", "app-1.0"))
+    estate.repository("base", rpms.some("lone-1.0"))
+    found = program.collect()
+    (database,) = estate.root.glob("**/rpmdb.sqlite")
+    data = bytearray(database.read_bytes())
+    for file in database.parent.glob("rpmdb.sqlite*"):
+        file.unlink()
+    if damage == "emptied":
+        database.touch()
+    elif damage == "a page of zeros":
+        # The page on which the table of packages begins; the index of their names stays.
+        data[4096 : 2 * 4096] = bytes(4096)
+        database.write_bytes(data)
+    fails(program, lambda: found.yumio.apply([found.offered("lone")], [], []), "The rpm database of ")
+    assert not host.named("userconfirm")
+    # It is remembered how many packages there were.
+    fails(program, lambda: program.collect(), "The rpm database of ")
 
 
 def test_mark_that_is_done_already_is_told(
@@ -165,7 +206,7 @@ def test_failing_pre_scriptlet_is_an_error_and_the_others_go_in(
 
 
 @pytest.fixture
-def german_rpm(tmp_path: Path, monkeypatch: pytest.MonkeyPatch) -> Iterator[None]:
+def german_rpm(tmp_path: Path, monkeypatch: pytest.MonkeyPatch, in_child: Callable[[str], None]) -> Iterator[None]:
     """rpm begins its lines in German; dnf and the helper script speak English."""
     folder = tmp_path / "locale/de/LC_MESSAGES"
     folder.mkdir(parents=True)
@@ -174,14 +215,14 @@ def german_rpm(tmp_path: Path, monkeypatch: pytest.MonkeyPatch) -> Iterator[None
     # A locale that is somebody's: in C.UTF-8, the one that every system has, later releases of glibc translate nothing.
     made = ["localedef", "--no-archive", "--inputfile=de_DE", "--charmap=UTF-8", tmp_path / "de_DE.UTF-8"]
     subprocess.run(made, check=True)
-    before = locale.setlocale(locale.LC_MESSAGES), locale.bindtextdomain("rpm", None)
     monkeypatch.setenv("LANGUAGE", "de")
     monkeypatch.setenv("LOCPATH", str(tmp_path))
-    locale.setlocale(locale.LC_MESSAGES, "de_DE.UTF-8")
-    locale.bindtextdomain("rpm", tmp_path / "locale")
+    monkeypatch.setenv("LC_ALL", "de_DE.UTF-8")
+    in_child(f"import locale; locale.bindtextdomain('rpm', {str(tmp_path / 'locale')!r})")
+    before = locale.setlocale(locale.LC_ALL)
     yield
-    locale.setlocale(locale.LC_MESSAGES, before[0])
-    locale.bindtextdomain("rpm", before[1])
+    # Libraries follow the environment.
+    locale.setlocale(locale.LC_ALL, before)
 
 
 def test_rpms_words_about_a_failure_are_told_in_any_language(
@@ -224,14 +265,14 @@ def test_failing_preun_scriptlet_is_an_error(
 
 
 def test_book_keeping_that_fails_behind_the_transaction_tells_of_the_refresh(
-    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost, monkeypatch: pytest.MonkeyPatch
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost, in_child: Callable[[str], None]
 ) -> None:
-    def full(*_: Any) -> None:
-        raise RuntimeError("database or disk is full")
-
     estate.repository("base", rpms.some("lone-1.0"))
     found = program.collect()
-    monkeypatch.setattr(dnf.db.history.SwdbInterface, "end", full)
+    in_work(
+        in_child,
+        fail_with("RuntimeError('database or disk is full')") + "\n    dnf.db.history.SwdbInterface.end = fail",
+    )
     fails(
         program,
         lambda: found.yumio.apply([found.offered("lone")], [], []),
@@ -278,16 +319,11 @@ def test_apply_after_a_failed_one(estate: Estate, rpms: Catalogue, program: Prog
 
 
 def test_operating_system_errors_name_path_and_cause(
-    lamp: Tuple[Estate, Program], host: FakeHost, monkeypatch: pytest.MonkeyPatch
+    lamp: Tuple[Estate, Program], host: FakeHost, in_child: Callable[[str], None]
 ) -> None:
-    import vemyum.apply
-
     found = lamp[1].collect()
-
-    def full(*_: Any) -> None:
-        raise OSError(28, os.strerror(28), "/var/cache/yum/lamp.rpm")
-
-    monkeypatch.setattr(vemyum.apply, "solve", full)
+    error = "OSError(28, os.strerror(28), '/var/cache/yum/lamp.rpm')"
+    in_work(in_child, fail_with(error) + "\n    work.solve = fail")
     fails(
         lamp[1],
         lambda: found.yumio.apply([], [found.pair("lamp")], []),
@@ -296,16 +332,10 @@ def test_operating_system_errors_name_path_and_cause(
 
 
 def test_broken_pipe_reaches_the_engine_as_it_is(
-    lamp: Tuple[Estate, Program], host: FakeHost, monkeypatch: pytest.MonkeyPatch
+    lamp: Tuple[Estate, Program], host: FakeHost, in_child: Callable[[str], None]
 ) -> None:
-    import vemyum.apply
-
     found = lamp[1].collect()
-
-    def broken(*_: Any) -> None:
-        raise BrokenPipeError(32, os.strerror(32))
-
-    monkeypatch.setattr(vemyum.apply, "solve", broken)
+    in_work(in_child, fail_with("BrokenPipeError(32, os.strerror(32))") + "\n    work.solve = fail")
     with pytest.raises(BrokenPipeError):
         found.yumio.apply([], [found.pair("lamp")], [])
 

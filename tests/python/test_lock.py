@@ -8,6 +8,7 @@ import os
 import subprocess
 import sys
 import threading
+import time
 from pathlib import Path
 from typing import Any, Iterator, List, Tuple
 
@@ -149,6 +150,68 @@ def test_lock_of_a_dead_process_does_not_count(lamp: Tuple[Estate, Program]) -> 
         file.write_text(str(dead.pid))
     program.start()
     assert all(file.read_text() == str(os.getpid()) for file in lock_files(estate))
+
+
+def held_by(estate: Estate, pid: int, age: float = 0) -> None:
+    """Lock files of that process, as old as that many seconds."""
+    for file in lock_files(estate):
+        file.parent.mkdir(parents=True, exist_ok=True)
+        file.write_text(str(pid))
+        os.utime(file, (time.time() - age, time.time() - age))
+
+
+def test_lock_of_a_process_that_only_waits_to_be_seen_off_does_not_count(lamp: Tuple[Estate, Program]) -> None:
+    estate, program = lamp
+    with subprocess.Popen(["true"]) as zombie:
+        os.waitid(os.P_PID, zombie.pid, os.WEXITED | os.WNOWAIT)
+        held_by(estate, zombie.pid)
+        program.start()
+        assert all(file.read_text() == str(os.getpid()) for file in lock_files(estate))
+
+
+def test_lock_of_a_process_that_is_younger_than_it_does_not_count(lamp: Tuple[Estate, Program]) -> None:
+    """The number of a dead process has come to another one."""
+    estate, program = lamp
+    with subprocess.Popen(["sleep", "60"]) as other:
+        try:
+            held_by(estate, other.pid, age=3600)
+            program.start()
+            assert all(file.read_text() == str(os.getpid()) for file in lock_files(estate))
+        finally:
+            other.kill()
+
+
+def test_lock_changes_hands_and_comes_back(lamp: Tuple[Estate, Program]) -> None:
+    from vemyum.lock import LOCK, ProcessLock
+
+    estate, program = lamp
+    yumio = program.start()
+    # As long as this process's own number, and then shorter.
+    for other in (os.getppid(), 1):
+        held_by(estate, other)
+        LOCK.take_back(other)
+        assert all(file.read_text() == str(os.getpid()) for file in lock_files(estate))
+    held_by(estate, os.getppid())
+    taker = ProcessLock()
+    taker.take_over(yumio._session._conf, os.getppid())
+    assert all(file.read_text() == str(os.getpid()) for file in lock_files(estate))
+    taker.give_over(os.getppid())
+    assert all(file.read_text() == str(os.getppid()) for file in lock_files(estate))
+    held_by(estate, os.getpid())
+
+
+def test_lock_of_a_third_process_is_never_taken(lamp: Tuple[Estate, Program]) -> None:
+    from vemyum.lock import LOCK, ProcessLock
+
+    estate, program = lamp
+    yumio = program.start()
+    held_by(estate, 1)
+    with pytest.raises(program.errors.LockError, match="metadata_lock.pid has been changed"):
+        LOCK.take_back(os.getppid())
+    with pytest.raises(program.errors.LockError, match="has been changed"):
+        ProcessLock().take_over(yumio._session._conf, os.getppid())
+    assert all(file.read_text() == "1" for file in lock_files(estate))
+    held_by(estate, os.getpid())
 
 
 def test_running_transaction_of_dnf_is_respected(lamp: Tuple[Estate, Program]) -> None:

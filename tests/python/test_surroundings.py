@@ -9,7 +9,7 @@ import os
 import subprocess
 import sys
 from pathlib import Path
-from typing import Iterator, Tuple
+from typing import Callable, Iterator, Tuple
 
 import dnf.const
 import dnf.exceptions
@@ -172,26 +172,28 @@ def test_text_of_an_exception_is_its_value(program: Program) -> None:
         assert caught.value.value == str(error)
 
 
-def test_nothing_is_imported_while_rpm_works(lamp: Tuple[Estate, Program], host: FakeHost) -> None:
-    """rpm changes the root directory of the whole process: every module must be there before."""
-    code = (
-        "import os, sys\n"
-        "sys.path[:0] = [os.environ['TEST_FOLDER'], os.path.dirname(os.environ['TEST_SCRIPT'])]\n"
-        "import fake_host, program\n"
-        "from pathlib import Path\n"
-        "program = program.Program(Path(os.environ['TEST_SCRIPT']))\n"
-        "found = program.collect()\n"
-        "before = []\n"
-        "fake_host.HOST.on_confirm = lambda: before.extend(sys.modules)\n"
-        "found.yumio.apply([], [], [found.there('lamp')])\n"
-        "from vemyum.surroundings import NEEDED_LATER\n"
-        "sys.__stdout__.write(' '.join(sorted(set(sys.modules) - set(before))))\n"
-        "sys.__stdout__.write(str(set(NEEDED_LATER) <= set(before)))\n"
+def test_nothing_is_imported_while_rpm_works(
+    lamp: Tuple[Estate, Program], host: FakeHost, in_child: Callable[[str], None], tmp_path: Path
+) -> None:
+    """rpm changes the root directory of the process that works: every module must be there before."""
+    in_child(
+        f"""
+from vemyum.apply import child
+commit, end = child._Parent.commit, child._Parent.end
+before = []
+def note(*arguments):
+    commit(*arguments)
+    before.extend(sys.modules)
+def tell(self, ended):
+    with open({str(tmp_path / "new")!r}, "w") as file:
+        file.write(f"{{len(before) > 0}} {{sorted(set(sys.modules) - set(before))}}")
+    end(self, ended)
+child._Parent.commit, child._Parent.end = note, tell
+"""
     )
-    environment = {**os.environ, "TEST_FOLDER": str(HERE), "TEST_SCRIPT": str(SCRIPT)}
-    command = [sys.executable, "-c", code]
-    done = subprocess.run(command, env=environment, capture_output=True, text=True, check=True)
-    assert done.stdout == "True"
+    found = lamp[1].collect()
+    found.yumio.apply([], [], [found.there("lamp")])
+    assert (tmp_path / "new").read_text() == "True []"
     assert lamp[0].installed() == set()
 
 

@@ -115,6 +115,18 @@ def point_rpm_at(root: str) -> None:
         rpm.addMacro("_dbpath", directory)
 
 
+def require_sound(root: str, names: AbstractSet[str], count: int, known: int) -> None:
+    """Raises YumBaseError when the database lists less than it should: `count` packages of these names, `known` of
+    them by what was seen last."""
+    fault = unlisted(root, names)
+    if count == 0:
+        fault = fault or damage(root)
+        if fault is None and known > 0:
+            fault = _("it lists no packages, though it did before. If that is right, start anew.")
+    if fault is not None:
+        raise YumBaseError(_("The rpm database of {root} cannot be used: {fault}").format(root=root, fault=fault))
+
+
 def damage(root: str) -> Optional[str]:
     """What is wrong with a database that lists no packages, or None for one that may be empty.
 

@@ -11,10 +11,8 @@ import libdnf.transaction as lt
 
 from . import host
 from .base import Base
+from .host import TS_ERASE, TS_INSTALL, TS_OBSOLETED, TS_OBSOLETING, TS_TRUEINSTALL, TS_UPDATE, TS_UPDATED
 from .text import valid
-
-TS_UPDATE, TS_INSTALL, TS_TRUEINSTALL, TS_ERASE = 10, 20, 30, 40
-TS_OBSOLETED, TS_OBSOLETING, TS_UPDATED = 50, 60, 90
 
 _CODES: Dict[int, int] = {
     lt.TransactionItemAction_INSTALL: TS_INSTALL,
@@ -27,7 +25,6 @@ _CODES: Dict[int, int] = {
     lt.TransactionItemAction_REINSTALL: TS_INSTALL,
     lt.TransactionItemAction_REINSTALLED: TS_ERASE,
 }
-_OUTGOING = (TS_ERASE, TS_OBSOLETED, TS_UPDATED)
 _RPM_PREFIXES = ("error: ", "warning: ")
 
 
@@ -64,8 +61,7 @@ class Display(dnf.yum.rpmtrans.TransactionDisplay):
         if step != self._last:
             self._last = step
             self._ordinal += 1
-        shown = package.name if code in _OUTGOING else package
-        host.transaction_event(shown, code, ti_done, ti_total, self._ordinal, int(ts_total or 0))
+        host.transaction_event(package.name, code, ti_done, ti_total, self._ordinal, int(ts_total or 0))
 
     def _code(self, package: Any, action: int) -> Any:
         code = _CODES.get(action)

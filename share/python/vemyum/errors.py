@@ -16,11 +16,15 @@ import libdnf.error
 import rpm
 
 from .credentials import masked
+from .texts import _
 
 YumBaseError = dnf.exceptions.Error
 RepoError = dnf.exceptions.RepoError
 LockError = dnf.exceptions.LockError
 GroupsError = dnf.exceptions.CompsError
+
+REFRESH = _("A part of the transaction may have been done: please refresh the list of packages.")
+"""Ends the text of a failure behind which the table may no longer be right."""
 
 _LIBRARY_ERRORS = (
     dnf.exceptions.Error,
@@ -61,7 +65,7 @@ class reported_as:
         """Nothing to prepare."""
 
     def __exit__(
-        self, kind: Optional[Type[BaseException]], error: Optional[BaseException], _: Optional[TracebackType]
+        self, kind: Optional[Type[BaseException]], error: Optional[BaseException], _trace: Optional[TracebackType]
     ) -> None:
         if isinstance(error, BrokenPipeError):
             return

@@ -92,7 +92,24 @@ def transaction_init(real: bool) -> None:
     yumIOC.tsInitCallback(1 if real else 0)
 
 
-def transaction_event(package: Any, code: int, done: Any, total: Any, ordinal: int, count: int) -> None:
+TS_UPDATE, TS_INSTALL, TS_TRUEINSTALL, TS_ERASE = 10, 20, 30, 40
+TS_OBSOLETED, TS_OBSOLETING, TS_UPDATED = 50, 60, 90
+"""yum's codes for what happens to a package."""
+
+_OUTGOING = (TS_ERASE, TS_OBSOLETED, TS_UPDATED)
+
+
+class Named:
+    """A package of which the engine wants the name."""
+
+    def __init__(self, name: str) -> None:
+        self.name = name
+
+
+def transaction_event(name: str, code: int, done: Any, total: Any, ordinal: int, count: int) -> None:
+    """`ordinal` counts the elements of the transaction from 1, `count` is how many there are."""
+    # What goes out is told by its name alone.
+    package = valid(name) if code in _OUTGOING else Named(valid(name))
     yumIOC.tsEvent(package, code, whole(done), whole(total), ordinal, count)
 
 

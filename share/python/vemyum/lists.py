@@ -14,10 +14,8 @@ from typing import Any, Dict, FrozenSet, Iterable, List, Set
 import hawkey
 
 from .base import Base
-from .database import damage, unlisted
-from .errors import YumBaseError
+from .database import require_sound
 from .packages import AvailablePackage, Details, InstalledPackage
-from .texts import _
 
 
 def _names(packages: Iterable[Any]) -> FrozenSet[str]:
@@ -70,6 +68,11 @@ class Collector:
             [InstalledPackage(package, self._details) for package in installed],
             [AvailablePackage(package, self._details) for package in available],
         )
+
+    @classmethod
+    def known_installed(cls, root: str) -> int:
+        """How many packages this process has seen last in the root, 0 before any."""
+        return cls._known_installed.get(root, 0)
 
     @classmethod
     def expect_installed(cls, root: str, count: int) -> None:
@@ -125,13 +128,5 @@ class Collector:
 
     def _check_installed(self, count: int) -> None:
         root = self._base.conf.installroot
-        fault = unlisted(root, self.installed_names)
-        if count == 0:
-            fault = fault or damage(root)
-            if fault is None and self._known_installed.get(root, 0) > 0:
-                fault = _("it lists no packages, though it did before. If that is right, start anew.")
-        if fault is not None:
-            raise YumBaseError(
-                _("The rpm database of {root} cannot be used: {fault}").format(root=root, fault=fault)
-            )
+        require_sound(root, self.installed_names, count, self.known_installed(root))
         self._known_installed[root] = count

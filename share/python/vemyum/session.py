@@ -12,6 +12,7 @@ from typing import Any, List, Optional, Sequence
 import dnf.conf
 
 from . import host, rights
+from .apply.journal import await_transaction, tell_last
 from .base import Base, open_base
 from .comps import CompsGroup
 from .configuration import Configuration, main_file, read_configuration
@@ -76,7 +77,9 @@ class Session:
             return
         if self._conf is None:
             raise LockError(str(self._fault))
+        await_transaction(self._conf)
         LOCK.acquire(self._conf)
+        tell_last(self._conf)
         reason = rights.unchangeable(managed_root())
         if reason is None and not rights.is_administrator():
             reason = rights.LOOK_ONLY
@@ -129,7 +132,7 @@ class Session:
             raise YumBaseError(_NOT_READ)
         self._details.load_changelogs(self._conf, self.repositories.states())
 
-    # What an apply needs ---------------------------------------------------------------------------------
+    # What has been read ---------------------------------------------------------------------------------
 
     @property
     def base(self) -> Base:
@@ -143,12 +146,6 @@ class Session:
         if self._collector is None:
             raise YumBaseError(_NOT_READ)
         return self._collector
-
-    def new_base(self) -> Base:
-        """A second Base on the same configuration and repositories, nothing loaded yet."""
-        if self._conf is None:
-            raise YumBaseError(_NOT_READ)
-        return open_base(self._conf, self.repositories.states(), progress=False)
 
     @property
     def cache_directory(self) -> Optional[str]:

@@ -1,36 +1,21 @@
 # SPDX-License-Identifier: GPL-2.0-or-later
-"""What a solved transaction consists of, in the lists that the engine shows for confirmation."""
+"""Solving: the marks become a transaction, told as a list of changes."""
 
 from __future__ import annotations
 
-from typing import Collection, Dict, List, Set, Tuple
+from typing import Dict, List, Sequence, Set, Tuple
 
 import dnf.package
+import hawkey
 
-from .base import Base
-from .packages import INSTALLED, PkgTup
+from ..base import Base
+from ..errors import YumBaseError
+from ..packages import PkgTup
+from ..texts import _
+from .messages import DOWNGRADED, INSTALL, OBSOLETED, REMOVE, UPGRADE, Change, Wish
 
-LISTS = ("updated", "installed", "removed", "obsoleted", "depupdated", "depinstalled", "depremoved")
-
-Relation = Tuple["Member", str]
-
-
-def pkgtup_of(package: dnf.package.Package) -> PkgTup:
-    return (package.name, package.arch, str(package.epoch), package.version, package.release)
-
-
-class Member:
-    """One package of the transaction. `relatedto` holds pairs (member, "obsoletedby")."""
-
-    def __init__(self, package: dnf.package.Package) -> None:
-        # No reference to the package: it would keep the Base's memory as long as the lists live.
-        self.name = package.name
-        self.pkgtup = pkgtup_of(package)
-        self.repoid = INSTALLED if package._from_system else package.reponame
-        self.relatedto: List[Relation] = []
-
-    def __repr__(self) -> str:
-        return f"<Member {'-'.join(self.pkgtup)}>"
+_NOT_OFFERED = _("{package} is no longer in the repository {repository}. Please refresh the list of packages.")
+_NOT_INSTALLED = _("{package} is no longer installed. Please refresh the list of packages.")
 
 
 class Marks:
@@ -40,78 +25,102 @@ class Marks:
         self.incoming: List[dnf.package.Package] = []
         self.removed: List[dnf.package.Package] = []
 
-    def __bool__(self) -> bool:
-        return bool(self.incoming or self.removed)
-
     def tuples(self) -> Set[PkgTup]:
-        return {pkgtup_of(package) for package in (*self.incoming, *self.removed)}
+        return {_pkgtup(package) for package in (*self.incoming, *self.removed)}
 
 
-class TransactionInfo:
-    """`tsInfo`: seven lists of members, filled by `makelists`.
+def mark(base: Base, incoming: Sequence[Wish], removes: Sequence[Wish]) -> Marks:
+    """Marks packages in a loaded Base.
 
-    The lists that begin with "dep" hold what the solver has added to the marks. Built from a Base whose
-    goal is solved; the lists stay readable after the Base is closed.
+    Raises YumBaseError for a package that isn't there any more, or that cannot be marked.
     """
+    marks = Marks()
+    available = _of_names(base.sack.query().available(), incoming)
+    for wanted in incoming:
+        package = available.get(wanted)
+        if package is None:
+            raise YumBaseError(_NOT_OFFERED.format(package=_shown(wanted), repository=wanted.repository))
+        # Also for updates: dnf's own "upgrade" gives way silently where dependencies are in the way.
+        base.package_install(package)
+        marks.incoming.append(package)
+    installed = _of_names(base.sack.query(flags=hawkey.IGNORE_EXCLUDES).installed(), removes)
+    for unwanted in removes:
+        package = installed.get(unwanted)
+        if package is None:
+            raise YumBaseError(_NOT_INSTALLED.format(package=_shown(unwanted)))
+        base.package_remove(package)
+        marks.removed.append(package)
+    return marks
 
-    def __init__(self, base: Base, marks: Marks, updatable: Collection[str]) -> None:
-        self._goal = base.goal
-        self._marked = marks.tuples()
-        self._updatable = updatable
-        self._made = False
-        self.updated: List[Member] = []
-        self.installed: List[Member] = []
-        self.removed: List[Member] = []
-        self.obsoleted: List[Member] = []
-        self.depupdated: List[Member] = []
-        self.depinstalled: List[Member] = []
-        self.depremoved: List[Member] = []
 
-    def makelists(self) -> None:
-        """Fills the lists, once."""
-        if self._made:
-            return
-        self._made = True
-        obsoleted = {pkgtup_of(package) for package in self._goal.list_obsoleted()}
-        obsoleters: Dict[PkgTup, Member] = {}
-        for package, upgrade in self.incoming():
-            member = Member(package)
-            self._list_for(member, upgrade).append(member)
-            for old in self._goal.obsoleted_by_package(package):
-                if old.name != package.name and pkgtup_of(old) in obsoleted:
-                    obsoleters[pkgtup_of(old)] = member
-        for package in self._goal.list_obsoleted():
-            member = Member(package)
-            if member.pkgtup in obsoleters:
-                member.relatedto.append((obsoleters[member.pkgtup], "obsoletedby"))
-                self.obsoleted.append(member)
-        for package in self._goal.list_erasures() + self._downgraded():
-            member = Member(package)
-            (self.removed if member.pkgtup in self._marked else self.depremoved).append(member)
-        for name in LISTS:
-            getattr(self, name).sort(key=lambda member: member.pkgtup)
-        self._goal = None
+def _of_names(query: hawkey.Query, wanted: Sequence[Wish]) -> Dict[Wish, dnf.package.Package]:
+    """The packages of a query that have one of the names.
 
-    def _downgraded(self) -> List[dnf.package.Package]:
-        """Installed packages that give way to older ones. The lists have no words for that, so that the
-        user reads of a removal beside the installation."""
-        return [
-            old
-            for package in self._goal.list_downgrades()
-            for old in self._goal.obsoleted_by_package(package)
-            if old.name == package.name
-        ]
+    One query for all: each walks over all packages there are.
+    """
+    found: Dict[Wish, dnf.package.Package] = {}
+    for package in query.filter(name=[one.name for one in wanted]):
+        found.setdefault(Wish(package.reponame, package.name, package.arch, package.evr), package)
+    return found
 
-    def incoming(self) -> List[Tuple[dnf.package.Package, bool]]:
-        """All packages that go in, each with whether it is a newer version of an installed one."""
-        goal = self._goal
-        upgrades = [(package, True) for package in goal.list_upgrades()]
-        others = [*goal.list_installs(), *goal.list_downgrades(), *goal.list_reinstalls()]
-        return upgrades + [(package, False) for package in others]
 
-    def _list_for(self, member: Member, upgrade: bool) -> List[Member]:
-        asked = member.pkgtup in self._marked
-        # The engine expects an updated package to be one that its table shows as updatable.
-        if upgrade and member.name in self._updatable:
-            return self.updated if asked else self.depupdated
-        return self.installed if asked else self.depinstalled
+def _shown(wish: Wish) -> str:
+    return f"{wish.name}-{wish.evr}.{wish.arch}"
+
+
+def solve(base: Base, marks: Marks) -> List[Change]:
+    """Solves the marked Base. YumBaseError has the solver's problems as its text."""
+    if not base.resolve(allow_erasing=bool(marks.removed)):
+        raise YumBaseError(_("Nothing to do: the system is already as it was asked to be."))
+    _require_marks(base, marks)
+    return _changes(base, marks.tuples())
+
+
+def _require_marks(base: Base, marks: Marks) -> None:
+    happens = {_pkgtup(package) for package, _kind in _incoming(base)}
+    happens.update(_pkgtup(package) for package in base.goal.list_erasures() + base.goal.list_obsoleted())
+    marked = marks.incoming + marks.removed
+    left_out = [str(package) for package in marked if _pkgtup(package) not in happens]
+    if left_out:
+        raise YumBaseError(
+            _("Nothing is to be done about {packages}. Please refresh the list of packages.").format(
+                packages=", ".join(left_out)
+            )
+        )
+
+
+def _incoming(base: Base) -> List[Tuple[dnf.package.Package, str]]:
+    """All packages that go in, each with its kind of change."""
+    goal = base.goal
+    others = [*goal.list_installs(), *goal.list_downgrades(), *goal.list_reinstalls()]
+    return [(package, UPGRADE) for package in goal.list_upgrades()] + [(package, INSTALL) for package in others]
+
+
+def _changes(base: Base, marked: Set[PkgTup]) -> List[Change]:
+    goal = base.goal
+    changes: List[Change] = []
+
+    def add(package: dnf.package.Package, kind: str, replaced_by: int = -1) -> None:
+        pkgtup = _pkgtup(package)
+        changes.append(Change(kind, pkgtup in marked, *pkgtup, package.reponame, replaced_by))
+
+    replacing: Dict[PkgTup, int] = {}
+    for package, kind in _incoming(base):
+        for old in goal.obsoleted_by_package(package):
+            if old.name != package.name:
+                replacing[_pkgtup(old)] = len(changes)
+        add(package, kind)
+    for package in goal.list_obsoleted():
+        if _pkgtup(package) in replacing:
+            add(package, OBSOLETED, replacing[_pkgtup(package)])
+    for package in goal.list_erasures():
+        add(package, REMOVE)
+    for package in goal.list_downgrades():
+        for old in goal.obsoleted_by_package(package):
+            if old.name == package.name:
+                add(old, DOWNGRADED)
+    return changes
+
+
+def _pkgtup(package: dnf.package.Package) -> PkgTup:
+    return (package.name, package.arch, str(package.epoch), package.version, package.release)

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: GPL-2.0-or-later
-"""One apply: from the marks in the table to the new rpm database.
+"""What the process of an apply does: from the marks in the table to the new rpm database.
 
 Each apply has a Base of its own, since a Base survives one transaction only, and since a refused
 confirmation then leaves nothing behind but a Base to close.
@@ -8,126 +8,108 @@ confirmation then leaves nothing behind but a Base to close.
 from __future__ import annotations
 
 import contextlib
-from typing import Any, Dict, List, Optional, Sequence, Set
+from typing import Any, Callable, Dict, List, Set
 
+import dnf.conf
 import dnf.repo
 import dnf.transaction
+import hawkey
 import libdnf.transaction as lt
 import rpm
 
-from . import host
-from .base import Base
-from .database import point_rpm_at
-from .display import Display
-from .download import download, not_in_cache
-from .errors import YumBaseError, reported_as
-from .lists import Collector
-from .packages import AvailablePackage
-from .session import Session
-from .signatures import check_signatures
-from .solver import mark, solve
-from .surroundings import load_needed_later
-from .texts import _
-from .transaction import TransactionInfo
-
-_REFRESH = _("A part of the transaction may have been done: please refresh the list of packages.")
+from .. import host
+from ..base import Base, open_base
+from ..database import point_rpm_at, require_sound, unlisted
+from ..display import Display
+from ..download import download, not_in_cache
+from ..errors import REFRESH, YumBaseError, reported_as
+from ..signatures import check_signatures
+from ..surroundings import load_needed_later
+from ..texts import _
+from .messages import Change, Plan, Request
+from .plan import mark, solve
 
 
-class Apply:
-    """`tsInfo` is what the engine lists; it exists once the transaction is solved."""
+class Work:
+    """One apply. `installed` is how many packages the system has, as far as that has been looked at."""
 
-    def __init__(self, session: Session) -> None:
-        self._session = session
-        self.tsInfo: Optional[TransactionInfo] = None
+    def __init__(self, conf: dnf.conf.MainConf, request: Request) -> None:
+        self._conf = conf
+        self._request = request
+        self.installed = -1
 
-    def run(self, installs: Sequence[Any], updates: Sequence[Any], removes: Sequence[Any]) -> None:
-        """Does everything, or nothing when the user refuses. YumBaseError, other dnf errors, OSError.
+    def do(self, agreed: Callable[[Plan], bool], begins: Callable[[List[Change]], None]) -> bool:
+        """Everything, or nothing where the plan isn't agreed to; tells which.
 
-        Blocks while the user is asked and while rpm runs.
+        `begins` is called when rpm begins to change the system. Raises YumBaseError, other dnf errors, OSError.
         """
-        if not (installs or updates or removes):
-            host.log(host.LEVEL_NOTICE, _("Nothing is marked"))
-            return
-        collector = self._session.collector
-        with contextlib.closing(self._session.new_base()) as base:
+        with contextlib.closing(open_base(self._conf, self._request.repositories, progress=False)) as base:
             for repo in base.repos.iter_enabled():
                 # The table shows what the cache holds; newer metadata must not slip in behind it.
                 repo._repo.setSyncStrategy(dnf.repo.SYNC_LAZY)
             base.load_everything()
-            self.tsInfo = solve(base, mark(base, installs, updates, removes), collector)
-            self.tsInfo.makelists()
-            load_needed_later()
+            self._require_sound(base)
+            host.solver_check()
+            changes = solve(base, mark(base, self._request.incoming, self._request.removes))
             incoming = sorted(base.transaction.install_set)
-            host.list_transaction(self)
-            missing = not_in_cache(incoming)
-            host.report_download_size([AvailablePackage(package, _NO_DETAILS) for package in missing])
-            if not host.confirmed():
-                return
+            plan = Plan(changes, [int(package.size) for package in not_in_cache(incoming)])
+            if not agreed(plan):
+                return False
             download(base, incoming)
             check_signatures(base, incoming)
-            _run(base)
-            host.post_transaction_output(self)
+            load_needed_later()
+            base.before_run = lambda: begins(changes)
+            self._run(base)
+            return True
 
+    def _require_sound(self, base: Base) -> None:
+        """Nothing is built on a database that has been damaged since the table was filled."""
+        packages = base.sack.query(flags=hawkey.IGNORE_EXCLUDES).installed()
+        names = {package.name for package in packages}
+        require_sound(base.conf.installroot, names, len(packages), self._request.installed)
 
-class _NoDetails:
-    def changelog(self, package: Any) -> List[Any]:
-        return []
-
-    def build_host(self, package: Any) -> Optional[str]:
-        return None
-
-    def metadata_file(self, repository: str) -> Optional[str]:
-        return None
-
-
-_NO_DETAILS = _NoDetails()
-
-
-def _run(base: Base) -> None:
-    """The test transaction and the real one, and a look at what came of it."""
-    display = Display(base)
-    root = base.conf.installroot
-    before = _present(root)
-    host.transaction_init(False)
-    base.before_run = lambda: host.transaction_init(True)
-    try:
-        with reported_as(YumBaseError):
-            base.do_transaction([display])
-    except YumBaseError as error:
+    def _run(self, base: Base) -> None:
+        """The test transaction and the real one, and a look at what came of it."""
+        display = Display(base)
+        root = base.conf.installroot
+        before = self._present(root)
+        host.transaction_init(False)
+        try:
+            with reported_as(YumBaseError):
+                base.do_transaction([display])
+        except YumBaseError as error:
+            point_rpm_at(root)
+            said = [str(error), *(line for line in display.faults + display.rpm_said if line not in str(error))]
+            if self._present(root) != before:
+                # A full disk can also stop dnf's book-keeping when all packages are in.
+                said.append(REFRESH)
+            raise YumBaseError("\n".join(said)) from error
         point_rpm_at(root)
-        said = [str(error), *(line for line in display.faults + display.rpm_said if line not in str(error))]
-        if _present(root) != before:
-            # A full disk can also stop dnf's book-keeping when all packages are in.
-            said.append(_REFRESH)
-        raise YumBaseError("\n".join(said)) from error
-    point_rpm_at(root)
-    wrong = _not_as_asked(base)
-    if not wrong and not display.faults:
-        return
-    lines = [_("Not everything went as it should:")]
-    lines += [f"  {line}" for line in (*wrong, *dict.fromkeys(display.faults + display.rpm_said))]
-    raise YumBaseError("\n".join([*lines, _REFRESH]))
+        wrong = _not_as_asked(base, self._present(root))
+        if not wrong and not display.faults:
+            return
+        lines = [_("Not everything went as it should:")]
+        lines += [f"  {line}" for line in (*wrong, *dict.fromkeys(display.faults + display.rpm_said))]
+        raise YumBaseError("\n".join([*lines, REFRESH]))
+
+    def _present(self, root: str) -> Dict[str, Set[str]]:
+        """The installed packages, by name, as the rpm database tells them."""
+        present: Dict[str, Set[str]] = {}
+        transaction = rpm.TransactionSet(root)
+        try:
+            transaction.setVSFlags(rpm._RPMVSF_NODIGESTS | rpm._RPMVSF_NOSIGNATURES)
+            count = 0
+            for header in transaction.dbMatch():
+                count += 1
+                present.setdefault(header["name"], set()).add(_nevra(header))
+        finally:
+            transaction.closeDB()
+        self.installed = count if unlisted(root, present.keys()) is None else -1
+        return present
 
 
-def _present(root: str) -> Dict[str, Set[str]]:
-    """The installed packages, by name, as the rpm database tells them."""
-    present: Dict[str, Set[str]] = {}
-    transaction = rpm.TransactionSet(root)
-    try:
-        transaction.setVSFlags(rpm._RPMVSF_NODIGESTS | rpm._RPMVSF_NOSIGNATURES)
-        count = 0
-        for header in transaction.dbMatch():
-            count += 1
-            present.setdefault(header["name"], set()).add(_nevra(header))
-    finally:
-        transaction.closeDB()
-    Collector.expect_installed(root, count)
-    return present
-
-
-def _not_as_asked(base: Base) -> List[str]:
+def _not_as_asked(base: Base, present: Dict[str, Set[str]]) -> List[str]:
     """Compares the rpm database with what the transaction was to do."""
-    present = _present(base.conf.installroot)
     incoming = {str(package) for package in base.transaction.install_set}
     wrong = []
     for item in base.transaction:

@@ -1,0 +1,254 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""The process that works: what it is asked for, in the order of an apply, until it ends.
+
+Until rpm begins it ends with the program that started it. From there on it goes on alone if it has to.
+"""
+
+from __future__ import annotations
+
+import contextlib
+import gc
+import locale
+import os
+import queue
+import signal
+import socket
+import sys
+import threading
+import time
+import traceback
+import types
+from typing import Any, List, NoReturn, Optional
+
+from .channel import Channel
+from .messages import (
+    BROKEN_PIPE,
+    DONE,
+    FAILED,
+    INTERNAL,
+    PROTOCOL,
+    REFUSED,
+    Answer,
+    Begun,
+    Change,
+    Ended,
+    ErrorLog,
+    ErrorOutput,
+    Event,
+    FileEnded,
+    FileProgress,
+    FileStarted,
+    Hello,
+    Leave,
+    Log,
+    Message,
+    Output,
+    Plan,
+    ProtocolError,
+    Request,
+    Solving,
+    TransactionStarts,
+)
+
+_KEPT_OFF = (signal.SIGINT, signal.SIGTERM, signal.SIGHUP, signal.SIGQUIT, signal.SIGPIPE)
+"""What ends a process that doesn't expect it; here it waits until the transaction is over, and so for ever."""
+
+_PAUSE = 0.02
+"""Seconds between two reports of how far the same file or package is; a bar can show no more."""
+
+
+def main(descriptor: int) -> NoReturn:
+    """The whole life of the process. The descriptor is one end of a connected pair of sockets."""
+    _settle()
+    parent = _Parent(Channel(socket.socket(fileno=descriptor)))
+    # The host module of this process, before anything looks for it.
+    sys.modules["yumIOC"] = RemoteHost(parent)
+    ended = _work(parent)
+    parent.end(ended)
+    # Nobody waits for what an orderly end of the interpreter would free.
+    os._exit(0)
+
+
+def _settle() -> None:
+    """What the program has set up for itself is not for this process."""
+    signal.pthread_sigmask(signal.SIG_SETMASK, ())
+    signal.signal(signal.SIGINT, signal.SIG_DFL)
+    with contextlib.suppress(locale.Error):
+        locale.setlocale(locale.LC_ALL, "")
+
+
+def _work(parent: "_Parent") -> Ended:
+    from .. import messages, streams
+    from ..configuration import read_configuration
+    from ..errors import YumBaseError, reported_as
+    from ..lock import LOCK
+    from .work import Work
+
+    streams.replace_streams()
+    messages.install_handler()
+    gc.freeze()
+    parent.send(Hello(PROTOCOL))
+    work: Optional[Work] = None
+    try:
+        with reported_as(YumBaseError):
+            request = parent.request()
+            conf = read_configuration()
+            LOCK.take_over(conf, parent.pid)
+            work = Work(conf, request)
+            done = work.do(parent.agreed, lambda changes: parent.commit(conf, changes))
+        outcome, text = (DONE, "") if done else (REFUSED, "")
+    except YumBaseError as error:
+        outcome, text = FAILED, str(error)
+    except BrokenPipeError as error:
+        outcome, text = BROKEN_PIPE, str(error)
+    except BaseException:  # noqa: BLE001 - told to whoever asked for the work
+        outcome, text = INTERNAL, traceback.format_exc()
+    return Ended(outcome, text, work.installed if work is not None else -1)
+
+
+class _Parent:
+    """The program that started this process, while it listens and when it doesn't any more."""
+
+    def __init__(self, channel: Channel) -> None:
+        self.pid = os.getppid()
+        self._channel = channel
+        self._said: "queue.Queue[Optional[Message]]" = queue.Queue()
+        self._journal: Any = None
+        self._committing = threading.Lock()
+        self._committed = False
+        self._left = False
+        # The listening thread takes none of these signals: what is to end the process meets the thread that works.
+        signal.pthread_sigmask(signal.SIG_BLOCK, _KEPT_OFF)
+        self._listener = threading.Thread(target=self._listen, daemon=True)
+        self._listener.start()
+        signal.pthread_sigmask(signal.SIG_UNBLOCK, _KEPT_OFF)
+
+    def send(self, message: Message, unimportant: bool = False) -> None:
+        if self._journal is not None and isinstance(message, Event):
+            self._journal.event(message)
+        self._channel.send(message, unimportant)
+
+    def request(self) -> Request:
+        request = self._said.get()
+        if not isinstance(request, Request) or request.protocol != PROTOCOL:
+            raise ProtocolError(str(request))
+        return request
+
+    def agreed(self, plan: Plan) -> bool:
+        """Asks; waits for the answer."""
+        self._channel.send(plan)
+        self._channel.flush()
+        answer = self._said.get()
+        return isinstance(answer, Answer) and answer.confirmed
+
+    def commit(self, conf: Any, changes: List[Change]) -> None:
+        """rpm begins: from here on nothing ends this process but its work."""
+        from .. import host, processes
+        from .journal import Journal
+
+        with self._committing:
+            self._committed = True
+            signal.pthread_sigmask(signal.SIG_BLOCK, _KEPT_OFF)
+        pid = os.getpid()
+        self._journal = Journal(conf, Begun(PROTOCOL, pid, processes.start_of(pid), self.pid, changes))
+        host.transaction_init(True)
+
+    def end(self, ended: Ended) -> None:
+        """Tells the program the outcome and gives it the lock back; without a program the journal tells it."""
+        with self._committing:
+            # There is nothing left to cut off.
+            self._committed = True
+        self._channel.send(ended)
+        self._channel.flush()
+        self._listener.join()
+        if self._journal is not None and self._left:
+            self._journal.remove()
+        elif self._journal is not None:
+            self._journal.end(ended)
+        self._hand_back()
+
+    def _hand_back(self) -> None:
+        from ..lock import LOCK
+
+        if self._left:
+            LOCK.give_over(self.pid)
+        else:
+            with contextlib.suppress(Exception):
+                LOCK.release()
+
+    def _listen(self) -> None:
+        """On a thread of its own: what the program says, and whether it is there."""
+        with contextlib.suppress(ProtocolError):
+            while not self._left:
+                message = self._channel.receive()
+                if message is None:
+                    break
+                self._left = isinstance(message, Leave)
+                self._said.put(message)
+        with self._committing:
+            if not self._committed:
+                self._hand_back()
+                os._exit(1)
+        if self._left:
+            return
+        # What it captured leads nowhere now.
+        nowhere = os.open(os.devnull, os.O_RDWR)
+        for descriptor in (1, 2):
+            os.dup2(nowhere, descriptor)
+        os.close(nowhere)
+
+
+class RemoteHost(types.ModuleType):
+    """The engine's module `yumIOC` in this process: each call is a message to the program.
+
+    The functions that ask or list are not among them; here the plan does both.
+    """
+
+    def __init__(self, parent: _Parent) -> None:
+        super().__init__("yumIOC")
+        self._parent = parent
+        self._element: Any = None
+        self._next = 0.0
+
+    def log(self, level: int, text: str) -> None:
+        self._parent.send(Log(level, text))
+
+    def errorlog(self, level: int, text: str) -> None:
+        self._parent.send(ErrorLog(level, text))
+
+    def stdoutWrite(self, text: str) -> None:
+        self._parent.send(Output(text))
+
+    def stderrWrite(self, text: str) -> None:
+        self._parent.send(ErrorOutput(text))
+
+    def dsTsCheck(self) -> None:
+        self._parent.send(Solving())
+
+    def applyGrabMeterStart(self, name: str, _a: None, _b: None, size: int, _c: None) -> None:
+        self._parent.send(FileStarted(name, size))
+
+    def applyGrabMeterUpdate(self, done: int) -> None:
+        if self._is_time():
+            self._parent.send(FileProgress(done), unimportant=True)
+
+    def applyGrabMeterEnd(self, done: int) -> None:
+        self._parent.send(FileProgress(done))
+        self._parent.send(FileEnded(done))
+
+    def tsInitCallback(self, real: int) -> None:
+        self._parent.send(TransactionStarts(bool(real)))
+
+    def tsEvent(self, package: Any, code: int, done: int, total: int, ordinal: int, count: int) -> None:
+        name = package if isinstance(package, str) else package.name
+        begins = ordinal != self._element
+        self._element = ordinal
+        if begins or done >= total or self._is_time():
+            self._parent.send(Event(name, code, done, total, ordinal, count), unimportant=not begins)
+
+    def _is_time(self) -> bool:
+        now = time.monotonic()
+        if now < self._next:
+            return False
+        self._next = now + _PAUSE
+        return True

@@ -1,0 +1,264 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""What the two processes of an apply say to each other.
+
+Each message is one line, a JSON object of the fields of one of the classes below and "is", the name of the class.
+The child begins with `Hello`, the parent answers with `Request`. Then the child talks, up to `Ended`; the parent only
+gives the `Answer` to `Plan`, and says `Leave` in the end, or earlier to end what has not begun. Texts may hold what is
+no valid Unicode, as file names do.
+"""
+
+from __future__ import annotations
+
+import dataclasses
+import functools
+import json
+import typing
+from typing import Any, Dict, List, Type, Union
+
+PROTOCOL = 1
+"""Raised whenever a message changes its form: child and parent are always of one version, or don't work together."""
+
+
+class ProtocolError(Exception):
+    """A line that is none of the messages. The text quotes it."""
+
+
+# From the parent ---------------------------------------------------------------------------------------------
+
+
+@dataclasses.dataclass(frozen=True)
+class Wish:
+    """A package that is marked. `repository` is "@System" for one that is to go; `evr` is as dnf writes it."""
+
+    repository: str
+    name: str
+    arch: str
+    evr: str
+
+
+@dataclasses.dataclass(frozen=True)
+class Request:
+    """What is to be done. `repositories` tells whether this session uses each, by its id; `installed` is how many
+    packages the system has by all that the parent knows, 0 where it knows nothing."""
+
+    protocol: int
+    repositories: Dict[str, bool]
+    incoming: List[Wish]
+    removes: List[Wish]
+    installed: int
+
+
+@dataclasses.dataclass(frozen=True)
+class Answer:
+    """Whether the user agrees to the plan."""
+
+    confirmed: bool
+
+
+@dataclasses.dataclass(frozen=True)
+class Leave:
+    """The parent has heard enough, the end or too much to go on. A parent that is gone without it has heard nothing."""
+
+
+# From the child ----------------------------------------------------------------------------------------------
+
+
+@dataclasses.dataclass(frozen=True)
+class Hello:
+    protocol: int
+
+
+@dataclasses.dataclass(frozen=True)
+class Log:
+    """A line for the log, at one of the levels of `host`."""
+
+    level: int
+    text: str
+
+
+@dataclasses.dataclass(frozen=True)
+class ErrorLog:
+    level: int
+    text: str
+
+
+@dataclasses.dataclass(frozen=True)
+class Output:
+    """What Python or a scriptlet wrote to its standard output, in pieces of any length."""
+
+    text: str
+
+
+@dataclasses.dataclass(frozen=True)
+class ErrorOutput:
+    text: str
+
+
+@dataclasses.dataclass(frozen=True)
+class Solving:
+    """The solver begins."""
+
+
+INSTALL, UPGRADE, OBSOLETED, REMOVE, DOWNGRADED = "install", "upgrade", "obsoleted", "remove", "downgraded"
+"""Kinds of changes: a package goes in; goes in as a newer version of an installed one; gives way to one of another
+name; goes; gives way to an older version of its own."""
+
+
+@dataclasses.dataclass(frozen=True)
+class Change:
+    """One package of the transaction. `asked` is False for what the solver has added. `replaced_by` is the place, in
+    the list of changes, of the package that makes this one obsolete, -1 for none."""
+
+    kind: str
+    asked: bool
+    name: str
+    arch: str
+    epoch: str
+    version: str
+    release: str
+    repository: str
+    replaced_by: int
+
+
+@dataclasses.dataclass(frozen=True)
+class Plan:
+    """The solved transaction, and the sizes in bytes of the files that are still to be fetched. Wants an answer."""
+
+    changes: List[Change]
+    downloads: List[int]
+
+
+@dataclasses.dataclass(frozen=True)
+class FileStarted:
+    """A download begins: file name or address, bytes."""
+
+    name: str
+    size: int
+
+
+@dataclasses.dataclass(frozen=True)
+class FileProgress:
+    """Bytes of the file that began last."""
+
+    done: int
+
+
+@dataclasses.dataclass(frozen=True)
+class FileEnded:
+    done: int
+
+
+@dataclasses.dataclass(frozen=True)
+class TransactionStarts:
+    """The test transaction begins, or the real one: from there on nothing stops the child."""
+
+    real: bool
+
+
+@dataclasses.dataclass(frozen=True)
+class Event:
+    """How far one element of the transaction is. `code` is one of yum's (`display`), `ordinal` counts the elements
+    from 1, `count` is how many there are."""
+
+    name: str
+    code: int
+    done: int
+    total: int
+    ordinal: int
+    count: int
+
+
+@dataclasses.dataclass(frozen=True)
+class Begun:
+    """First in the journal: the process that works, by its number and its start as `processes.start_of` tells it,
+    the number of the program that started it, and what it works on."""
+
+    protocol: int
+    pid: int
+    start: int
+    program: int
+    changes: List[Change]
+
+
+DONE, REFUSED, FAILED, BROKEN_PIPE, INTERNAL = "done", "refused", "failed", "broken pipe", "internal"
+"""Outcomes: all is done; the user didn't agree; `text` says why not; the same of a broken pipe; `text` is the
+traceback of a fault of the program itself."""
+
+
+@dataclasses.dataclass(frozen=True)
+class Ended:
+    """The last message. `installed` is how many packages the system has now, -1 where that wasn't looked at."""
+
+    outcome: str
+    text: str
+    installed: int
+
+
+Message = Union[
+    Request,
+    Answer,
+    Leave,
+    Hello,
+    Log,
+    ErrorLog,
+    Output,
+    ErrorOutput,
+    Solving,
+    Plan,
+    FileStarted,
+    FileProgress,
+    FileEnded,
+    TransactionStarts,
+    Event,
+    Begun,
+    Ended,
+]
+
+_KINDS: Dict[str, Type[Any]] = {kind.__name__: kind for kind in typing.get_args(Message)}
+
+
+def to_line(message: Message) -> bytes:
+    """The message as a line, ASCII alone."""
+    fields = {"is": type(message).__name__, **dataclasses.asdict(message)}
+    return json.dumps(fields, separators=(",", ":")).encode("ascii") + b"\n"
+
+
+def from_line(line: bytes) -> Message:
+    """The message of a line. ProtocolError for anything but a whole line with exactly one message's fields."""
+    try:
+        if not line.endswith(b"\n"):
+            raise ValueError
+        fields = json.loads(line)
+        kind = _KINDS[fields.pop("is")]
+        message: Message = _build(kind, fields)
+        return message
+    except (ValueError, KeyError, TypeError, AttributeError, RecursionError):
+        raise ProtocolError(repr(line[:200])[1:]) from None
+
+
+@functools.lru_cache(maxsize=None)
+def _fields(kind: Type[Any]) -> Dict[str, Any]:
+    return typing.get_type_hints(kind)
+
+
+def _build(kind: Type[Any], fields: Any) -> Any:
+    types = _fields(kind)
+    if not isinstance(fields, dict) or fields.keys() != types.keys():
+        raise TypeError
+    return kind(**{name: _value(wanted, fields[name]) for name, wanted in types.items()})
+
+
+def _value(wanted: Any, value: Any) -> Any:
+    """`value` if it is of that type, with the objects in it built. TypeError."""
+    origin = typing.get_origin(wanted)
+    if origin is list and isinstance(value, list):
+        (inner,) = typing.get_args(wanted)
+        return [_value(inner, one) for one in value]
+    if origin is dict and isinstance(value, dict):
+        _key, inner = typing.get_args(wanted)
+        return {key: _value(inner, one) for key, one in value.items()}
+    if dataclasses.is_dataclass(wanted):
+        return _build(wanted, value)
+    if type(value) is not wanted:
+        raise TypeError
+    return value

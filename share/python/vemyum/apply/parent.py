@@ -1,0 +1,236 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""The program's side of an apply: starts the process that works, and tells the engine what it hears from there."""
+
+from __future__ import annotations
+
+import contextlib
+import errno
+import os
+import signal
+import socket
+import subprocess
+import sys
+from typing import Any, List, Optional, Sequence
+
+import hawkey
+
+from .. import host
+from ..errors import REFRESH, LockError, YumBaseError
+from ..lists import Collector
+from ..lock import LOCK
+from ..root import managed_root
+from ..session import Session
+from ..texts import _
+from .channel import Channel
+from .listing import TransactionInfo, solver_lines
+from .messages import (
+    BROKEN_PIPE,
+    DONE,
+    FAILED,
+    INTERNAL,
+    PROTOCOL,
+    Answer,
+    Ended,
+    ErrorLog,
+    ErrorOutput,
+    Event,
+    FileEnded,
+    FileProgress,
+    FileStarted,
+    Hello,
+    Leave,
+    Log,
+    Message,
+    Output,
+    Plan,
+    ProtocolError,
+    Request,
+    Solving,
+    TransactionStarts,
+    Wish,
+)
+
+COMMAND = [
+    sys.executable or "/usr/bin/python3",
+    os.path.join(os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__)))), "apply-child.py"),
+]
+"""What starts the process; the descriptor of its connection is added."""
+
+
+class ChildFault(Exception):
+    """A fault of the program itself in the process that worked; the text is its traceback."""
+
+
+class Apply:
+    """`tsInfo` is what the engine lists; it exists once the transaction is solved."""
+
+    def __init__(self, session: Session) -> None:
+        self._session = session
+        self._begun = False
+        self.tsInfo: Optional[TransactionInfo] = None
+
+    def run(self, installs: Sequence[Any], updates: Sequence[Any], removes: Sequence[Any]) -> None:
+        """Does everything, or nothing when the user refuses. YumBaseError, OSError only for a broken pipe.
+
+        Blocks while the user is asked and while the other process works, without the interpreter lock.
+        """
+        if not (installs or updates or removes):
+            host.log(host.LEVEL_NOTICE, _("Nothing is marked"))
+            return
+        root = managed_root()
+        request = Request(
+            PROTOCOL,
+            self._session.repositories.states(),
+            [_wish(package, package.po.reponame) for package in (*installs, *(pair[0] for pair in updates))],
+            [_wish(package, hawkey.SYSTEM_REPO_NAME) for package in removes],
+            Collector.known_installed(root),
+        )
+        with _Child(root) as child:
+            ended = self._converse(child, request)
+        if ended.installed >= 0:
+            Collector.expect_installed(root, ended.installed)
+        if ended.outcome == DONE:
+            host.post_transaction_output(self)
+        elif ended.outcome == FAILED:
+            raise YumBaseError(ended.text)
+        elif ended.outcome == BROKEN_PIPE:
+            raise BrokenPipeError(errno.EPIPE, ended.text)
+        elif ended.outcome == INTERNAL:
+            raise ChildFault(ended.text)
+
+    def _converse(self, child: "_Child", request: Request) -> Ended:
+        try:
+            hello = child.channel.receive()
+            if hello is not None and hello != Hello(PROTOCOL):
+                raise YumBaseError(
+                    _("The program's files have been changed since it was started: please start it anew.")
+                )
+            child.tell(request)
+            while True:
+                message = child.channel.receive()
+                if isinstance(message, Ended):
+                    return message
+                if message is None:
+                    raise YumBaseError(self._with_consequence(child.end()))
+                self._take(message, child)
+        except ProtocolError as error:
+            said = _("The process that applies the changes said what cannot be understood: {line}").format(line=error)
+            raise YumBaseError(self._with_consequence(said)) from error
+
+    def _with_consequence(self, text: str) -> str:
+        consequence = REFRESH if self._begun else _("Nothing was changed.")
+        return f"{text}\n{consequence}"
+
+    def _take(self, message: Message, child: "_Child") -> None:
+        """One message of the child becomes what the engine expects to be called with."""
+        if isinstance(message, Event):
+            host.transaction_event(
+                message.name, message.code, message.done, message.total, message.ordinal, message.count
+            )
+        elif isinstance(message, FileProgress):
+            host.apply_meter_update(message.done)
+        elif isinstance(message, FileStarted):
+            host.apply_meter_start(message.name, message.size)
+        elif isinstance(message, FileEnded):
+            host.apply_meter_end(message.done)
+        elif isinstance(message, Log):
+            host.log(message.level, message.text)
+        elif isinstance(message, ErrorLog):
+            host.errorlog(message.level, message.text)
+        elif isinstance(message, Output):
+            host.stdout_write(message.text)
+        elif isinstance(message, ErrorOutput):
+            host.stderr_write(message.text)
+        elif isinstance(message, Solving):
+            host.solver_check()
+        elif isinstance(message, Plan):
+            child.tell(Answer(self._agreed(message)))
+        elif isinstance(message, TransactionStarts):
+            self._begun = message.real
+            host.transaction_init(message.real)
+        else:
+            raise ProtocolError(type(message).__name__)
+
+    def _agreed(self, plan: Plan) -> bool:
+        collector = self._session.collector
+        lines = solver_lines(plan.changes, collector)
+        for line in lines:
+            host.log(host.LEVEL_INFO, f"TSINFO: {line}")
+        if lines:
+            host.solver_restart()
+            host.solver_check()
+        self.tsInfo = TransactionInfo(plan.changes, collector.updatable)
+        host.list_transaction(self)
+        host.report_download_size([_Download(size) for size in plan.downloads])
+        return host.confirmed()
+
+
+class _Download:
+    """A file to be fetched, as the engine wants it."""
+
+    def __init__(self, size: int) -> None:
+        self.size = size
+
+
+def _wish(package: Any, repository: str) -> Wish:
+    return Wish(repository, package.name, package.arch, package.po.evr)
+
+
+class _Child:
+    """The process that works, for the length of a with block. It is gone when the block is left: a transaction that
+    has begun is waited for."""
+
+    def __init__(self, root: str) -> None:
+        """OSError when the process cannot be started."""
+        ours, theirs = socket.socketpair()
+        self.channel = Channel(ours)
+        try:
+            # Its standard output and error are the ones that the engine captures. In a session of its own, so that
+            # what is typed on the terminal isn't meant for it.
+            self._process = subprocess.Popen(
+                [*COMMAND, str(theirs.fileno())],
+                stdin=subprocess.DEVNULL,
+                pass_fds=(theirs.fileno(),),
+                env={**os.environ, "VEMROOT": root},
+                cwd="/",
+                start_new_session=True,
+            )
+        except BaseException:
+            self.channel.close()
+            raise
+        finally:
+            theirs.close()
+
+    def tell(self, message: Message) -> None:
+        self.channel.send(message)
+        self.channel.flush()
+
+    def end(self) -> str:
+        """Waits for the end of the process, and tells how that was. The lock is this process's again then."""
+        os.waitid(os.P_PID, self._process.pid, os.WEXITED | os.WNOWAIT)
+        try:
+            # Before the other one's number is free.
+            LOCK.take_back(self._process.pid)
+        except LockError as error:
+            host.errorlog(host.LEVEL_ERROR, str(error))
+        code = self._process.wait()
+        if code >= 0:
+            cause = _("exit status {code}").format(code=code)
+        else:
+            cause = _("signal {number}, {name}").format(number=-code, name=signal.strsignal(-code))
+        return _("The process that applies the changes has died ({cause}).").format(cause=cause)
+
+    def __enter__(self) -> "_Child":
+        return self
+
+    def __exit__(self, kind: Any, *_: Any) -> None:
+        try:
+            # A transaction that has not begun ends here, one that has begun is heard to its end.
+            self.tell(Leave())
+            with contextlib.suppress(ProtocolError):
+                while kind is not None and self.channel.receive() is not None:
+                    pass
+        finally:
+            self.channel.close()
+            if self._process.returncode is None:
+                self.end()
