@@ -42,6 +42,17 @@ def test_metadata(estate: Estate, yumio: Any, program: Program, web: Web) -> Non
     assert "/base/repodata/repomd.xml" in web.requests()
 
 
+def test_what_a_killed_download_has_left_goes_with_the_metadata(estate: Estate, yumio: Any) -> None:
+    (folder,) = (file.parent.parent for file in cached(estate, "rpm"))
+    unfinished = folder / "tmpdir.x7Yz12/repodata"
+    unfinished.mkdir(parents=True)
+    (unfinished / "primary.xml.gz.part").write_text("half")
+    yumio.cleanPackages()
+    assert unfinished.exists()
+    assert yumio.cleanMetadata()[0] == 0
+    assert not unfinished.parent.exists()
+
+
 def test_converted_metadata(estate: Estate, yumio: Any) -> None:
     assert yumio.cleanPickles()[0] == 0
     assert cached(estate, "rpm") and cached(estate, "xml") and not cached(estate, "solv", "solvx")

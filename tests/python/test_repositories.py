@@ -267,3 +267,22 @@ def test_home_does_not_matter(lamp: Tuple[Estate, Program], monkeypatch: pytest.
     monkeypatch.setenv("HOME", "/nonexistent")
     assert program.collect().merged() == {"lamp": "OutOfDate"}
     assert not os.path.exists(estate.root / "nonexistent")
+
+
+@pytest.mark.parametrize("keep", [0, 10, 100, 500])
+def test_damaged_fast_form_of_the_metadata_is_made_anew(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost, keep: int
+) -> None:
+    """A machine that stopped in the middle of it, or a full disk, leaves such a file."""
+    estate.repository("base", rpms.some("lone-1.0"))
+    estate.repository("more", rpms.some("battery-1.0"))
+    program.collect()
+    fast = list((estate.root / "var/cache/yum").glob("*.solv*"))
+    assert len(fast) >= 2
+    for file in fast:
+        file.write_bytes(file.read_bytes()[:keep])
+    host.reset()
+    assert set(program.collect().merged()) == {"lone", "battery"}
+    host.reset()
+    program.collect()
+    assert "damaged" not in host.text("log")

@@ -4,6 +4,7 @@
 from __future__ import annotations
 
 import contextlib
+import glob
 import logging
 import os
 from typing import Any, Callable, Dict, Iterable, List, Optional
@@ -77,7 +78,12 @@ class Base(dnf.Base):
                 if not base_addresses(repo):
                     repo.set_progress_bar(RepositoryProgress(repo, self.conf.cachedir))
         try:
-            self.fill_sack(load_system_repo=with_system)
+            try:
+                self.fill_sack(load_system_repo=with_system)
+            except RepoError as error:
+                if not self._drop_damaged_cache(str(error)):
+                    raise
+                self.fill_sack(load_system_repo=with_system)
         except OSError as error:
             if "RPMDB" in str(error):
                 root = self.conf.installroot
@@ -85,6 +91,20 @@ class Base(dnf.Base):
                     _("The rpm database of {root} cannot be read: {error}").format(root=root, error=error)
                 ) from error
             raise
+
+    def _drop_damaged_cache(self, text: str) -> bool:
+        """Removes the form of the metadata that is made for fast reading, where the library says that it is damaged.
+        Whether there was anything to remove: it is made anew from the metadata."""
+        if "repo_add_solv" not in text:
+            return False
+        found = []
+        for repo in self.repos.iter_enabled():
+            found += glob.glob(os.path.join(glob.escape(self.conf.cachedir), glob.escape(repo.id) + "*.solv*"))
+        for path in found:
+            os.unlink(path)
+        if found:
+            logging.getLogger("dnf").warning("%s", _("The cache of the metadata was damaged: it is made anew"))
+        return bool(found)
 
     def _add_repo_to_sack(self, repo: dnf.repo.Repo) -> None:
         with heard() as causes:

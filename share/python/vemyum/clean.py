@@ -3,6 +3,9 @@
 
 from __future__ import annotations
 
+import glob
+import os
+import shutil
 from typing import List, Optional, Tuple
 
 import dnf.repo
@@ -10,6 +13,10 @@ import dnf.repo
 from . import host
 from .errors import YumBaseError, reported_as
 from .texts import _, ngettext
+
+_UNFINISHED = "*/tmpdir.*"
+"""Where the metadata of a repository are put while they are fetched. A download that was killed leaves it."""
+_UNFINISHED_FILES = r"^[^/]+/tmpdir\.[^/]+/"
 
 
 def clean(cache_directory: Optional[str], *kinds: str) -> Tuple[int, List[str]]:
@@ -24,10 +31,15 @@ def clean(cache_directory: Optional[str], *kinds: str) -> Tuple[int, List[str]]:
     from dnf.cli.commands import clean as dnf_clean
 
     patterns = [dnf.repo.CACHE_FILES[kind] for kind in kinds]
+    if "metadata" in kinds:
+        patterns.append(_UNFINISHED_FILES)
     try:
         with reported_as(YumBaseError, _("Unable to clean")):
             files = list(dnf_clean._filter(list(dnf_clean._tree(cache_directory)), patterns))
             count = dnf_clean._clean(cache_directory, files)
+            if "metadata" in kinds:
+                for folder in glob.glob(os.path.join(glob.escape(cache_directory), _UNFINISHED)):
+                    shutil.rmtree(folder)
     except YumBaseError as error:
         host.errorlog(host.LEVEL_ERROR, str(error))
         return (1, [str(error)])
