@@ -61,12 +61,17 @@ void openInChild()
         if (::sigwait(&set, &signal) != 0) {
             continue;
         }
-        std::lock_guard const lock(transaction().mutex);
-        if (!transaction().runs) {
-            Interrupt::end();
+        std::string words;
+        {
+            std::lock_guard const lock(transaction().mutex);
+            if (!transaction().runs) {
+                Interrupt::end();
+            }
+            transaction().interrupted = true;
+            words = transaction().words;
         }
-        transaction().interrupted = true;
-        StartingPoint::tell(transaction().words.c_str());
+        // A terminal may take its time.
+        StartingPoint::tell(words.c_str());
     }
 }
 

@@ -14,9 +14,12 @@
 
 #include <QEventLoop>
 #include <QFile>
+#include <chrono>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <memory>
+#include <thread>
 #include <utility>
 
 YumIO::EntryKey::EntryKey(bool isGroup, QString keyName)
@@ -219,6 +222,7 @@ void YumIO::execWorkThread(QEventLoop& loop, QThread& thread)
     // A short job may end before the loop begins, and would be waited for in vain: unlike a call of the loop,
     // a queued signal is not lost then.
     connect(&thread, &QThread::finished, &loop, &QEventLoop::quit, Qt::QueuedConnection);
+    ++jobs;
     blocker.prepare();
     thread.start(QThread::HighPriority);
 
@@ -247,6 +251,24 @@ void YumIO::execWorkThread(QEventLoop& loop, QThread& thread)
         }
     }
     pthread_sigmask(SIG_SETMASK, &oldMask, nullptr);
+    --jobs;
+}
+
+void YumIO::leave()
+{
+    // The job may keep the interpreter lock for as long as it takes.
+    constexpr std::chrono::milliseconds patience(1500);
+    std::thread([patience] {
+        std::this_thread::sleep_for(patience);
+        std::_Exit(EXIT_SUCCESS);
+    }).detach();
+    {
+        PyGILStateWrapper const lock(initialized);
+        if (locked) {
+            pyMethodCall(yumIO.get(), "unlock", "()");
+        }
+    }
+    std::_Exit(EXIT_SUCCESS);
 }
 
 bool YumIO::collect(QHash<QString, bool> const& repoStates)

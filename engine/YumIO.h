@@ -13,6 +13,7 @@
 #include <QObject>
 #include <QSet>
 #include <QStringList>
+#include <atomic>
 #include <functional>
 #include <string_view>
 #include <unordered_map>
@@ -117,6 +118,15 @@ public:
     /// ended without an expected exception; the caller must then rebuild. False: nothing to rebuild, marks
     /// and table stay as they are.
     bool apply();
+
+    /// Whether the job in progress has come to where it must not be cut off: rpm works. GUI thread.
+    [[nodiscard]] bool transactionRuns() const { return transactionBegun; }
+    /// Whether a job is in progress. GUI thread.
+    [[nodiscard]] bool jobRuns() const { return jobs > 0; }
+    /// Ends the process in the middle of a job, within two seconds: gives the lock back, if that can be done
+    /// by then, and leaves everything else to the system. What another process does for the job ends with
+    /// this one, unless rpm works there. GUI thread.
+    [[noreturn]] void leave();
 
     /// Empties a cache of the package library. True when the script reports success. A user who isn't allowed
     /// to is told so. GUI thread.
@@ -463,6 +473,8 @@ protected:
     bool locked = false;              ///< this process holds the package library's lock
     bool watching = false;            ///< the transaction on show is another process's
     bool watched = false;             ///< there was one
+    int jobs = 0; ///< jobs in progress, of the GUI thread's event loops; one at most works
+    std::atomic<bool> transactionBegun{false};
     bool yumVersionKnown = false;
     QString yumVersionText;
     bool sqliteKnown = false, sqlite = false;

@@ -65,6 +65,7 @@ bool YumIO::applyReal()
         pyExceptExpect(PyExc_IOError);
         PyRef const result =
             pyMethodCall(yumIO.get(), "apply", "(O,O,O)", installs.get(), updates.get(), removes.get());
+        transactionBegun = false;
         if (Interrupt::transactionEnds()) {
             leaveAfterInterrupt(bool(result));
         }
@@ -87,15 +88,16 @@ bool YumIO::applyReal()
 
 void YumIO::leaveAfterInterrupt(bool succeeded)
 {
-    if (!succeeded) {
-        // There is no window any more to tell it in.
-        PyRef const value = pyExceptValuef();
-        QString const words = value ? pyString(value.get()) : QString();
-        StartingPoint::tell(tr("Error applying changes").toLocal8Bit() + "\n" + words.toLocal8Bit() + "\n");
-    }
+    PyRef const value = succeeded ? PyRef() : pyExceptValuef();
+    QString const cause = value ? pyString(value.get()) : QString();
     pyExceptClear();
     PyErr_Clear();
     pyMethodCall(yumIO.get(), "unlock", "()");
+    if (!succeeded) {
+        // There is no window any more to tell it in.
+        QString const words = tr("Error applying changes") + QLatin1Char('\n') + cause + QLatin1Char('\n');
+        StartingPoint::tell(words.toLocal8Bit().constData());
+    }
     Interrupt::end();
 }
 

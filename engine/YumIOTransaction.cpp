@@ -124,6 +124,7 @@ PyObject* YumIO::tsInitCallback(PyObject*, PyObject* args)
     }
     if (real) {
         QString const words = tr("The transaction goes on; the program ends when it has come to its end.");
+        transactionBegun = true;
         Interrupt::transactionBegins((words + QLatin1Char('\n')).toLocal8Bit().toStdString());
     }
     if (!progress) {

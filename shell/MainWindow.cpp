@@ -16,6 +16,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QCloseEvent>
 #include <QComboBox>
 #include <QEventLoop>
 #include <QFile>
@@ -46,6 +47,29 @@ void MainWindow::setVisible(bool visible)
     QMainWindow::setVisible(visible);
     if (visible) {
         QTimer::singleShot(0, this, &MainWindow::initialize);
+    }
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    if (!yumIO || !yumIO->jobRuns()) {
+        QMainWindow::closeEvent(event);
+    } else if (!yumIO->transactionRuns()) {
+        // Nobody would see what comes of the job, while it kept the lock from others.
+        yumIO->leave();
+    } else {
+        event->ignore();
+        if (!closeBox) {
+            auto* const box = new QMessageBox(
+                QMessageBox::Information, tr("VEM"),
+                tr("Packages are being installed, updated or removed.\nThe window stays open until that has "
+                   "come to its end."),
+                QMessageBox::Ok, this);
+            box->setAttribute(Qt::WA_DeleteOnClose);
+            // Not waited for: the job needs the event loop below.
+            box->open();
+            closeBox = box;
+        }
     }
 }
 

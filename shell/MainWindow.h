@@ -85,6 +85,10 @@ public Q_SLOTS:
     void clearActions();
     void apply();
 
+protected:
+    /// Refused, with a word, while rpm works; ends the process while another job is in progress.
+    void closeEvent(QCloseEvent* event) override;
+
 private:
     void createMenuBar();
     void createMainArea();
@@ -122,6 +126,7 @@ private:
     QAction* cleanXmlMetadataAction = nullptr;
     QAction* cleanPickledCacheAction = nullptr;
     QAction* cleanAllAction = nullptr;
+    QPointer<QWidget> closeBox;       ///< says why the window stays, while it does
     QPointer<QWidget> tableArea;      ///< hidden until the first collection is done
     QPointer<QWidget> focusWhenReady; ///< had the keyboard when the window became busy
     QComboBox* modeCombo = nullptr;

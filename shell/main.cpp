@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <libgen.h>
+#include <memory>
 
 int main(int argc, char** argv)
 {
@@ -25,8 +26,8 @@ int main(int argc, char** argv)
     application = &app;
     program = basename(argv[0]);
 
-    // The window ends the engine in its own quit(), and otherwise lives as long as the process.
-    auto* const window = new MainWindow(nullptr);
+    // However it is closed, the engine that it owns gives the lock back.
+    auto const window = std::make_unique<MainWindow>(nullptr);
     readCommandLine(argc, argv, *window);
     window->show();
     return QApplication::exec();

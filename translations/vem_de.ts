@@ -391,6 +391,16 @@ Die Aktionen werden nicht automatisch angewendet.</translation>
         <source>Total Progress</source>
         <translation>Gesamtfortschritt</translation>
     </message>
+    <message>
+        <source>VEM</source>
+        <translation>VEM</translation>
+    </message>
+    <message>
+        <source>Packages are being installed, updated or removed.
+The window stays open until that has come to its end.</source>
+        <translation>Pakete werden installiert, aktualisiert oder entfernt.
+Das Fenster bleibt offen, bis das zu Ende ist.</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>

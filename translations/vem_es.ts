@@ -391,6 +391,16 @@ No aplica las acciones automáticamente.</translation>
         <source>Total Progress</source>
         <translation>Progreso total</translation>
     </message>
+    <message>
+        <source>VEM</source>
+        <translation>VEM</translation>
+    </message>
+    <message>
+        <source>Packages are being installed, updated or removed.
+The window stays open until that has come to its end.</source>
+        <translation>Se están instalando, actualizando o eliminando paquetes.
+La ventana permanece abierta hasta que termine.</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>

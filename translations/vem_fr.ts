@@ -391,6 +391,16 @@ N’applique pas automatiquement les actions.</translation>
         <source>Total Progress</source>
         <translation>Progression totale</translation>
     </message>
+    <message>
+        <source>VEM</source>
+        <translation>VEM</translation>
+    </message>
+    <message>
+        <source>Packages are being installed, updated or removed.
+The window stays open until that has come to its end.</source>
+        <translation>Des paquets sont en cours d’installation, de mise à jour ou de suppression.
+La fenêtre reste ouverte jusqu’à la fin de l’opération.</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>

@@ -391,6 +391,16 @@ Does not Apply Actions automatically.</source>
         <source>Total Progress</source>
         <translation>全体の進捗</translation>
     </message>
+    <message>
+        <source>VEM</source>
+        <translation>VEM</translation>
+    </message>
+    <message>
+        <source>Packages are being installed, updated or removed.
+The window stays open until that has come to its end.</source>
+        <translation>パッケージをインストール、更新、または削除しています。
+完了するまでウィンドウは閉じません。</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>

@@ -391,6 +391,16 @@ Does not Apply Actions automatically.</source>
         <source>Total Progress</source>
         <translation>总进度</translation>
     </message>
+    <message>
+        <source>VEM</source>
+        <translation>VEM</translation>
+    </message>
+    <message>
+        <source>Packages are being installed, updated or removed.
+The window stays open until that has come to its end.</source>
+        <translation>正在安装、更新或删除软件包。
+在完成之前，窗口将保持打开。</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>

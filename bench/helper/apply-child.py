@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: GPL-2.0-or-later
 """Stands before the process that applies changes where the benchmark wants to know how long dnf itself works there.
 
-    apply-child.py DESCRIPTOR
+    apply-child.py DESCRIPTOR PID
 
 VEM_BENCH_SCRIPT names the program's helper script, VEM_BENCH_TIMES the file for the seconds.
 """
@@ -87,4 +87,4 @@ def _measured(work: Callable[..., Any]) -> Callable[..., Any]:
 
 child._work = _measured(child._work)
 child._Parent.end = _tell(child._Parent.end)  # type: ignore[method-assign]
-child.main(int(sys.argv[1]))
+child.main(*map(int, sys.argv[1:]))

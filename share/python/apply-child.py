@@ -1,13 +1,18 @@
 # SPDX-License-Identifier: GPL-2.0-or-later
-"""The process that applies changes. The helper package starts it, with the descriptor of a connection.
+"""The process that applies changes. The helper package starts it.
 
-    apply-child.py DESCRIPTOR
+    apply-child.py DESCRIPTOR PID
+
+The descriptor is its end of the connection, the number that of the program.
 """
 
 from __future__ import annotations
 
+import os
 import sys
 
-from vemyum.apply import child
+sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 
-child.main(int(sys.argv[1]))
+from vemyum.apply import child  # noqa: E402
+
+child.main(int(sys.argv[1]), int(sys.argv[2]))

@@ -121,3 +121,16 @@ def test_a_program_that_starts_meanwhile_shows_it_and_is_ready_behind_it(working
     log = second.log_text()
     assert f"A transaction is at work, process {working.child} does it" in log
     assert "A transaction whose window was gone has come to its end: fleet-slow" in log
+
+
+def test_closing_the_window_is_refused_meanwhile(working: Working) -> None:
+    program = working.program
+    program.key("alt+F4")
+    box = program.wait("OK", timeout=10)
+    assert "The window stays open until that has come to its end." in program.texts(program.application())
+    program.click(box)
+    working.go_on()
+    program.wait_ready()
+    program.key("alt+F4")
+    assert program.process.wait(10) == 0
+    working.assert_complete()

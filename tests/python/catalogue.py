@@ -55,6 +55,13 @@ NOARCH: Dict[str, str] = {
         requires=("/bin/sh",),
         scriptlets={"post": ": > /running\nwhile ! [ -e /go-on ]; do sleep 0.05; done"},
     ),
+    "slow-lua-1.0": spec(
+        "slow-lua",
+        requires=("/bin/sh",),
+        scriptlets={
+            "post -p <lua>": "os.execute(': > /running; while ! [ -e /go-on ]; do sleep 0.05; done')"
+        },
+    ),
     "core-1.0": spec("core", "1.0", provides=("installonlypkg(kernel)",), files={"/boot/core-1.0": "1"}),
     "core-2.0": spec("core", "2.0", provides=("installonlypkg(kernel)",), files={"/boot/core-2.0": "2"}),
     "core-3.0": spec("core", "3.0", provides=("installonlypkg(kernel)",), files={"/boot/core-3.0": "3"}),

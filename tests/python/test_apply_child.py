@@ -102,7 +102,7 @@ def test_request_names_the_marks_and_the_repositories(scripted: Scripted, tmp_pa
     from vemyum.apply import messages
 
     assert messages.from_line(line.read_bytes()) == messages.Request(
-        messages.PROTOCOL, {"base": True}, [messages.Wish("base", "lone", "noarch", "1.0-1")], [], 1
+        messages.PROTOCOL, {"base": True}, [messages.Wish("base", "lone", "noarch", "1.0-1")], [], 1, "/etc/yum.conf"
     )
 
 
@@ -181,8 +181,8 @@ def test_exception_of_the_host_leaves_what_has_begun_to_its_end(
     found = ready[1].collect()
     with monkeypatch.context() as patch:
         patch.setattr(host, "tsEvent", refuse)
-        with pytest.raises(ZeroDivisionError):
-            found.yumio.apply([found.offered("lone")], [], [])
+        found.yumio.apply([found.offered("lone")], [], [])
+    assert "ZeroDivisionError" in host.text("errorlog")
     assert ready[0].installed() == {"battery-1.0-1.noarch", "lone-1.0-1.noarch"}
 
 
@@ -277,6 +277,114 @@ def dead(pid: int) -> bool:
     from vemyum import processes
 
     return not processes.lives(pid)
+
+
+def test_output_of_the_transaction_leads_nowhere_once_the_program_is_gone(
+    waiting: Tuple[Estate, Path, Path]
+) -> None:
+    """The root has no /dev; and what a scriptlet writes must not end it."""
+    estate, running, goes_on = waiting
+    window = Window()
+    child = window.child()
+    window.agree()
+    eventually(running.exists)
+    window.process.kill()
+    window.process.wait()
+    eventually(lambda: {os.readlink(f"/proc/{child}/fd/{number}") for number in (1, 2)} == {"/dev/null"})
+    goes_on.touch()
+    eventually(lambda: dead(child))
+
+
+def test_scriptlets_do_not_keep_the_connection_alive(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
+) -> None:
+    """A Lua scriptlet starts a command by itself, where rpm closes nothing; the process dies meanwhile."""
+    estate.install(rpms.some("shell-1.0"))
+    estate.repository("base", rpms.some("slow-lua-1.0"))
+    found = program.collect()
+    killer = (
+        f"while ! [ -e {estate.root}/running ]; do sleep 0.05; done; "
+        f"read -r pid < {lock_files(estate)[2]} || :; kill -9 $pid"
+    )
+    with subprocess.Popen(["sh", "-c", killer]):
+        text = fails(program, lambda: found.yumio.apply(list(found.available), [], []))
+    (estate.root / "go-on").touch()
+    assert text.startswith("The process that applies the changes has died (signal 9, Killed).")
+
+
+def test_children_that_leave_nothing_to_wait_for_are_no_fault(ready: Tuple[Estate, Program]) -> None:
+    found = ready[1].collect()
+    before = signal.signal(signal.SIGCHLD, signal.SIG_IGN)
+    try:
+        found.yumio.apply([found.offered("lone")], [], [])
+    finally:
+        signal.signal(signal.SIGCHLD, before)
+    assert ready[0].installed() == {"battery-1.0-1.noarch", "lone-1.0-1.noarch"}
+
+
+def test_safe_path_of_the_interpreter_is_no_fault(
+    ready: Tuple[Estate, Program], monkeypatch: pytest.MonkeyPatch
+) -> None:
+    monkeypatch.setenv("PYTHONSAFEPATH", "1")
+    found = ready[1].collect()
+    found.yumio.apply([found.offered("lone")], [], [])
+    assert ready[0].installed() == {"battery-1.0-1.noarch", "lone-1.0-1.noarch"}
+
+
+def test_lock_file_that_vanished_meanwhile_is_made_anew(ready: Tuple[Estate, Program], host: FakeHost) -> None:
+    estate, program = ready
+    host.on_confirm = lock_files(estate)[0].unlink
+    found = program.collect()
+    found.yumio.apply([found.offered("lone")], [], [])
+    assert holders(estate) == [str(os.getpid())] * 3
+
+
+def test_lock_that_somebody_took_meanwhile_hides_no_death(
+    ready: Tuple[Estate, Program], scripted: Scripted, host: FakeHost
+) -> None:
+    estate, program = ready
+    apply = scripted("hello(); sys.exit(3)")
+    lock_files(estate)[1].write_text("1")
+    assert "has died (exit status 3)" in fails(program, apply)
+    assert "download_lock.pid has been changed" in host.text("errorlog")
+    assert holders(estate) == [str(os.getpid()), "1", str(os.getpid())]
+    program.yumio.unlock()
+    assert holders(estate) == [None, "1", None]
+
+
+def test_password_in_a_traceback_is_masked(
+    ready: Tuple[Estate, Program], in_child: Callable[[str], None]
+) -> None:
+    address = "http://host/buffet?login=me&key=secret&path=/os"
+    in_child(f"import vemyum.configuration as one\ndef fail(root): raise KeyError({address!r})\none.main_file = fail")
+    found = ready[1].collect()
+    with pytest.raises(Exception, match="key=\\*\\*\\*&path") as caught:
+        found.yumio.apply([found.offered("lone")], [], [])
+    assert "secret" not in str(caught.value)
+
+
+def test_full_disk_ends_the_journal_and_not_the_transaction(
+    ready: Tuple[Estate, Program], in_child: Callable[[str], None], host: FakeHost
+) -> None:
+    in_child(
+        "import errno\n"
+        "from vemyum.apply import child\n"
+        "commit = child._Parent.commit\n"
+        "def full(self, conf, changes):\n"
+        "    from vemyum.apply import journal\n"
+        "    write, journal.os = journal.os.write, type(sys)('os')\n"
+        "    import os\n"
+        "    journal.os.__dict__.update(os.__dict__)\n"
+        "    def refuse(*_): raise OSError(errno.ENOSPC, 'No space left on device')\n"
+        "    journal.os.write = refuse\n"
+        "    commit(self, conf, changes)\n"
+        "child._Parent.commit = full"
+    )
+    found = ready[1].collect()
+    found.yumio.apply([found.offered("lone")], [], [])
+    assert ready[0].installed() == {"battery-1.0-1.noarch", "lone-1.0-1.noarch"}
+    assert "The journal of the transaction cannot be written: /var/lib/dnf/vem-transaction: No space left" in host.text("log")
+    assert not (ready[0].root / "var/lib/dnf/vem-transaction").exists()
 
 
 @pytest.mark.parametrize("number", [signal.SIGTERM, signal.SIGHUP, signal.SIGINT, signal.SIGKILL])

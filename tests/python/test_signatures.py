@@ -109,3 +109,42 @@ def test_main_file_decides_where_the_repository_is_silent(
     found = program.collect()
     found.yumio.apply([found.offered("lone")], [], [])
     assert estate.installed() == {"lone-1.0-1.noarch"}
+
+
+@pytest.mark.parametrize("value", ["perhaps", "", "2", "-1", "yes please"])
+@pytest.mark.parametrize("place", ["main", "base"])
+def test_value_that_is_neither_yes_nor_no_counts_as_yes_and_is_told(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost, place: str, value: str
+) -> None:
+    estate.write_main_config(gpgcheck=value if place == "main" else "0")
+    estate.repository("base", rpms.some("lone-1.0"), extra={"gpgcheck": value if place == "base" else None})
+    refused(program, "lone-1.0-1.noarch", "is not signed")
+    assert estate.installed() == set()
+    assert f"[{place}]: gpgcheck counts as switched on" in host.text("errorlog")
+
+
+def test_main_file_that_vanished_stops_the_apply(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
+) -> None:
+    """Nothing would ask for signatures any more."""
+    main = estate.write_main_config(gpgcheck="1")
+    estate.repository("base", rpms.some("lone-1.0"), extra={"gpgcheck": None})
+    found = program.collect()
+    main.unlink()
+    with pytest.raises(program.errors.YumBaseError, match="/etc/yum.conf is no longer there"):
+        found.yumio.apply([found.offered("lone")], [], [])
+    assert estate.installed() == set()
+    assert not host.named("userconfirm")
+
+
+def test_main_file_that_cannot_be_read_any_more_stops_the_apply(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
+) -> None:
+    main = estate.write_main_config(gpgcheck="1")
+    estate.repository("base", rpms.some("lone-1.0"), extra={"gpgcheck": None})
+    found = program.collect()
+    main.unlink()
+    main.mkdir()
+    with pytest.raises(program.errors.YumBaseError, match="/etc/yum.conf"):
+        found.yumio.apply([found.offered("lone")], [], [])
+    assert estate.installed() == set()

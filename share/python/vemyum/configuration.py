@@ -10,7 +10,7 @@ from __future__ import annotations
 import contextlib
 import logging
 import os
-from typing import Dict, Iterator, List, NamedTuple, Optional, Tuple
+from typing import Any, Dict, Iterator, List, NamedTuple, Optional, Tuple
 
 import dnf.conf
 import dnf.conf.config
@@ -48,6 +48,7 @@ WITHOUT_ANY = MAIN_FILES[1]
 """The one that is missing where none exists."""
 
 LOG_DIRECTORY = "/var/log"
+SIGNATURE_OPTIONS = ("gpgcheck", "repo_gpgcheck", "localpkg_gpgcheck")
 PROTECTED_DIRECTORIES = ("/etc/yum/protected.d", "/etc/dnf/protected.d")
 ALWAYS_PROTECTED = ("dnf", "yum")
 
@@ -61,6 +62,22 @@ def misread(error: dnf.exceptions.ConfigError) -> YumBaseError:
 def main_file(root: str) -> MainFile:
     """The main configuration file that counts below the root, whether it exists or not."""
     return next((file for file in MAIN_FILES if _is_there(root, file.path)), WITHOUT_ANY)
+
+
+def existing_main_file(root: str) -> str:
+    """The path of the main configuration file that counts below the root; empty where there is none."""
+    path = main_file(root).path
+    return path if _is_there(root, path) else ""
+
+
+def require_main_file(path: str) -> None:
+    """YumBaseError when this file of the managed system is gone; an empty path asks for none."""
+    if path and not _is_there(managed_root(), path):
+        raise YumBaseError(
+            _("The main configuration file {file} is no longer there. Please refresh the list of packages.").format(
+                file=path
+            )
+        )
 
 
 def _is_there(root: str, path: str) -> bool:
@@ -89,8 +106,12 @@ def read_configuration() -> dnf.conf.MainConf:
     try:
         with undecodable_named(path):
             conf.read(path, dnf.conf.config.PRIO_MAINCONFIG)
+        parser = libdnf.conf.ConfigParser()
+        if os.path.exists(path):
+            parser.read(path)
     except dnf.exceptions.ConfigError as error:
         raise misread(error) from error
+    check_signatures_unless_told(conf, parser, "main", dnf.conf.config.PRIO_MAINCONFIG)
     point_rpm_at(root)
     _read_variables(conf, root)
     if "releasever" not in conf.substitutions:
@@ -105,6 +126,21 @@ def read_configuration() -> dnf.conf.MainConf:
     for directory in (conf.logdir, conf.cachedir):
         dnf.util.ensure_dir(directory)
     return conf
+
+
+def check_signatures_unless_told(settings: Any, parser: libdnf.conf.ConfigParser, section: str, priority: int) -> None:
+    """Switches the check of signatures on where the configuration says something else than yes or no.
+
+    dnf reports such a value and goes on as if it weren't there, which may mean without a check.
+    """
+    for name in SIGNATURE_OPTIONS:
+        if parser.hasSection(section) and name in parser.options(section):
+            try:
+                libdnf.conf.OptionBool(True).fromString(parser.getSubstitutedValue(section, name))
+            except RuntimeError:
+                settings._set_value(name, True, priority)
+                text = _("[{section}]: {option} counts as switched on, since its value is neither yes nor no")
+                logging.getLogger("dnf").error("%s", text.format(section=section, option=name))
 
 
 @contextlib.contextmanager

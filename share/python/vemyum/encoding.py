@@ -14,10 +14,12 @@ import os
 import tempfile
 from typing import Any, Dict, Iterator, List, Optional, Tuple
 
+import dnf.conf.config
 import dnf.conf.read
 import dnf.exceptions
 import dnf.util
 
+from .configuration import check_signatures_unless_told
 from .errors import os_error_text
 from .root import files, within
 from .text import valid
@@ -59,6 +61,11 @@ class RepositoryReader(dnf.conf.read.RepoReader):
         for _path, place in found:
             paths.setdefault(_identity(place), place)
         return [path for path in paths.values() if path]
+
+    def _build_repo(self, parser: Any, id_: str, repofn: str) -> Any:
+        repo = super()._build_repo(parser, id_, repofn)
+        check_signatures_unless_told(repo, parser, id_, dnf.conf.config.PRIO_REPOCONFIG)
+        return repo
 
     def _get_repos(self, repofn: str) -> Iterator[Any]:
         with _utf8_file(repofn) as file:

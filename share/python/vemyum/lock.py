@@ -93,9 +93,15 @@ class ProcessLock:
 
     def take_back(self, holder: int) -> None:
         """Behind the end of a process that had taken the lock over: makes it this one's again. LockError."""
-        with reported_as(LockError):
-            for target in self._held:
-                _change_holder(target, holder, os.getpid())
+        faults: List[LockError] = []
+        for target in self._held:
+            try:
+                with reported_as(LockError):
+                    _change_holder(target, holder, os.getpid())
+            except LockError as error:
+                faults.append(error)
+        if faults:
+            raise faults[0]
 
     def release(self) -> None:
         """Gives the lock up, on any thread; nothing happens when it isn't held. LockError if it fails."""
@@ -125,7 +131,9 @@ class ProcessLock:
         # another one; what counts for others is the file.
         for target in reversed(taken):
             with contextlib.suppress(FileNotFoundError, NotADirectoryError):
-                os.unlink(target)
+                with _opened(target) as file:
+                    if _holder(file) == os.getpid():
+                        os.unlink(target)
 
 
 def _enter(lock: Any) -> None:
@@ -139,9 +147,9 @@ def _enter(lock: Any) -> None:
 
 
 @contextlib.contextmanager
-def _opened(target: str) -> Iterator[int]:
+def _opened(target: str, flags: int = 0) -> Iterator[int]:
     """The pid file, locked as dnf locks it while it reads and writes there. OSError."""
-    file = os.open(target, os.O_RDWR | os.O_CLOEXEC)
+    file = os.open(target, os.O_RDWR | os.O_CLOEXEC | flags, 0o644)
     try:
         fcntl.flock(file, fcntl.LOCK_EX)
         yield file
@@ -164,13 +172,13 @@ def _forget_dead_holder(target: str) -> None:
 
 
 def _change_holder(target: str, before: int, after: int) -> None:
-    """LockError when another process than these two has the lock, OSError."""
-    with _opened(target) as file:
-        pid = _holder(file)
-        if pid not in (before, after):
+    """LockError when another process than these two has the lock, OSError. A file that is gone is made anew."""
+    with _opened(target, os.O_CREAT) as file:
+        if _holder(file) not in (None, before, after):
             raise LockError(_("The lock file {file} has been changed.").format(file=target))
         text = str(after).encode()
-        os.pwrite(file, text, 0)
+        # At every moment one of the two: what follows a number are blanks.
+        os.pwrite(file, text.ljust(os.fstat(file).st_size), 0)
         os.ftruncate(file, len(text))
 
 

@@ -15,7 +15,7 @@ from . import host, rights
 from .apply.journal import await_transaction, tell_last
 from .base import Base, open_base
 from .comps import CompsGroup
-from .configuration import Configuration, main_file, read_configuration
+from .configuration import Configuration, existing_main_file, main_file, read_configuration
 from .details import PackageDetails
 from .errors import LockError, RepoError, YumBaseError, reported_as
 from .groups import Group, groups_of, read_groups
@@ -67,6 +67,7 @@ class Session:
             if not lenient:
                 raise self._fault from error
             self.repositories = UnreadableRepositories(main_file(managed_root()).path)
+        self.main_file = existing_main_file(managed_root())
         self.conf = Configuration(self._conf.substitutions if self._conf is not None else {})
 
     # Lock ------------------------------------------------------------------------------------------------

@@ -3,7 +3,9 @@
 
 from __future__ import annotations
 
+import select
 import socket
+import time
 from typing import Optional
 
 from .messages import Message, from_line, to_line
@@ -30,20 +32,28 @@ class Channel:
         """Sends without ever waiting for the other end. What it doesn't take at once goes with later messages;
         an unimportant message is then dropped."""
         if unimportant and self._pending:
-            self._try(socket.MSG_DONTWAIT)
+            self._try()
             if self._pending:
                 return
         self._pending += to_line(message)
-        self._try(socket.MSG_DONTWAIT)
+        self._try()
 
-    def flush(self) -> None:
-        """Waits until the other end has taken everything, or is gone."""
-        self._try(0)
+    def flush(self, seconds: Optional[float] = None) -> None:
+        """Waits until the other end has taken everything, or is gone, or the seconds are over."""
+        deadline = None if seconds is None else time.monotonic() + seconds
+        room = select.poll()
+        room.register(self._socket, select.POLLOUT)
+        self._try()
+        while self._pending:
+            left = None if deadline is None else max(0.0, deadline - time.monotonic()) * 1000
+            if not room.poll(left):
+                return
+            self._try()
 
-    def _try(self, flags: int) -> None:
+    def _try(self) -> None:
         while self._pending and not self._gone:
             try:
-                sent = self._socket.send(self._pending, flags | socket.MSG_NOSIGNAL)
+                sent = self._socket.send(self._pending, socket.MSG_DONTWAIT | socket.MSG_NOSIGNAL)
             except BlockingIOError:
                 return
             except OSError:

@@ -7,6 +7,7 @@ Until rpm begins it ends with the program that started it. From there on it goes
 from __future__ import annotations
 
 import contextlib
+import ctypes
 import gc
 import locale
 import os
@@ -53,33 +54,42 @@ from .messages import (
 _KEPT_OFF = (signal.SIGINT, signal.SIGTERM, signal.SIGHUP, signal.SIGQUIT, signal.SIGPIPE)
 """What ends a process that doesn't expect it; here it waits until the transaction is over, and so for ever."""
 
+_PATIENCE = 2.0
+"""Seconds that rpm waits for a program that stands still to hear of its beginning."""
+
 _PAUSE = 0.02
 """Seconds between two reports of how far the same file or package is; a bar can show no more."""
 
 
-def main(descriptor: int) -> NoReturn:
-    """The whole life of the process. The descriptor is one end of a connected pair of sockets."""
+def main(descriptor: int, program: int) -> NoReturn:
+    """The whole life of the process. The descriptor is one end of a connected pair of sockets; the other one is in
+    the program, whose number is given too."""
     _settle()
-    parent = _Parent(Channel(socket.socket(fileno=descriptor)))
+    # It came open for this program. What a scriptlet starts must not keep the connection alive.
+    os.set_inheritable(descriptor, False)
+    parent = _Parent(Channel(socket.socket(fileno=descriptor)), program)
     # The host module of this process, before anything looks for it.
     sys.modules["yumIOC"] = RemoteHost(parent)
     ended = _work(parent)
     parent.end(ended)
-    # Nobody waits for what an orderly end of the interpreter would free.
+    # Nobody waits for what an orderly end of the interpreter would free; only what C libraries still hold is wanted.
+    ctypes.CDLL(None).fflush(None)
     os._exit(0)
 
 
 def _settle() -> None:
     """What the program has set up for itself is not for this process."""
     signal.pthread_sigmask(signal.SIG_SETMASK, ())
-    signal.signal(signal.SIGINT, signal.SIG_DFL)
+    for number in (signal.SIGINT, signal.SIGCHLD):
+        signal.signal(number, signal.SIG_DFL)
     with contextlib.suppress(locale.Error):
         locale.setlocale(locale.LC_ALL, "")
 
 
 def _work(parent: "_Parent") -> Ended:
     from .. import messages, streams
-    from ..configuration import read_configuration
+    from ..configuration import read_configuration, require_main_file
+    from ..credentials import masked
     from ..errors import YumBaseError, reported_as
     from ..lock import LOCK
     from .work import Work
@@ -92,6 +102,8 @@ def _work(parent: "_Parent") -> Ended:
     try:
         with reported_as(YumBaseError):
             request = parent.request()
+            # Without the file that it rests on, nothing may ask for signatures any more.
+            require_main_file(request.main_file)
             conf = read_configuration()
             LOCK.take_over(conf, parent.pid)
             work = Work(conf, request)
@@ -102,25 +114,27 @@ def _work(parent: "_Parent") -> Ended:
     except BrokenPipeError as error:
         outcome, text = BROKEN_PIPE, str(error)
     except BaseException:  # noqa: BLE001 - told to whoever asked for the work
-        outcome, text = INTERNAL, traceback.format_exc()
+        outcome, text = INTERNAL, masked(traceback.format_exc())
     return Ended(outcome, text, work.installed if work is not None else -1)
 
 
 class _Parent:
     """The program that started this process, while it listens and when it doesn't any more."""
 
-    def __init__(self, channel: Channel) -> None:
-        self.pid = os.getppid()
+    def __init__(self, channel: Channel, pid: int) -> None:
+        self.pid = pid
         self._channel = channel
         self._said: "queue.Queue[Optional[Message]]" = queue.Queue()
         self._journal: Any = None
         self._committing = threading.Lock()
         self._committed = False
-        self._left = False
+        self._heard = False
+        self._settled = threading.Event()
+        # Opened now: later on there may be another root, without one.
+        self._nowhere = os.open(os.devnull, os.O_RDWR | os.O_CLOEXEC)
         # The listening thread takes none of these signals: what is to end the process meets the thread that works.
         signal.pthread_sigmask(signal.SIG_BLOCK, _KEPT_OFF)
-        self._listener = threading.Thread(target=self._listen, daemon=True)
-        self._listener.start()
+        threading.Thread(target=self._listen, daemon=True).start()
         signal.pthread_sigmask(signal.SIG_UNBLOCK, _KEPT_OFF)
 
     def send(self, message: Message, unimportant: bool = False) -> None:
@@ -152,6 +166,8 @@ class _Parent:
         pid = os.getpid()
         self._journal = Journal(conf, Begun(PROTOCOL, pid, processes.start_of(pid), self.pid, changes))
         host.transaction_init(True)
+        # What happens from here on is told otherwise than what happened before, so the program has to know.
+        self._channel.flush(_PATIENCE)
 
     def end(self, ended: Ended) -> None:
         """Tells the program the outcome and gives it the lock back; without a program the journal tells it."""
@@ -160,42 +176,46 @@ class _Parent:
             self._committed = True
         self._channel.send(ended)
         self._channel.flush()
-        self._listener.join()
-        if self._journal is not None and self._left:
+        self._settled.wait()
+        if self._journal is not None and self._heard:
             self._journal.remove()
         elif self._journal is not None:
             self._journal.end(ended)
-        self._hand_back()
+        self._hand_back(gone=not self._heard)
 
-    def _hand_back(self) -> None:
+    def _hand_back(self, gone: bool) -> None:
         from ..lock import LOCK
 
-        if self._left:
-            LOCK.give_over(self.pid)
-        else:
+        if gone:
             with contextlib.suppress(Exception):
                 LOCK.release()
+        else:
+            LOCK.give_over(self.pid)
 
     def _listen(self) -> None:
         """On a thread of its own: what the program says, and whether it is there."""
-        with contextlib.suppress(ProtocolError):
-            while not self._left:
+        message: Optional[Message] = Leave(heard=False)
+        while message is not None:
+            try:
                 message = self._channel.receive()
-                if message is None:
-                    break
-                self._left = isinstance(message, Leave)
-                self._said.put(message)
+            except ProtocolError:
+                message = Leave(heard=False)
+            self._said.put(message)
+            if isinstance(message, Leave) and message.heard:
+                self._heard = True
+                self._settled.set()
+            elif message is None or isinstance(message, Leave):
+                self._end_unless_committed(message is None)
+        self._settled.set()
+        # What the program captured leads nowhere now.
+        for descriptor in (1, 2):
+            os.dup2(self._nowhere, descriptor)
+
+    def _end_unless_committed(self, gone: bool) -> None:
         with self._committing:
             if not self._committed:
-                self._hand_back()
+                self._hand_back(gone)
                 os._exit(1)
-        if self._left:
-            return
-        # What it captured leads nowhere now.
-        nowhere = os.open(os.devnull, os.O_RDWR)
-        for descriptor in (1, 2):
-            os.dup2(nowhere, descriptor)
-        os.close(nowhere)
 
 
 class RemoteHost(types.ModuleType):

@@ -17,6 +17,7 @@ import dnf.conf
 
 from .. import host, processes
 from ..errors import os_error_text
+from ..root import as_configured
 from ..texts import _
 from .messages import DONE, Begun, Ended, Event, Message, ProtocolError, from_line, to_line
 
@@ -41,6 +42,10 @@ class Journal:
             flags = os.O_WRONLY | os.O_CREAT | os.O_TRUNC | os.O_CLOEXEC
             self._file = os.open(self._path, flags, 0o600)
         self._write(begun)
+        with self._best_effort():
+            if self._file is not None:
+                # A machine that stops in the middle of it shall know what it was about.
+                os.fsync(self._file)
 
     def event(self, event: Event) -> None:
         if event.ordinal != self._ordinal:
@@ -50,6 +55,9 @@ class Journal:
     def end(self, ended: Ended) -> None:
         """The transaction is over, and nobody heard it."""
         self._write(ended)
+        if self._file is None:
+            # Without its end it would tell of a transaction that was cut off.
+            self.remove()
 
     def remove(self) -> None:
         """The transaction is over, and the program knows."""
@@ -58,8 +66,17 @@ class Journal:
 
     def _write(self, message: Message) -> None:
         with self._best_effort():
-            if self._file is not None:
-                os.write(self._file, to_line(message))
+            if self._file is None:
+                return
+            before = os.lseek(self._file, 0, os.SEEK_CUR)
+            line = to_line(message)
+            try:
+                while line:
+                    line = line[os.write(self._file, line) :]
+            except OSError:
+                # Whole lines only.
+                os.ftruncate(self._file, before)
+                raise
 
     @contextlib.contextmanager
     def _best_effort(self) -> Iterator[None]:
@@ -69,9 +86,11 @@ class Journal:
             if self._file is not None:
                 os.close(self._file)
                 self._file = None
+            if error.filename is None:
+                error.filename = self._path
+            cause = as_configured(os_error_text(error))
             host.log(
-                host.LEVEL_DEBUG,
-                _("The journal of the transaction cannot be written: {cause}").format(cause=os_error_text(error)),
+                host.LEVEL_DEBUG, _("The journal of the transaction cannot be written: {cause}").format(cause=cause)
             )
 
 
@@ -116,10 +135,10 @@ def open_journal(conf: dnf.conf.MainConf) -> Optional[Reader]:
         begun = from_line(file.readline())
     except (OSError, ProtocolError):
         begun = None
-    if not isinstance(begun, Begun):
-        file.close()
-        return None
-    return Reader(file, begun)
+    if isinstance(begun, Begun):
+        return Reader(file, begun)
+    file.close()
+    return None
 
 
 def await_transaction(conf: dnf.conf.MainConf) -> None:

@@ -39,13 +39,15 @@ class Wish:
 @dataclasses.dataclass(frozen=True)
 class Request:
     """What is to be done. `repositories` tells whether this session uses each, by its id; `installed` is how many
-    packages the system has by all that the parent knows, 0 where it knows nothing."""
+    packages the system has by all that the parent knows, 0 where it knows nothing; `main_file` is the main
+    configuration file that the list of packages rests on, empty for none."""
 
     protocol: int
     repositories: Dict[str, bool]
     incoming: List[Wish]
     removes: List[Wish]
     installed: int
+    main_file: str
 
 
 @dataclasses.dataclass(frozen=True)
@@ -57,7 +59,10 @@ class Answer:
 
 @dataclasses.dataclass(frozen=True)
 class Leave:
-    """The parent has heard enough, the end or too much to go on. A parent that is gone without it has heard nothing."""
+    """The parent has heard `Ended`, or else something over which it gives up: what has not begun ends then. A parent
+    that is gone without having heard the end knows nothing of it."""
+
+    heard: bool
 
 
 # From the child ----------------------------------------------------------------------------------------------

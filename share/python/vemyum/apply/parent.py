@@ -54,7 +54,7 @@ COMMAND = [
     sys.executable or "/usr/bin/python3",
     os.path.join(os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__)))), "apply-child.py"),
 ]
-"""What starts the process; the descriptor of its connection is added."""
+"""What starts the process; the descriptor of its connection and this process's number are added."""
 
 
 class ChildFault(Exception):
@@ -84,6 +84,7 @@ class Apply:
             [_wish(package, package.po.reponame) for package in (*installs, *(pair[0] for pair in updates))],
             [_wish(package, hawkey.SYSTEM_REPO_NAME) for package in removes],
             Collector.known_installed(root),
+            self._session.main_file,
         )
         with _Child(root) as child:
             ended = self._converse(child, request)
@@ -96,7 +97,7 @@ class Apply:
         elif ended.outcome == BROKEN_PIPE:
             raise BrokenPipeError(errno.EPIPE, ended.text)
         elif ended.outcome == INTERNAL:
-            raise ChildFault(ended.text)
+            raise ChildFault(self._with_consequence(ended.text) if self._begun else ended.text)
 
     def _converse(self, child: "_Child", request: Request) -> Ended:
         try:
@@ -112,7 +113,14 @@ class Apply:
                     return message
                 if message is None:
                     raise YumBaseError(self._with_consequence(child.end()))
-                self._take(message, child)
+                try:
+                    self._take(message, child)
+                except ProtocolError:
+                    raise
+                except Exception as error:  # noqa: BLE001 - what has begun is heard to its end
+                    if not self._begun:
+                        raise
+                    host.errorlog(host.LEVEL_ERROR, f"{type(error).__name__}: {error}")
         except ProtocolError as error:
             said = _("The process that applies the changes said what cannot be understood: {line}").format(line=error)
             raise YumBaseError(self._with_consequence(said)) from error
@@ -188,10 +196,10 @@ class _Child:
             # Its standard output and error are the ones that the engine captures. In a session of its own, so that
             # what is typed on the terminal isn't meant for it.
             self._process = subprocess.Popen(
-                [*COMMAND, str(theirs.fileno())],
+                [*COMMAND, str(theirs.fileno()), str(os.getpid())],
                 stdin=subprocess.DEVNULL,
                 pass_fds=(theirs.fileno(),),
-                env={**os.environ, "VEMROOT": root},
+                env=os.environ if root == "/" else {**os.environ, "VEMROOT": root},
                 cwd="/",
                 start_new_session=True,
             )
@@ -207,7 +215,9 @@ class _Child:
 
     def end(self) -> str:
         """Waits for the end of the process, and tells how that was. The lock is this process's again then."""
-        os.waitid(os.P_PID, self._process.pid, os.WEXITED | os.WNOWAIT)
+        # Somebody may have arranged that children leave nothing to wait for.
+        with contextlib.suppress(ChildProcessError):
+            os.waitid(os.P_PID, self._process.pid, os.WEXITED | os.WNOWAIT)
         try:
             # Before the other one's number is free.
             LOCK.take_back(self._process.pid)
@@ -220,16 +230,23 @@ class _Child:
             cause = _("signal {number}, {name}").format(number=-code, name=signal.strsignal(-code))
         return _("The process that applies the changes has died ({cause}).").format(cause=cause)
 
+    def _says_the_end(self) -> bool:
+        with contextlib.suppress(ProtocolError):
+            message = self.channel.receive()
+            return message is None or isinstance(message, Ended)
+        return False
+
     def __enter__(self) -> "_Child":
         return self
 
     def __exit__(self, kind: Any, *_: Any) -> None:
         try:
             # A transaction that has not begun ends here, one that has begun is heard to its end.
-            self.tell(Leave())
-            with contextlib.suppress(ProtocolError):
-                while kind is not None and self.channel.receive() is not None:
+            if kind is not None:
+                self.tell(Leave(heard=False))
+                while not self._says_the_end():
                     pass
+            self.tell(Leave(heard=True))
         finally:
             self.channel.close()
             if self._process.returncode is None:
