@@ -133,6 +133,33 @@ def test_newer_metadata_does_not_slip_in_behind_the_table(
     assert web.requests() == []
 
 
+def test_cause_and_address_of_a_failure_are_named_once(
+    served: Estate, rpms: Catalogue, program: Program, host: FakeHost, web: Web
+) -> None:
+    found = program.collect()
+    folder = served.repos_dir / "base"
+    files = {rpm.name.split("-")[0]: rpm for rpm in folder.glob("*.rpm")}
+    content = {name: rpm.read_bytes() for name, rpm in files.items()}
+    for rpm in files.values():
+        # The repository's files may be those of all tests.
+        rpm.unlink()
+    files["lib"].write_bytes(content["lib"][:1000])
+    files["battery"].write_bytes(bytes(len(content["battery"])))
+    causes = {
+        "lone": f"Status code: 404 for {web.url}/base/lone-1.0-1.noarch.rpm",
+        "lib": f"{web.url}/base/lib-1.0-1.noarch.rpm: ",
+        "battery": f"{web.url}/base/battery-1.0-1.noarch.rpm: ",
+    }
+    for name, cause in causes.items():
+        host.reset()
+        with pytest.raises(program.errors.YumBaseError) as caught:
+            found.yumio.apply([found.offered(name)], [], [])
+        text = str(caught.value)
+        assert f"{name}-1.0-1.noarch: " in text and text.count(cause) == 1, text
+        assert host.text("log").count(cause) == 1
+        assert "checksum" in text or name != "battery"
+
+
 # The meter alone --------------------------------------------------------------------------------------
 
 

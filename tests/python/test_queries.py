@@ -211,6 +211,8 @@ def test_progress_is_told_as_for_others(guarded: Estate, program: Program, host:
         ("/buffet?u=me&p=a=b&path=/os", "/buffet?u=me&p=***&path=/os"),
         ("/buffet?u=me&p=&path=/os", "/buffet?u=me&p=&path=/os"),
         ("http://h/os?u=me&p=pw", "http://h/os?u=me&p=pw"),
+        ("see http://me:pw@h/os and ftp://you:p%40w@h:21/", "see http://me:***@h/os and ftp://you:***@h:21/"),
+        ("http://h:80/a@b http://me@h/ mail me:you@h", "http://h:80/a@b http://me@h/ mail me:you@h"),
     ],
 )
 def test_passwords_are_masked(program: Program, text: str, shown: str) -> None:

@@ -4,6 +4,7 @@
 from __future__ import annotations
 
 import contextlib
+import functools
 import glob
 import logging
 import os
@@ -134,6 +135,11 @@ class Base(dnf.Base):
         MetadataFetcher(repo, meter).fetch(lazy)
 
     def _download_remote_payloads(self, payloads: Any, *rest: Any, **options: Any) -> Any:
+        for payload in payloads:
+            # dnf passes the message on and keeps the address.
+            tell = getattr(payload.progress, "mirror_failed", None)
+            if tell is not None:
+                payload._mirrorfail_cb = functools.partial(_tell_of_mirror, tell, payload)
         for turn in range(rounds(payloads) - 1):
             ask_by_complete_address(payloads, turn)
             try:
@@ -148,6 +154,10 @@ class Base(dnf.Base):
             self.before_run()
         with inhibited():
             return super()._run_transaction(cb)
+
+
+def _tell_of_mirror(tell: Callable[[Any, str, str], None], payload: Any, _data: Any, message: Any, url: Any) -> None:
+    tell(payload, str(message or ""), str(url or ""))
 
 
 def address(repo: dnf.repo.Repo) -> str:

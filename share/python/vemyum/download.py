@@ -5,7 +5,7 @@ from __future__ import annotations
 
 import os
 from collections import OrderedDict
-from typing import Any, List, Optional
+from typing import Any, Dict, List, Optional
 
 import dnf.callback
 import dnf.exceptions
@@ -44,6 +44,7 @@ class DownloadMeter(dnf.callback.DownloadProgress):
         super().__init__()
         self._files: "OrderedDict[str, _File]" = OrderedDict()
         self._shown = ""
+        self._causes: Dict[str, Dict[str, None]] = {}
 
     def start(self, total_files: int, total_size: int, total_drpms: int = 0) -> None:
         self._files.clear()
@@ -56,7 +57,7 @@ class DownloadMeter(dnf.callback.DownloadProgress):
 
     def end(self, payload: Any, status: Any, msg: Any) -> None:
         if status == dnf.callback.STATUS_MIRROR:
-            host.log(host.LEVEL_NOTICE, f"{payload}: {msg}")
+            # `mirror_failed` has told it, with the address.
             return
         if status == dnf.callback.STATUS_ALREADY_EXISTS and self._name(payload) not in self._files:
             # In the cache already: the engine's plan of the download leaves it out, too.
@@ -66,6 +67,18 @@ class DownloadMeter(dnf.callback.DownloadProgress):
             file.done = file.size
         file.ended = True
         self._tell(file)
+
+    def mirror_failed(self, payload: Any, message: str, address: str) -> None:
+        """Why a file couldn't be had from one place. The library tries each several times."""
+        cause = message.strip() if address in message else f"{address}: {message.strip()}"
+        causes = self._causes.setdefault(str(payload.pkg), {})
+        if cause not in causes:
+            causes[cause] = None
+            host.log(host.LEVEL_NOTICE, f"{payload}: {cause}")
+
+    def causes(self, package: Any) -> List[str]:
+        """What has been told of a package that failed, each once."""
+        return list(self._causes.get(str(package), ()))
 
     def finish(self) -> None:
         """Ends the files that dnf has left without an end: siblings of one that failed."""
@@ -106,11 +119,10 @@ def download(base: Base, packages: List[dnf.package.Package]) -> None:
     try:
         base.download_packages(packages, meter)
     except dnf.exceptions.DownloadError as error:
-        lines = [
-            f"{package}: {message}" if package else str(message)
-            for package, messages in error.errmap.items()
-            for message in messages
-        ]
+        lines = []
+        for package, messages in error.errmap.items():
+            lines += [f"{package}: {message}" if package else str(message) for message in messages]
+            lines += [f"    {cause}" for cause in meter.causes(package)]
         raise YumBaseError("\n".join([_("Unable to download packages:"), *lines])) from error
     finally:
         meter.finish()
