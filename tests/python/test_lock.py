@@ -205,12 +205,14 @@ def test_lock_of_a_third_process_is_never_taken(lamp: Tuple[Estate, Program]) ->
 
     estate, program = lamp
     yumio = program.start()
-    held_by(estate, 1)
-    with pytest.raises(program.errors.LockError, match="metadata_lock.pid has been changed"):
-        LOCK.take_back(os.getppid())
-    with pytest.raises(program.errors.LockError, match="has been changed"):
-        ProcessLock().take_over(yumio._session._conf, os.getppid())
-    assert all(file.read_text() == "1" for file in lock_files(estate))
+    with subprocess.Popen(["sleep", "60"]) as third:
+        held_by(estate, third.pid)
+        with pytest.raises(program.errors.LockError, match="metadata_lock.pid has been changed"):
+            LOCK.take_back(os.getppid())
+        with pytest.raises(program.errors.LockError, match="has been changed"):
+            ProcessLock().take_over(yumio._session._conf, os.getppid())
+        assert all(file.read_text() == str(third.pid) for file in lock_files(estate))
+        third.kill()
     held_by(estate, os.getpid())
 
 
