@@ -167,6 +167,44 @@ def test_database_that_was_damaged_since_the_table_was_filled_stops_the_apply(
     fails(program, lambda: program.collect(), "The rpm database of ")
 
 
+def test_empty_history_is_told_with_its_remedy(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
+) -> None:
+    estate.repository("base", rpms.some("lone-1.0"))
+    history = estate.root / "var/lib/dnf/history.sqlite"
+    history.parent.mkdir(parents=True, exist_ok=True)
+    history.touch()
+    found = program.collect()
+    fails(
+        program,
+        lambda: found.yumio.apply([found.offered("lone")], [], []),
+        "The history of transactions, /var/lib/dnf/history.sqlite, is an empty file",
+        "Remove it",
+    )
+    assert estate.installed() == set()
+    history.unlink()
+    found.yumio.apply([found.offered("lone")], [], [])
+    assert estate.installed() == {"lone-1.0-1.noarch"} and history.stat().st_size
+
+
+def test_history_that_could_not_be_made_leaves_no_empty_file(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost, in_child: Callable[[str], None]
+) -> None:
+    estate.repository("base", rpms.some("lone-1.0"))
+    found = program.collect()
+    history = estate.root / "var/lib/dnf/history.sqlite"
+    in_work(
+        in_child,
+        "def fail(*_):\n"
+        f"        open({str(history)!r}, 'w').close()\n"
+        "        raise RuntimeError('database or disk is full')\n"
+        "    work.solve = fail",
+    )
+    history.unlink(missing_ok=True)
+    fails(program, lambda: found.yumio.apply([found.offered("lone")], [], []), "database or disk is full")
+    assert not history.exists()
+
+
 def test_mark_that_is_done_already_is_told(
     estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
 ) -> None:

@@ -13,7 +13,7 @@ The engine runs `YumIO.py`, whose class `YumIO` is the face; the work is done he
     lists, groups                   what a collection hands over
     apply                           one apply, from the marks to the new rpm database, by a process of its own
     download, signatures, display,
-    inhibitor                       its steps
+    history, inhibitor              its steps
     clean                           emptying the caches
 
 Every function runs on whatever thread the engine calls it on, under the interpreter lock; nothing

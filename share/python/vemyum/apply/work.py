@@ -23,6 +23,7 @@ from ..database import point_rpm_at, require_sound, unlisted
 from ..display import Display
 from ..download import download, not_in_cache
 from ..errors import REFRESH, YumBaseError, reported_as
+from ..history import usable_history
 from ..signatures import check_signatures
 from ..surroundings import load_needed_later
 from ..texts import _
@@ -43,7 +44,9 @@ class Work:
 
         `begins` is called when rpm begins to change the system. Raises YumBaseError, other dnf errors, OSError.
         """
-        with contextlib.closing(open_base(self._conf, self._request.repositories, progress=False)) as base:
+        with usable_history(self._conf), contextlib.closing(
+            open_base(self._conf, self._request.repositories, progress=False)
+        ) as base:
             for repo in base.repos.iter_enabled():
                 # The table shows what the cache holds; newer metadata must not slip in behind it.
                 repo._repo.setSyncStrategy(dnf.repo.SYNC_LAZY)
