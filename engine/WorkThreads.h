@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QString>
 #include <QThread>
+#include <atomic>
 
 class QEventLoop;
 class YumIO;
@@ -17,7 +18,9 @@ class WorkThread : public QThread
     Q_OBJECT
 
 public:
-    bool result = false; ///< to be read once the thread has been waited for
+    /// To be read once the thread has been waited for. Atomic, so that tools which don't know the toolkit's
+    /// threads see that all of the job comes before.
+    std::atomic<bool> result{false};
 
 protected:
     WorkThread(YumIO* engine, QEventLoop& callersLoop);

@@ -54,7 +54,7 @@ QString wantedTranslation(QStringList const& languages, QStringList const& avail
         bool const isEnglish = parts.first() == QLatin1String("en") || parts.first() == QLatin1String("C");
         // A language without the script and country that it was asked for in is better than another one.
         for (; !parts.isEmpty(); parts.removeLast()) {
-            QString const name = parts.join(QLatin1Char('_'));
+            QString name = parts.join(QLatin1Char('_'));
             if (available.contains(name)) {
                 return name;
             }
