@@ -227,6 +227,7 @@ void TestYumIOLifecycle::transactionWaitsAtTheGate()
     QVERIFY(!calls().contains("apply"));
     engine->blocker.release();
     EVENTUALLY_VERIFY(thread.isFinished());
+    QVERIFY2(!thread.result, "nobody was asked");
     QVERIFY(calls().contains("apply"));
 }
 
