@@ -86,16 +86,17 @@ FOREIGN: Dict[str, str] = {
 
 
 class Catalogue:
-    """The built rpms by name-version (and architecture, for foreign ones)."""
+    """The rpms by name-version (and architecture, for foreign ones), built when they are first wanted."""
 
     def __init__(self, estate: Estate) -> None:
         self.estate = estate
         self._rpms: Dict[str, Path] = {}
-        for specs, arch in ((NOARCH, None), (NATIVE, "x86_64"), (FOREIGN, "i686")):
-            self._rpms.update(zip(specs, estate.build(list(specs.values()), arch=arch)))
 
     def __getitem__(self, key: str) -> Path:
-        return self._rpms[key]
+        return self.some(key)[0]
 
     def some(self, *keys: str) -> List[Path]:
+        for specs, arch in ((NOARCH, None), (NATIVE, "x86_64"), (FOREIGN, "i686")):
+            lacking = [key for key in dict.fromkeys(keys) if key in specs and key not in self._rpms]
+            self._rpms.update(zip(lacking, self.estate.build([specs[key] for key in lacking], arch=arch)))
         return [self._rpms[key] for key in keys]
