@@ -21,35 +21,8 @@ import traceback
 import types
 from typing import Any, List, NoReturn, Optional
 
+from . import messages
 from .channel import Channel
-from .messages import (
-    BROKEN_PIPE,
-    DONE,
-    FAILED,
-    INTERNAL,
-    PROTOCOL,
-    REFUSED,
-    Answer,
-    Begun,
-    Change,
-    Ended,
-    ErrorLog,
-    ErrorOutput,
-    Event,
-    FileEnded,
-    FileProgress,
-    FileStarted,
-    Hello,
-    Leave,
-    Log,
-    Message,
-    Output,
-    Plan,
-    ProtocolError,
-    Request,
-    Solving,
-    TransactionStarts,
-)
 
 _KEPT_OFF = (signal.SIGINT, signal.SIGTERM, signal.SIGHUP, signal.SIGQUIT, signal.SIGPIPE)
 """What ends a process that doesn't expect it; here it waits until the transaction is over, and so for ever."""
@@ -86,18 +59,19 @@ def _settle() -> None:
         locale.setlocale(locale.LC_ALL, "")
 
 
-def _work(parent: "_Parent") -> Ended:
-    from .. import messages, streams
+def _work(parent: "_Parent") -> messages.Ended:
+    from .. import streams
     from ..configuration import read_configuration, require_main_file
     from ..credentials import masked
     from ..errors import YumBaseError, reported_as
     from ..lock import LOCK
+    from ..messages import install_handler
     from .work import Work
 
     streams.replace_streams()
-    messages.install_handler()
+    install_handler()
     gc.freeze()
-    parent.send(Hello(PROTOCOL))
+    parent.send(messages.Hello(messages.PROTOCOL))
     work: Optional[Work] = None
     try:
         with reported_as(YumBaseError):
@@ -108,14 +82,14 @@ def _work(parent: "_Parent") -> Ended:
             LOCK.take_over(conf, parent.pid)
             work = Work(conf, request)
             done = work.do(parent.agreed, lambda changes: parent.commit(conf, changes))
-        outcome, text = (DONE, "") if done else (REFUSED, "")
+        outcome, text = (messages.DONE, "") if done else (messages.REFUSED, "")
     except YumBaseError as error:
-        outcome, text = FAILED, str(error)
+        outcome, text = messages.FAILED, str(error)
     except BrokenPipeError as error:
-        outcome, text = BROKEN_PIPE, str(error)
+        outcome, text = messages.BROKEN_PIPE, str(error)
     except BaseException:  # noqa: BLE001 - told to whoever asked for the work
-        outcome, text = INTERNAL, masked(traceback.format_exc())
-    return Ended(outcome, text, work.installed if work is not None else -1)
+        outcome, text = messages.INTERNAL, masked(traceback.format_exc())
+    return messages.Ended(outcome, text, work.installed if work is not None else -1)
 
 
 class _Parent:
@@ -124,7 +98,7 @@ class _Parent:
     def __init__(self, channel: Channel, pid: int) -> None:
         self.pid = pid
         self._channel = channel
-        self._said: "queue.Queue[Optional[Message]]" = queue.Queue()
+        self._said: "queue.Queue[Optional[messages.Message]]" = queue.Queue()
         self._journal: Any = None
         self._committing = threading.Lock()
         self._committed = False
@@ -137,25 +111,25 @@ class _Parent:
         threading.Thread(target=self._listen, daemon=True).start()
         signal.pthread_sigmask(signal.SIG_UNBLOCK, _KEPT_OFF)
 
-    def send(self, message: Message, unimportant: bool = False) -> None:
-        if self._journal is not None and isinstance(message, Event):
+    def send(self, message: messages.Message, unimportant: bool = False) -> None:
+        if self._journal is not None and isinstance(message, messages.Event):
             self._journal.event(message)
         self._channel.send(message, unimportant)
 
-    def request(self) -> Request:
+    def request(self) -> messages.Request:
         request = self._said.get()
-        if not isinstance(request, Request) or request.protocol != PROTOCOL:
-            raise ProtocolError(str(request))
+        if not isinstance(request, messages.Request) or request.protocol != messages.PROTOCOL:
+            raise messages.ProtocolError(str(request))
         return request
 
-    def agreed(self, plan: Plan) -> bool:
+    def agreed(self, plan: messages.Plan) -> bool:
         """Asks; waits for the answer."""
         self._channel.send(plan)
         self._channel.flush()
         answer = self._said.get()
-        return isinstance(answer, Answer) and answer.confirmed
+        return isinstance(answer, messages.Answer) and answer.confirmed
 
-    def commit(self, conf: Any, changes: List[Change]) -> None:
+    def commit(self, conf: Any, changes: List[messages.Change]) -> None:
         """rpm begins: from here on nothing ends this process but its work."""
         from .. import host, processes
         from .journal import Journal
@@ -164,12 +138,13 @@ class _Parent:
             self._committed = True
             signal.pthread_sigmask(signal.SIG_BLOCK, _KEPT_OFF)
         pid = os.getpid()
-        self._journal = Journal(conf, Begun(PROTOCOL, pid, processes.start_of(pid), self.pid, changes))
+        begun = messages.Begun(messages.PROTOCOL, pid, processes.start_of(pid), self.pid, changes)
+        self._journal = Journal(conf, begun)
         host.transaction_init(True)
         # What happens from here on is told otherwise than what happened before, so the program has to know.
         self._channel.flush(_PATIENCE)
 
-    def end(self, ended: Ended) -> None:
+    def end(self, ended: messages.Ended) -> None:
         """Tells the program the outcome and gives it the lock back; without a program the journal tells it."""
         with self._committing:
             # There is nothing left to cut off.
@@ -194,17 +169,17 @@ class _Parent:
 
     def _listen(self) -> None:
         """On a thread of its own: what the program says, and whether it is there."""
-        message: Optional[Message] = Leave(heard=False)
+        message: Optional[messages.Message] = messages.Leave(heard=False)
         while message is not None:
             try:
                 message = self._channel.receive()
-            except ProtocolError:
-                message = Leave(heard=False)
+            except messages.ProtocolError:
+                message = messages.Leave(heard=False)
             self._said.put(message)
-            if isinstance(message, Leave) and message.heard:
+            if isinstance(message, messages.Leave) and message.heard:
                 self._heard = True
                 self._settled.set()
-            elif message is None or isinstance(message, Leave):
+            elif message is None or isinstance(message, messages.Leave):
                 self._end_unless_committed(message is None)
         self._settled.set()
         # What the program captured leads nowhere now.
@@ -231,40 +206,40 @@ class RemoteHost(types.ModuleType):
         self._next = 0.0
 
     def log(self, level: int, text: str) -> None:
-        self._parent.send(Log(level, text))
+        self._parent.send(messages.Log(level, text))
 
     def errorlog(self, level: int, text: str) -> None:
-        self._parent.send(ErrorLog(level, text))
+        self._parent.send(messages.ErrorLog(level, text))
 
     def stdoutWrite(self, text: str) -> None:
-        self._parent.send(Output(text))
+        self._parent.send(messages.Output(text))
 
     def stderrWrite(self, text: str) -> None:
-        self._parent.send(ErrorOutput(text))
+        self._parent.send(messages.ErrorOutput(text))
 
     def dsTsCheck(self) -> None:
-        self._parent.send(Solving())
+        self._parent.send(messages.Solving())
 
     def applyGrabMeterStart(self, name: str, _a: None, _b: None, size: int, _c: None) -> None:
-        self._parent.send(FileStarted(name, size))
+        self._parent.send(messages.FileStarted(name, size))
 
     def applyGrabMeterUpdate(self, done: int) -> None:
         if self._is_time():
-            self._parent.send(FileProgress(done), unimportant=True)
+            self._parent.send(messages.FileProgress(done), unimportant=True)
 
     def applyGrabMeterEnd(self, done: int) -> None:
-        self._parent.send(FileProgress(done))
-        self._parent.send(FileEnded(done))
+        self._parent.send(messages.FileProgress(done))
+        self._parent.send(messages.FileEnded(done))
 
     def tsInitCallback(self, real: int) -> None:
-        self._parent.send(TransactionStarts(bool(real)))
+        self._parent.send(messages.TransactionStarts(bool(real)))
 
     def tsEvent(self, package: Any, code: int, done: int, total: int, ordinal: int, count: int) -> None:
         name = package if isinstance(package, str) else package.name
         begins = ordinal != self._element
         self._element = ordinal
         if begins or done >= total or self._is_time():
-            self._parent.send(Event(name, code, done, total, ordinal, count), unimportant=not begins)
+            self._parent.send(messages.Event(name, code, done, total, ordinal, count), unimportant=not begins)
 
     def _is_time(self) -> bool:
         now = time.monotonic()

@@ -10,7 +10,7 @@ import signal
 import socket
 import subprocess
 import sys
-from typing import Any, List, Optional, Sequence
+from typing import Any, Optional, Sequence
 
 import hawkey
 
@@ -21,34 +21,9 @@ from ..lock import LOCK
 from ..root import managed_root
 from ..session import Session
 from ..texts import _
+from . import messages
 from .channel import Channel
 from .listing import TransactionInfo, solver_lines
-from .messages import (
-    BROKEN_PIPE,
-    DONE,
-    FAILED,
-    INTERNAL,
-    PROTOCOL,
-    Answer,
-    Ended,
-    ErrorLog,
-    ErrorOutput,
-    Event,
-    FileEnded,
-    FileProgress,
-    FileStarted,
-    Hello,
-    Leave,
-    Log,
-    Message,
-    Output,
-    Plan,
-    ProtocolError,
-    Request,
-    Solving,
-    TransactionStarts,
-    Wish,
-)
 
 COMMAND = [
     sys.executable or "/usr/bin/python3",
@@ -78,8 +53,8 @@ class Apply:
             host.log(host.LEVEL_NOTICE, _("Nothing is marked"))
             return
         root = managed_root()
-        request = Request(
-            PROTOCOL,
+        request = messages.Request(
+            messages.PROTOCOL,
             self._session.repositories.states(),
             [_wish(package, package.po.reponame) for package in (*installs, *(pair[0] for pair in updates))],
             [_wish(package, hawkey.SYSTEM_REPO_NAME) for package in removes],
@@ -90,38 +65,38 @@ class Apply:
             ended = self._converse(child, request)
         if ended.installed >= 0:
             Collector.expect_installed(root, ended.installed)
-        if ended.outcome == DONE:
+        if ended.outcome == messages.DONE:
             host.post_transaction_output(self)
-        elif ended.outcome == FAILED:
+        elif ended.outcome == messages.FAILED:
             raise YumBaseError(ended.text)
-        elif ended.outcome == BROKEN_PIPE:
+        elif ended.outcome == messages.BROKEN_PIPE:
             raise BrokenPipeError(errno.EPIPE, ended.text)
-        elif ended.outcome == INTERNAL:
+        elif ended.outcome == messages.INTERNAL:
             raise ChildFault(self._with_consequence(ended.text) if self._begun else ended.text)
 
-    def _converse(self, child: "_Child", request: Request) -> Ended:
+    def _converse(self, child: "_Child", request: messages.Request) -> messages.Ended:
         try:
             hello = child.channel.receive()
-            if hello is not None and hello != Hello(PROTOCOL):
+            if hello is not None and hello != messages.Hello(messages.PROTOCOL):
                 raise YumBaseError(
                     _("The program's files have been changed since it was started: please start it anew.")
                 )
             child.tell(request)
             while True:
                 message = child.channel.receive()
-                if isinstance(message, Ended):
+                if isinstance(message, messages.Ended):
                     return message
                 if message is None:
                     raise YumBaseError(self._with_consequence(child.end()))
                 try:
                     self._take(message, child)
-                except ProtocolError:
+                except messages.ProtocolError:
                     raise
                 except Exception as error:  # noqa: BLE001 - what has begun is heard to its end
                     if not self._begun:
                         raise
                     host.errorlog(host.LEVEL_ERROR, f"{type(error).__name__}: {error}")
-        except ProtocolError as error:
+        except messages.ProtocolError as error:
             said = _("The process that applies the changes said what cannot be understood: {line}").format(line=error)
             raise YumBaseError(self._with_consequence(said)) from error
 
@@ -129,37 +104,37 @@ class Apply:
         consequence = REFRESH if self._begun else _("Nothing was changed.")
         return f"{text}\n{consequence}"
 
-    def _take(self, message: Message, child: "_Child") -> None:
+    def _take(self, message: messages.Message, child: "_Child") -> None:
         """One message of the child becomes what the engine expects to be called with."""
-        if isinstance(message, Event):
+        if isinstance(message, messages.Event):
             host.transaction_event(
                 message.name, message.code, message.done, message.total, message.ordinal, message.count
             )
-        elif isinstance(message, FileProgress):
+        elif isinstance(message, messages.FileProgress):
             host.apply_meter_update(message.done)
-        elif isinstance(message, FileStarted):
+        elif isinstance(message, messages.FileStarted):
             host.apply_meter_start(message.name, message.size)
-        elif isinstance(message, FileEnded):
+        elif isinstance(message, messages.FileEnded):
             host.apply_meter_end(message.done)
-        elif isinstance(message, Log):
+        elif isinstance(message, messages.Log):
             host.log(message.level, message.text)
-        elif isinstance(message, ErrorLog):
+        elif isinstance(message, messages.ErrorLog):
             host.errorlog(message.level, message.text)
-        elif isinstance(message, Output):
+        elif isinstance(message, messages.Output):
             host.stdout_write(message.text)
-        elif isinstance(message, ErrorOutput):
+        elif isinstance(message, messages.ErrorOutput):
             host.stderr_write(message.text)
-        elif isinstance(message, Solving):
+        elif isinstance(message, messages.Solving):
             host.solver_check()
-        elif isinstance(message, Plan):
-            child.tell(Answer(self._agreed(message)))
-        elif isinstance(message, TransactionStarts):
+        elif isinstance(message, messages.Plan):
+            child.tell(messages.Answer(self._agreed(message)))
+        elif isinstance(message, messages.TransactionStarts):
             self._begun = message.real
             host.transaction_init(message.real)
         else:
-            raise ProtocolError(type(message).__name__)
+            raise messages.ProtocolError(type(message).__name__)
 
-    def _agreed(self, plan: Plan) -> bool:
+    def _agreed(self, plan: messages.Plan) -> bool:
         collector = self._session.collector
         lines = solver_lines(plan.changes, collector)
         for line in lines:
@@ -180,8 +155,8 @@ class _Download:
         self.size = size
 
 
-def _wish(package: Any, repository: str) -> Wish:
-    return Wish(repository, package.name, package.arch, package.po.evr)
+def _wish(package: Any, repository: str) -> messages.Wish:
+    return messages.Wish(repository, package.name, package.arch, package.po.evr)
 
 
 class _Child:
@@ -209,7 +184,7 @@ class _Child:
         finally:
             theirs.close()
 
-    def tell(self, message: Message) -> None:
+    def tell(self, message: messages.Message) -> None:
         self.channel.send(message)
         self.channel.flush()
 
@@ -231,9 +206,9 @@ class _Child:
         return _("The process that applies the changes has died ({cause}).").format(cause=cause)
 
     def _says_the_end(self) -> bool:
-        with contextlib.suppress(ProtocolError):
+        with contextlib.suppress(messages.ProtocolError):
             message = self.channel.receive()
-            return message is None or isinstance(message, Ended)
+            return message is None or isinstance(message, messages.Ended)
         return False
 
     def __enter__(self) -> "_Child":
@@ -243,10 +218,10 @@ class _Child:
         try:
             # A transaction that has not begun ends here, one that has begun is heard to its end.
             if kind is not None:
-                self.tell(Leave(heard=False))
+                self.tell(messages.Leave(heard=False))
                 while not self._says_the_end():
                     pass
-            self.tell(Leave(heard=True))
+            self.tell(messages.Leave(heard=True))
         finally:
             self.channel.close()
             if self._process.returncode is None:
