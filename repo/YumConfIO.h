@@ -131,7 +131,7 @@ private:
     bool findUnusedFiles(QString const& directory, QSet<QByteArray> const& used, QStringList& unused);
 
     /// Shows `message` with errno behind it, in a critical box over `parent`.
-    void error(QString const& message);
+    void error(QString const& message, QString const& where = QString());
     /// Shows `message` alone in such a box.
     void tell(QString const& message);
     /// Asks in a critical box over `parent`; whether the answer was Yes.

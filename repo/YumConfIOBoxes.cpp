@@ -8,14 +8,14 @@
 #include <cerrno>
 #include <cstring>
 
-void YumConfIO::error(QString const& message)
+void YumConfIO::error(QString const& message, QString const& where)
 {
     int const cause = errno;
     // Composed apart from the message, which may hold anything that a file or its name holds.
     QString const suffix =
         tr("; errno = %1 (%2).").arg(QString::number(cause), QString::fromLocal8Bit(std::strerror(cause)));
 
-    tell(message + suffix);
+    tell(message + suffix + where);
 }
 
 void YumConfIO::tell(QString const& message)

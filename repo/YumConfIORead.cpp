@@ -231,7 +231,7 @@ bool YumConfIO::readRepoFile(ConfText& text, QString const& file)
 
         QString const head = withoutReturns(line);
         if (!head.endsWith(u']')) {
-            error(tr("Malformed section name in line: %1").arg(line));
+            error(tr("Malformed section name in line: %1").arg(line), tr("\nThe file is %1.").arg(file));
             return false;
         }
         if (inSection)

@@ -94,6 +94,18 @@ def test_file_that_is_not_utf8_is_told_with_its_line(lamp: Tuple[Estate, Program
     assert f"/etc/yum.repos.d/{file.name}, line {line}, is read as Latin-1" in host.text("log")
 
 
+@pytest.mark.parametrize("before", [b"", b"# " + LATIN1 + b"\n"])
+def test_fault_in_a_file_is_told_once_and_by_the_files_own_name(
+    lamp: Tuple[Estate, Program], host: FakeHost, before: bytes
+) -> None:
+    estate, program = lamp
+    (estate.root / "etc/yum.repos.d/broken.repo").write_bytes(before + b"[broken\nname=x\n")
+    program.start()
+    (line,) = [line for line in host.text("log").splitlines() if "Parsing" in line]
+    assert line.count("Parsing") == 1 and "/etc/yum.repos.d/broken.repo" in line
+    assert program.collect().offered("lamp").version == "1.1"
+
+
 def test_nothing_of_the_file_is_changed_or_left_elsewhere(
     lamp: Tuple[Estate, Program], tmp_path: Path, monkeypatch: pytest.MonkeyPatch
 ) -> None:

@@ -239,17 +239,22 @@ void TestYumConfIOFaults::malformedHeadIsTold()
 {
     QFETCH(QByteArray, head);
     QString const words = QStringLiteral("Malformed section name in line: ") + QString::fromLatin1(head);
-    static QRegularExpression const suffix(QStringLiteral("^; errno = \\d+ \\(.+\\)\\.$"));
+    static QRegularExpression const suffix(
+        QStringLiteral("^; errno = \\d+ \\(.+\\)\\.\nThe file is (.+)\\.$"));
 
     BoxReader boxes;
     ConfRoot root;
     QVERIFY(!root.readMain(head + "\n"));
     QVERIFY(!root.readRepoFile(head + "\n"));
     QCOMPARE(boxes.texts.size(), 2);
+    QStringList files;
     for (QString const& text : std::as_const(boxes.texts)) {
         QVERIFY2(text.startsWith(words), qPrintable(text));
-        QVERIFY2(suffix.match(text.mid(words.size())).hasMatch(), qPrintable(text));
+        QRegularExpressionMatch const match = suffix.match(text.mid(words.size()));
+        QVERIFY2(match.hasMatch(), qPrintable(text));
+        files += match.captured(1);
     }
+    QCOMPARE(files, QStringList({QStringLiteral("/etc/yum.conf"), QStringLiteral("/etc/yum.repos.d/some.repo")}));
     QCOMPARE(boxes.captions.last(), QStringLiteral("VEM Repository Editor Error"));
 }
 

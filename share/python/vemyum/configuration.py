@@ -53,10 +53,13 @@ PROTECTED_DIRECTORIES = ("/etc/yum/protected.d", "/etc/dnf/protected.d")
 ALWAYS_PROTECTED = ("dnf", "yum")
 
 
-def misread(error: dnf.exceptions.ConfigError) -> YumBaseError:
+def library_words(error: dnf.exceptions.ConfigError) -> str:
     """What is wrong with a file of the configuration, told once: dnf repeats what its library says."""
-    said = error.__context__ if isinstance(error.__context__, RuntimeError) else error
-    return YumBaseError(as_configured(str(said)))
+    return str(error.__context__ if isinstance(error.__context__, RuntimeError) else error)
+
+
+def misread(error: dnf.exceptions.ConfigError) -> YumBaseError:
+    return YumBaseError(as_configured(library_words(error)))
 
 
 def main_file(root: str) -> MainFile:

@@ -19,7 +19,7 @@ import dnf.conf.read
 import dnf.exceptions
 import dnf.util
 
-from .configuration import check_signatures_unless_told
+from .configuration import check_signatures_unless_told, library_words
 from .errors import os_error_text
 from .root import files, within
 from .text import valid
@@ -50,7 +50,7 @@ class RepositoryReader(dnf.conf.read.RepoReader):
             try:
                 yield from self._get_repos(path)
             except dnf.exceptions.ConfigError as error:
-                logging.getLogger("dnf").warning("%s", error)
+                logging.getLogger("dnf").warning("%s", library_words(error))
 
     def _files(self) -> List[str]:
         """The repository files of all directories, in dnf's order: that of their names without the ending."""
@@ -69,9 +69,13 @@ class RepositoryReader(dnf.conf.read.RepoReader):
 
     def _get_repos(self, repofn: str) -> Iterator[Any]:
         with _utf8_file(repofn) as file:
-            for repo in super()._get_repos(file):
-                repo.repofile = valid(repofn)
-                yield repo
+            try:
+                for repo in super()._get_repos(file):
+                    repo.repofile = valid(repofn)
+                    yield repo
+            except dnf.exceptions.ConfigError as error:
+                # Of the copy that is read in its place nobody knows.
+                raise dnf.exceptions.ConfigError(library_words(error).replace(file, valid(repofn))) from error
 
 
 def _identity(path: str) -> Tuple[int, int]:
