@@ -3,10 +3,12 @@
 
 from __future__ import annotations
 
+import contextlib
 import os
+import subprocess
 import sys
 from pathlib import Path
-from typing import Callable, Iterator, Tuple
+from typing import Callable, ContextManager, Iterator, Tuple
 
 import pytest
 
@@ -79,6 +81,28 @@ def in_child(program: Program, tmp_path: Path, monkeypatch: pytest.MonkeyPatch) 
         monkeypatch.setattr(parent, "COMMAND", [sys.executable, "-B", str(script)])
 
     return run_first
+
+
+@pytest.fixture
+def small_disk() -> Callable[[Path, int], ContextManager[None]]:
+    """Lets a directory lie on a disk of its own that has so many KiB free, its files included while that lasts."""
+
+    @contextlib.contextmanager
+    def mounted(directory: Path, kib: int) -> Iterator[None]:
+        files = {file.name: file.read_bytes() for file in directory.iterdir() if file.is_file()}
+        # Each file has a page of its own at least, and so has the directory.
+        pages = 1 + sum(-(-len(content) // 4096) for content in files.values())
+        size = f"size={pages * 4 + kib}k"
+        if subprocess.run(["mount", "-t", "tmpfs", "-o", size, "tmpfs", str(directory)]).returncode != 0:
+            pytest.skip("no right to mount")
+        try:
+            for name, content in files.items():
+                (directory / name).write_bytes(content)
+            yield
+        finally:
+            subprocess.run(["umount", "--lazy", str(directory)], check=True)
+
+    return mounted
 
 
 @pytest.fixture

@@ -4,9 +4,10 @@
 from __future__ import annotations
 
 import locale
+import re
 import subprocess
 from pathlib import Path
-from typing import Any, Callable, Iterator, Tuple
+from typing import Any, Callable, ContextManager, Iterator, Tuple
 
 import pytest
 from catalogue import Catalogue
@@ -143,6 +144,22 @@ def test_package_that_was_removed_meanwhile_is_named(
     fails(program, lambda: found.yumio.apply([], [], [found.there("lone")]), "lone-1.0-1.noarch", "refresh")
 
 
+def test_package_that_is_removed_while_the_user_is_asked_is_named(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
+) -> None:
+    estate.install(rpms.some("lone-1.0", "battery-1.0"))
+    estate.repository("base", [])
+    found = program.collect()
+    host.on_confirm = lambda: estate.rpm("--erase", "lone") and None
+    marks = [found.there("lone"), found.there("battery")]
+    fails(
+        program,
+        lambda: found.yumio.apply([], [], marks),
+        "lone-1.0-1.noarch is no longer installed. Please refresh the list of packages.",
+    )
+    assert estate.installed() == {"battery-1.0-1.noarch"}
+
+
 @pytest.mark.parametrize("damage", ["missing", "emptied", "a page of zeros"])
 def test_database_that_was_damaged_since_the_table_was_filled_stops_the_apply(
     estate: Estate, rpms: Catalogue, program: Program, host: FakeHost, damage: str
@@ -167,42 +184,49 @@ def test_database_that_was_damaged_since_the_table_was_filled_stops_the_apply(
     fails(program, lambda: program.collect(), "The rpm database of ")
 
 
-def test_empty_history_is_told_with_its_remedy(
-    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
+@pytest.mark.parametrize("content", [b"", b"no history" * 1000, b"SQLite format 3\0" + bytes(84)])
+def test_history_that_cannot_be_used_is_told_once_with_its_remedy(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost, content: bytes
 ) -> None:
     estate.repository("base", rpms.some("lone-1.0"))
     history = estate.root / "var/lib/dnf/history.sqlite"
     history.parent.mkdir(parents=True, exist_ok=True)
-    history.touch()
+    history.write_bytes(content)
     found = program.collect()
-    fails(
-        program,
-        lambda: found.yumio.apply([found.offered("lone")], [], []),
-        "The history of transactions, /var/lib/dnf/history.sqlite, is an empty file",
-        "Remove it",
-    )
-    assert estate.installed() == set()
+    text = fails(program, lambda: found.yumio.apply([found.offered("lone")], [], []))
+    first, second = text.splitlines()
+    assert first.startswith("The history of transactions, /var/lib/dnf/history.sqlite, cannot be used: ")
+    assert second == "Move it elsewhere, and it is made anew."
+    assert not host.text("errorlog")
+    assert not host.named("userconfirm")
+    assert estate.installed() == set() and history.read_bytes() == content
     history.unlink()
     found.yumio.apply([found.offered("lone")], [], [])
     assert estate.installed() == {"lone-1.0-1.noarch"} and history.stat().st_size
 
 
-def test_history_that_could_not_be_made_leaves_no_empty_file(
-    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost, in_child: Callable[[str], None]
+@pytest.mark.parametrize("kib", [8, 64, 124, 160])
+def test_full_disk_leaves_no_half_made_history(
+    estate: Estate,
+    rpms: Catalogue,
+    program: Program,
+    host: FakeHost,
+    small_disk: Callable[[Path, int], ContextManager[None]],
+    kib: int,
 ) -> None:
     estate.repository("base", rpms.some("lone-1.0"))
     found = program.collect()
-    history = estate.root / "var/lib/dnf/history.sqlite"
-    in_work(
-        in_child,
-        "def fail(*_):\n"
-        f"        open({str(history)!r}, 'w').close()\n"
-        "        raise RuntimeError('database or disk is full')\n"
-        "    work.solve = fail",
-    )
-    history.unlink(missing_ok=True)
-    fails(program, lambda: found.yumio.apply([found.offered("lone")], [], []), "database or disk is full")
-    assert not history.exists()
+    place = estate.root / "var/lib/dnf"
+    with small_disk(place, kib):
+        text = fails(program, lambda: found.yumio.apply([found.offered("lone")], [], []))
+        assert text.startswith("The history of transactions, /var/lib/dnf/history.sqlite, cannot be ")
+        assert re.search(r"\nOnly \d+ KiB are free in /var/lib/dnf\.$", text)
+        assert "not an error" not in text and not host.text("errorlog")
+        left = [file.name for file in place.iterdir() if file.name.startswith("history")]
+        assert kib > 120 or not left
+    assert estate.installed() == set()
+    found.yumio.apply([found.offered("lone")], [], [])
+    assert estate.installed() == {"lone-1.0-1.noarch"}
 
 
 def test_mark_that_is_done_already_is_told(

@@ -157,6 +157,30 @@ def test_corrupt_repomd_is_named(served: Estate, program: Program, web: Web) -> 
     unreadable(program, "repository base", f"{web.url}/base", "repomd.xml parser error")
 
 
+@pytest.mark.parametrize("query", ["", "?key=a&path=/base"])
+def test_web_page_in_place_of_metadata_is_told_with_its_first_words(
+    served: Estate, program: Program, web: Web, query: str
+) -> None:
+    page = b"<!DOCTYPE html>\n<html><title>Harbour Wifi</title><style>p {}</style><p>Please log in</p></html>"
+    address = f"{web.url}/{query or 'base'}"
+    web.page(f"/{query or 'base'}/repodata/repomd.xml", page)
+    served.write_repo_file("base", baseurl=address)
+    beginning = 'gives a web page in place of the metadata. It begins: "Harbour Wifi Please log in"'
+    unreadable(program, f"{address}/repodata/repomd.xml {beginning}")
+
+
+def test_web_page_in_place_of_a_metalink_is_told(served: Estate, program: Program, web: Web) -> None:
+    web.page("/link", b"<html><body>We have moved")
+    served.write_repo_file("base", extra={"baseurl": None, "metalink": f"{web.url}/link"})
+    unreadable(program, f'{web.url}/link gives a web page in place of the metadata. It begins: "We have moved"')
+
+
+@pytest.mark.parametrize("answer", [bytes(100), b"<?xml version='1.0'?><repomd", b"", b"not a page <html>"])
+def test_other_nonsense_is_called_no_web_page(served: Estate, program: Program, web: Web, answer: bytes) -> None:
+    web.page("/base/repodata/repomd.xml", answer)
+    assert "web page" not in unreadable(program, "repository base", f"{web.url}/base")
+
+
 def test_corrupt_package_list_is_named(served: Estate, program: Program, web: Web) -> None:
     (primary,) = (served.repos_dir / "base/repodata").glob("*-primary.xml*")
     web.page(f"/base/repodata/{primary.name}", b"x" * primary.stat().st_size)
@@ -198,7 +222,7 @@ def test_full_disk_is_told_beside_the_cause(
     monkeypatch.setattr("os.statvfs", lambda _: types.SimpleNamespace(f_bavail=blocks, f_frsize=4096, f_flag=0))
     with pytest.raises(program.errors.RepoError) as caught:
         program.collect()
-    assert (f"Only 20 KiB are free in {served.root}/var/cache/yum." in str(caught.value)) is told
+    assert ("Only 20 KiB are free in /var/cache/yum." in str(caught.value)) is told
 
 
 def test_repository_that_may_be_skipped_is_skipped(

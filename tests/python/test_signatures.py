@@ -99,6 +99,20 @@ def test_package_of_a_known_key_goes_in(
     assert estate.installed() == {"lone-1.0-1.noarch"}
 
 
+def test_damaged_package_is_told_with_what_is_wrong(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost, key: Key, tmp_path: Path
+) -> None:
+    """The repository knows nothing of the damage: it was there when its metadata was made."""
+    signed = key.sign(rpms["lone-1.0"], tmp_path)
+    data = bytearray(signed.read_bytes())
+    data[-20:] = bytes(20)
+    signed.write_bytes(data)
+    estate.rpm("--import", key.public)
+    estate.repository("base", [signed], extra={"gpgcheck": "1", "gpgkey": key.public.as_uri()})
+    refused(program, f"Package lone-1.0-1.noarch is damaged: {estate.repos_dir}/base/{signed.name}\n    ", "digest: BAD")
+    assert estate.installed() == set()
+
+
 def test_main_file_decides_where_the_repository_is_silent(
     estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
 ) -> None:

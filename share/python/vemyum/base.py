@@ -8,7 +8,7 @@ import functools
 import glob
 import logging
 import os
-from typing import Any, Callable, Dict, Iterable, List, Optional
+from typing import Any, Callable, Dict, Iterable, Optional
 
 import dnf
 import dnf.conf
@@ -20,13 +20,15 @@ from .database import point_rpm_at
 from .encoding import RepositoryReader
 from .errors import RepoError, YumBaseError
 from .inhibitor import inhibited
-from .messages import heard
+from .messages import heard, rpms_words
 from .metadata import ReadingProgress, RepositoryProgress
 from .queries import MetadataFetcher, ask_by_complete_address, base_addresses, rounds
+from .space import scarce_space
 from .texts import _
+from .webpage import asked
 
-_SCARCE = 1 << 20
-"""So few free bytes are worth a word when a repository cannot be read."""
+_UNREADABLE = "parse"
+"""Stands in the library's words for an answer that isn't what was asked for."""
 
 
 class Base(dnf.Base):
@@ -78,20 +80,20 @@ class Base(dnf.Base):
                 # What is fetched by query shows a progress of its own.
                 if not base_addresses(repo):
                     repo.set_progress_bar(RepositoryProgress(repo, self.conf.cachedir))
-        try:
+        with rpms_words() as said:
             try:
-                self.fill_sack(load_system_repo=with_system)
-            except RepoError as error:
-                if not self._drop_damaged_cache(str(error)):
+                try:
+                    self.fill_sack(load_system_repo=with_system)
+                except RepoError as error:
+                    if not self._drop_damaged_cache(str(error)):
+                        raise
+                    self.fill_sack(load_system_repo=with_system)
+            except OSError as error:
+                if "RPMDB" not in str(error):
                     raise
-                self.fill_sack(load_system_repo=with_system)
-        except OSError as error:
-            if "RPMDB" in str(error):
-                root = self.conf.installroot
-                raise YumBaseError(
-                    _("The rpm database of {root} cannot be read: {error}").format(root=root, error=error)
-                ) from error
-            raise
+                text = _("The rpm database of {root} cannot be read: {error}")
+                lines = [text.format(root=self.conf.installroot, error=error), *said()]
+                raise YumBaseError("\n".join(lines)) from error
 
     def _drop_damaged_cache(self, text: str) -> bool:
         """Removes the form of the metadata that is made for fast reading, where the library says that it is damaged.
@@ -119,6 +121,8 @@ class Base(dnf.Base):
             except RepoError as error:
                 if error.__context__ is not None:
                     causes.append(str(error.__context__))
+                if _UNREADABLE in str(error).lower():
+                    causes += filter(None, [asked(repo)])
                 raise RepoError(_repository_text(repo, str(error), causes, self.conf.cachedir)) from error
             except OSError as error:
                 raise RepoError(_repository_text(repo, str(error), causes, self.conf.cachedir)) from error
@@ -172,22 +176,8 @@ def _repository_text(repo: dnf.repo.Repo, text: str, causes: Iterable[str], dire
         text.strip(),
     ]
     lines += [cause for cause in dict.fromkeys(causes) if cause not in text]
-    lines += _scarce_space(directory)
+    lines += scarce_space(directory)
     return "\n".join(lines)
-
-
-def _scarce_space(directory: str) -> List[str]:
-    """On a full disk dnf stumbles over its own truncated files and calls them malformed."""
-    try:
-        space = os.statvfs(directory)
-    except OSError:
-        return []
-    free = space.f_bavail * space.f_frsize
-    return (
-        [_("Only {size} KiB are free in {directory}.").format(size=free // 1024, directory=directory)]
-        if free < _SCARCE
-        else []
-    )
 
 
 def open_base(

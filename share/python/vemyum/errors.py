@@ -26,7 +26,7 @@ GroupsError = dnf.exceptions.CompsError
 REFRESH = _("A part of the transaction may have been done: please refresh the list of packages.")
 """Ends the text of a failure behind which the table may no longer be right."""
 
-_LIBRARY_ERRORS = (
+LIBRARY_ERRORS = (
     dnf.exceptions.Error,
     hawkey.Exception,
     libdnf.error.Error,
@@ -71,7 +71,7 @@ class reported_as:
             return
         if isinstance(error, OSError):
             raise self._kind(_text(self._doing, os_error_text(error))) from error
-        if isinstance(error, _LIBRARY_ERRORS):
+        if isinstance(error, LIBRARY_ERRORS):
             # The engine shows `value`, which some of dnf's classes leave empty.
             if not (isinstance(error, self._kind) and error.value == masked(str(error))):
                 raise self._kind(_text(self._doing, str(error))) from error

@@ -1,47 +1,98 @@
 # SPDX-License-Identifier: GPL-2.0-or-later
-"""dnf's history database: a full disk must not leave one that no transaction can use."""
+"""dnf's history database: looked at before anything rests on it, and never left half made by a full disk."""
 
 from __future__ import annotations
 
 import contextlib
 import os
-from typing import Iterator
+import sqlite3
+import urllib.parse
+from typing import Iterator, Optional
 
 import dnf.conf
+import libdnf.transaction
 
-from .errors import YumBaseError
+from .errors import LIBRARY_ERRORS, YumBaseError
+from .messages import unheard
 from .root import as_configured
+from .space import scarce_space
 from .texts import _
 
 _NAME = "history.sqlite"
+_BESIDE = ("", "-wal", "-shm", "-journal")
+"""What SQLite puts beside a database."""
 
 
-def _path(conf: dnf.conf.MainConf) -> str:
+def history_path(conf: dnf.conf.MainConf) -> str:
     return os.path.join(conf.persistdir, _NAME)
 
 
-def _is_empty(path: str) -> bool:
-    try:
-        return os.path.getsize(path) == 0 and not os.path.exists(path + "-wal")
-    except OSError:
-        return False
+def open_history(path: str, mode: str) -> sqlite3.Connection:
+    """`mode` is SQLite's: "ro" or "rw". sqlite3.Error."""
+    return sqlite3.connect(f"file:{urllib.parse.quote(path)}?mode={mode}", uri=True)
 
 
 @contextlib.contextmanager
 def usable_history(conf: dnf.conf.MainConf) -> Iterator[None]:
-    """Lets a block use the history. YumBaseError for an empty file, in which dnf looks for its tables in vain; one
-    that the block leaves so, since there was no room for more, is removed again."""
-    path = _path(conf)
-    if _is_empty(path):
-        raise YumBaseError(
-            _(
-                "The history of transactions, {file}, is an empty file: the disk was full when it was to be made. "
-                "Remove it, and it is made anew."
-            ).format(file=as_configured(path))
-        )
+    """Lets a block use the history, which is made if there is none. YumBaseError where it cannot be used, which dnf
+    would find out late and tell several times; also when that fails in the block. One that was made for nothing, since
+    there was no room for more, is removed again."""
+    path = history_path(conf)
+    existed = os.path.exists(path)
     try:
-        yield
+        if not existed:
+            _make(path)
+        fault = _fault(path)
+        if fault is not None:
+            raise YumBaseError(_told(path, fault, existed))
+        try:
+            yield
+        except LIBRARY_ERRORS as error:
+            first, *rest = str(error).split("\n")
+            if path not in first:
+                raise
+            raise YumBaseError("\n".join([_told(path, _cause(first), False), *rest])) from error
     finally:
-        if _is_empty(path):
-            with contextlib.suppress(OSError):
-                os.unlink(path)
+        if not existed and os.path.exists(path) and _fault(path) is not None:
+            for ending in _BESIDE:
+                with contextlib.suppress(OSError):
+                    os.unlink(path + ending)
+
+
+def _make(path: str) -> None:
+    with unheard():
+        try:
+            libdnf.transaction.Swdb(path)
+        except LIBRARY_ERRORS as error:
+            words = _("The history of transactions, {file}, cannot be made.").format(file=as_configured(path))
+            # On a full disk the library finds that there is no error.
+            raise YumBaseError("\n".join([words, *(scarce_space(os.path.dirname(path)) or [_cause(str(error))])])) from error
+
+
+def _cause(text: str) -> str:
+    """The library's words without the path, which stands before."""
+    return text.rpartition('": ')[2]
+
+
+def _told(path: str, fault: str, anew: bool) -> str:
+    words = _("The history of transactions, {file}, cannot be used: {fault}")
+    lines = [words.format(file=as_configured(path), fault=fault)]
+    space = scarce_space(os.path.dirname(path))
+    if anew and not space and os.access(path, os.W_OK):
+        lines.append(_("Move it elsewhere, and it is made anew."))
+    return "\n".join(lines + space)
+
+
+def _fault(path: str) -> Optional[str]:
+    """Why nothing can be written into a history; None where it can."""
+    try:
+        # SQLite would open what it may only read for just that.
+        with open(path, "r+b"), contextlib.closing(open_history(path, "rw")) as database:
+            database.execute("begin immediate")
+            database.execute("select count(*) from config")
+            database.rollback()
+    except sqlite3.Error as error:
+        return str(error)
+    except OSError as error:
+        return error.strerror or str(error)
+    return None

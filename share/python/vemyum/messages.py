@@ -7,13 +7,17 @@ dnf puts the causes of many failures (curl's words, rpm's lines) only into its l
 from __future__ import annotations
 
 import logging
+import sys
+import tempfile
 from contextlib import contextmanager
-from typing import Iterator
+from typing import Callable, Iterator, List
 
 import dnf.logging
+import rpm
 
 from . import host
 from .root import as_configured
+from .text import valid
 
 _RPM_LOGGER = "dnf.rpm"
 
@@ -67,6 +71,41 @@ def heard() -> Iterator[list[str]]:
         yield hearing.lines
     finally:
         logger.removeHandler(hearing)
+
+
+@contextmanager
+def unheard() -> Iterator[None]:
+    """Keeps dnf's log quiet while the block runs, for what is told otherwise."""
+    logger = logging.getLogger("dnf")
+    before = logger.level
+    logger.setLevel(logging.CRITICAL + 1)
+    try:
+        yield
+    finally:
+        logger.setLevel(before)
+
+
+@contextmanager
+def rpms_words() -> Iterator[Callable[[], List[str]]]:
+    """Takes rpm's lines from the terminal into the log while the block runs. What it gives tells them instead, each
+    once; there is nothing to take from then on."""
+    with tempfile.TemporaryFile() as file:
+
+        def said() -> List[str]:
+            # rpm writes the last of them when it gets another file.
+            rpm.setLogFile(sys.stderr)
+            file.seek(0)
+            lines = [as_configured(line.strip()) for line in valid(file.read()).splitlines()]
+            file.seek(0)
+            file.truncate()
+            return list(dict.fromkeys(filter(None, lines)))
+
+        rpm.setLogFile(file)
+        try:
+            yield said
+        finally:
+            for line in said():
+                logging.getLogger("dnf").warning("%s", line)
 
 
 def install_handler() -> None:

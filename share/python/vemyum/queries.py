@@ -23,6 +23,7 @@ import dnf.repo
 from . import host
 from .errors import RepoError
 from .texts import _
+from .webpage import told
 
 _NAMESPACE = "{http://linux.duke.edu/metadata/repo}"
 _FOLDER = "repodata"
@@ -116,6 +117,9 @@ class MetadataFetcher:
         repomd = os.path.join(stage, _FOLDER, _REPOMD)
         self._begin(_REPOMD, 0)
         self._download(address, f"{_FOLDER}/{_REPOMD}", repomd)
+        page = told(join(address, f"{_FOLDER}/{_REPOMD}"), _content(repomd))
+        if page is not None:
+            raise RepoError(page)
         self._end(os.path.getsize(repomd))
         if cached and _content(repomd) == _content(os.path.join(self._cache, _FOLDER, _REPOMD)):
             # dnf tells the age by this file.

@@ -5,6 +5,7 @@ from __future__ import annotations
 
 import contextlib
 import os
+import re
 import shutil
 import subprocess
 from typing import Any, Iterator, List, Optional
@@ -16,11 +17,13 @@ import rpm
 from .base import Base
 from .database import database_directory
 from .errors import YumBaseError
+from .text import valid
 from .texts import _
 
 _SIGNATURES = ("OPENPGP", "RSAHEADER", "DSAHEADER", "SIGPGP", "SIGGPG")
 """rpm's tags of signatures; the first one came with its sixth version."""
 _FATAL = 2
+_DAMAGED = re.compile(r": BAD\b|^error:")
 
 
 def check_signatures(base: Base, packages: List[dnf.package.Package]) -> None:
@@ -28,9 +31,14 @@ def check_signatures(base: Base, packages: List[dnf.package.Package]) -> None:
     of the repository's keys. Keys are never imported here."""
     faults: List[str] = []
     for package in packages:
-        with _checking_below(base.conf.installroot):
+        with _checking_below(base.conf.installroot) as wrong:
             result, message = base.package_signature_check(package)
         if result == 0:
+            continue
+        if wrong:
+            # dnf calls it a problem of opening the file.
+            faults.append(_("Package {package} is damaged: {file}").format(package=package, file=package.localPkg()))
+            faults += [f"    {line}" for line in wrong]
             continue
         locations = ", ".join(base.repos[package.reponame].gpgkey) or _("none")
         key = _key(package.localPkg()) or _("not signed")
@@ -45,15 +53,14 @@ def check_signatures(base: Base, packages: List[dnf.package.Package]) -> None:
 
 
 @contextlib.contextmanager
-def _checking_below(root: str) -> Iterator[None]:
-    """Lets dnf's check look for keys where the root's database is.
+def _checking_below(root: str) -> Iterator[List[str]]:
+    """Lets dnf's check look for keys where the root's database is, and gives what is wrong with a damaged package.
 
-    dnf leaves the check to the program rpmkeys, which doesn't know of this process's settings.
+    dnf leaves the check to the program rpmkeys, which doesn't know of this process's settings, and doesn't tell what
+    that says of damage.
     """
-    if root == "/":
-        yield
-        return
     database = database_directory(root)
+    wrong: List[str] = []
 
     def check(_: Any, path: str) -> int:
         rpmkeys = shutil.which("rpmkeys")
@@ -63,16 +70,20 @@ def _checking_below(root: str) -> Iterator[None]:
         command += ["--define=_pkgverify_level signature", "--define=_pkgverify_flags 0x0", "-"]
         with open(path, "rb") as package:
             environment = {**os.environ, "LC_ALL": "C"}
-            done = subprocess.run(command, stdin=package, stdout=subprocess.PIPE, env=environment, cwd="/")
-        if done.returncode not in (0, 1):
-            return _FATAL
+            pipe = subprocess.PIPE
+            done = subprocess.run(command, stdin=package, stdout=pipe, stderr=pipe, env=environment, cwd="/")
         verdict = dnf.rpm.miscutils._process_rpm_output(done.stdout.split(b"\n"))
-        return verdict or (_FATAL if done.returncode else 0)
+        if done.returncode not in (0, 1) or (done.returncode and not verdict):
+            verdict = _FATAL
+        if verdict == _FATAL:
+            said = [line.strip() for line in valid(done.stdout + done.stderr).splitlines()]
+            wrong.extend([line for line in said if _DAMAGED.search(line)] or filter(None, said))
+        return verdict
 
     original = dnf.rpm.miscutils.checkSig
     dnf.rpm.miscutils.checkSig = check
     try:
-        yield
+        yield wrong
     finally:
         dnf.rpm.miscutils.checkSig = original
 

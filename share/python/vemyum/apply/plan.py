@@ -15,7 +15,7 @@ from ..texts import _
 from .messages import DOWNGRADED, INSTALL, OBSOLETED, REMOVE, UPGRADE, Change, Wish
 
 _NOT_OFFERED = _("{package} is no longer in the repository {repository}. Please refresh the list of packages.")
-_NOT_INSTALLED = _("{package} is no longer installed. Please refresh the list of packages.")
+NOT_INSTALLED = _("{package} is no longer installed. Please refresh the list of packages.")
 
 
 class Marks:
@@ -47,7 +47,7 @@ def mark(base: Base, incoming: Sequence[Wish], removes: Sequence[Wish]) -> Marks
     for unwanted in removes:
         package = installed.get(unwanted)
         if package is None:
-            raise YumBaseError(_NOT_INSTALLED.format(package=_shown(unwanted)))
+            raise YumBaseError(NOT_INSTALLED.format(package=_shown(unwanted)))
         base.package_remove(package)
         marks.removed.append(package)
     return marks

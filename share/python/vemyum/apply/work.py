@@ -28,7 +28,7 @@ from ..signatures import check_signatures
 from ..surroundings import load_needed_later
 from ..texts import _
 from .messages import Change, Plan, Request
-from .plan import mark, solve
+from .plan import NOT_INSTALLED, mark, solve
 
 
 class Work:
@@ -76,6 +76,7 @@ class Work:
         display = Display(base)
         root = base.conf.installroot
         before = self._present(root)
+        _require_installed(base, before)
         host.transaction_init(False)
         try:
             with reported_as(YumBaseError):
@@ -109,6 +110,14 @@ class Work:
             transaction.closeDB()
         self.installed = count if unlisted(root, present.keys()) is None else -1
         return present
+
+
+def _require_installed(base: Base, present: Dict[str, Set[str]]) -> None:
+    """YumBaseError for a package that is to go and has gone meanwhile: rpm would not say which."""
+    for item in base.transaction:
+        if item.action in dnf.transaction.BACKWARD_ACTIONS:
+            if _package_nevra(item.pkg) not in present.get(item.pkg.name, ()):
+                raise YumBaseError(NOT_INSTALLED.format(package=item.pkg))
 
 
 def _not_as_asked(base: Base, present: Dict[str, Set[str]]) -> List[str]:

@@ -1,0 +1,66 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""Web pages that are sent in place of what was asked for: by a proxy that wants a login, by a site that has moved."""
+
+from __future__ import annotations
+
+import re
+import tempfile
+from html.parser import HTMLParser
+from typing import List, Optional, Tuple
+
+import dnf.repo
+
+from .texts import _
+
+_BEGINNING = re.compile(rb"\s*(<\?xml[^>]*>\s*)?(<!--.*?-->\s*)*<(!doctype\s+html|html|head|body)\b", re.I | re.S)
+_ENOUGH = 1 << 16
+"""Bytes that are looked at."""
+_WORDS = 12
+_UNSEEN = ("script", "style", "template", "noscript")
+
+
+class _Words(HTMLParser):
+    """The words that a page shows, its title first."""
+
+    def __init__(self) -> None:
+        super().__init__()
+        self.words: List[str] = []
+        self._unseen = 0
+
+    def handle_starttag(self, tag: str, attrs: List[Tuple[str, Optional[str]]]) -> None:
+        self._unseen += tag in _UNSEEN
+
+    def handle_endtag(self, tag: str) -> None:
+        self._unseen -= tag in _UNSEEN and self._unseen > 0
+
+    def handle_data(self, data: str) -> None:
+        if not self._unseen:
+            self.words += data.split()
+
+
+def told(address: str, content: bytes) -> Optional[str]:
+    """One sentence with the first words of the page; None for content that is none."""
+    if not _BEGINNING.match(content):
+        return None
+    page = _Words()
+    page.feed(content[:_ENOUGH].decode("utf-8", "replace"))
+    page.close()
+    return _('{address} gives a web page in place of the metadata. It begins: "{words}"').format(
+        address=address, words=" ".join(page.words[:_WORDS])
+    )
+
+
+def asked(repo: dnf.repo.Repo) -> Optional[str]:
+    """Asks once more for what begins the reading of a repository, where a program cannot read the answer, and tells
+    of a web page. None for anything else, and where there is no answer any more."""
+    bases = [f"{address.rstrip('/')}/repodata/repomd.xml" for address in repo.baseurl]
+    address = repo.metalink or repo.mirrorlist or next(iter(bases), "")
+    if not address.startswith(("http://", "https://")):
+        return None
+    with tempfile.TemporaryFile() as file:
+        try:
+            repo._repo.downloadUrl(address, file.fileno())
+        except RuntimeError:
+            return None
+        file.seek(0)
+        return told(address, file.read(_ENOUGH))
