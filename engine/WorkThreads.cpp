@@ -80,12 +80,13 @@ bool CollectBuildHostThread::work()
     return yumIO->collectBuildHostReal(entry);
 }
 
-ApplyThread::ApplyThread(YumIO* engine, QEventLoop& callersLoop)
-    : WorkThread(engine, callersLoop)
+ApplyThread::ApplyThread(YumIO* engine, QEventLoop& callersLoop, YumIO::ApplyOf whatToApply)
+    : WorkThread(engine, callersLoop),
+      what(whatToApply)
 {
 }
 
 bool ApplyThread::work()
 {
-    return yumIO->applyReal();
+    return yumIO->applyReal(what);
 }

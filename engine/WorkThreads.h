@@ -2,6 +2,7 @@
 #pragma once
 
 #include "engine/Package.h"
+#include "engine/YumIO.h"
 
 #include <QHash>
 #include <QString>
@@ -9,7 +10,6 @@
 #include <atomic>
 
 class QEventLoop;
-class YumIO;
 
 /// The worker thread of one of the engine's jobs. It is built on the stack of the GUI-thread function that
 /// wants the job, runs it, keeps its answer in `result` and ends the caller's event loop.
@@ -113,8 +113,11 @@ class ApplyThread final : public WorkThread
     Q_OBJECT
 
 public:
-    ApplyThread(YumIO* engine, QEventLoop& callersLoop);
+    ApplyThread(YumIO* engine, QEventLoop& callersLoop, YumIO::ApplyOf whatToApply);
 
 protected:
     bool work() override;
+
+private:
+    YumIO::ApplyOf const what;
 };

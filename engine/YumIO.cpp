@@ -209,12 +209,15 @@ void YumIO::detachEntries()
     detached += entries.isEmpty() ? entryHash.values() : entries;
     entries.clear();
     entryHash.clear();
+    left.text.clear();
+    left.versions.clear();
 }
 
 void YumIO::dropEntries()
 {
     qDeleteAll(detached);
     detached = {};
+    left.older.reset();
 }
 
 void YumIO::execWorkThread(QEventLoop& loop, QThread& thread)
@@ -327,7 +330,18 @@ bool YumIO::collectBuildHost(Package::Entry const& entry)
 bool YumIO::apply()
 {
     QEventLoop loop;
-    ApplyThread thread(this, loop);
+    ApplyThread thread(this, loop, ApplyOf::Marks);
+    execWorkThread(loop, thread);
+    return thread.result;
+}
+
+bool YumIO::removeOlder()
+{
+    if (!left.older) {
+        return false;
+    }
+    QEventLoop loop;
+    ApplyThread thread(this, loop, ApplyOf::Older);
     execWorkThread(loop, thread);
     return thread.result;
 }

@@ -60,6 +60,21 @@ public:
         ActNone
     };
 
+    /// What an apply is about: what the user has marked, or what `unfinished` offers.
+    enum class ApplyOf
+    {
+        Marks,
+        Older
+    };
+
+    /// What a transaction that was cut off has left in the managed system, as the last collection found it.
+    struct Unfinished
+    {
+        QString text;                     ///< tells it, in lines; empty for nothing
+        QHash<QString, QString> versions; ///< those of each package that is there more than once, by its name
+        PyRef older;                      ///< list of all but the newest of these, where they may be removed
+    };
+
     /// For its life, no accessor starts a job of its own: what isn't loaded stays empty. For callers that
     /// can't have events served in the middle of their work, such as a table that is testing its rows. It
     /// holds the interpreter lock, so that reading many fields takes it once.
@@ -118,6 +133,10 @@ public:
     /// ended without an expected exception; the caller must then rebuild. False: nothing to rebuild, marks
     /// and table stay as they are.
     bool apply();
+
+    [[nodiscard]] Unfinished const& unfinished() const { return left; }
+    /// Job: removes the older versions that `unfinished` knows, as `apply` does what is marked.
+    bool removeOlder();
 
     /// Whether the job in progress has come to where it must not be cut off: rpm works. GUI thread.
     [[nodiscard]] bool transactionRuns() const { return transactionBegun; }
@@ -288,7 +307,7 @@ protected:
     bool collectFileListsReal();
     bool collectOtherDataReal();
     bool collectBuildHostReal(Package::Entry const& entry);
-    bool applyReal();
+    bool applyReal(ApplyOf what);
 
     // Collection.
     void startCollectionProgress();
@@ -297,6 +316,8 @@ protected:
     bool readRepositories(QHash<QString, bool> const& repoStates);
     bool collectPackages();
     bool collectGroupData();
+    /// Asks a script that knows for what a transaction has left. Nothing of it fails the collection.
+    void collectUnfinished();
     void useRepos(PyObject* reposObject, QHash<QString, bool> const& repoStates);
     QStringList collectRepos(PyObject* reposDict);
     bool collectField(EntryHash& hash, PyObject* object, char const* field, Package::State state);
@@ -375,6 +396,7 @@ protected:
         QString const& reason);
 
     // Apply.
+    bool collectMarks(PyObject* installs, PyObject* updates, PyObject* removes);
     bool splitMarks(PyObject* installs, PyObject* updates, PyObject* removes);
     /// Behind a transaction during which the user wanted the program to end: tells on the terminal what went
     /// wrong, gives the lock back and ends the process.
@@ -455,7 +477,8 @@ protected:
     PyObject* postTransactionOutput(PyObject* self, PyObject* args) override;
 
     Package::EntryList entries;
-    QList<Package::Entry*> detached;     ///< the rows of the last collection, still to be freed
+    QList<Package::Entry*> detached; ///< the rows of the last collection, still to be freed
+    Unfinished left;
     EntryHash entryHash;                 ///< the same entries by key; while collecting, the only holder
     qsizetype logMark = -1;              ///< first log line of the guarded call in progress; -1: none
     QWidget* parent = nullptr;           ///< parent of every dialog

@@ -32,7 +32,7 @@ constexpr Steps transactionSteps = 9100;
 
 } // namespace
 
-bool YumIO::applyReal()
+bool YumIO::applyReal(ApplyOf what)
 {
     blocker.block();
     ProgressUser const progressUser(progress, totalBar, itemBar);
@@ -45,12 +45,11 @@ bool YumIO::applyReal()
     run = ApplyRun();
     PyRef const installs = PyRef::steal(PyList_New(0));
     PyRef const updates = PyRef::steal(PyList_New(0));
-    PyRef const removes = PyRef::steal(PyList_New(0));
-    for (Package::Entry* const entry : std::as_const(entries)) {
-        entry->applyAction = entry->action;
-        entry->applyCause = entry;
-    }
-    if (!applyGroups() || !splitMarks(installs.get(), updates.get(), removes.get())) {
+    PyRef removes = PyRef::steal(PyList_New(0));
+    if (what == ApplyOf::Older) {
+        removes = PyRef::borrow(left.older.get());
+        run.nPkgs = static_cast<unsigned int>(PyList_GET_SIZE(removes.get()));
+    } else if (!collectMarks(installs.get(), updates.get(), removes.get())) {
         return false;
     }
     run.pkgActs = run.nPkgs;
@@ -84,6 +83,15 @@ bool YumIO::applyReal()
     progress->reset();
     run.updateNames.clear();
     return run.applyConfirmed;
+}
+
+bool YumIO::collectMarks(PyObject* installs, PyObject* updates, PyObject* removes)
+{
+    for (Package::Entry* const entry : std::as_const(entries)) {
+        entry->applyAction = entry->action;
+        entry->applyCause = entry;
+    }
+    return applyGroups() && splitMarks(installs, updates, removes);
 }
 
 void YumIO::leaveAfterInterrupt(bool succeeded)

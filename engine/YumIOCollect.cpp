@@ -63,6 +63,9 @@ bool YumIO::collectReal(QHash<QString, bool> const& repoStates)
 
     bool const collected =
         takeLock() && readRepositories(repoStates) && collectPackages() && collectGroupData();
+    if (collected) {
+        collectUnfinished();
+    }
     sharedTexts = {};
     // An expected exception that was reported without being fetched must not meet the next call.
     PyErr_Clear();

@@ -77,6 +77,7 @@ Model::Model(YumIO* engine, QObject* parent)
       yumIO(engine),
       outOfDateIcon(Share::icon(QStringLiteral("icons/out-of-date.png"))),
       upToDateIcon(Share::icon(QStringLiteral("icons/up-to-date.png"))),
+      doubledIcon(Share::icon(QStringLiteral("icons/doubled.png"))),
       noneBoxIcon(Share::icon(QStringLiteral("icons/noneBox.png"))),
       updateBoxIcon(Share::icon(QStringLiteral("icons/updateBox.png"))),
       installBoxIcon(Share::icon(QStringLiteral("icons/installBox.png"))),
@@ -157,6 +158,9 @@ QVariant Model::decoration(Package::Entry const& entry, int column) const
         }
         break;
     case StateColumn:
+        if (!installedVersions(entry).isEmpty()) {
+            return doubledIcon;
+        }
         switch (entry.state) {
         case Package::OutOfDate:
             return outOfDateIcon;
@@ -182,7 +186,26 @@ QVariant Model::decoration(Package::Entry const& entry, int column) const
     return {};
 }
 
-QVariant Model::toolTip(Package::Entry const& entry, int column)
+QString Model::installedVersions(Package::Entry const& entry) const
+{
+    QHash<QString, QString> const& versions = yumIO->unfinished().versions;
+    return versions.isEmpty() || entry.kind == Package::Group ? QString() : versions.value(entry.name);
+}
+
+QString Model::stateToolTip(Package::State state)
+{
+    switch (state) {
+    case Package::OutOfDate:
+        return tr("Package is available to update an out-of-date version");
+    case Package::Available:
+        return tr("Package is available for installation");
+    case Package::UpToDate:
+        return tr("Package is installed and up-to-date");
+    }
+    return {};
+}
+
+QVariant Model::toolTip(Package::Entry const& entry, int column) const
 {
     switch (column) {
     case ActionColumn:
@@ -197,16 +220,12 @@ QVariant Model::toolTip(Package::Entry const& entry, int column)
             break;
         }
         break;
-    case StateColumn:
-        switch (entry.state) {
-        case Package::OutOfDate:
-            return tr("Package is available to update an out-of-date version");
-        case Package::Available:
-            return tr("Package is available for installation");
-        case Package::UpToDate:
-            return tr("Package is installed and up-to-date");
-        }
-        break;
+    case StateColumn: {
+        QString const versions = installedVersions(entry);
+        QString const state = stateToolTip(entry.state);
+        return versions.isEmpty() ? state
+                                  : state + tr("\nInstalled in more than one version: %1").arg(versions);
+    }
     case KindColumn:
         switch (entry.kind) {
         case Package::Suite:

@@ -102,14 +102,17 @@ private:
     void mark(int row, Package::Entry& entry, Package::Action action);
     QVariant decoration(Package::Entry const& entry, int column) const;
     QVariant foreground(Package::Entry const& entry) const;
-    static QVariant toolTip(Package::Entry const& entry, int column);
+    QVariant toolTip(Package::Entry const& entry, int column) const;
+    static QString stateToolTip(Package::State state);
+    /// Where a transaction that was cut off has left more than one version of the package: which. Else empty.
+    QString installedVersions(Package::Entry const& entry) const;
     static QVariant rawValue(Package::Entry* entry, int column);
 
     YumIO* yumIO;
     YumConfIO* yumConfIO = nullptr;
     QPointer<Describe::Dialog> describeDialog; ///< made at the first use; owned by the widget given then
     bool enabled = true;
-    QIcon outOfDateIcon, upToDateIcon;
+    QIcon outOfDateIcon, upToDateIcon, doubledIcon;
     QIcon noneBoxIcon, updateBoxIcon, installBoxIcon, removeBoxIcon;
     QIcon suiteIcon, groupIcon, packageIcon;
     StateColors outOfDateColors, upToDateColors, availableColors;

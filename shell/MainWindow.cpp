@@ -142,6 +142,10 @@ void MainWindow::setReady(bool ready)
         QApplication::setOverrideCursor(Qt::BusyCursor);
     }
     QEventLoop().processEvents(QEventLoop::ExcludeUserInputEvents);
+    if (ready) {
+        // Behind whatever has been going on.
+        QMetaObject::invokeMethod(this, &MainWindow::tellUnfinished, Qt::QueuedConnection);
+    }
 }
 
 template <typename Step>
@@ -434,8 +438,14 @@ void MainWindow::clearActions()
 
 void MainWindow::apply()
 {
+    applying([this] { return yumIO->apply(); });
+}
+
+template <typename Job>
+void MainWindow::applying(Job const& job)
+{
     setReady(false);
-    if (yumIO->apply()) {
+    if (job()) {
         if (RepoAuth::Checker(this, yumConfIO).quitRequested) {
             quit();
             return;
@@ -443,4 +453,30 @@ void MainWindow::apply()
         rebuild();
     }
     setReady(true);
+}
+
+void MainWindow::tellUnfinished()
+{
+    if (!yumIO || yumIO->jobRuns() || yumIO->unfinished().text == unfinishedTold) {
+        return;
+    }
+    unfinishedTold = yumIO->unfinished().text;
+    if (unfinishedTold.isEmpty()) {
+        return;
+    }
+    QMessageBox box(
+        QMessageBox::Warning, tr("Unfinished Transaction"), unfinishedTold, QMessageBox::NoButton, this);
+    box.setTextFormat(Qt::PlainText);
+    if (!yumIO->unfinished().older) {
+        box.exec();
+        return;
+    }
+    box.setInformativeText(tr(
+        "Shall the older versions be removed? What exactly is done is shown before, and asked once more."));
+    QPushButton const* const remove = box.addButton(tr("&Remove Older Versions"), QMessageBox::AcceptRole);
+    box.addButton(tr("&Leave Them"), QMessageBox::RejectRole);
+    box.exec();
+    if (box.clickedButton() == remove) {
+        applying([this] { return yumIO->removeOlder(); });
+    }
 }

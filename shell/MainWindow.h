@@ -84,6 +84,9 @@ public Q_SLOTS:
     void setUpdateAll();
     void clearActions();
     void apply();
+    /// Tells what a transaction that was cut off has left, once for each that there is to tell, and offers to
+    /// remove the older versions of packages that are there twice.
+    void tellUnfinished();
 
 protected:
     /// Refused, with a word, while rpm works; ends the process while another job is in progress.
@@ -109,6 +112,9 @@ private:
     [[nodiscard]] bool isSearching() const;
     template <typename Step>
     void whileBusy(Step const& step);
+    /// Runs a job that applies something, and fills the table anew behind it.
+    template <typename Job>
+    void applying(Job const& job);
 
     QIcon updateIcon;
     QIcon clearIcon;
@@ -126,6 +132,7 @@ private:
     QAction* cleanXmlMetadataAction = nullptr;
     QAction* cleanPickledCacheAction = nullptr;
     QAction* cleanAllAction = nullptr;
+    QString unfinishedTold;           ///< what `tellUnfinished` has told last
     QPointer<QWidget> closeBox;       ///< says why the window stays, while it does
     QPointer<QWidget> tableArea;      ///< hidden until the first collection is done
     QPointer<QWidget> focusWhenReady; ///< had the keyboard when the window became busy

@@ -12,7 +12,7 @@ from __future__ import annotations
 import gc
 import os
 import sys
-from typing import Any, List, Optional, Sequence, Tuple
+from typing import Any, Dict, List, Optional, Sequence, Tuple
 
 # The engine tells no path, only this file's name; the package lies beside it in the share directory.
 _share = os.environ.get("VEMSHARE", "/usr/share/vem")
@@ -120,6 +120,15 @@ class YumIO:
     def collectGroupInfo(self) -> List[Any]:
         """The groups; none where `setupTsGroup` found none."""
         return self._session.groups()
+
+    def unfinished(self) -> Optional[Tuple[str, Dict[str, str], List[Any]]]:
+        """What a transaction that was cut off has left: a text; the versions of each package that is there more than
+        once, by its name; the older ones of these, for `apply` to remove. None for nothing. YumBaseError."""
+        with reported_as(YumBaseError):
+            found = self._session.unfinished()
+        if found is None:
+            return None
+        return found and tuple(found)
 
     def collectFileLists(self) -> bool:
         """YumBaseError."""

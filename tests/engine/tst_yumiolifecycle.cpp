@@ -219,7 +219,7 @@ void TestYumIOLifecycle::transactionWaitsAtTheGate()
     connect(
         &engine->logEntries, &Log::EntryList::appended, this, [&] { begun.release(); }, Qt::DirectConnection);
     QEventLoop loop;
-    ApplyThread thread(engine.get(), loop);
+    ApplyThread thread(engine.get(), loop, YumIO::ApplyOf::Marks);
     engine->blocker.prepare();
     thread.start();
     // Long enough for any worker that doesn't wait.

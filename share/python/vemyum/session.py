@@ -21,10 +21,12 @@ from .errors import LockError, RepoError, YumBaseError, reported_as
 from .groups import Group, groups_of, read_groups
 from .lists import Collector, PackageLists
 from .lock import LOCK
+from .packages import InstalledPackage
 from .repositories import Repositories, UnreadableRepositories
 from .root import as_configured, managed_root
 from .sack import light_packages
 from .texts import _
+from .unfinished import Unfinished, unfinished
 
 _NOT_READ = _("The repositories are not read")
 
@@ -120,6 +122,15 @@ class Session:
 
     def groups(self) -> List[Group]:
         return groups_of(self._comps, self.collector.installed_names)
+
+    def unfinished(self) -> Optional[Unfinished]:
+        """What a transaction that was cut off has left; told in the log, too."""
+        found = unfinished(self.base)
+        if found is None or self._details is None:
+            return None
+        for line in found.text.splitlines():
+            host.errorlog(host.LEVEL_NOTICE, line)
+        return found._replace(older=[InstalledPackage(package, self._details) for package in found.older])
 
     # Extra data ------------------------------------------------------------------------------------------
 

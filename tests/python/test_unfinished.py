@@ -1,0 +1,148 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""What a transaction that was cut off has left: told by history and rpm database, removed on demand."""
+
+from __future__ import annotations
+
+import contextlib
+import sqlite3
+from typing import Any, Dict, Tuple
+
+import pytest
+from catalogue import Catalogue
+from fake_host import FakeHost
+from program import Program
+from rpmestate import Estate, install_options
+
+
+def double(estate: Estate, rpms: Catalogue, *names: str) -> None:
+    """Puts packages in beside older ones, as rpm does before it takes those out."""
+    estate.rpm("-i", "--oldpackage", *install_options(), *rpms.some(*names))
+
+
+def cut_off_last(estate: Estate) -> None:
+    """Makes the last entry of the history one without an end."""
+    with contextlib.closing(sqlite3.connect(estate.root / "var/lib/dnf/history.sqlite")) as history:
+        history.execute("update trans set state = 0, dt_end = null")
+        history.commit()
+
+
+@pytest.fixture
+def doubled(estate: Estate, rpms: Catalogue, program: Program) -> Tuple[Estate, Program]:
+    estate.install(rpms.some("lib-1.0", "battery-1.0"))
+    double(estate, rpms, "lib-2.0")
+    estate.repository("base", rpms.some("lone-1.0"))
+    return estate, program
+
+
+def told(program: Program) -> Tuple[str, Dict[str, str], Any]:
+    answer = program.collect().yumio.unfinished()
+    assert answer is not None
+    return answer
+
+
+def test_sound_system_has_nothing_to_tell(lamp: Tuple[Estate, Program], host: FakeHost) -> None:
+    _, program = lamp
+    assert program.collect().yumio.unfinished() is None
+    assert not host.text("errorlog")
+
+
+def test_packages_that_are_there_twice_are_told_with_their_versions(
+    doubled: Tuple[Estate, Program], host: FakeHost
+) -> None:
+    text, versions, older = told(doubled[1])
+    assert text == (
+        "Installed in more than one version, as a transaction leaves it that is cut off:\n"
+        "    lib.noarch: 1.0-1, 2.0-1"
+    )
+    assert versions == {"lib": "1.0-1, 2.0-1"}
+    assert [str(package) for package in older] == ["lib-1.0-1.noarch"]
+    assert host.text("errorlog") == text
+
+
+def test_older_versions_are_removed_by_an_apply(doubled: Tuple[Estate, Program], host: FakeHost) -> None:
+    estate, program = doubled
+    listed = []
+    host.on_list = lambda apply: listed.extend(member.pkgtup for member in apply.tsInfo.removed)
+    _, _, older = told(program)
+    program.yumio.apply([], [], older)
+    assert listed == [("lib", "noarch", "0", "1.0", "1")]
+    assert estate.installed() == {"lib-2.0-1.noarch", "battery-1.0-1.noarch"}
+    assert program.collect().yumio.unfinished() is None
+
+
+def test_packages_that_may_be_there_several_times_are_none_of_them(
+    estate: Estate, rpms: Catalogue, program: Program
+) -> None:
+    estate.install(rpms.some("core-1.0"))
+    double(estate, rpms, "core-2.0")
+    estate.repository("base", [])
+    assert program.collect().yumio.unfinished() is None
+
+
+def test_long_list_is_cut_short(estate: Estate, rpms: Catalogue) -> None:
+    from vemyum import unfinished
+
+    lines = unfinished._shortened([f"package-{number}" for number in range(13)])
+    assert lines[-2:] == ["    package-9", "    and 3 more"]
+
+
+def test_who_may_only_look_gets_nothing_to_remove(
+    doubled: Tuple[Estate, Program], monkeypatch: pytest.MonkeyPatch
+) -> None:
+    from vemyum import unfinished
+
+    monkeypatch.setattr(unfinished, "is_administrator", lambda: False)
+    text, versions, older = told(doubled[1])
+    assert "lib.noarch" in text and versions and older == []
+
+
+def test_entry_of_the_history_without_an_end_is_told_with_what_is_missing(
+    estate: Estate, rpms: Catalogue, program: Program
+) -> None:
+    estate.install(rpms.some("lib-1.0", "battery-1.0"))
+    estate.repository("base", rpms.some("lone-1.0", "lib-2.0"))
+    found = program.collect()
+    found.yumio.apply([found.offered("lone")], [found.pair("lib")], [found.there("battery")])
+    cut_off_last(estate)
+    first, *rest = told(program)[0].splitlines()
+    assert first.startswith("The last transaction was cut off before its end: number 1, of 20")
+    assert first.endswith(", by vem.")
+    assert rest == []
+
+    estate.rpm("--erase", "lone")
+    estate.install(rpms.some("battery-1.0"))
+    double(estate, rpms, "lib-1.0")
+    assert told(program)[0].splitlines()[1:] == [
+        "Still to be installed:",
+        "    lone-1.0-1.noarch",
+        "Still to be removed:",
+        "    battery-1.0-1.noarch",
+        "    lib-1.0-1.noarch",
+        "Installed in more than one version:",
+        "    lib.noarch: 1.0-1, 2.0-1",
+    ]
+
+
+def test_next_transaction_ends_the_telling(estate: Estate, rpms: Catalogue, program: Program) -> None:
+    estate.repository("base", rpms.some("lone-1.0", "battery-1.0"))
+    found = program.collect()
+    found.yumio.apply([found.offered("lone")], [], [])
+    cut_off_last(estate)
+    assert told(program)
+    found = program.collect()
+    found.yumio.apply([found.offered("battery")], [], [])
+    assert program.collect().yumio.unfinished() is None
+
+
+@pytest.mark.parametrize("content", [None, b"", b"no database", b"SQLite format 3\0" + bytes(84)])
+def test_history_that_cannot_be_read_is_left_alone(
+    lamp: Tuple[Estate, Program], content: Any, host: FakeHost
+) -> None:
+    estate, program = lamp
+    history = estate.root / "var/lib/dnf/history.sqlite"
+    history.parent.mkdir(parents=True, exist_ok=True)
+    if content is not None:
+        history.write_bytes(content)
+    assert program.collect().yumio.unfinished() is None
+    assert history.exists() == (content is not None)
+    assert content is None or history.read_bytes() == content
