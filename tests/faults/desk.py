@@ -1,0 +1,162 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""What a test of faults does again and again: start, mark, apply, read what is told, look whether all is sound."""
+from __future__ import annotations
+
+import errno
+import os
+import shutil
+import subprocess
+from pathlib import Path
+from typing import Callable, Optional
+
+from program import ACTION_COLUMN, Atspi, Program, wait_for
+from rpmestate import Estate
+
+ERROR = "VEM Yum Error"
+QUESTION = "Apply"
+
+
+class Desk:
+    """One system, and a window on it."""
+
+    def __init__(self, site: Estate, start: Callable[..., Program]) -> None:
+        self.site = site
+        self._start = start
+        self._program: Optional[Program] = None
+        self._said = 0
+
+    # The window.
+
+    @property
+    def program(self) -> Program:
+        """Started when it is first wanted."""
+        return self._program or self.open()
+
+    def open(self, *arguments: str) -> Program:
+        """A new window, which isn't waited for."""
+        self._program = self._start(self.site, *arguments)
+        self._said = 0
+        return self._program
+
+    def ready(self) -> Program:
+        self.program.wait_ready()
+        return self.program
+
+    def program_ends(self) -> None:
+        if self._program is not None:
+            self._program.close()
+            self._program = None
+
+    # What is done in it.
+
+    def refresh(self) -> None:
+        """Without waiting for its end."""
+        self.program.press("Refresh")
+
+    def mark(self, *names: str) -> None:
+        """Marks the packages, which are offered or installed, and no others."""
+        self.ready().choose("View All")
+        if self.program.is_enabled("Clear Actions"):
+            self.program.press("Clear Actions")
+        for name in names:
+            self.program.click_cell(name, ACTION_COLUMN)
+
+    def apply(self) -> str:
+        """Presses Apply and answers the question by OK; gives its words."""
+        self.program.press("Apply Actions")
+        question = self.program.window(QUESTION)
+        text = self.program.texts(question)
+        self.program.press("OK", question)
+        self.program.wait_closed(QUESTION)
+        return text
+
+    def told(self, timeout: float = 60.0) -> str:
+        """The words of the error dialog, which is waited for and closed. The window is usable behind it."""
+        report = self.program.window(ERROR, timeout)
+        text = self.program.texts(report)
+        self.program.press("Close" if self.program.find("Close", inside=report) else "OK", report)
+        self.program.wait_closed(ERROR)
+        self.program.wait_ready()
+        return text
+
+    def untold(self) -> Program:
+        """Waits until the window is usable again, without a word of an error."""
+
+        def settled() -> bool:
+            report = self.program.find_window(ERROR)
+            assert report is None, self.program.texts(report)
+            return self.program.is_ready()
+
+        wait_for(settled, "the window to be usable", 60)
+        return self.program
+
+    def new_log(self) -> str:
+        """What the log has said since it was last asked. The log's window is put away again."""
+        text = self.program.log_text()
+        window = self.program.window("VEM Log")
+        self.program.press("Close", window)
+        self.program.wait_closed("VEM Log")
+        new = text[self._said :]
+        self._said = len(text)
+        return new
+
+    # What is behind it.
+
+    def sound(self, *installed: str) -> None:
+        """The rpm database is whole and holds these packages and no others, and nobody works on it any more."""
+        self.site.rpm("--verifydb")
+        assert self.site.installed() == set(installed)
+        pid = None if self._program is None else self._program.process.pid
+        wait_for(lambda: processes_of(self.site) <= {pid}, "other processes to end", 30)
+
+
+def processes_of(site: Estate) -> set[int]:
+    """The processes that work on this system: those that were told of it."""
+    wanted = f"VEMROOT={site.root}".encode()
+    found = set()
+    for folder in Path("/proc").iterdir():
+        if folder.name.isdecimal():
+            try:
+                if wanted in (folder / "environ").read_bytes().split(b"\0"):
+                    found.add(int(folder.name))
+            except OSError:
+                continue  # gone, or another user's
+    return found
+
+
+class Disk:
+    """A small disk over a directory, whose content moves there; it can be full."""
+
+    def __init__(self, directory: Path, size: int) -> None:
+        """`size` in KiB."""
+        self.directory = directory
+        self._filling = directory / ".filling"
+        directory.mkdir(parents=True, exist_ok=True)
+        aside = directory.with_name(directory.name + ".aside")
+        directory.rename(aside)
+        directory.mkdir()
+        subprocess.run(["mount", "-t", "tmpfs", "-o", f"size={size}k,mode=755", "none", str(directory)], check=True)
+        shutil.copytree(aside, directory, symlinks=True, dirs_exist_ok=True)
+        shutil.rmtree(aside)
+
+    def free(self) -> int:
+        """KiB."""
+        space = os.statvfs(self.directory)
+        return space.f_bavail * space.f_frsize // 1024
+
+    def fill(self, spare: int = 0) -> None:
+        """Leaves so many KiB free, and no more."""
+        with open(self._filling, "ab", buffering=0) as file:
+            try:
+                while self.free() > spare:
+                    file.write(bytes(min(1 << 20, (self.free() - spare) << 10)))
+            except OSError as error:
+                if error.errno != errno.ENOSPC:
+                    raise
+
+    def make_room(self) -> None:
+        self._filling.unlink(missing_ok=True)
+
+    def take_away(self) -> None:
+        # Somebody may still have a file open there.
+        subprocess.run(["umount", "--lazy", str(self.directory)], check=True)
