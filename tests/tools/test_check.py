@@ -18,8 +18,8 @@ NO_DEBIAN = "Left out: the Debian package"
 NO_MANUALS = "Left out: the manuals"
 
 
-def check_packages(system: System) -> tuple[str, str]:
-    """What ./check --packages said, and the commands that it called to build and test them."""
+def check(system: System, stage: str, *commands: Path) -> tuple[str, str]:
+    """What ./check said to the stage, and how it called these commands, which do nothing."""
     top = system.list.parent / "house"
     for name in ("check", "tools/packages.sh", "tools/privileges.sh"):
         (top / name).parent.mkdir(parents=True, exist_ok=True)
@@ -27,13 +27,21 @@ def check_packages(system: System) -> tuple[str, str]:
     shutil.copy(system.list, top / "packages.list")
     called = top / "called"
     called.write_text("")
-    for name in ("packaging/build-rpm", "packaging/build-deb", "tools/on-virtual-display"):
-        (top / name).parent.mkdir(exist_ok=True)
-        (top / name).write_text(f'#!{system.commands}/bash\necho "${{0##*/}} $*" >>"{called}"\n')
-        (top / name).chmod(0o755)
-    words = system.bash(str(top / "check"), "--packages")
-    assert words.endswith("check: all passed (packages)\n")
-    return words, called.read_text().replace(f"{top}/build/packages", "OUT")
+    for command in commands:
+        path = top / command
+        path.parent.mkdir(exist_ok=True)
+        path.write_text(f'#!{system.commands}/bash\necho "${{0##*/}} $*" >>"{called}"\n')
+        path.chmod(0o755)
+    words = system.bash(str(top / "check"), f"--{stage}")
+    assert words.endswith(f"check: all passed ({stage})\n")
+    return words, called.read_text().replace(str(top), "TOP")
+
+
+def check_packages(system: System) -> tuple[str, str]:
+    """What ./check --packages said, and the commands that it called to build and test them."""
+    names = ("packaging/build-rpm", "packaging/build-deb", "tools/on-virtual-display")
+    words, called = check(system, "packages", *map(Path, names))
+    return words, called.replace("TOP/build/packages", "OUT")
 
 
 TESTS = "on-virtual-display /usr/bin/python3 -B -m pytest -p no:cacheprovider -q tests/packaging\n"
@@ -54,6 +62,14 @@ def test_an_rpm_system_makes_the_rpm_alone(manuals: bool, tmp_path: Path) -> Non
     assert called == f"build-rpm OUT{'' if manuals else ' --without manuals'}\n{TESTS}"
     assert NO_DEBIAN in words
     assert (NO_MANUALS in words) != manuals
+
+
+def test_slow_faults_are_left_to_a_stage_of_their_own(tmp_path: Path) -> None:
+    system = System(tmp_path, "debian", COMMANDS["debian"])
+    _, called = check(system, "faults", system.commands / "cmake", system.commands / "ctest")
+    assert called.splitlines()[-1] == (
+        "ctest --preset asan --parallel 2 --output-on-failure --build-config Faults --label-regex ^slow$"
+    )
 
 
 if __name__ == "__main__":
