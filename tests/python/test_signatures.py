@@ -3,58 +3,20 @@
 
 from __future__ import annotations
 
-import os
-import shutil
-import subprocess
 from pathlib import Path
 from typing import Iterator
 
 import pytest
 from catalogue import Catalogue
 from fake_host import FakeHost
+from keys import Key
 from program import Program
 from rpmestate import Estate
 
-UID = "Estate Signing <signing@estate.example>"
-
-
-class Key:
-    """A signing key in a keyring of its own."""
-
-    def __init__(self, directory: Path) -> None:
-        self.home = directory
-        self.public = directory / "public.asc"
-        self._gpg("--quick-generate-key", UID, "rsa2048", "sign", "never")
-        self.public.write_bytes(self._gpg("--armor", "--export", UID))
-        listing = self._gpg("--list-keys", "--with-colons").decode()
-        self.id = next(line.split(":")[4] for line in listing.splitlines() if line.startswith("pub"))
-
-    def _gpg(self, *arguments: str) -> bytes:
-        command = ["gpg", "--homedir", str(self.home), "--batch", "--passphrase", "", *arguments]
-        return subprocess.run(command, check=True, capture_output=True).stdout
-
-    def sign(self, rpm: Path, directory: Path) -> Path:
-        signed = directory / rpm.name
-        shutil.copy2(rpm, signed)
-        command = ["rpmsign", "--addsign"]
-        for macro in (f"_gpg_name {UID}", f"_gpg_path {self.home}", f"__gpg {shutil.which('gpg')}"):
-            command += ["--define", macro]
-        subprocess.run([*command, str(signed)], check=True, capture_output=True)
-        return signed
-
-    def end(self) -> None:
-        subprocess.run(["gpgconf", "--homedir", str(self.home), "--kill", "all"], check=True)
-
-
 @pytest.fixture(scope="module")
-def key(tmp_path_factory: pytest.TempPathFactory) -> Iterator[Key]:
-    # gpg's agent listens on a socket, whose path must be short.
-    directory = Path("/tmp") / f"vem-keys-{os.getpid()}"
-    directory.mkdir(mode=0o700)
-    key = Key(directory)
-    yield key
-    key.end()
-    shutil.rmtree(directory, ignore_errors=True)
+def key() -> Iterator[Key]:
+    with Key() as key:
+        yield key
 
 
 def refused(program: Program, *words: str) -> None:
