@@ -4,7 +4,7 @@
 from __future__ import annotations
 
 import os
-from typing import Any, Dict, List, Tuple
+from typing import Any, Callable, Dict, List, Tuple
 
 import dnf.callback
 import pytest
@@ -158,6 +158,22 @@ def test_cause_and_address_of_a_failure_are_named_once(
         assert f"{name}-1.0-1.noarch: " in text and text.count(cause) == 1, text
         assert host.text("log").count(cause) == 1
         assert "checksum" in text or name != "battery"
+
+
+@pytest.mark.parametrize(("blocks", "told"), [(1, True), (1 << 20, False)])
+def test_full_disk_is_told_beside_the_cause(
+    served: Estate, program: Program, host: FakeHost, web: Web, in_child: Callable[[str], None], blocks: int, told: bool
+) -> None:
+    web.page("/base/lone-1.0-1.noarch.rpm", b"the beginning")
+    in_child(
+        "import os, types\n"
+        f"os.statvfs = lambda _: types.SimpleNamespace(f_bavail={blocks}, f_frsize=4096, f_flag=0)"
+    )
+    found = program.collect()
+    with pytest.raises(program.errors.YumBaseError) as caught:
+        found.yumio.apply([found.offered("lone")], [], [])
+    (packages,) = (served.root / "var/cache/yum").glob("base-*/packages")
+    assert (f"\nOnly 4 KiB are free in {packages}." in str(caught.value)) is told
 
 
 # The meter alone --------------------------------------------------------------------------------------

@@ -14,6 +14,7 @@ import dnf.package
 from . import host
 from .base import Base
 from .errors import YumBaseError
+from .space import scarce_space
 from .texts import _
 
 
@@ -123,10 +124,21 @@ def download(base: Base, packages: List[dnf.package.Package]) -> None:
         for package, messages in error.errmap.items():
             lines += [f"{package}: {message}" if package else str(message) for message in messages]
             lines += [f"    {cause}" for cause in meter.causes(package)]
+        lines += _scarce_space(packages)
         raise YumBaseError("\n".join([_("Unable to download packages:"), *lines])) from error
     finally:
         meter.finish()
     _require_files(packages)
+
+
+def _scarce_space(packages: List[dnf.package.Package]) -> List[str]:
+    """A line for each directory that has no room for the largest of the files that go there."""
+    wanted: Dict[str, int] = {}
+    for package in packages:
+        if not package._is_local_pkg():
+            directory = os.path.dirname(package.localPkg())
+            wanted[directory] = max(wanted.get(directory, 0), int(package.size))
+    return [line for directory, size in wanted.items() for line in scarce_space(directory, size)]
 
 
 def _require_files(packages: List[dnf.package.Package]) -> None:
