@@ -2,18 +2,34 @@
 """What a test of faults does again and again: start, mark, apply, read what is told, look whether all is sound."""
 from __future__ import annotations
 
+import contextlib
 import errno
 import os
+import re
 import shutil
 import subprocess
 from pathlib import Path
-from typing import Callable, Optional
+from typing import Callable, Optional, Union
 
-from program import ACTION_COLUMN, Atspi, Program, wait_for
+from program import ACTION_COLUMN, Atspi, Program, TimedOut, wait_for
 from rpmestate import Estate
 
 ERROR = "VEM Yum Error"
 QUESTION = "Apply"
+
+
+BEFORE = ("fleet-lamp-1.0-1.noarch", "fleet-match-1.0-1.noarch", "fleet-shell-1.0-1.x86_64")
+"""What is installed at first."""
+
+
+def assert_told(text: str, *expected: Union[str, "re.Pattern[str]"]) -> None:
+    """The text has these lines: the program's own ones word for word. A pattern stands for one or more lines of a
+    library below, whose words differ from release to release, and tells what has to be in them."""
+    parts = [re.escape(part) if isinstance(part, str) else f".*(?:{part.pattern}).*" for part in expected]
+    assert re.fullmatch("\n".join(parts), text, re.DOTALL), text
+    lines = [line for line in text.splitlines() if line.strip()]
+    assert len(set(lines)) == len(lines), f"something is told twice:\n{text}"
+    assert "Traceback" not in text and "Internal error" not in text, text
 
 
 class Desk:
@@ -52,10 +68,14 @@ class Desk:
     def refresh(self) -> None:
         """Without waiting for its end."""
         self.program.press("Refresh")
+        # The click may still be on its way. A refresh of next to nothing is over before anybody sees it.
+        with contextlib.suppress(TimedOut):
+            wait_for(lambda: not self.program.is_ready(), "the refresh to begin", 0.3, 0.01)
 
     def mark(self, *names: str) -> None:
         """Marks the packages, which are offered or installed, and no others."""
-        self.ready().choose("View All")
+        if self.ready().find("View All", Atspi.Role.COMBO_BOX) is None:
+            self.program.choose("View All")
         if self.program.is_enabled("Clear Actions"):
             self.program.press("Clear Actions")
         for name in names:
@@ -74,7 +94,11 @@ class Desk:
         """The words of the error dialog, which is waited for and closed. The window is usable behind it."""
         report = self.program.window(ERROR, timeout)
         text = self.program.texts(report)
-        self.program.press("Close" if self.program.find("Close", inside=report) else "OK", report)
+        button = wait_for(
+            lambda: next((name for name in ("Close", "OK") if self.program.find(name, inside=report)), None),
+            f"a button in {ERROR!r}",
+        )
+        self.program.press(button, report)
         self.program.wait_closed(ERROR)
         self.program.wait_ready()
         return text
@@ -101,6 +125,16 @@ class Desk:
         return new
 
     # What is behind it.
+
+    def expire_metadata(self) -> None:
+        """The next refresh looks whether the repositories have anything new."""
+        for path in (self.site.root / "var/cache/yum").glob("*/repodata/*"):
+            os.utime(path, (0, 0))
+
+    def forget_metadata(self) -> None:
+        """The next refresh fetches everything again."""
+        for path in (self.site.root / "var/cache/yum").iterdir():
+            shutil.rmtree(path) if path.is_dir() else path.unlink()
 
     def sound(self, *installed: str) -> None:
         """The rpm database is whole and holds these packages and no others, and nobody works on it any more."""
