@@ -193,7 +193,7 @@ def test_the_program_is_killed_while_it_downloads(desk: Desk, web: Web) -> None:
 
 def test_a_cache_without_room(desk: Desk, web: Web, disk: Callable[[Path, int], Disk]) -> None:
     cache = disk(desk.site.root / "var/cache", 20 << 10)
-    directory = f"{cache.directory}/yum"
+    directory = "/var/cache/yum"
     desk.mark("fleet-lamp")
     cache.fill(spare=4)
     desk.apply()

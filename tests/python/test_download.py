@@ -173,7 +173,7 @@ def test_full_disk_is_told_beside_the_cause(
     with pytest.raises(program.errors.YumBaseError) as caught:
         found.yumio.apply([found.offered("lone")], [], [])
     (packages,) = (served.root / "var/cache/yum").glob("base-*/packages")
-    assert (f"\nOnly 4 KiB are free in {packages}." in str(caught.value)) is told
+    assert (f"\nOnly 4 KiB are free in /{packages.relative_to(served.root)}." in str(caught.value)) is told
 
 
 # The meter alone --------------------------------------------------------------------------------------
