@@ -30,31 +30,35 @@ def check_signatures(base: Base, packages: List[dnf.package.Package]) -> None:
     """Raises YumBaseError that names each package without a good signature, its key and the locations
     of the repository's keys. Keys are never imported here."""
     faults: List[str] = []
-    for package in packages:
-        with _checking_below(base.conf.installroot) as wrong:
+    with _checking_below(base.conf.installroot) as wrong:
+        for package in packages:
+            wrong.clear()
             result, message = base.package_signature_check(package)
-        if result == 0:
-            continue
-        if wrong:
-            # dnf calls it a problem of opening the file.
-            faults.append(_("Package {package} is damaged: {file}").format(package=package, file=package.localPkg()))
-            faults += [f"    {line}" for line in wrong]
-            continue
-        locations = ", ".join(base.repos[package.reponame].gpgkey) or _("none")
-        key = _key(package.localPkg()) or _("not signed")
-        faults += [
-            _("Package {package}: {message}").format(package=package, message=message),
-            "    " + _("key: {key}").format(key=key),
-            "    " + _("gpgkey of repository {id}: {locations}").format(id=package.reponame, locations=locations),
-        ]
+            if result != 0:
+                faults += _fault(base, package, message, wrong)
     if faults:
         faults.append(_("Nothing was installed."))
         raise YumBaseError("\n".join(faults))
 
 
+def _fault(base: Base, package: dnf.package.Package, message: str, wrong: List[str]) -> List[str]:
+    if wrong:
+        # dnf calls it a problem of opening the file.
+        damaged = _("Package {package} is damaged: {file}").format(package=package, file=package.localPkg())
+        return [damaged, *(f"    {line}" for line in wrong)]
+    locations = ", ".join(base.repos[package.reponame].gpgkey) or _("none")
+    key = _key(package.localPkg()) or _("not signed")
+    return [
+        _("Package {package}: {message}").format(package=package, message=message),
+        "    " + _("key: {key}").format(key=key),
+        "    " + _("gpgkey of repository {id}: {locations}").format(id=package.reponame, locations=locations),
+    ]
+
+
 @contextlib.contextmanager
 def _checking_below(root: str) -> Iterator[List[str]]:
-    """Lets dnf's check look for keys where the root's database is, and gives what is wrong with a damaged package.
+    """Lets dnf's check look for keys where the root's database is. What it gives is filled with what is wrong with a
+    damaged package.
 
     dnf leaves the check to the program rpmkeys, which doesn't know of this process's settings, and doesn't tell what
     that says of damage.
