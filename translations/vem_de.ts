@@ -401,6 +401,22 @@ The window stays open until that has come to its end.</source>
         <translation>Pakete werden installiert, aktualisiert oder entfernt.
 Das Fenster bleibt offen, bis das zu Ende ist.</translation>
     </message>
+    <message>
+        <source>Unfinished Transaction</source>
+        <translation>Unvollendete Transaktion</translation>
+    </message>
+    <message>
+        <source>Shall the older versions be removed? What exactly is done is shown before, and asked once more.</source>
+        <translation>Sollen die älteren Versionen entfernt werden? Vorher wird gezeigt, was genau geschieht, und noch einmal gefragt.</translation>
+    </message>
+    <message>
+        <source>&amp;Remove Older Versions</source>
+        <translation>Ältere Versionen &amp;entfernen</translation>
+    </message>
+    <message>
+        <source>&amp;Leave Them</source>
+        <translation>&amp;Belassen</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>
@@ -741,6 +757,12 @@ ist die Epoche nicht null, in der Form Epoche:Version-Release</translation>
 </source>
         <translation>Installiert: %1
 </translation>
+    </message>
+    <message>
+        <source>
+Installed in more than one version: %1</source>
+        <translation>
+In mehr als einer Version installiert: %1</translation>
     </message>
 </context>
 <context>
@@ -1302,6 +1324,12 @@ Lässt sich für eine einzelne Sitzung übersteuern.</translation>
     <message>
         <source>The file %1 has not been read, or not to its end.  Nothing is written, so that nothing in it is lost.</source>
         <translation>Die Datei %1 wurde nicht oder nicht bis zum Ende gelesen. Es wird nichts geschrieben, damit nichts aus ihr verloren geht.</translation>
+    </message>
+    <message>
+        <source>
+The file is %1.</source>
+        <translation>
+Die Datei ist %1.</translation>
     </message>
 </context>
 <context>
@@ -1867,6 +1895,10 @@ Wie soll fortgefahren werden?</translation>
     <message>
         <source>The transaction goes on; the program ends when it has come to its end.</source>
         <translation>Die Transaktion läuft weiter; das Programm endet, sobald sie abgeschlossen ist.</translation>
+    </message>
+    <message>
+        <source>Unable to see whether a transaction was cut off</source>
+        <translation>Es kann nicht festgestellt werden, ob eine Transaktion abgebrochen wurde</translation>
     </message>
 </context>
 <context>

@@ -401,6 +401,22 @@ The window stays open until that has come to its end.</source>
         <translation>Se están instalando, actualizando o eliminando paquetes.
 La ventana permanece abierta hasta que termine.</translation>
     </message>
+    <message>
+        <source>Unfinished Transaction</source>
+        <translation>Transacción inacabada</translation>
+    </message>
+    <message>
+        <source>Shall the older versions be removed? What exactly is done is shown before, and asked once more.</source>
+        <translation>¿Desea eliminar las versiones anteriores? Antes se muestra qué se hará exactamente y se pregunta otra vez.</translation>
+    </message>
+    <message>
+        <source>&amp;Remove Older Versions</source>
+        <translation>&amp;Eliminar versiones anteriores</translation>
+    </message>
+    <message>
+        <source>&amp;Leave Them</source>
+        <translation>&amp;Dejarlas</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>
@@ -741,6 +757,12 @@ si el epoch no es cero, se incluye con el formato epoch:versión-lanzamiento</tr
 </source>
         <translation>Instalado: %1
 </translation>
+    </message>
+    <message>
+        <source>
+Installed in more than one version: %1</source>
+        <translation>
+Instalado en más de una versión: %1</translation>
     </message>
 </context>
 <context>
@@ -1302,6 +1324,12 @@ Se puede cambiar para una sesión concreta.</translation>
     <message>
         <source>The file %1 has not been read, or not to its end.  Nothing is written, so that nothing in it is lost.</source>
         <translation>El archivo %1 no se ha leído, o no hasta el final.  No se escribe nada, para que no se pierda nada de él.</translation>
+    </message>
+    <message>
+        <source>
+The file is %1.</source>
+        <translation>
+El archivo es %1.</translation>
     </message>
 </context>
 <context>
@@ -1867,6 +1895,10 @@ pero también pertenece al grupo %5 y por ello se marcó con la acción %6.
     <message>
         <source>The transaction goes on; the program ends when it has come to its end.</source>
         <translation>La transacción continúa; el programa terminará cuando esta haya finalizado.</translation>
+    </message>
+    <message>
+        <source>Unable to see whether a transaction was cut off</source>
+        <translation>No se pudo determinar si se interrumpió una transacción</translation>
     </message>
 </context>
 <context>

@@ -401,6 +401,22 @@ The window stays open until that has come to its end.</source>
         <translation>Des paquets sont en cours d’installation, de mise à jour ou de suppression.
 La fenêtre reste ouverte jusqu’à la fin de l’opération.</translation>
     </message>
+    <message>
+        <source>Unfinished Transaction</source>
+        <translation>Transaction inachevée</translation>
+    </message>
+    <message>
+        <source>Shall the older versions be removed? What exactly is done is shown before, and asked once more.</source>
+        <translation>Faut-il supprimer les anciennes versions&#xa0;? Ce qui sera fait est d’abord montré en détail, et une nouvelle confirmation est demandée.</translation>
+    </message>
+    <message>
+        <source>&amp;Remove Older Versions</source>
+        <translation>&amp;Supprimer les anciennes versions</translation>
+    </message>
+    <message>
+        <source>&amp;Leave Them</source>
+        <translation>&amp;Les conserver</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>
@@ -741,6 +757,12 @@ si l’époque n’est pas nulle, sous la forme époque:version-publication</tra
 </source>
         <translation>Installé&#xa0;: %1
 </translation>
+    </message>
+    <message>
+        <source>
+Installed in more than one version: %1</source>
+        <translation>
+Installé en plusieurs versions&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1302,6 +1324,12 @@ Peut être modifié pour une session donnée.</translation>
     <message>
         <source>The file %1 has not been read, or not to its end.  Nothing is written, so that nothing in it is lost.</source>
         <translation>Le fichier %1 n’a pas été lu, ou pas jusqu’au bout. Rien n’est écrit, afin que rien n’en soit perdu.</translation>
+    </message>
+    <message>
+        <source>
+The file is %1.</source>
+        <translation>
+Le fichier est %1.</translation>
     </message>
 </context>
 <context>
@@ -1867,6 +1895,10 @@ Comment voulez-vous procéder&#xa0;?</translation>
     <message>
         <source>The transaction goes on; the program ends when it has come to its end.</source>
         <translation>La transaction continue&#xa0;; le programme se terminera lorsqu’elle sera achevée.</translation>
+    </message>
+    <message>
+        <source>Unable to see whether a transaction was cut off</source>
+        <translation>Impossible de déterminer si une transaction a été interrompue</translation>
     </message>
 </context>
 <context>

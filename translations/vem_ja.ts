@@ -401,6 +401,22 @@ The window stays open until that has come to its end.</source>
         <translation>パッケージをインストール、更新、または削除しています。
 完了するまでウィンドウは閉じません。</translation>
     </message>
+    <message>
+        <source>Unfinished Transaction</source>
+        <translation>未完了のトランザクション</translation>
+    </message>
+    <message>
+        <source>Shall the older versions be removed? What exactly is done is shown before, and asked once more.</source>
+        <translation>古いバージョンを削除しますか? 実行する内容は事前に表示され、もう一度確認されます。</translation>
+    </message>
+    <message>
+        <source>&amp;Remove Older Versions</source>
+        <translation>古いバージョンを削除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Leave Them</source>
+        <translation>残す(&amp;L)</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>
@@ -741,6 +757,12 @@ If the Epoch is non-zero, includes it as epoch:version-release</source>
 </source>
         <translation>インストール済み: %1
 </translation>
+    </message>
+    <message>
+        <source>
+Installed in more than one version: %1</source>
+        <translation>
+複数のバージョンがインストールされています: %1</translation>
     </message>
 </context>
 <context>
@@ -1302,6 +1324,12 @@ It can be overridden for a particular session.</source>
     <message>
         <source>The file %1 has not been read, or not to its end.  Nothing is written, so that nothing in it is lost.</source>
         <translation>ファイル %1 は読み込まれていないか、最後まで読み込まれていません。内容が失われないように、何も書き込みません。</translation>
+    </message>
+    <message>
+        <source>
+The file is %1.</source>
+        <translation>
+ファイル: %1</translation>
     </message>
 </context>
 <context>
@@ -1867,6 +1895,10 @@ How do you wish to proceed?</source>
     <message>
         <source>The transaction goes on; the program ends when it has come to its end.</source>
         <translation>トランザクションは続行されます。プログラムはトランザクションの完了後に終了します。</translation>
+    </message>
+    <message>
+        <source>Unable to see whether a transaction was cut off</source>
+        <translation>トランザクションが中断されたかどうかを確認できません</translation>
     </message>
 </context>
 <context>

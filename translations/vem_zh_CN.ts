@@ -401,6 +401,22 @@ The window stays open until that has come to its end.</source>
         <translation>正在安装、更新或删除软件包。
 在完成之前，窗口将保持打开。</translation>
     </message>
+    <message>
+        <source>Unfinished Transaction</source>
+        <translation>未完成的事务</translation>
+    </message>
+    <message>
+        <source>Shall the older versions be removed? What exactly is done is shown before, and asked once more.</source>
+        <translation>要删除旧版本吗？执行前会显示具体内容，并再次询问。</translation>
+    </message>
+    <message>
+        <source>&amp;Remove Older Versions</source>
+        <translation>删除旧版本(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Leave Them</source>
+        <translation>保留(&amp;L)</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>
@@ -741,6 +757,12 @@ If the Epoch is non-zero, includes it as epoch:version-release</source>
 </source>
         <translation>已安装：%1
 </translation>
+    </message>
+    <message>
+        <source>
+Installed in more than one version: %1</source>
+        <translation>
+安装了多个版本：%1</translation>
     </message>
 </context>
 <context>
@@ -1302,6 +1324,12 @@ It can be overridden for a particular session.</source>
     <message>
         <source>The file %1 has not been read, or not to its end.  Nothing is written, so that nothing in it is lost.</source>
         <translation>文件 %1 未读取，或未读取到末尾。为避免丢失其中的内容，不会写入任何内容。</translation>
+    </message>
+    <message>
+        <source>
+The file is %1.</source>
+        <translation>
+文件为 %1。</translation>
     </message>
 </context>
 <context>
@@ -1867,6 +1895,10 @@ How do you wish to proceed?</source>
     <message>
         <source>The transaction goes on; the program ends when it has come to its end.</source>
         <translation>事务仍在继续；事务完成后程序将退出。</translation>
+    </message>
+    <message>
+        <source>Unable to see whether a transaction was cut off</source>
+        <translation>无法确定是否有事务被中断</translation>
     </message>
 </context>
 <context>
