@@ -126,9 +126,7 @@ class YumIO:
         once, by its name; the older ones of these, for `apply` to remove. None for nothing. YumBaseError."""
         with reported_as(YumBaseError):
             found = self._session.unfinished()
-        if found is None:
-            return None
-        return found and tuple(found)
+        return None if found is None else (found.text, found.versions, found.older)
 
     def collectFileLists(self) -> bool:
         """YumBaseError."""

@@ -3,8 +3,10 @@
 
 from __future__ import annotations
 
+import contextlib
 import locale
 import re
+import sqlite3
 import subprocess
 from pathlib import Path
 from typing import Any, Callable, ContextManager, Iterator, Tuple
@@ -203,6 +205,21 @@ def test_history_that_cannot_be_used_is_told_once_with_its_remedy(
     history.unlink()
     found.yumio.apply([found.offered("lone")], [], [])
     assert estate.installed() == {"lone-1.0-1.noarch"} and history.stat().st_size
+
+
+def test_locked_history_is_told_and_not_to_be_moved(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
+) -> None:
+    estate.repository("base", rpms.some("lone-1.0", "battery-1.0"))
+    found = program.collect()
+    found.yumio.apply([found.offered("battery")], [], [])
+    found = program.collect()
+    with contextlib.closing(sqlite3.connect(estate.root / "var/lib/dnf/history.sqlite")) as history:
+        history.execute("begin exclusive")
+        fails_with = "The history of transactions, /var/lib/dnf/history.sqlite, cannot be used: database is locked"
+        assert fails(program, lambda: found.yumio.apply([found.offered("lone")], [], [])) == fails_with
+    found.yumio.apply([found.offered("lone")], [], [])
+    assert estate.installed() == {"battery-1.0-1.noarch", "lone-1.0-1.noarch"}
 
 
 @pytest.mark.parametrize("kib", [8, 64, 124, 160])

@@ -106,7 +106,7 @@ def test_entry_of_the_history_without_an_end_is_told_with_what_is_missing(
     cut_off_last(estate)
     first, *rest = told(program)[0].splitlines()
     assert first.startswith("The last transaction was cut off before its end: number 1, of 20")
-    assert first.endswith(", by vem.")
+    assert first.endswith(", begun by vem.")
     assert rest == []
 
     estate.rpm("--erase", "lone")

@@ -78,7 +78,8 @@ def _told(path: str, fault: str, anew: bool) -> str:
     words = _("The history of transactions, {file}, cannot be used: {fault}")
     lines = [words.format(file=as_configured(path), fault=fault)]
     space = scarce_space(os.path.dirname(path))
-    if anew and not space and os.access(path, os.W_OK):
+    # Somebody works with one that is locked.
+    if anew and not space and "locked" not in fault and os.access(path, os.W_OK):
         lines.append(_("Move it elsewhere, and it is made anew."))
     return "\n".join(lines + space)
 

@@ -110,7 +110,7 @@ def _open_entry(conf: dnf.conf.MainConf) -> Optional[_Entry]:
 
 def _told(entry: _Entry, installed: hawkey.Query) -> List[str]:
     lines = [
-        _("The last transaction was cut off before its end: number {number}, of {time}, by {command}.").format(
+        _("The last transaction was cut off before its end: number {number}, of {time}, begun by {command}.").format(
             number=entry.number,
             time=time.strftime("%Y-%m-%d %H:%M", time.localtime(entry.begun)),
             command=entry.command.strip() or _("an unknown program"),
