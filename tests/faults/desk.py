@@ -67,10 +67,20 @@ class Desk:
 
     def refresh(self) -> None:
         """Without waiting for its end."""
+        before = self._sacks()
         self.program.press("Refresh")
-        # The click may still be on its way. A refresh of next to nothing is over before anybody sees it.
+        # The click may still be on its way, and a refresh of next to nothing is over before anybody sees it; but the
+        # library notes each one. If it can't, or isn't asked for that long, the window has long been at it.
         with contextlib.suppress(TimedOut):
-            wait_for(lambda: not self.program.is_ready(), "the refresh to begin", 0.3, 0.01)
+            wait_for(
+                lambda: self._sacks() > before or not self.program.is_ready() or self.program.find_window(ERROR),
+                "the refresh to begin", 5, 0.01,
+            )
+
+    def _sacks(self) -> int:
+        """How many times the library has begun to read repositories and rpm database."""
+        log = self.site.root / "var/log/hawkey.log"
+        return log.read_text().count("Started") if log.exists() else 0
 
     def mark(self, *names: str) -> None:
         """Marks the packages, which are offered or installed, and no others."""
