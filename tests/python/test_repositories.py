@@ -127,7 +127,8 @@ def unreadable(program: Program, *words: str) -> str:
 
 def test_server_that_refuses_is_named_with_the_cause(estate: Estate, program: Program) -> None:
     estate.repository("base", [], baseurl="http://127.0.0.1:1/base")
-    unreadable(program, "base", "http://127.0.0.1:1/base", "connect to server")
+    text = unreadable(program, "base", "http://127.0.0.1:1/base", "connect to server")
+    assert text.count("http://127.0.0.1:1/base/repodata") == 1, text
 
 
 def test_missing_directory_is_named_with_the_cause(estate: Estate, program: Program) -> None:
@@ -169,9 +170,13 @@ def test_web_page_in_place_of_metadata_is_told_with_its_first_words(
     unreadable(program, f"{address}/repodata/repomd.xml {beginning}")
 
 
-def test_web_page_in_place_of_a_metalink_is_told(served: Estate, program: Program, web: Web) -> None:
-    web.page("/link", b"<html><body>We have moved")
-    served.write_repo_file("base", extra={"baseurl": None, "metalink": f"{web.url}/link"})
+@pytest.mark.parametrize("kind", ["metalink", "mirrorlist"])
+@pytest.mark.parametrize("end", [b"", b"</body></html>\n"])
+def test_web_page_in_place_of_a_list_of_mirrors_is_told(
+    served: Estate, program: Program, web: Web, kind: str, end: bytes
+) -> None:
+    web.page("/link", b"<html><body>We have moved" + end)
+    served.write_repo_file("base", extra={"baseurl": None, kind: f"{web.url}/link"})
     unreadable(program, f'{web.url}/link gives a web page in place of the metadata. It begins: "We have moved"')
 
 

@@ -8,6 +8,7 @@ import functools
 import glob
 import logging
 import os
+import re
 from typing import Any, Callable, Dict, Iterable, Optional
 
 import dnf
@@ -27,8 +28,10 @@ from .space import scarce_space
 from .texts import _
 from .webpage import asked
 
-_UNREADABLE = "parse"
+_UNREADABLE = re.compile("pars(e|ing)|no urls in mirrorlist|not found in metalink", re.I)
 """Stands in the library's words for an answer that isn't what was asked for."""
+
+_DURATION = re.compile(r" after \d+ ms")
 
 
 class Base(dnf.Base):
@@ -121,7 +124,7 @@ class Base(dnf.Base):
             except RepoError as error:
                 if error.__context__ is not None:
                     causes.append(str(error.__context__))
-                if _UNREADABLE in str(error).lower():
+                if _UNREADABLE.search(str(error)):
                     causes += filter(None, [asked(repo)])
                 raise RepoError(_repository_text(repo, str(error), causes, self.conf.cachedir)) from error
             except OSError as error:
@@ -171,13 +174,12 @@ def address(repo: dnf.repo.Repo) -> str:
 
 
 def _repository_text(repo: dnf.repo.Repo, text: str, causes: Iterable[str], directory: str) -> str:
-    lines = [
-        _("Unable to read repository {id} ({address}):").format(id=repo.id, address=address(repo)),
-        text.strip(),
-    ]
-    lines += [cause for cause in dict.fromkeys(causes) if cause not in text]
-    lines += scarce_space(directory)
-    return "\n".join(lines)
+    lines = [_("Unable to read repository {id} ({address}):").format(id=repo.id, address=address(repo))]
+    said: Dict[str, str] = {}
+    for line in (*text.strip().splitlines(), *(cause for cause in causes if cause not in text)):
+        # The library tries several times, and tells each time how long that took.
+        said.setdefault(_DURATION.sub("", line), line)
+    return "\n".join([*lines, *said.values(), *scarce_space(directory)])
 
 
 def open_base(

@@ -122,8 +122,9 @@ def download(base: Base, packages: List[dnf.package.Package]) -> None:
     except dnf.exceptions.DownloadError as error:
         lines = []
         for package, messages in error.errmap.items():
-            lines += [f"{package}: {message}" if package else str(message) for message in messages]
-            lines += [f"    {cause}" for cause in meter.causes(package)]
+            # The library says that all mirrors were tried without success, whatever was wrong.
+            causes = meter.causes(package) or messages
+            lines += [f"{package}: {cause}" if package else str(cause) for cause in causes]
         lines += _scarce_space(packages)
         raise YumBaseError("\n".join([_("Unable to download packages:"), *lines])) from error
     finally:

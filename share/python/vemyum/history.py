@@ -66,7 +66,8 @@ def _make(path: str) -> None:
         except LIBRARY_ERRORS as error:
             words = _("The history of transactions, {file}, cannot be made.").format(file=as_configured(path))
             # On a full disk the library finds that there is no error.
-            raise YumBaseError("\n".join([words, *(scarce_space(os.path.dirname(path)) or [_cause(str(error))])])) from error
+            causes = scarce_space(os.path.dirname(path)) or [_cause(str(error))]
+            raise YumBaseError("\n".join([words, *causes])) from error
 
 
 def _cause(text: str) -> str:
