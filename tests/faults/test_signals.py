@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: GPL-2.0-or-later
-"""A transaction that has begun comes to its end, whatever happens to the window meanwhile."""
+"""A transaction that has begun comes to its end, whatever happens to the window meanwhile; scriptlets that fail."""
 from __future__ import annotations
 
 import contextlib
@@ -12,6 +12,7 @@ from typing import Callable, Iterator
 
 import pytest
 
+from desk import Desk
 from program import ACTION_COLUMN, Program, wait_for
 from rpmestate import Estate, spec
 
@@ -133,3 +134,57 @@ def test_closing_the_window_is_refused_meanwhile(working: Working) -> None:
     program.end_by_window_manager()
     assert program.process.returncode == 0
     working.assert_complete()
+
+
+@pytest.fixture(scope="module")
+def failing(tmp_path_factory: pytest.TempPathFactory) -> list[Path]:
+    return Estate(tmp_path_factory.mktemp("failing")).build(
+        [
+            spec("fleet-badpre", requires=["/bin/sh"], scriptlets={"pre": "echo no entry; exit 3"}),
+            spec("fleet-badpost", requires=["/bin/sh"], scriptlets={"post": "echo half way; exit 4"}),
+            spec("fleet-badpreun", requires=["/bin/sh"], scriptlets={"preun": "echo staying; exit 5"}),
+        ]
+    )
+
+
+def test_scriptlets_that_fail(desk: Desk, failing: list[Path]) -> None:
+    """The others do what they are for, and what went wrong is told of each."""
+    desk.site.repository("dock", failing)
+    refresh = "A part of the transaction may have been done: please refresh the list of packages."
+    desk.mark("fleet-badpre", "fleet-badpost", "fleet-badpreun", "fleet-lamp")
+    desk.apply()
+    told = desk.told().splitlines()
+    assert told[:2] == ["Not everything went as it should:", "  fleet-badpre-1.0-1.noarch was not installed"]
+    # dnf's words, and rpm's.
+    assert told[2:4] == [
+        "  Error in PREIN scriptlet in rpm package fleet-badpre",
+        "  Error in POSTIN scriptlet in rpm package fleet-badpost",
+    ]
+    for words in ("%prein(fleet-badpre-1.0-1.noarch) scriptlet failed, exit status 3",
+                  "%post(fleet-badpost-1.0-1.noarch) scriptlet failed, exit status 4"):
+        assert len([line for line in told if words in line]) == 1
+    assert told[-2:] == [refresh, "Error applying changes"]
+    kept = ["fleet-badpost-1.0-1.noarch", "fleet-badpreun-1.0-1.noarch", "fleet-lamp-1.1-1.noarch",
+            "fleet-shell-1.0-1.x86_64"]
+    desk.sound(*kept, "fleet-match-1.0-1.noarch")
+
+    desk.refresh()
+    desk.untold()
+    desk.mark("fleet-badpreun", "fleet-match")
+    desk.apply()
+    told = desk.told().splitlines()
+    assert told[:3] == [
+        "Not everything went as it should:",
+        "  fleet-badpreun-1.0-1.noarch was not removed",
+        "  Error in PREUN scriptlet in rpm package fleet-badpreun",
+    ]
+    assert "%preun(fleet-badpreun-1.0-1.noarch) scriptlet failed, exit status 5" in told[3]
+    assert told[-2:] == [refresh, "Error applying changes"]
+    desk.sound(*kept)
+    log = desk.new_log()
+    for said in ("no entry", "half way", "staying"):
+        assert said in log.splitlines()
+
+
+if __name__ == "__main__":
+    raise SystemExit(pytest.main([__file__]))
