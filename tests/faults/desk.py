@@ -16,10 +16,13 @@ from rpmestate import Estate
 
 ERROR = "VEM Yum Error"
 QUESTION = "Apply"
+UNFINISHED = "Unfinished Transaction"
 
 
 BEFORE = ("fleet-lamp-1.0-1.noarch", "fleet-match-1.0-1.noarch", "fleet-shell-1.0-1.x86_64")
 """What is installed at first."""
+AFTER = ("fleet-lamp-1.1-1.noarch", *BEFORE[1:])
+"""And when fleet-lamp has been updated."""
 
 
 def assert_told(text: str, *expected: Union[str, "re.Pattern[str]"]) -> None:
@@ -110,6 +113,15 @@ class Desk:
         )
         self.program.press(button, report)
         self.program.wait_closed(ERROR)
+        self.program.wait_ready()
+        return text
+
+    def told_unfinished(self) -> str:
+        """The words of the box about a transaction that was cut off, which is waited for. Nothing is removed."""
+        box = self.program.window(UNFINISHED, 60)
+        text = self.program.texts(box)
+        self.program.press("Leave Them" if self.program.find("Leave Them", inside=box) else "OK", box)
+        self.program.wait_closed(UNFINISHED)
         self.program.wait_ready()
         return text
 

@@ -6,10 +6,8 @@ from pathlib import Path
 
 import pytest
 
-from desk import Desk
+from desk import AFTER, BEFORE, Desk
 
-BEFORE = ("fleet-lamp-1.0-1.noarch", "fleet-match-1.0-1.noarch", "fleet-shell-1.0-1.x86_64")
-AFTER = ("fleet-lamp-1.1-1.noarch", *BEFORE[1:])
 ALL = ["fleet-bellows", "fleet-lamp", "fleet-match", "fleet-oil", "fleet-orphan", "fleet-shell", "fleet-sulker", "fleet-wick"]
 DAMAGED_CACHE = "The cache of the metadata was damaged: it is made anew"
 

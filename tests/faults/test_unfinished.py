@@ -8,11 +8,10 @@ from pathlib import Path
 
 import pytest
 
-from desk import BEFORE, QUESTION, Desk
+from desk import BEFORE, QUESTION, UNFINISHED, Desk
 from program import wait_for
 from rpmestate import Estate, spec
 
-TITLE = "Unfinished Transaction"
 SLOW = spec(
     "fleet-slow",
     "2.0",
@@ -49,7 +48,7 @@ def test_the_next_window_tells_it_and_removes_the_older_version(desk: Desk, slow
     assert desk.site.installed() == {*BEFORE, *both}
 
     program = desk.open()
-    told = program.texts(program.window(TITLE)).splitlines()
+    told = desk.told_unfinished().splitlines()
     assert told[0].startswith("The last transaction was cut off before its end: number 1, of 20")
     assert told[0].endswith(", begun by vem.")
     assert told[1:] == [
@@ -59,19 +58,16 @@ def test_the_next_window_tells_it_and_removes_the_older_version(desk: Desk, slow
         "    fleet-slow.noarch: 1.0-1, 2.0-1",
         "Shall the older versions be removed? What exactly is done is shown before, and asked once more.",
     ]
-    program.press("Leave Them")
-    program.wait_closed(TITLE)
-    program.wait_ready()
     log = desk.new_log()
     assert "A transaction was cut off, and may be done in part. It was about: fleet-slow" in log
     assert told[0] in log
     desk.refresh()
     program.wait_ready()
-    assert program.find_window(TITLE) is None
+    assert program.find_window(UNFINISHED) is None
     desk.program_ends()
 
     program = desk.open()
-    program.window(TITLE)
+    program.window(UNFINISHED)
     program.press("Remove Older Versions")
     question = program.window(QUESTION)
     assert "\tRemove: fleet-slow 1.0-1 (noarch)" in program.texts(question)
@@ -79,4 +75,4 @@ def test_the_next_window_tells_it_and_removes_the_older_version(desk: Desk, slow
     program.wait_closed(QUESTION)
     desk.untold()
     desk.sound(*BEFORE, "fleet-slow-2.0-1.noarch")
-    assert program.find_window(TITLE) is None
+    assert program.find_window(UNFINISHED) is None
