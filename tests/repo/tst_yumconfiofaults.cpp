@@ -254,7 +254,8 @@ void TestYumConfIOFaults::malformedHeadIsTold()
         QVERIFY2(match.hasMatch(), qPrintable(text));
         files += match.captured(1);
     }
-    QCOMPARE(files, QStringList({QStringLiteral("/etc/yum.conf"), QStringLiteral("/etc/yum.repos.d/some.repo")}));
+    QCOMPARE(
+        files, QStringList({QStringLiteral("/etc/yum.conf"), QStringLiteral("/etc/yum.repos.d/some.repo")}));
     QCOMPARE(boxes.captions.last(), QStringLiteral("VEM Repository Editor Error"));
 }
 
