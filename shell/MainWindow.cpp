@@ -457,13 +457,12 @@ void MainWindow::applying(Job const& job)
 
 void MainWindow::tellUnfinished()
 {
-    if (!yumIO || yumIO->jobRuns() || yumIO->unfinished().text == unfinishedTold) {
+    // A collection that has failed knows of nothing, which doesn't mean that there is nothing.
+    if (!yumIO || yumIO->jobRuns() || yumIO->unfinished().text.isEmpty() ||
+        yumIO->unfinished().text == unfinishedTold) {
         return;
     }
     unfinishedTold = yumIO->unfinished().text;
-    if (unfinishedTold.isEmpty()) {
-        return;
-    }
     QMessageBox box(
         QMessageBox::Warning, tr("Unfinished Transaction"), unfinishedTold, QMessageBox::NoButton, this);
     box.setTextFormat(Qt::PlainText);

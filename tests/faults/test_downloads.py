@@ -132,6 +132,21 @@ def test_a_package_that_was_damaged_before_it_was_announced(desk: Desk, fleet: E
     desk.apply()
     assert_told(desk.told(), re.compile("fleet-oil-1.0-1.noarch"), "Error applying changes")
     desk.sound(*BEFORE)
+    # Where signatures are asked for, that is seen before rpm is.
+    file = desk.site.repository("harbour", [bad], extra={"gpgcheck": "1"}) / bad.name
+    desk.expire_metadata()
+    desk.refresh()
+    desk.untold()
+    desk.mark("fleet-oil")
+    desk.apply()
+    assert_told(
+        desk.told(),
+        f"Package fleet-oil-1.0-1.noarch is damaged: {file}",
+        re.compile("digest: BAD"),
+        "Nothing was installed.",
+        "Error applying changes",
+    )
+    desk.sound(*BEFORE)
     desk.site.repository("harbour", [good])
     desk.expire_metadata()
     desk.refresh()

@@ -36,7 +36,7 @@ class Harbour:
         (file,) = self.files.glob(f"*-{kind}.xml*")
         return f"/harbour/repodata/{file.name}"
 
-    def assert_unread(self, *words: str, address: str = "", timeout: float = 60.0) -> None:
+    def assert_unread(self, *words: str, address: str = "", timeout: float = 60.0) -> str:
         """A refresh tells this, and nothing else happens. The library's words, as patterns, are all in its part."""
         self.desk.expire_metadata()
         self.desk.refresh()
@@ -44,6 +44,7 @@ class Harbour:
         first = f"Unable to read repository harbour ({address or self.address}):"
         assert_told(told, first, re.compile(".*".join(words)), "Unable to initialize")
         assert self.desk.program.row_count() == 0
+        return told
 
     def assert_mended(self) -> None:
         """The next refresh brings the table."""
@@ -83,9 +84,11 @@ def test_servers_that_give_something_else(harbour: Harbour) -> None:
     desk, web = harbour.desk, harbour.web
     desk.ready()
 
+    page = f'{web.url}{REPOMD} gives a web page in place of the metadata. It begins: "Welcome aboard Please log in."'
     for body in (PAGE, ZEROS):
         web.lie(body, REPOMD)
-        harbour.assert_unread("repomd.xml")
+        told = harbour.assert_unread("repomd.xml")
+        assert (page in told.splitlines()) == (body == PAGE) and ("web page" in told) == (body == PAGE)
         harbour.assert_mended()
 
     primary = harbour.path_of("primary")

@@ -433,6 +433,25 @@ def test_child_that_is_killed_in_a_scriptlet_is_told_with_the_refresh(
     assert holders(estate) == [str(os.getpid())] * 3
 
 
+def test_failure_that_nobody_heard_is_told_by_the_next_start(
+    ready: Tuple[Estate, Program], host: FakeHost
+) -> None:
+    from vemyum.apply import messages
+
+    estate, program = ready
+    journal = estate.root / "var/lib/dnf/vem-transaction"
+    journal.parent.mkdir(parents=True, exist_ok=True)
+    lines = [
+        messages.Begun(messages.PROTOCOL, 2**22 + 1, 1, 2**22 + 2, []),
+        messages.Ended(messages.FAILED, "the mast broke", -1),
+    ]
+    journal.write_bytes(b"".join(map(messages.to_line, lines)))
+    words = "A transaction whose window was gone has failed: the mast broke"
+    assert program.collect().yumio.unfinished() == (words, {}, [])
+    assert words in host.text("errorlog")
+    assert program.collect().yumio.unfinished() is None
+
+
 # A program that starts meanwhile ---------------------------------------------------------------------------
 
 

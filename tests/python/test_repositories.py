@@ -170,6 +170,29 @@ def test_web_page_in_place_of_metadata_is_told_with_its_first_words(
     unreadable(program, f"{address}/repodata/repomd.xml {beginning}")
 
 
+@pytest.mark.parametrize(
+    ("page", "words"),
+    [
+        (b"\xef\xbb\xbf<html>mark", "mark"),
+        (b"<!-- a --> <!-- b -->\n<script>x()</script><p>behind", "behind"),
+        (b"<html>crooked<![bogus[x]]>page", "crooked"),
+        (b"<html><title>one</title>" + b"word " * 100, "one " + "word " * 11),
+    ],
+)
+def test_web_pages_of_every_kind_are_told(page: bytes, words: str) -> None:
+    from vemyum import webpage
+
+    assert webpage.told("there", page) == (
+        f'there gives a web page in place of the metadata. It begins: "{words.strip()}"'
+    )
+
+
+def test_metadata_behind_many_comments_is_seen_to_be_no_page() -> None:
+    from vemyum import webpage
+
+    assert webpage.told("there", b"<?xml version='1.0'?>" + b"<!--a-->" * 5000 + b"<repomd>") is None
+
+
 @pytest.mark.parametrize("kind", ["metalink", "mirrorlist"])
 @pytest.mark.parametrize("end", [b"", b"</body></html>\n"])
 def test_web_page_in_place_of_a_list_of_mirrors_is_told(

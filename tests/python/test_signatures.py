@@ -109,8 +109,10 @@ def test_main_file_that_vanished_stops_the_apply(
     main.unlink()
     with pytest.raises(program.errors.YumBaseError, match="/etc/yum.conf is no longer there"):
         found.yumio.apply([found.offered("lone")], [], [])
-    assert estate.installed() == set()
     assert not host.named("userconfirm")
+    # Nor behind the refresh that this asks for.
+    refused(program, "lone-1.0-1.noarch", "is not signed")
+    assert estate.installed() == set()
 
 
 def test_main_file_that_cannot_be_read_any_more_stops_the_apply(

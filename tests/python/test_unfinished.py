@@ -5,6 +5,8 @@ from __future__ import annotations
 
 import contextlib
 import sqlite3
+import subprocess
+import sys
 from typing import Any, Dict, Tuple
 
 import pytest
@@ -70,6 +72,45 @@ def test_older_versions_are_removed_by_an_apply(doubled: Tuple[Estate, Program],
     assert program.collect().yumio.unfinished() is None
 
 
+def test_older_version_of_a_protected_package_is_removed_and_the_newest_is_not(
+    doubled: Tuple[Estate, Program],
+) -> None:
+    estate, program = doubled
+    protected = estate.root / "etc/dnf/protected.d/lib.conf"
+    protected.parent.mkdir(parents=True, exist_ok=True)
+    protected.write_text("lib\n")
+    found = program.collect()
+    with pytest.raises(program.errors.YumBaseError, match="protected|all versions"):
+        found.yumio.apply([], [], list(filter(lambda package: package.name == "lib", found.installed)))
+    assert estate.installed() == {"lib-1.0-1.noarch", "lib-2.0-1.noarch", "battery-1.0-1.noarch"}
+    _, _, older = told(program)
+    program.yumio.apply([], [], older)
+    assert estate.installed() == {"lib-2.0-1.noarch", "battery-1.0-1.noarch"}
+    found = program.collect()
+    with pytest.raises(program.errors.YumBaseError, match="protected"):
+        found.yumio.apply([], [], [found.there("lib")])
+
+
+def test_nothing_is_told_while_another_program_changes_the_system(
+    doubled: Tuple[Estate, Program], host: FakeHost
+) -> None:
+    estate, program = doubled
+    holder = (
+        "import fcntl, sys\n"
+        f"file = open({str(estate.root / 'var/lib/rpm/.rpm.lock')!r}, 'w')\n"
+        "fcntl.lockf(file, fcntl.LOCK_EX)\n"
+        "print(flush=True)\n"
+        "sys.stdin.readline()\n"
+    )
+    with subprocess.Popen([sys.executable, "-c", holder], stdin=subprocess.PIPE, stdout=subprocess.PIPE) as other:
+        assert other.stdout is not None and other.stdin is not None
+        other.stdout.readline()
+        assert program.collect().yumio.unfinished() is None
+        assert "A transaction is at work: what it has not done yet is not told." in host.text("log")
+        other.stdin.close()
+    assert told(program)
+
+
 def test_packages_that_may_be_there_several_times_are_none_of_them(
     estate: Estate, rpms: Catalogue, program: Program
 ) -> None:
@@ -87,13 +128,28 @@ def test_long_list_is_cut_short(estate: Estate, rpms: Catalogue) -> None:
 
 
 def test_who_may_only_look_gets_nothing_to_remove(
-    doubled: Tuple[Estate, Program], monkeypatch: pytest.MonkeyPatch
+    doubled: Tuple[Estate, Program], monkeypatch: pytest.MonkeyPatch, host: FakeHost
 ) -> None:
     from vemyum import unfinished
 
     monkeypatch.setattr(unfinished, "is_administrator", lambda: False)
     text, versions, older = told(doubled[1])
-    assert "lib.noarch" in text and versions and older == []
+    assert text == "" and versions == {"lib": "1.0-1, 2.0-1"} and older == []
+    assert "lib.noarch: 1.0-1, 2.0-1" in host.text("log")
+
+
+def test_who_may_only_look_is_told_of_the_systems_own_history(
+    lamp: Tuple[Estate, Program], monkeypatch: pytest.MonkeyPatch
+) -> None:
+    from vemyum import rights
+
+    estate, program = lamp
+    found = program.collect()
+    found.yumio.apply([], [], [found.there("lamp")])
+    cut_off_last(estate)
+    program.end()
+    monkeypatch.setattr(rights, "is_administrator", lambda: False)
+    assert told(program)[0].startswith("The last transaction was cut off before its end: number 1, ")
 
 
 def test_entry_of_the_history_without_an_end_is_told_with_what_is_missing(

@@ -75,6 +75,17 @@ private Q_SLOTS:
         QCOMPARE(seen(), QList<Boxes::Box>());
     }
 
+    void isNotToldAgainBehindARefreshThatFailed()
+    {
+        QCOMPARE(
+            script(QStringLiteral("standin.fail('setupRepos', standin.RepoError('no harbour'))")), QString());
+        window->refresh();
+        QCOMPARE(seen().size(), 1);
+        QCOMPARE(script(QStringLiteral("standin.reset()\nstandin.instead('unfinished', left)")), QString());
+        window->refresh();
+        QCOMPARE(seen(), QList<Boxes::Box>());
+    }
+
     void rowsAreMarkedAndTellTheVersions()
     {
         QVERIFY(isMarked(QStringLiteral("alder")));

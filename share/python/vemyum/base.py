@@ -28,7 +28,7 @@ from .space import scarce_space
 from .texts import _
 from .webpage import asked
 
-_UNREADABLE = re.compile("pars(e|ing)|no urls in mirrorlist|not found in metalink", re.I)
+_UNREADABLE = re.compile(r"\bpars(e|er|ing)\b|no urls in mirrorlist|not found in metalink", re.I)
 """Stands in the library's words for an answer that isn't what was asked for."""
 
 _DURATION = re.compile(r" after \d+ ms")

@@ -207,6 +207,9 @@ def _set_defaults(conf: dnf.conf.MainConf, root: str, main: MainFile) -> None:
     }
     if main.cache_directory is not None:
         defaults["cachedir"] = main.cache_directory
+    if not _is_there(root, main.path):
+        # Else nobody would ask for signatures: the library does it where it is told to.
+        defaults["gpgcheck"] = True
     for name, value in defaults.items():
         conf._set_value(name, value, dnf.conf.config.PRIO_DEFAULT)
     if conf._has_option("optional_metadata_types"):

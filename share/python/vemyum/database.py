@@ -8,6 +8,7 @@ below a root of its own has a configuration of its own, which rpm would not read
 from __future__ import annotations
 
 import contextlib
+import fcntl
 import functools
 import os
 import subprocess
@@ -125,6 +126,17 @@ def require_sound(root: str, names: AbstractSet[str], count: int, known: int) ->
             fault = _("it lists no packages, though it did before. If that is right, start anew.")
     if fault is not None:
         raise YumBaseError(_("The rpm database of {root} cannot be used: {fault}").format(root=root, fault=fault))
+
+
+def transaction_is_at_work(root: str) -> bool:
+    """Whether a process holds rpm's lock of the database, as each does that changes it, dnf or not."""
+    path = os.path.join(below(root, database_directory(root)), ".rpm.lock")
+    with contextlib.suppress(FileNotFoundError, PermissionError), open(path, "rb") as file:
+        try:
+            fcntl.lockf(file, fcntl.LOCK_SH | fcntl.LOCK_NB)
+        except (BlockingIOError, PermissionError):
+            return True
+    return False
 
 
 def damage(root: str) -> Optional[str]:

@@ -14,6 +14,7 @@ import libdnf.transaction
 
 from .errors import LIBRARY_ERRORS, YumBaseError
 from .messages import unheard
+from .rights import SYSTEM_DIRECTORY
 from .root import as_configured
 from .space import scarce_space
 from .texts import _
@@ -25,6 +26,11 @@ _BESIDE = ("", "-wal", "-shm", "-journal")
 
 def history_path(conf: dnf.conf.MainConf) -> str:
     return os.path.join(conf.persistdir, _NAME)
+
+
+def system_history_path(conf: dnf.conf.MainConf) -> str:
+    """The managed system's, whoever looks at it."""
+    return os.path.join(getattr(conf, SYSTEM_DIRECTORY, conf.persistdir), _NAME)
 
 
 def open_history(path: str, mode: str) -> sqlite3.Connection:
@@ -39,6 +45,7 @@ def usable_history(conf: dnf.conf.MainConf) -> Iterator[None]:
     there was no room for more, is removed again."""
     path = history_path(conf)
     existed = os.path.exists(path)
+    made_for_nothing = not existed
     try:
         if not existed:
             _make(path)
@@ -47,16 +54,26 @@ def usable_history(conf: dnf.conf.MainConf) -> Iterator[None]:
             raise YumBaseError(_told(path, fault, existed))
         try:
             yield
+            made_for_nothing = False
         except LIBRARY_ERRORS as error:
             first, *rest = str(error).split("\n")
             if path not in first:
                 raise
             raise YumBaseError("\n".join([_told(path, _cause(first), False), *rest])) from error
     finally:
-        if not existed and os.path.exists(path) and _fault(path) is not None:
+        if made_for_nothing and os.path.exists(path) and _fault(path) is not None and not _holds_anything(path):
             for ending in _BESIDE:
                 with contextlib.suppress(OSError):
                     os.unlink(path + ending)
+
+
+def _holds_anything(path: str) -> bool:
+    """Whether there is an entry; where nobody can tell, there may be one."""
+    try:
+        with contextlib.closing(open_history(path, "ro")) as database:
+            return database.execute("select count(*) from trans").fetchone() != (0,)
+    except sqlite3.Error as error:
+        return "no such table" not in str(error)
 
 
 def _make(path: str) -> None:

@@ -7,8 +7,8 @@ dnf puts the causes of many failures (curl's words, rpm's lines) only into its l
 from __future__ import annotations
 
 import logging
+import os
 import sys
-import tempfile
 from contextlib import contextmanager
 from typing import Callable, Iterator, List
 
@@ -89,7 +89,8 @@ def unheard() -> Iterator[None]:
 def rpms_words() -> Iterator[Callable[[], List[str]]]:
     """Takes rpm's lines from the terminal into the log while the block runs. What it gives tells them instead, each
     once; there is nothing to take from then on."""
-    with tempfile.TemporaryFile() as file:
+    # In memory: a full disk is what rpm may be telling of.
+    with open(os.memfd_create("rpm"), "w+b") as file:
 
         def said() -> List[str]:
             # rpm writes the last of them when it gets another file.

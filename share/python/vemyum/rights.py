@@ -32,6 +32,9 @@ READ_ONLY = _("{directory} is read-only: packages can be looked at, not changed.
 _BOOTED_IMAGE = "/run/ostree-booted"
 """There on a running system that was made from an image, by bootc too, even while its /usr is unlocked for a try."""
 
+SYSTEM_DIRECTORY = "vem_system_persistdir"
+"""The attribute of a configuration with the system's own persistdir, where the user's stands in its place."""
+
 _DIRECTORIES = {"cachedir": "cache", "persistdir": "persist", "logdir": "log"}
 
 
@@ -102,6 +105,7 @@ def own_directory(root: str) -> str:
 
 def use_directories(conf: dnf.conf.MainConf, own: str) -> None:
     """Puts cache, persistent data and log below the user's folder, whatever the configuration says."""
+    setattr(conf, SYSTEM_DIRECTORY, conf.persistdir)
     for option, kind in _DIRECTORIES.items():
         conf._set_value(option, os.path.join(own, kind))
 

@@ -51,6 +51,11 @@ class Session:
     `read_repositories` raises it, which is how the engine can show it.
     """
 
+    _failed_unheard = ""
+    """What has failed before anybody listened, up to the end of the collection that tells it."""
+    _told_unfinished = ""
+    """What the log was told last of a transaction that was cut off."""
+
     def __init__(self, lenient: bool) -> None:
         self._conf: Optional[dnf.conf.MainConf] = None
         self._base: Optional[Base] = None
@@ -82,7 +87,7 @@ class Session:
             raise LockError(str(self._fault))
         await_transaction(self._conf)
         LOCK.acquire(self._conf)
-        tell_last(self._conf)
+        Session._failed_unheard = tell_last(self._conf)
         reason = rights.unchangeable(managed_root())
         if reason is None and not rights.is_administrator():
             reason = rights.LOOK_ONLY
@@ -126,11 +131,17 @@ class Session:
     def unfinished(self) -> Optional[Unfinished]:
         """What a transaction that was cut off has left; told in the log, too."""
         found = unfinished(self.base)
+        failure, Session._failed_unheard = Session._failed_unheard, ""
+        if found is None and failure:
+            found = Unfinished("", {}, [])
         if found is None or self._details is None:
             return None
-        for line in found.text.splitlines():
-            host.errorlog(host.LEVEL_NOTICE, line)
-        return found._replace(older=[InstalledPackage(package, self._details) for package in found.older])
+        if found.text != Session._told_unfinished:
+            Session._told_unfinished = found.text
+            for line in found.text.splitlines():
+                host.errorlog(host.LEVEL_NOTICE, line)
+        text = "\n".join(filter(None, (failure, found.text)))
+        return Unfinished(text, found.versions, [InstalledPackage(one, self._details) for one in found.older])
 
     # Extra data ------------------------------------------------------------------------------------------
 

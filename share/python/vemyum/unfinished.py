@@ -17,8 +17,10 @@ import dnf.transaction
 import hawkey
 import libdnf.transaction as lt
 
+from . import host
 from .base import Base
-from .history import history_path, open_history
+from .database import transaction_is_at_work
+from .history import open_history, system_history_path
 from .rights import is_administrator, unchangeable
 from .texts import _
 
@@ -27,7 +29,7 @@ _FEW = 10
 
 
 class Unfinished(NamedTuple):
-    """`text` tells everything, in lines. `versions` are those that are installed of each package that is there more
+    """`text` tells everything, in lines; it is empty where nothing can be done. `versions` are those that are installed of each package that is there more
     than once, the newest last; `older` are all but the newest, for whoever may change packages."""
 
     text: str
@@ -48,6 +50,10 @@ class _Entry(NamedTuple):
 
 def unfinished(base: Base) -> Optional[Unfinished]:
     """What is to be told of the system of a loaded Base; None where every transaction has come to its end."""
+    if transaction_is_at_work(base.conf.installroot):
+        # It puts everything new in first.
+        host.log(host.LEVEL_NOTICE, _("A transaction is at work: what it has not done yet is not told."))
+        return None
     installed = base.sack.query(flags=hawkey.IGNORE_EXCLUDES).installed()
     doubled = _doubled(base, installed)
     entry = _open_entry(base.conf)
@@ -66,6 +72,11 @@ def unfinished(base: Base) -> Optional[Unfinished]:
         versions[name] = ", ".join(filter(None, (versions.get(name), _versions(found))))
     changeable = is_administrator() and unchangeable(base.conf.installroot) is None
     older = [package for found in doubled.values() for package in found[:-1]] if changeable else []
+    if entry is None and not older:
+        # There is nothing to be done about it; the rows tell it.
+        for line in lines:
+            host.log(host.LEVEL_NOTICE, line)
+        lines = []
     return Unfinished("\n".join(lines), versions, older)
 
 
@@ -83,11 +94,10 @@ def _doubled(base: Base, installed: hawkey.Query) -> Dict[Tuple[str, str], List[
 
 
 def _open_entry(conf: dnf.conf.MainConf) -> Optional[_Entry]:
-    """The last entry of the history if it has no end. Nobody is at work on it, since this process holds dnf's locks.
-    The history is only looked at: dnf's own class would make one where there is none, and bring an old one up to
-    date."""
+    """The last entry of the history if it has no end. The history is only looked at: dnf's own class would make one
+    where there is none, and bring an old one up to date."""
     # Whoever wants to write into a history that cannot be read is told then.
-    with contextlib.suppress(sqlite3.Error), contextlib.closing(open_history(history_path(conf), "ro")) as database:
+    with contextlib.suppress(sqlite3.Error), contextlib.closing(open_history(system_history_path(conf), "ro")) as database:
         database.text_factory = lambda content: content.decode("utf-8", "replace")
         last = database.execute("select id, dt_begin, cmdline, state from trans order by id desc limit 1").fetchone()
         if last is None or last[3] != lt.TransactionState_UNKNOWN:
@@ -112,7 +122,7 @@ def _told(entry: _Entry, installed: hawkey.Query) -> List[str]:
     lines = [
         _("The last transaction was cut off before its end: number {number}, of {time}, begun by {command}.").format(
             number=entry.number,
-            time=time.strftime("%Y-%m-%d %H:%M", time.localtime(entry.begun)),
+            time=_shown_time(entry.begun),
             command=entry.command.strip() or _("an unknown program"),
         )
     ]
@@ -128,6 +138,14 @@ def _told(entry: _Entry, installed: hawkey.Query) -> List[str]:
         if packages:
             lines += [heading, *_shortened(sorted(map(_shown, packages)))]
     return lines
+
+
+def _shown_time(seconds: Any) -> str:
+    try:
+        return time.strftime("%Y-%m-%d %H:%M", time.localtime(seconds))
+    except (TypeError, ValueError, OverflowError, OSError):
+        # A damaged history.
+        return str(seconds)
 
 
 def _shown(package: Tuple[str, str, str]) -> str:

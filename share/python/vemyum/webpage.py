@@ -3,8 +3,9 @@
 
 from __future__ import annotations
 
+import contextlib
+import os
 import re
-import tempfile
 from html.parser import HTMLParser
 from typing import List, Optional, Tuple
 
@@ -12,7 +13,11 @@ import dnf.repo
 
 from .texts import _
 
-_BEGINNING = re.compile(rb"\s*(<\?xml[^>]*>\s*)?(<!--.*?-->\s*)*<(!doctype\s+html|html|head|body)\b", re.I | re.S)
+_BEGINNING = re.compile(
+    rb"(?:\xef\xbb\xbf)?\s*(?:<\?xml[^>]*>\s*)?(?:<!--(?:(?!-->).)*-->\s*)*"
+    rb"<(?:!doctype\s+html|html|head|body|script|title|meta)\b",
+    re.I | re.S,
+)
 _ENOUGH = 1 << 16
 """Bytes that are looked at."""
 _WORDS = 12
@@ -40,11 +45,14 @@ class _Words(HTMLParser):
 
 def told(address: str, content: bytes) -> Optional[str]:
     """One sentence with the first words of the page; None for content that is none."""
+    content = content[:_ENOUGH]
     if not _BEGINNING.match(content):
         return None
     page = _Words()
-    page.feed(content[:_ENOUGH].decode("utf-8", "replace"))
-    page.close()
+    # Where a page is too crooked for the parser, the words before that do.
+    with contextlib.suppress(AssertionError, NotImplementedError):
+        page.feed(content.decode("utf-8-sig", "replace"))
+        page.close()
     return _('{address} gives a web page in place of the metadata. It begins: "{words}"').format(
         address=address, words=" ".join(page.words[:_WORDS])
     )
@@ -57,7 +65,7 @@ def asked(repo: dnf.repo.Repo) -> Optional[str]:
     address = repo.metalink or repo.mirrorlist or next(iter(bases), "")
     if not address.startswith(("http://", "https://")):
         return None
-    with tempfile.TemporaryFile() as file:
+    with open(os.memfd_create("page"), "w+b") as file:
         try:
             repo._repo.downloadUrl(address, file.fileno())
         except RuntimeError:

@@ -166,14 +166,16 @@ def await_transaction(conf: dnf.conf.MainConf) -> None:
                 )
 
 
-def tell_last(conf: dnf.conf.MainConf) -> None:
-    """Tells once how a transaction ended that nobody listened to. To be called by who holds the lock."""
+def tell_last(conf: dnf.conf.MainConf) -> str:
+    """Tells once how a transaction ended that nobody listened to; gives what is to be told of one that failed. To be
+    called by who holds the lock."""
+    failure = ""
     reader = open_journal(conf)
     if reader is None:
-        return
+        return failure
     with contextlib.closing(reader):
         if reader.at_work:
-            return
+            return failure
         heard = list(reader.follow())
         changes = ", ".join(sorted({change.name for change in reader.begun.changes}))
         if not heard or not isinstance(heard[-1], Ended):
@@ -189,9 +191,8 @@ def tell_last(conf: dnf.conf.MainConf) -> None:
                 _("A transaction whose window was gone has come to its end: {packages}").format(packages=changes),
             )
         else:
-            host.errorlog(
-                host.LEVEL_ERROR,
-                _("A transaction whose window was gone has failed: {cause}").format(cause=heard[-1].text),
-            )
+            failure = _("A transaction whose window was gone has failed: {cause}").format(cause=heard[-1].text)
+            host.errorlog(host.LEVEL_ERROR, failure)
     with contextlib.suppress(OSError):
         os.unlink(journal_path(conf))
+    return failure

@@ -5,6 +5,7 @@ from __future__ import annotations
 
 from typing import Dict, List, Sequence, Set, Tuple
 
+import dnf.conf.config
 import dnf.package
 import hawkey
 
@@ -24,6 +25,8 @@ class Marks:
     def __init__(self) -> None:
         self.incoming: List[dnf.package.Package] = []
         self.removed: List[dnf.package.Package] = []
+        self.doubled: Set[str] = set()
+        """The names of those of which another version stays."""
 
     def tuples(self) -> Set[PkgTup]:
         return {_pkgtup(package) for package in (*self.incoming, *self.removed)}
@@ -50,7 +53,36 @@ def mark(base: Base, incoming: Sequence[Wish], removes: Sequence[Wish]) -> Marks
             raise YumBaseError(NOT_INSTALLED.format(package=_shown(unwanted)))
         base.package_remove(package)
         marks.removed.append(package)
+    _unprotect_doubled(base, marks)
     return marks
+
+
+def _unprotect_doubled(base: Base, marks: Marks) -> None:
+    """Lets go of the older versions of a protected package, which a transaction that was cut off has left. The library
+    protects each version."""
+    staying = {(package.name, package.arch) for package in _staying(base, marks)}
+    marks.doubled = {package.name for package in marks.removed if (package.name, package.arch) in staying}
+    if marks.doubled:
+        kept = [name for name in base.conf.protected_packages if name not in marks.doubled]
+        base.conf._set_value("protected_packages", kept, dnf.conf.config.PRIO_RUNTIME)
+
+
+def _staying(base: Base, marks: Marks) -> List[dnf.package.Package]:
+    removed = set(map(_pkgtup, marks.removed))
+    names = [package.name for package in marks.removed]
+    installed = base.sack.query(flags=hawkey.IGNORE_EXCLUDES).installed().filter(name=names) if names else []
+    return [package for package in installed if _pkgtup(package) not in removed]
+
+
+def _require_doubled(base: Base, marks: Marks) -> None:
+    """The last version of a package is protected as ever, whatever the solver has found to go with the older ones."""
+    going = {_pkgtup(package) for package in base.goal.list_erasures()}
+    left = {package.name for package in _staying(base, marks) if _pkgtup(package) not in going}
+    lost = sorted(marks.doubled - left)
+    if lost:
+        raise YumBaseError(
+            _("The operation would remove all versions of {packages}.").format(packages=", ".join(lost))
+        )
 
 
 def _of_names(query: hawkey.Query, wanted: Sequence[Wish]) -> Dict[Wish, dnf.package.Package]:
@@ -73,6 +105,7 @@ def solve(base: Base, marks: Marks) -> List[Change]:
     if not base.resolve(allow_erasing=bool(marks.removed)):
         raise YumBaseError(_("Nothing to do: the system is already as it was asked to be."))
     _require_marks(base, marks)
+    _require_doubled(base, marks)
     return _changes(base, marks.tuples())
 
 
