@@ -172,4 +172,5 @@ class YumIO:
 
     def _clean(self, *kinds: str) -> Tuple[int, List[str]]:
         rights.require_administrator(rights.NO_CLEANING)
-        return clean.clean(self._session.cache_directory, *kinds) if kinds else (0, [])
+        with self._session.locked():
+            return clean.clean(self._session.cache_directory, *kinds) if kinds else (0, [])

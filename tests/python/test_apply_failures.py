@@ -385,6 +385,20 @@ def test_protected_package_of_the_managed_system_stays(
     assert not host.named("userconfirm")
 
 
+def test_protected_package_stays_though_it_is_excluded(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
+) -> None:
+    estate.install(rpms.some("lone-1.0"))
+    estate.repository("base", [])
+    estate.write_main_config(exclude="lone")
+    directory = estate.root / "etc/dnf/protected.d"
+    directory.mkdir(parents=True)
+    (directory / "own.conf").write_text("lone\n")
+    found = program.collect()
+    fails(program, lambda: found.yumio.apply([], [], [found.there("lone")]), "protected packages: lone")
+    assert estate.installed() == {"lone-1.0-1.noarch"}
+
+
 def test_apply_after_a_failed_one(estate: Estate, rpms: Catalogue, program: Program, host: FakeHost) -> None:
     estate.repository("base", rpms.some("badpre-1.0", "same-one-1.0", "same-two-1.0", "lone-1.0"))
     found = program.collect()

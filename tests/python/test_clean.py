@@ -3,6 +3,7 @@
 
 from __future__ import annotations
 
+import subprocess
 from pathlib import Path
 from typing import Any, List
 
@@ -40,6 +41,21 @@ def test_metadata(estate: Estate, yumio: Any, program: Program, web: Web) -> Non
     web.forget_requests()
     assert program.collect().merged() == {"lone": "UpToDate", "lib": "Available"}
     assert "/base/repodata/repomd.xml" in web.requests()
+
+
+def test_nothing_is_removed_below_another_process(
+    estate: Estate, yumio: Any, program: Program
+) -> None:
+    yumio.unlock()
+    with subprocess.Popen(["sleep", "60"]) as other:
+        (estate.root / "var/cache/yum/metadata_lock.pid").write_text(str(other.pid))
+        for clean in (yumio.cleanPackages, yumio.cleanMetadata, yumio.cleanPickles):
+            with pytest.raises(program.errors.YumBaseError, match=f"held by process {other.pid}"):
+                clean()
+        other.kill()
+    assert cached(estate, "rpm") and cached(estate, "solv") and cached(estate, "xml")
+    assert yumio.cleanPackages()[0] == 0
+    assert not cached(estate, "rpm") and not list(estate.root.glob("var/**/*_lock.pid"))
 
 
 def test_what_a_killed_download_has_left_goes_with_the_metadata(estate: Estate, yumio: Any) -> None:

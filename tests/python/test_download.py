@@ -4,6 +4,7 @@
 from __future__ import annotations
 
 import os
+from pathlib import Path
 from typing import Any, Callable, Dict, List, Tuple
 
 import dnf.callback
@@ -158,6 +159,25 @@ def test_cause_and_address_of_a_failure_are_named_once(
         assert f"{name}-1.0-1.noarch: " in text and text.count(cause) == 1, text
         assert host.text("log").count(cause) == 1
         assert "checksum" in text or name != "battery"
+
+
+def test_part_of_a_file_is_still_to_be_downloaded(
+    served: Estate, program: Program, host: FakeHost
+) -> None:
+    found = program.collect()
+    lone = found.offered("lone")
+    place = Path(lone.localPkg())
+    place.parent.mkdir(parents=True, exist_ok=True)
+    place.write_bytes(b"the beginning")
+    found.yumio.apply([lone], [], [])
+    assert host.named("reportDownloadSize") == [("reportDownloadSize", lone.size)]
+    assert "lone-1.0-1.noarch" in served.installed()
+
+
+def test_no_section_asks_for_deltas(served: Estate, program: Program) -> None:
+    served.write_repo_file("base", extra={"deltarpm": "1"})
+    yumio = program.start()
+    assert [repo.deltarpm for repo in yumio._session._base.repos.values()] == [False]
 
 
 @pytest.mark.parametrize(("blocks", "told"), [(1, True), (1 << 20, False)])

@@ -61,6 +61,17 @@ def test_package_of_a_known_key_goes_in(
     assert estate.installed() == {"lone-1.0-1.noarch"}
 
 
+def test_key_is_no_package_where_the_last_one_has_gone(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost, key: Key
+) -> None:
+    estate.rpm("--import", key.public)
+    estate.install(rpms.some("lone-1.0"))
+    estate.repository("base", rpms.some("battery-1.0"))
+    found = program.collect()
+    found.yumio.apply([], [], [found.there("lone")])
+    assert program.collect().merged() == {"battery": "Available"}
+
+
 def test_damaged_package_is_told_with_what_is_wrong(
     estate: Estate, rpms: Catalogue, program: Program, host: FakeHost, key: Key, tmp_path: Path
 ) -> None:

@@ -195,6 +195,8 @@ def open_base(
         on_failure.callback(base.close)
         base.read_all_repos()
         for repo in base.repos.values():
+            # A section may ask for what the main configuration rules out.
+            repo.deltarpm = False
             if enabled is not None and repo.id in enabled:
                 (repo.enable if enabled[repo.id] else repo.disable)()
         on_failure.pop_all()

@@ -152,7 +152,13 @@ def _require_files(packages: List[dnf.package.Package]) -> None:
 
 
 def not_in_cache(packages: List[dnf.package.Package]) -> List[dnf.package.Package]:
-    """The packages that the repositories still have to give: all but those in the download cache."""
-    return [
-        package for package in packages if package._is_local_pkg() or not os.path.exists(package.localPkg())
-    ]
+    """The packages that the repositories still have to give: all but those that are in the download cache as a whole."""
+    return [package for package in packages if package._is_local_pkg() or not _is_whole(package)]
+
+
+def _is_whole(package: dnf.package.Package) -> bool:
+    """Not by its checksum: dnf looks at that when it comes to the download."""
+    try:
+        return os.path.getsize(package.localPkg()) == package.downloadsize
+    except OSError:
+        return False

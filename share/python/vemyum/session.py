@@ -6,8 +6,9 @@ A session is made new for every collection and closed when the engine is done wi
 
 from __future__ import annotations
 
+import contextlib
 import gc
-from typing import Any, List, Optional, Sequence
+from typing import Any, Iterator, List, Optional, Sequence
 
 import dnf.conf
 
@@ -96,6 +97,18 @@ class Session:
 
     def unlock(self) -> None:
         LOCK.release()
+
+    @contextlib.contextmanager
+    def locked(self) -> Iterator[None]:
+        """Holds the lock for a block at least. LockError; a configuration that cannot be read has nothing to lock."""
+        took = self._conf is not None and not LOCK.held
+        if took:
+            LOCK.acquire(self._conf)
+        try:
+            yield
+        finally:
+            if took:
+                LOCK.release()
 
     # Collection ------------------------------------------------------------------------------------------
 

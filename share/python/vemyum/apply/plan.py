@@ -102,6 +102,9 @@ def _shown(wish: Wish) -> str:
 
 def solve(base: Base, marks: Marks) -> List[Change]:
     """Solves the marked Base. YumBaseError has the solver's problems as its text."""
+    # dnf itself leaves out what is excluded.
+    protected = base.sack.query(flags=hawkey.IGNORE_EXCLUDES).filter(name=base.conf.protected_packages)
+    base._goal.add_protected(protected)
     if not base.resolve(allow_erasing=bool(marks.removed)):
         raise YumBaseError(_("Nothing to do: the system is already as it was asked to be."))
     _require_marks(base, marks)
