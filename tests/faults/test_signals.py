@@ -49,7 +49,7 @@ class Working:
     def at_work(self) -> bool:
         try:
             return Path(f"/proc/{self.child}/stat").read_text().rpartition(")")[2].split()[0] != "Z"
-        except FileNotFoundError:
+        except (FileNotFoundError, ProcessLookupError):
             return False
 
     def go_on(self) -> None:

@@ -253,7 +253,7 @@ void readAndWrite(Root const& root, Files const& files)
 
 // Instead of a user in front of message boxes: one who looks on, and says Yes.
 
-void YumConfIO::error(QString const&)
+void YumConfIO::error(QString const&, QString const&)
 {
     ++errorsTold;
 }
