@@ -83,6 +83,10 @@ def test_older_version_of_a_protected_package_is_removed_and_the_newest_is_not(
     with pytest.raises(program.errors.YumBaseError, match="protected|all versions"):
         found.yumio.apply([], [], list(filter(lambda package: package.name == "lib", found.installed)))
     assert estate.installed() == {"lib-1.0-1.noarch", "lib-2.0-1.noarch", "battery-1.0-1.noarch"}
+    # Nor may the newest go, though the older one would stay.
+    newest = [package for package in found.installed if str(package) == "lib-2.0-1.noarch"]
+    with pytest.raises(program.errors.YumBaseError, match="protected packages: lib"):
+        found.yumio.apply([], [], newest)
     _, _, older = told(program)
     program.yumio.apply([], [], older)
     assert estate.installed() == {"lib-2.0-1.noarch", "battery-1.0-1.noarch"}

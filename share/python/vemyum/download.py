@@ -152,7 +152,7 @@ def _require_files(packages: List[dnf.package.Package]) -> None:
 
 
 def not_in_cache(packages: List[dnf.package.Package]) -> List[dnf.package.Package]:
-    """The packages that the repositories still have to give: all but those that are in the download cache as a whole."""
+    """The packages that the repositories still have to give: all but those that the download cache has as a whole."""
     return [package for package in packages if package._is_local_pkg() or not _is_whole(package)]
 
 

@@ -29,8 +29,9 @@ _FEW = 10
 
 
 class Unfinished(NamedTuple):
-    """`text` tells everything, in lines; it is empty where nothing can be done. `versions` are those that are installed of each package that is there more
-    than once, the newest last; `older` are all but the newest, for whoever may change packages."""
+    """`text` tells everything, in lines; it is empty where nothing can be done. `versions` are those that are installed
+    of each package that is there more than once, the newest last; `older` are all but the newest, for whoever may
+    change packages."""
 
     text: str
     versions: Dict[str, str]
@@ -97,7 +98,8 @@ def _open_entry(conf: dnf.conf.MainConf) -> Optional[_Entry]:
     """The last entry of the history if it has no end. The history is only looked at: dnf's own class would make one
     where there is none, and bring an old one up to date."""
     # Whoever wants to write into a history that cannot be read is told then.
-    with contextlib.suppress(sqlite3.Error), contextlib.closing(open_history(system_history_path(conf), "ro")) as database:
+    path = system_history_path(conf)
+    with contextlib.suppress(sqlite3.Error), contextlib.closing(open_history(path, "ro")) as database:
         database.text_factory = lambda content: content.decode("utf-8", "replace")
         last = database.execute("select id, dt_begin, cmdline, state from trans order by id desc limit 1").fetchone()
         if last is None or last[3] != lt.TransactionState_UNKNOWN:

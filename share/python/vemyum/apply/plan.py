@@ -26,7 +26,7 @@ class Marks:
         self.incoming: List[dnf.package.Package] = []
         self.removed: List[dnf.package.Package] = []
         self.doubled: Set[str] = set()
-        """The names of those of which another version stays."""
+        """The names of those of which a newer version stays."""
 
     def tuples(self) -> Set[PkgTup]:
         return {_pkgtup(package) for package in (*self.incoming, *self.removed)}
@@ -60,8 +60,12 @@ def mark(base: Base, incoming: Sequence[Wish], removes: Sequence[Wish]) -> Marks
 def _unprotect_doubled(base: Base, marks: Marks) -> None:
     """Lets go of the older versions of a protected package, which a transaction that was cut off has left. The library
     protects each version."""
-    staying = {(package.name, package.arch) for package in _staying(base, marks)}
-    marks.doubled = {package.name for package in marks.removed if (package.name, package.arch) in staying}
+    newest = {(package.name, package.arch): package for package in sorted(_staying(base, marks))}
+    marks.doubled = {
+        package.name
+        for package in marks.removed
+        if (package.name, package.arch) in newest and newest[package.name, package.arch] > package
+    }
     if marks.doubled:
         kept = [name for name in base.conf.protected_packages if name not in marks.doubled]
         base.conf._set_value("protected_packages", kept, dnf.conf.config.PRIO_RUNTIME)
