@@ -410,6 +410,8 @@ protected:
     bool displayTransactionPkgs(QString const& label, PyObject* members);
     bool displayTransactionPkgsRepo(QString const& label, PyObject* members);
     bool displayTransactionPkgsObs(QString const& label, PyObject* members);
+    /// What the transaction enables of modules, where the helper script tells that.
+    bool displayEnabledStreams(PyObject* tsInfo);
     PyRef findRelation(PyObject* relatedto, char const* relation);
     void noteTransactionPkgs(Package::Action action, PyObject* members);
     QString pkgtupFormat(PyObject* pkgtup);

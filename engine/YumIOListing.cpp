@@ -130,6 +130,9 @@ PyObject* YumIO::listTransaction(PyObject*, PyObject* args)
             return nullptr;
         }
     }
+    if (!displayEnabledStreams(lists.tsInfo.get())) {
+        return nullptr;
+    }
     noteTransactionPkgs(Package::Install, lists.installed.get());
     noteTransactionPkgs(Package::Update, lists.updated.get());
     noteTransactionPkgs(Package::Remove, lists.removed.get());
@@ -163,6 +166,23 @@ bool YumIO::displayTransactionPkgsRepo(QString const& label, PyObject* members)
         }
         QString const repo = pyStringDec(pyAttribute(member, "repoid"));
         run.transactionText += tr("\t%1: %2\n").arg(label, pkgtupRepoFormat(pkgtup.get(), repo));
+        return true;
+    });
+}
+
+bool YumIO::displayEnabledStreams(PyObject* tsInfo)
+{
+    constexpr char const* attribute = "enabledStreams";
+    if (PyObject_HasAttrString(tsInfo, attribute) == 0) {
+        return true;
+    }
+    PyRef const streams = pyAttribute(tsInfo, attribute);
+    if (isEmpty(streams.get())) {
+        return true;
+    }
+    run.transactionText += tr("Enabling module streams:\n");
+    return forEach(streams.get(), [&](PyObject* stream) {
+        run.transactionText += tr("\t%1\n").arg(pyString(stream));
         return true;
     });
 }

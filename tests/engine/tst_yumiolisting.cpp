@@ -83,6 +83,10 @@ void TestYumIOListing::sectionsAppearOnlyWhenNeeded_data()
     QTest::newRow("obsoleted")
         << "obsoleted=[member('installed', 'birch', [(member('available', 'elm'), 'obsoletedby')])]"
         << "Other Transactions:\n\tObsoleting: birch 1:3.1-2 (noarch) with elm 1.0-1 (noarch)\n";
+    QTest::newRow("streams") << "enabledStreams=['lamp:5', 'tree:1.2']"
+                             << "Enabling module streams:\n\tlamp:5\n\ttree:1.2\n";
+    QTest::newRow("no streams") << "enabledStreams=[]"
+                                << "";
 }
 
 void TestYumIOListing::sectionsAppearOnlyWhenNeeded()

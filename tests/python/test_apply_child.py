@@ -68,7 +68,7 @@ def scripted(
     ready: Tuple[Estate, Program], tmp_path: Path, monkeypatch: pytest.MonkeyPatch
 ) -> Callable[[str], Callable[[], None]]:
     """An apply whose other process runs these lines; `say` writes bytes, `hear` reads a line."""
-    from vemyum.apply import parent
+    from vemyum.apply import messages, parent
 
     script = tmp_path / "scripted.py"
 
@@ -78,7 +78,7 @@ def scripted(
             "connection = socket.socket(fileno=int(sys.argv[1]))\n"
             "reader = connection.makefile('rb')\n"
             "say, hear = connection.sendall, reader.readline\n"
-            "hello = lambda: say(b'{\"is\":\"Hello\",\"protocol\":1}\\n') or hear()\n"
+            f"hello = lambda: say({messages.to_line(messages.Hello(messages.PROTOCOL))!r}) or hear()\n"
             f"{lines}\n"
         )
         monkeypatch.setattr(parent, "COMMAND", [sys.executable, "-B", str(script)])
@@ -101,9 +101,13 @@ def test_request_names_the_marks_and_the_repositories(scripted: Scripted, tmp_pa
     scripted(f"open({str(line)!r}, 'wb').write(hello()); say({ENDED % (b'refused', b'')!r})")()
     from vemyum.apply import messages
 
-    assert messages.from_line(line.read_bytes()) == messages.Request(
-        messages.PROTOCOL, {"base": True}, [messages.Wish("base", "lone", "noarch", "1.0-1")], [], 1, "/etc/yum.conf"
-    )
+    request = messages.from_line(line.read_bytes())
+    assert isinstance(request, messages.Request)
+    assert [(section.name, section.enabled) for section in request.repositories] == [("base", True)]
+    assert request.repositories[0].options["baseurl"].startswith("file:///")
+    assert (request.incoming, request.removes) == ([messages.Wish("base", "lone", "noarch", "1.0-1")], [])
+    assert (request.installed, request.main_file) == (1, "/etc/yum.conf")
+    assert request.comment == "install lone-1.0-1.noarch"
 
 
 @pytest.mark.parametrize(

@@ -11,17 +11,20 @@ from typing import Any, Iterator, List, Tuple
 import pytest
 from vemyum.apply import messages
 from vemyum.apply.channel import Channel
+from vemyum.sections import RepositorySection
 
 CHANGE = messages.Change("install", True, "lamp", "noarch", "0", "1.1", "1", "base", -1)
 
 ONE_OF_EACH: List[Any] = [
     messages.Request(
         messages.PROTOCOL,
-        {"base": True, "extra": False},
+        [RepositorySection("base", {"name": "Base $releasever", "enabled": "0"}, True)],
         [messages.Wish("base", "lamp", "noarch", "1.1-1")],
         [messages.Wish("@System", "lone", "noarch", "1:2-3")],
         7,
         "/etc/yum.conf",
+        "vem --enablerepo=extra",
+        "install lamp-1.1-1.noarch",
     ),
     messages.Answer(True),
     messages.Leave(True),
@@ -31,7 +34,7 @@ ONE_OF_EACH: List[Any] = [
     messages.Output('"quoted"\n'),
     messages.ErrorOutput(""),
     messages.Solving(),
-    messages.Plan([CHANGE], [1 << 40]),
+    messages.Plan([CHANGE], ["lamp:1"], [1 << 40]),
     messages.FileStarted("lamp.rpm", 6000),
     messages.FileProgress(0),
     messages.FileEnded(6000),

@@ -4,6 +4,7 @@
 from __future__ import annotations
 
 import contextlib
+import os
 import sqlite3
 import subprocess
 import sys
@@ -13,7 +14,7 @@ import pytest
 from catalogue import Catalogue
 from fake_host import FakeHost
 from program import Program
-from rpmestate import Estate, install_options
+from rpmestate import Estate, install_options, spec
 
 
 def double(estate: Estate, rpms: Catalogue, *names: str) -> None:
@@ -95,6 +96,18 @@ def test_older_version_of_a_protected_package_is_removed_and_the_newest_is_not(
         found.yumio.apply([], [], [found.there("lib")])
 
 
+def test_what_needs_the_older_version_is_updated_where_that_is_offered(
+    estate: Estate, rpms: Catalogue, program: Program
+) -> None:
+    old, new = estate.build([spec("peg", "1.0", requires=["lib < 2"]), spec("peg", "2.0", requires=["lib >= 2"])])
+    estate.install([*rpms.some("lib-1.0"), old])
+    double(estate, rpms, "lib-2.0")
+    estate.repository("base", [new])
+    _, _, older = told(program)
+    program.yumio.apply([], [], older)
+    assert estate.installed() == {"lib-2.0-1.noarch", "peg-2.0-1.noarch"}
+
+
 def test_nothing_is_told_while_another_program_changes_the_system(
     doubled: Tuple[Estate, Program], host: FakeHost
 ) -> None:
@@ -163,10 +176,12 @@ def test_entry_of_the_history_without_an_end_is_told_with_what_is_missing(
     estate.repository("base", rpms.some("lone-1.0", "lib-2.0"))
     found = program.collect()
     found.yumio.apply([found.offered("lone")], [found.pair("lib")], [found.there("battery")])
+    from vemyum.processes import command_line
+
     cut_off_last(estate)
     first, *rest = told(program)[0].splitlines()
     assert first.startswith("The last transaction was cut off before its end: number 1, of 20")
-    assert first.endswith(", begun by vem.")
+    assert first.endswith(f", begun by {command_line(os.getpid())}.")
     assert rest == []
 
     estate.rpm("--erase", "lone")

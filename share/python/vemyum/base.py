@@ -24,6 +24,7 @@ from .inhibitor import inhibited
 from .messages import heard, rpms_words
 from .metadata import ReadingProgress, RepositoryProgress
 from .queries import MetadataFetcher, ask_by_complete_address, base_addresses, rounds
+from .sections import RepositorySection
 from .space import scarce_space
 from .texts import _
 from .webpage import asked
@@ -48,17 +49,32 @@ class Base(dnf.Base):
         """Called when the test transaction is over and the real one begins."""
         self.args = ["vem"]
         """The command line that dnf's history tells."""
+        self.sections: Dict[str, RepositorySection] = {}
+        """What the repositories were built of, by their ids."""
 
     def read_all_repos(self, opts: Any = None) -> None:
         """YumBaseError when the main file has become unreadable meanwhile: it may hold repositories, too."""
+        reader = RepositoryReader(self.conf, opts)
         try:
-            for repo in RepositoryReader(self.conf, opts):
-                try:
-                    self.repos.add(repo)
-                except dnf.exceptions.ConfigError as error:
-                    logging.getLogger("dnf").warning("%s", error)
+            self._add(reader)
         except dnf.exceptions.ConfigError as error:
             raise misread(error) from error
+        self.sections = reader.sections
+
+    def use_repositories(self, sections: Iterable[RepositorySection]) -> None:
+        """Takes these instead of what the configuration says now."""
+        reader = RepositoryReader(self.conf, None)
+        self._add(map(reader.rebuilt, sections))
+        self.sections = reader.sections
+
+    def _add(self, repositories: Iterable[dnf.repo.Repo]) -> None:
+        for repo in repositories:
+            # A section may ask for what the main configuration rules out.
+            repo.deltarpm = False
+            try:
+                self.repos.add(repo)
+            except dnf.exceptions.ConfigError as error:
+                logging.getLogger("dnf").warning("%s", error)
 
     def load_everything(self) -> None:
         """Reads the enabled repositories and the rpm database.
@@ -68,6 +84,11 @@ class Base(dnf.Base):
         """
         self._fill(True)
 
+    def load_system(self) -> None:
+        """Reads the rpm database alone: what is then removed takes along what needs it, and nothing comes in instead.
+        Raises as `load_everything`."""
+        self._fill(True, available=False)
+
     def load_metadata(self, read: Callable[[dnf.repo.Repo], None]) -> None:
         """Fetches what the enabled repositories are asked for, and gives each to `read`; the sack stays empty.
 
@@ -76,7 +97,7 @@ class Base(dnf.Base):
         self._read = read
         self._fill(False)
 
-    def _fill(self, with_system: bool) -> None:
+    def _fill(self, with_system: bool, available: bool = True) -> None:
         point_rpm_at(self.conf.installroot)
         if self._report is not None:
             for repo in self.repos.iter_enabled():
@@ -86,11 +107,11 @@ class Base(dnf.Base):
         with rpms_words() as said:
             try:
                 try:
-                    self.fill_sack(load_system_repo=with_system)
+                    self.fill_sack(load_system_repo=with_system, load_available_repos=available)
                 except RepoError as error:
                     if not self._drop_damaged_cache(str(error)):
                         raise
-                    self.fill_sack(load_system_repo=with_system)
+                    self.fill_sack(load_system_repo=with_system, load_available_repos=available)
             except OSError as error:
                 if "RPMDB" not in str(error):
                     raise
@@ -195,8 +216,6 @@ def open_base(
         on_failure.callback(base.close)
         base.read_all_repos()
         for repo in base.repos.values():
-            # A section may ask for what the main configuration rules out.
-            repo.deltarpm = False
             if enabled is not None and repo.id in enabled:
                 (repo.enable if enabled[repo.id] else repo.disable)()
         on_failure.pop_all()

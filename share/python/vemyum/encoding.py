@@ -18,10 +18,12 @@ import dnf.conf.config
 import dnf.conf.read
 import dnf.exceptions
 import dnf.util
+import libdnf.conf
 
 from .configuration import check_signatures_unless_told, library_words
 from .errors import os_error_text
 from .root import files, within
+from .sections import RepositorySection
 from .text import valid
 from .texts import _
 
@@ -44,6 +46,11 @@ class RepositoryReader(dnf.conf.read.RepoReader):
     only.
     """
 
+    def __init__(self, conf: Any, opts: Any) -> None:
+        super().__init__(conf, opts)
+        self.sections: Dict[str, RepositorySection] = {}
+        """What each repository was built of, by its id."""
+
     def __iter__(self) -> Iterator[Any]:
         yield from self._get_repos(self.conf.config_file_path)
         for path in self._files():
@@ -65,6 +72,20 @@ class RepositoryReader(dnf.conf.read.RepoReader):
     def _build_repo(self, parser: Any, id_: str, repofn: str) -> Any:
         repo = super()._build_repo(parser, id_, repofn)
         check_signatures_unless_told(repo, parser, id_, dnf.conf.config.PRIO_REPOCONFIG)
+        options = {name: parser.getValue(id_, name) for name in parser.options(id_)}
+        self.sections[repo.id] = RepositorySection(id_, options, bool(repo.enabled))
+        return repo
+
+    def rebuilt(self, section: RepositorySection) -> Any:
+        """The repository of a section that was read before. dnf.exceptions.ConfigError."""
+        parser = libdnf.conf.ConfigParser()
+        parser.setSubstitutions(self.conf.substitutions)
+        parser.addSection(section.name)
+        for name, value in section.options.items():
+            parser.setValue(section.name, name, value)
+        repo = self._build_repo(parser, section.name, "")
+        repo._configure_from_options(self.opts)
+        (repo.enable if section.enabled else repo.disable)()
         return repo
 
     def _get_repos(self, repofn: str) -> Iterator[Any]:

@@ -22,6 +22,17 @@ def name(pid: int) -> str:
         return ""
 
 
+def command_line(pid: int) -> str:
+    """What the process was started with, the program's name without its folder; empty when there is no such
+    process."""
+    try:
+        with open(f"/proc/{pid}/cmdline", "rb") as file:
+            program, *arguments = file.read().removesuffix(b"\0").split(b"\0")
+    except OSError:
+        return ""
+    return b" ".join([os.path.basename(program), *arguments]).decode(errors="replace")
+
+
 def lives(pid: int) -> bool:
     """Whether there is such a process, and not only its exit code."""
     fields = _stat(pid)

@@ -7,6 +7,7 @@ A session is made new for every collection and closed when the engine is done wi
 from __future__ import annotations
 
 import contextlib
+import dataclasses
 import gc
 from typing import Any, Iterator, List, Optional, Sequence
 
@@ -26,6 +27,7 @@ from .packages import InstalledPackage
 from .repositories import Repositories, UnreadableRepositories
 from .root import as_configured, managed_root
 from .sack import light_packages
+from .sections import RepositorySection
 from .texts import _
 from .unfinished import Unfinished, unfinished
 
@@ -176,6 +178,12 @@ class Session:
         if self._base is None or self._collector is None:
             raise YumBaseError(_NOT_READ)
         return self._base
+
+    def repository_sections(self) -> List[RepositorySection]:
+        """The repositories that the lists rest on. YumBaseError before they are read."""
+        states = self.repositories.states()
+        sections = self.base.sections.items()
+        return [dataclasses.replace(section, enabled=states[id]) for id, section in sections]
 
     @property
     def collector(self) -> Collector:

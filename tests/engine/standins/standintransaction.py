@@ -38,6 +38,8 @@ class TsInfo:
     def __init__(self, era: Era, **lists: list[Member]) -> None:
         self.era = era
         self.plain_lists = {name: lists.get(name, []) for name in self.names}
+        if "enabledStreams" in lists:
+            self.enabledStreams = lists["enabledStreams"]
 
     def makelists(self) -> Any:
         if self.era.lists == "tuple":

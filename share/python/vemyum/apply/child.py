@@ -119,7 +119,7 @@ class _Parent:
     def request(self) -> messages.Request:
         request = self._said.get()
         if not isinstance(request, messages.Request) or request.protocol != messages.PROTOCOL:
-            raise messages.ProtocolError(str(request))
+            raise messages.ProtocolError(type(request).__name__)
         return request
 
     def agreed(self, plan: messages.Plan) -> bool:

@@ -3,11 +3,11 @@
 
 from __future__ import annotations
 
-from typing import Collection, List, Tuple
+from typing import Collection, List, Sequence, Tuple
 
 from ..lists import Collector
 from ..packages import INSTALLED, PkgTup
-from .messages import DOWNGRADED, INSTALL, OBSOLETED, REMOVE, UPGRADE, Change
+from .messages import INSTALL, OBSOLETED, REMOVE, REPLACED, UPGRADE, Change
 
 LISTS = ("updated", "installed", "removed", "obsoleted", "depupdated", "depinstalled", "depremoved")
 
@@ -30,8 +30,9 @@ class Member:
 class TransactionInfo:
     """`tsInfo`: seven lists of members. Those that begin with "dep" hold what the solver has added to the marks."""
 
-    def __init__(self, changes: List[Change], updatable: Collection[str]) -> None:
-        """`updatable` are the names that the engine's table shows as such."""
+    def __init__(self, changes: List[Change], updatable: Collection[str], streams: Sequence[str] = ()) -> None:
+        """`updatable` are the names that the engine's table shows as such; `streams` what is enabled of modules."""
+        self.enabledStreams = list(streams)
         self.updated: List[Member] = []
         self.installed: List[Member] = []
         self.removed: List[Member] = []
@@ -45,9 +46,9 @@ class TransactionInfo:
                 if 0 <= change.replaced_by < len(members):
                     member.relatedto.append((members[change.replaced_by], "obsoletedby"))
                 self.obsoleted.append(member)
-            elif change.kind in (REMOVE, DOWNGRADED):
-                # The lists have no words for a version that gives way to an older one, so that the user reads of a
-                # removal beside the installation.
+            elif change.kind in (REMOVE, REPLACED):
+                # The lists have no words for a version that gives way to an older one, or in two architectures to one
+                # for all, so that the user reads of a removal beside what comes in.
                 (self.removed if change.asked else self.depremoved).append(member)
             elif change.kind == UPGRADE and change.name in updatable:
                 # The engine expects an updated package to be one that its table shows as updatable.

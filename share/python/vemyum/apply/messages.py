@@ -15,7 +15,9 @@ import json
 import typing
 from typing import Any, Dict, List, Type, Union
 
-PROTOCOL = 1
+from ..sections import RepositorySection
+
+PROTOCOL = 2
 """Raised whenever a message changes its form: child and parent are always of one version, or don't work together."""
 
 
@@ -38,16 +40,19 @@ class Wish:
 
 @dataclasses.dataclass(frozen=True)
 class Request:
-    """What is to be done. `repositories` tells whether this session uses each, by its id; `installed` is how many
+    """What is to be done. `repositories` are those that the list of packages rests on; `installed` is how many
     packages the system has by all that the parent knows, 0 where it knows nothing; `main_file` is the main
-    configuration file that the list of packages rests on, empty for none."""
+    configuration file that the list rests on, empty for none; `command` is the program's command line and `comment`
+    what is marked, both for the history."""
 
     protocol: int
-    repositories: Dict[str, bool]
+    repositories: List[RepositorySection]
     incoming: List[Wish]
     removes: List[Wish]
     installed: int
     main_file: str
+    command: str
+    comment: str
 
 
 @dataclasses.dataclass(frozen=True)
@@ -104,9 +109,9 @@ class Solving:
     """The solver begins."""
 
 
-INSTALL, UPGRADE, OBSOLETED, REMOVE, DOWNGRADED = "install", "upgrade", "obsoleted", "remove", "downgraded"
+INSTALL, UPGRADE, OBSOLETED, REMOVE, REPLACED = "install", "upgrade", "obsoleted", "remove", "replaced"
 """Kinds of changes: a package goes in; goes in as a newer version of an installed one; gives way to one of another
-name; goes; gives way to an older version of its own."""
+name; goes; gives way to another version of its own that isn't an update of this very package."""
 
 
 @dataclasses.dataclass(frozen=True)
@@ -127,9 +132,11 @@ class Change:
 
 @dataclasses.dataclass(frozen=True)
 class Plan:
-    """The solved transaction, and the sizes in bytes of the files that are still to be fetched. Wants an answer."""
+    """The solved transaction, the module streams that it enables, each as "name:stream", and the sizes in bytes of the
+    files that are still to be fetched. Wants an answer."""
 
     changes: List[Change]
+    streams: List[str]
     downloads: List[int]
 
 

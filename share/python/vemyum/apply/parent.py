@@ -14,7 +14,7 @@ from typing import Any, Optional, Sequence
 
 import hawkey
 
-from .. import host
+from .. import host, processes
 from ..errors import REFRESH, LockError, YumBaseError
 from ..lists import Collector
 from ..lock import LOCK
@@ -55,11 +55,13 @@ class Apply:
         root = managed_root()
         request = messages.Request(
             messages.PROTOCOL,
-            self._session.repositories.states(),
+            self._session.repository_sections(),
             [_wish(package, package.po.reponame) for package in (*installs, *(pair[0] for pair in updates))],
             [_wish(package, hawkey.SYSTEM_REPO_NAME) for package in removes],
             Collector.known_installed(root),
             self._session.main_file,
+            processes.command_line(os.getpid()),
+            _comment(installs, updates, removes),
         )
         with _Child(root) as child:
             ended = self._converse(child, request)
@@ -142,7 +144,7 @@ class Apply:
         if lines:
             host.solver_restart()
             host.solver_check()
-        self.tsInfo = TransactionInfo(plan.changes, collector.updatable)
+        self.tsInfo = TransactionInfo(plan.changes, collector.updatable, plan.streams)
         host.list_transaction(self)
         host.report_download_size([_Download(size) for size in plan.downloads])
         return host.confirmed()
@@ -157,6 +159,14 @@ class _Download:
 
 def _wish(package: Any, repository: str) -> messages.Wish:
     return messages.Wish(repository, package.name, package.arch, package.po.evr)
+
+
+def _comment(installs: Sequence[Any], updates: Sequence[Any], removes: Sequence[Any]) -> str:
+    """The marks as dnf's history shows them, in its own words."""
+    marked = {"install": installs, "upgrade": [pair[0] for pair in updates], "remove": removes}
+    return "; ".join(
+        f"{verb} {', '.join(str(package.po) for package in packages)}" for verb, packages in marked.items() if packages
+    )
 
 
 class _Child:

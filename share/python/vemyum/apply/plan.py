@@ -6,14 +6,16 @@ from __future__ import annotations
 from typing import Dict, List, Sequence, Set, Tuple
 
 import dnf.conf.config
+import dnf.goal
 import dnf.package
+import dnf.sack
 import hawkey
 
 from ..base import Base
 from ..errors import YumBaseError
 from ..packages import PkgTup
 from ..texts import _
-from .messages import DOWNGRADED, INSTALL, OBSOLETED, REMOVE, UPGRADE, Change, Wish
+from .messages import INSTALL, OBSOLETED, REMOVE, REPLACED, UPGRADE, Change, Wish
 
 _NOT_OFFERED = _("{package} is no longer in the repository {repository}. Please refresh the list of packages.")
 NOT_INSTALLED = _("{package} is no longer installed. Please refresh the list of packages.")
@@ -22,39 +24,45 @@ NOT_INSTALLED = _("{package} is no longer installed. Please refresh the list of 
 class Marks:
     """What the user asked for: new packages (installs and updates) and installed ones to remove."""
 
-    def __init__(self) -> None:
-        self.incoming: List[dnf.package.Package] = []
-        self.removed: List[dnf.package.Package] = []
+    def __init__(self, incoming: Sequence[dnf.package.Package], removed: Sequence[dnf.package.Package]) -> None:
+        self.incoming = list(incoming)
+        self.removed = list(removed)
         self.doubled: Set[str] = set()
         """The names of those of which a newer version stays."""
 
     def tuples(self) -> Set[PkgTup]:
-        return {_pkgtup(package) for package in (*self.incoming, *self.removed)}
+        return set(map(_pkgtup, (*self.incoming, *self.removed)))
 
 
 def mark(base: Base, incoming: Sequence[Wish], removes: Sequence[Wish]) -> Marks:
-    """Marks packages in a loaded Base.
+    """Finds the packages in a loaded Base and marks them.
 
     Raises YumBaseError for a package that isn't there any more, or that cannot be marked.
     """
-    marks = Marks()
     available = _of_names(base.sack.query().available(), incoming)
+    installed = _of_names(base.sack.query(flags=hawkey.IGNORE_EXCLUDES).installed(), removes)
     for wanted in incoming:
-        package = available.get(wanted)
-        if package is None:
+        if wanted not in available:
             raise YumBaseError(_NOT_OFFERED.format(package=_shown(wanted), repository=wanted.repository))
+    for unwanted in removes:
+        if unwanted not in installed:
+            raise YumBaseError(NOT_INSTALLED.format(package=_shown(unwanted)))
+    marks = Marks([available[wanted] for wanted in incoming], [installed[unwanted] for unwanted in removes])
+    _unprotect_doubled(base, marks)
+    _put(base, marks)
+    return marks
+
+
+def _put(base: Base, marks: Marks) -> None:
+    """Puts the marks into the goal."""
+    for package in marks.incoming:
         # Also for updates: dnf's own "upgrade" gives way silently where dependencies are in the way.
         base.package_install(package)
-        marks.incoming.append(package)
-    installed = _of_names(base.sack.query(flags=hawkey.IGNORE_EXCLUDES).installed(), removes)
-    for unwanted in removes:
-        package = installed.get(unwanted)
-        if package is None:
-            raise YumBaseError(NOT_INSTALLED.format(package=_shown(unwanted)))
-        base.package_remove(package)
-        marks.removed.append(package)
-    _unprotect_doubled(base, marks)
-    return marks
+    for package in marks.removed:
+        # What came in as a dependency alone goes along as the configuration says. An older version has the same
+        # dependencies as the one that stays.
+        clean = base.conf.clean_requirements_on_remove and package.name not in marks.doubled
+        base._goal.erase(package, clean_deps=clean)
 
 
 def _unprotect_doubled(base: Base, marks: Marks) -> None:
@@ -89,6 +97,17 @@ def _require_doubled(base: Base, marks: Marks) -> None:
         )
 
 
+def is_doubled(base: Base, removes: Sequence[Wish]) -> bool:
+    """Whether something is to go of which another version stays."""
+    counts: Dict[Tuple[str, str], int] = {}
+    for package in base.sack.query(flags=hawkey.IGNORE_EXCLUDES).installed().filter(name=[one.name for one in removes]):
+        counts[package.name, package.arch] = counts.get((package.name, package.arch), 0) + 1
+    for unwanted in removes:
+        if (unwanted.name, unwanted.arch) in counts:
+            counts[unwanted.name, unwanted.arch] -= 1
+    return any(counts.get((unwanted.name, unwanted.arch), 0) > 0 for unwanted in removes)
+
+
 def _of_names(query: hawkey.Query, wanted: Sequence[Wish]) -> Dict[Wish, dnf.package.Package]:
     """The packages of a query that have one of the names.
 
@@ -105,15 +124,57 @@ def _shown(wish: Wish) -> str:
 
 
 def solve(base: Base, marks: Marks) -> List[Change]:
-    """Solves the marked Base. YumBaseError has the solver's problems as its text."""
-    # dnf itself leaves out what is excluded.
-    protected = base.sack.query(flags=hawkey.IGNORE_EXCLUDES).filter(name=base.conf.protected_packages)
-    base._goal.add_protected(protected)
-    if not base.resolve(allow_erasing=bool(marks.removed)):
+    """Solves the marked Base. YumBaseError or dnf's DepsolveError has the solver's problems as its text."""
+    _protect(base)
+    if not (_resolve_both if marks.incoming and marks.removed else _resolve)(base, marks):
         raise YumBaseError(_("Nothing to do: the system is already as it was asked to be."))
     _require_marks(base, marks)
     _require_doubled(base, marks)
     return _changes(base, marks.tuples())
+
+
+def _protect(base: Base) -> None:
+    # dnf itself leaves out what is excluded.
+    protected = base.sack.query(flags=hawkey.IGNORE_EXCLUDES).filter(name=base.conf.protected_packages)
+    base._goal.add_protected(protected)
+
+
+def _resolve(base: Base, marks: Marks) -> bool:
+    return bool(base.resolve(allow_erasing=bool(marks.removed)))
+
+
+def _resolve_both(base: Base, marks: Marks) -> bool:
+    """Lets the removals take along what needs the removed, and the rest nothing: as each would alone."""
+    done = _resolve(base, marks)
+    marked = set(map(_pkgtup, marks.removed))
+    going = [package for package in base.goal.list_erasures() if _pkgtup(package) not in marked]
+    if not going:
+        return done
+    dependent = _gone_without(base, marks.removed)
+    if all(_pkgtup(package) in dependent for package in going):
+        return done
+    base.reset(goal=True)
+    _put(base, marks)
+    _protect(base)
+    for package in going:
+        if _pkgtup(package) in dependent:
+            base._goal.erase(package)
+    return bool(base.resolve(allow_erasing=False))
+
+
+def _gone_without(base: Base, removed: Sequence[dnf.package.Package]) -> Set[PkgTup]:
+    """What goes when these packages are removed and nothing else is done."""
+    sack = dnf.sack._build_sack(base)
+    sack.load_system_repo(build_cache=False)
+    installed = sack.query().installed()
+    unwanted = set(map(_pkgtup, removed))
+    goal = dnf.goal.Goal(sack)
+    for package in installed.filter(name=[one.name for one in removed]):
+        if _pkgtup(package) in unwanted:
+            goal.erase(package, clean_deps=base.conf.clean_requirements_on_remove)
+    goal.push_userinstalled(installed, base.history)
+    goal.run(allow_uninstall=True)
+    return set(map(_pkgtup, goal.list_erasures()))
 
 
 def _require_marks(base: Base, marks: Marks) -> None:
@@ -144,10 +205,19 @@ def _changes(base: Base, marked: Set[PkgTup]) -> List[Change]:
         pkgtup = _pkgtup(package)
         changes.append(Change(kind, pkgtup in marked, *pkgtup, package.reponame, replaced_by))
 
+    obsoleted = set(map(_pkgtup, goal.list_obsoleted()))
+    replaced: Dict[PkgTup, dnf.package.Package] = {}
     replacing: Dict[PkgTup, int] = {}
     for package, kind in _incoming(base):
-        for old in goal.obsoleted_by_package(package):
-            if old.name != package.name:
+        olds = goal.obsoleted_by_package(package)
+        versions = [old for old in olds if old.name == package.name]
+        if kind == UPGRADE and versions:
+            # Who reads of the update knows that the old version goes; not so of the same in other architectures.
+            ours = base.conf.substitutions["arch"]
+            versions.remove(min(versions, key=lambda old: (old.arch != package.arch, old.arch != ours)))
+        replaced.update((_pkgtup(old), old) for old in versions)
+        for old in olds:
+            if old.name != package.name and _pkgtup(old) in obsoleted:
                 replacing[_pkgtup(old)] = len(changes)
         add(package, kind)
     for package in goal.list_obsoleted():
@@ -155,11 +225,19 @@ def _changes(base: Base, marked: Set[PkgTup]) -> List[Change]:
             add(package, OBSOLETED, replacing[_pkgtup(package)])
     for package in goal.list_erasures():
         add(package, REMOVE)
-    for package in goal.list_downgrades():
-        for old in goal.obsoleted_by_package(package):
-            if old.name == package.name:
-                add(old, DOWNGRADED)
+    for pkgtup, package in replaced.items():
+        if pkgtup not in replacing:
+            add(package, REPLACED)
     return changes
+
+
+def enabled_streams(base: Base) -> List[str]:
+    """The module streams that the solved transaction enables, each as "name:stream"."""
+    modules = base._moduleContainer
+    if modules is None:
+        return []
+    enabled = modules.getEnabledStreams()
+    return sorted(f"{name}:{enabled[name]}" for name in enabled)
 
 
 def _pkgtup(package: dnf.package.Package) -> PkgTup:

@@ -18,7 +18,7 @@ import libdnf.transaction as lt
 import rpm
 
 from .. import host
-from ..base import Base, open_base
+from ..base import Base
 from ..database import point_rpm_at, require_sound, unlisted
 from ..display import Display
 from ..download import download, not_in_cache
@@ -28,7 +28,7 @@ from ..signatures import check_signatures
 from ..surroundings import load_needed_later
 from ..texts import _
 from .messages import Change, Plan, Request
-from .plan import NOT_INSTALLED, mark, solve
+from .plan import NOT_INSTALLED, enabled_streams, is_doubled, mark, solve
 
 
 class Work:
@@ -37,6 +37,7 @@ class Work:
     def __init__(self, conf: dnf.conf.MainConf, request: Request) -> None:
         self._conf = conf
         self._request = request
+        conf.comment = "; ".join(filter(None, (conf.comment, request.comment)))
         self.installed = -1
 
     def do(self, agreed: Callable[[Plan], bool], begins: Callable[[List[Change]], None]) -> bool:
@@ -44,18 +45,12 @@ class Work:
 
         `begins` is called when rpm begins to change the system. Raises YumBaseError, other dnf errors, OSError.
         """
-        with usable_history(self._conf), contextlib.closing(
-            open_base(self._conf, self._request.repositories, progress=False)
-        ) as base:
-            for repo in base.repos.iter_enabled():
-                # The table shows what the cache holds; newer metadata must not slip in behind it.
-                repo._repo.setSyncStrategy(dnf.repo.SYNC_LAZY)
-            base.load_everything()
+        with usable_history(self._conf), contextlib.closing(self._loaded()) as base:
             self._require_sound(base)
             host.solver_check()
             changes = solve(base, mark(base, self._request.incoming, self._request.removes))
             incoming = sorted(base.transaction.install_set)
-            plan = Plan(changes, [int(package.size) for package in not_in_cache(incoming)])
+            plan = Plan(changes, enabled_streams(base), [int(package.size) for package in not_in_cache(incoming)])
             if not agreed(plan):
                 return False
             download(base, incoming)
@@ -64,6 +59,29 @@ class Work:
             base.before_run = lambda: begins(changes)
             self._run(base)
             return True
+
+    def _loaded(self) -> Base:
+        """Where there are removals alone, without repositories, as on the command line: nothing is to come in. Behind
+        a transaction that was cut off, the rest of it may have to."""
+        with contextlib.ExitStack() as on_failure:
+            base = Base(self._conf, progress=False)
+            on_failure.callback(base.close)
+            # A repository that was added or changed meanwhile is none of those that the marks rest on.
+            base.use_repositories(self._request.repositories)
+            base.args = [self._request.command]
+            enabled = list(base.repos.iter_enabled())
+            for repo in enabled:
+                # The table shows what the cache holds; newer metadata must not slip in behind it.
+                repo._repo.setSyncStrategy(dnf.repo.SYNC_LAZY)
+            if not self._request.incoming:
+                base.load_system()
+            if self._request.incoming or is_doubled(base, self._request.removes):
+                for repo in enabled:
+                    # Which the reading of the system alone has switched off.
+                    repo.enable()
+                base.load_everything()
+            on_failure.pop_all()
+            return base
 
     def _require_sound(self, base: Base) -> None:
         """Nothing is built on a database that has been damaged since the table was filled."""
