@@ -23,14 +23,14 @@ ActionContextMenu::ActionContextMenu(Model* tableModel)
     connect(noneAction, &QAction::triggered, this, &ActionContextMenu::handleNoneAction);
 }
 
-void ActionContextMenu::exec(QModelIndex cell, QPoint const& position)
+bool ActionContextMenu::exec(QModelIndex cell, QPoint const& position)
 {
     index = cell;
     Package::State const state = model->getState(cell.row());
     updateAction->setEnabled(state == Package::OutOfDate);
     installAction->setEnabled(state == Package::Available);
     removeAction->setEnabled(state != Package::Available);
-    QMenu::exec(position);
+    return QMenu::exec(position) != nullptr;
 }
 
 void ActionContextMenu::handleUpdateAction()

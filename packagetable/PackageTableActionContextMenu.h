@@ -22,8 +22,9 @@ public:
     /// `model` is not owned and must outlive the menu.
     explicit ActionContextMenu(Model* model);
 
-    /// Runs the menu for a cell of the model at a position on the screen, until it is closed.
-    void exec(QModelIndex index, QPoint const& position);
+    /// Runs the menu for a cell of the model at a position on the screen, until it is closed. Whether an
+    /// entry was chosen.
+    bool exec(QModelIndex index, QPoint const& position);
 
 public Q_SLOTS:
     void handleUpdateAction();

@@ -195,13 +195,16 @@ void View::handleActivated(QModelIndex const& index)
 
 void View::handleCustomContextMenuRequested(QPoint const& point)
 {
-    QModelIndex const sourceIndex = proxy->mapToSource(indexAt(point));
+    // A rebuild of the list while a menu is open ends it.
+    QPersistentModelIndex const sourceIndex = proxy->mapToSource(indexAt(point));
     QPoint const place = viewport()->mapToGlobal(point);
     if (sourceIndex.column() == ActionColumn) {
         if (!actionContextMenu) {
             actionContextMenu = std::make_unique<ActionContextMenu>(packages);
         }
-        actionContextMenu->exec(sourceIndex, place);
+        if (actionContextMenu->exec(sourceIndex, place)) {
+            Q_EMIT stateChanged(sourceIndex.row());
+        }
     } else {
         if (!otherContextMenu) {
             otherContextMenu = std::make_unique<OtherContextMenu>(packages, this);

@@ -52,7 +52,7 @@ public:
 Q_SIGNALS:
     /// The current cell has moved to another row; -1 for none. A reset of the table emits nothing.
     void currentChanged(int current, int previous);
-    /// A click has changed the mark of that row.
+    /// The mark of that row has been changed, by a click or otherwise; -1 for one that is not there any more.
     void stateChanged(int row);
 
 public Q_SLOTS:

@@ -142,7 +142,7 @@ private Q_SLOTS:
         QCOMPARE(offer.withIcon, (QStringList{"&Update", "&Install", "&Remove"}));
     }
 
-    void chosenActionIsStoredWithoutAWord()
+    void chosenActionIsStoredAndTold()
     {
         QSignalSpy const changes(model.get(), &Model::dataChanged);
         QSignalSpy const stateChanges(view, &View::stateChanged);
@@ -156,19 +156,39 @@ private Q_SLOTS:
         QCOMPARE(action(1), Package::Install);
         QCOMPARE(action(0), Package::None);
         QCOMPARE(changes.count(), 0);
-        QCOMPARE(stateChanges.count(), 0);
+        QList<int> rows;
+        for (QList<QVariant> const& arguments : stateChanges) {
+            rows.append(arguments.first().toInt());
+        }
+        QCOMPARE(rows, (QList<int>{0, 0, 0, 1}));
     }
 
     void disabledEntryChoosesNothing()
     {
+        QSignalSpy const stateChanges(view, &View::stateChanged);
         rightClick(pointOf(1, 0), "&Remove");
         QCOMPARE(action(1), Package::None);
+        QCOMPARE(stateChanges.count(), 0);
     }
 
     void closedMenuChangesNothing()
     {
+        QSignalSpy const stateChanges(view, &View::stateChanged);
         rightClick(pointOf(0, 0));
         QCOMPARE(action(0), Package::None);
+        QCOMPARE(stateChanges.count(), 0);
+    }
+
+    void aRowThatIsGoneByTheTimeOfTheChoiceIsTold()
+    {
+        QSignalSpy const stateChanges(view, &View::stateChanged);
+        QTimer::singleShot(0, [this] {
+            engine->drop();
+            model->reset();
+        });
+        rightClick(pointOf(0, 0), "&Update");
+        QCOMPARE(stateChanges.count(), 1);
+        QCOMPARE(stateChanges.first().first().toInt(), -1);
     }
 
     void otherColumnsOfferToDescribe()

@@ -3,12 +3,15 @@
 
 #include "base/Application.h"
 #include "bridge/Python.h"
+#include "tests/ClickEntry.h"
 
 #include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QDir>
 #include <QFile>
+#include <QMenu>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
@@ -154,6 +157,27 @@ void ShellTest::clickAction(QString const& name) const
     QModelIndex const cell = table()->model()->index(rowOf(name), actionColumn);
     table()->scrollTo(cell);
     QTest::mouseClick(table()->viewport(), Qt::LeftButton, {}, table()->visualRect(cell).center());
+}
+
+void ShellTest::chooseAction(QString const& name, QString const& entry) const
+{
+    QModelIndex const cell = table()->model()->index(rowOf(name), actionColumn);
+    table()->scrollTo(cell);
+    QWidget* const viewport = table()->viewport();
+    QPoint const point = table()->visualRect(cell).center();
+    QTimer::singleShot(0, viewport, [&entry] {
+        auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        QVERIFY(menu);
+        for (QAction* const one : menu->actions()) {
+            if (one->text() == entry) {
+                clickEntry(menu, one);
+                break;
+            }
+        }
+        menu->close();
+    });
+    QContextMenuEvent event(QContextMenuEvent::Mouse, point, viewport->mapToGlobal(point));
+    QApplication::sendEvent(viewport, &event);
 }
 
 QString ShellTest::tipOfAction(QString const& name) const

@@ -40,6 +40,8 @@ protected:
     QStringList names() const;
     /// Clicks the Action cell of a package.
     void clickAction(QString const& name) const;
+    /// Chooses an entry of the context menu of a package's Action cell.
+    void chooseAction(QString const& name, QString const& entry) const;
     int rowOf(QString const& name) const;
     QString tipOfAction(QString const& name) const;
 

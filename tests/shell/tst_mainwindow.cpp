@@ -278,6 +278,16 @@ private Q_SLOTS:
         QVERIFY(!apply->isEnabled());
     }
 
+    void applyButtonFollowsTheContextMenu()
+    {
+        QPushButton* const apply = button(QStringLiteral("Apply Actions"));
+        QVERIFY(!apply->isEnabled());
+        chooseAction(QStringLiteral("alder"), QStringLiteral("&Update"));
+        QVERIFY(apply->isEnabled());
+        chooseAction(QStringLiteral("alder"), QStringLiteral("&No Action"));
+        QVERIFY(!apply->isEnabled());
+    }
+
     void applyButtonStaysEnabledThroughARefresh()
     {
         clickAction(QStringLiteral("alder"));
