@@ -61,11 +61,17 @@ struct Entry
     PyRef pyObject; ///< the package library's object; for a group its group data
     /// The next link in the chain of installed versions of this package, owned; null at the chain's end.
     Entry* installed = nullptr;
+    /// What an update takes the place of where nothing of its own name is installed, as text. Empty for every
+    /// other entry, and where the helper script doesn't tell.
+    QString replaces;
     Action applyAction = None; ///< the action that the entry really gets in the present apply
     /// Who set `applyAction`: the entry itself, or null once the user has settled a conflict. Not owned.
     Entry* applyCause = nullptr;
     /// Distinct for every entry that this process ever makes, unlike the address, which is used again.
     quint64 const serial = nextSerial();
+
+    /// Whether the update is to go in as a new package, in the place of installed ones of other names.
+    [[nodiscard]] bool replacesOthers() const { return !installed && !replaces.isEmpty(); }
 
 private:
     static quint64 nextSerial(); ///< any thread

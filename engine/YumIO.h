@@ -416,6 +416,9 @@ protected:
     void noteTransactionPkgs(Package::Action action, PyObject* members);
     QString pkgtupFormat(PyObject* pkgtup);
     QString pkgtupRepoFormat(PyObject* pkgtup, QString const& repo);
+    /// The installed packages that an update replaces, as text, where the package's class promises to tell
+    /// them by an attribute "replaces" (see share/python/vemyum/packages.py); else empty.
+    QString replacedPkgs(PyObject* pkg);
     void startPuttingIn(QString const& name, bool update, long long total);
     void startTakingOut(QString const& name, bool update, long long total);
     QString getLocalPkg(PyObject* pkg);

@@ -126,7 +126,9 @@ bool YumIO::splitMarks(PyObject* installs, PyObject* updates, PyObject* removes)
         if (entry->kind == Package::Group) {
             continue;
         }
-        switch (entry->applyAction) {
+        // There is no old version to make a pair with.
+        bool const goesInAnew = entry->applyAction == Package::Update && entry->replacesOthers();
+        switch (goesInAnew ? Package::Install : entry->applyAction) {
         case Package::Remove:
             append(
                 removes, entry->installed ? *entry->installed : *entry,

@@ -367,6 +367,9 @@ void YumIO::collectPkg(
         plainField("summary", text) ? trimmedField(std::move(text)) : simpleString(pkg, "summary");
     entry.buildTime = plainNumber("buildtime", number) ? number : buildTimeOf(pkg);
     entry.buildTimeText = timeFormat(entry.buildTime);
+    if (state == Package::OutOfDate) {
+        entry.replaces = replacedPkgs(pkg);
+    }
     entry.pyObject = std::move(package);
     // What this package lacks has been reported. An exception that is left here would look like one of the
     // iteration over the packages, and fail the collection.

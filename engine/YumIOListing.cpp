@@ -287,3 +287,20 @@ QString YumIO::pkgtupRepoFormat(PyObject* pkgtup, QString const& repo)
 {
     return pkgtupFormat(pkgtup) + tr(" [%1]").arg(repo);
 }
+
+QString YumIO::replacedPkgs(PyObject* pkg)
+{
+    QStringList replaced;
+    // As with `plainForm`, the class is asked first.
+    bool const tells = bool(pyAttribute(reinterpret_cast<PyObject*>(Py_TYPE(pkg)), "replaces"));
+    if (PyRef const packages = tells ? pyAttribute(pkg, "replaces") : PyRef()) {
+        forEach(packages.get(), [&](PyObject* package) {
+            if (PyRef const pkgtup = pyAttribute(package, "pkgtup")) {
+                replaced.append(pkgtupFormat(pkgtup.get()));
+            }
+            return true;
+        });
+        PyErr_Clear();
+    }
+    return replaced.join(QLatin1String(", "));
+}

@@ -192,10 +192,13 @@ QString Model::installedVersions(Package::Entry const& entry) const
     return versions.isEmpty() || entry.kind == Package::Group ? QString() : versions.value(entry.name);
 }
 
-QString Model::stateToolTip(Package::State state)
+QString Model::stateToolTip(Package::Entry const& entry)
 {
-    switch (state) {
+    switch (entry.state) {
     case Package::OutOfDate:
+        if (entry.replacesOthers()) {
+            return tr("Package is available to replace %1").arg(entry.replaces);
+        }
         return tr("Package is available to update an out-of-date version");
     case Package::Available:
         return tr("Package is available for installation");
@@ -222,7 +225,7 @@ QVariant Model::toolTip(Package::Entry const& entry, int column) const
         break;
     case StateColumn: {
         QString const versions = installedVersions(entry);
-        QString const state = stateToolTip(entry.state);
+        QString const state = stateToolTip(entry);
         return versions.isEmpty() ? state
                                   : state + tr("\nInstalled in more than one version: %1").arg(versions);
     }
@@ -245,6 +248,9 @@ QVariant Model::toolTip(Package::Entry const& entry, int column) const
                 } else if (link->state == Package::UpToDate) {
                     versions += tr("Installed: %1\n").arg(link->verRel);
                 }
+            }
+            if (entry.replacesOthers()) {
+                versions += tr("Replaces: %1\n").arg(entry.replaces);
             }
             return versions;
         }

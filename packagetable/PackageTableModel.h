@@ -103,7 +103,7 @@ private:
     QVariant decoration(Package::Entry const& entry, int column) const;
     QVariant foreground(Package::Entry const& entry) const;
     QVariant toolTip(Package::Entry const& entry, int column) const;
-    static QString stateToolTip(Package::State state);
+    static QString stateToolTip(Package::Entry const& entry);
     /// Where a transaction that was cut off has left more than one version of the package: which. Else empty.
     QString installedVersions(Package::Entry const& entry) const;
     static QVariant rawValue(Package::Entry* entry, int column);

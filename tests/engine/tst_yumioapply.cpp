@@ -14,6 +14,7 @@ private Q_SLOTS:
     void marksAreSplitIntoThreeLists();
     void suitesGoAlongAndGroupsDoNot();
     void updateWithoutInstalledVersionStopsTheApply();
+    void updateThatReplacesOthersIsInstalled();
     void headersOnDiskAreNotCounted();
     void entriesWithoutPackageAreReported();
 
@@ -124,6 +125,29 @@ void TestYumIOApply::updateWithoutInstalledVersionStopsTheApply()
     QCOMPARE(boxes->takeTexts(), QStringList{"Unable to find installed version for package update dogwood"});
     QCOMPARE(engine->calls(), QStringList());
     QCOMPARE(package("elm")->action, Package::Install);
+    QCOMPARE(package("dogwood")->action, Package::Update);
+}
+
+void TestYumIOApply::updateThatReplacesOthersIsInstalled()
+{
+    engine->clear();
+    SCRIPT("standin.replacing('dogwood', 'cedar', 'birch')\nstandin.replacing('alder', 'cedar')\n"
+           "standin.world.find('updates', 'dogwood').local_hdr = None");
+    QVERIFY(collected());
+    QCOMPARE(package("dogwood")->replaces, "cedar 1.0-1 (noarch), birch 1:3.1-2 (noarch)");
+    for (Package::Entry* const entry : *engine) {
+        if (entry->kind != Package::Group && entry->state == Package::OutOfDate) {
+            entry->action = Package::Update;
+        }
+    }
+    applyDoes("standin.note(' '.join(one.name for one in installs))\n"
+              "standin.note(' '.join(new.name for new, _old in updates))\n"
+              "standin.note(repr(removes))");
+    QVERIFY(!engine->apply());
+    // One that is installed itself is an update as any, whatever else it replaces.
+    QCOMPARE(engine->calls(), (QStringList{"apply", "dogwood", "alder", "[]", "flush"}));
+    QCOMPARE(engine->run.nPkgs, 3U);
+    QCOMPARE(engine->run.nHdrs, 1U);
     QCOMPARE(package("dogwood")->action, Package::Update);
 }
 

@@ -24,6 +24,7 @@ class TestYumIOErasApply final : public EngineTest
 private Q_SLOTS:
     void applyRunsFromSolvingToTheEnd();
     void refusedApplyLeavesTheMarks();
+    void updateIsInstalledWhereTheScriptTellsWhatItReplaces();
 
 private:
     static EraForm const& form() { return eraForm(era().toStdString()); }
@@ -186,6 +187,36 @@ void TestYumIOErasApply::refusedApplyLeavesTheMarks()
         expectSolving(model);
     }
     QCOMPARE(engine->progressRecord.lines, expected.lines);
+}
+
+void TestYumIOErasApply::updateIsInstalledWhereTheScriptTellsWhatItReplaces()
+{
+    QVERIFY(collected());
+    package("dogwood")->action = Package::Update;
+    QVERIFY(!engine->apply());
+    QCOMPARE(boxes->takeTexts(), QStringList{"Unable to find installed version for package update dogwood"});
+    QCOMPARE(engine->calls(), QStringList());
+
+    engine->clear();
+    // One that answers to any name has not told it.
+    SCRIPT("dogwood = standin.world.find('updates', 'dogwood')\n"
+           "dogwood.replaces = [standin.world.find('installed', 'cedar')]");
+    QVERIFY(collected());
+    package("dogwood")->action = Package::Update;
+    QVERIFY(!engine->apply());
+    QCOMPARE(boxes->takeTexts(), QStringList{"Unable to find installed version for package update dogwood"});
+
+    engine->clear();
+    SCRIPT("standin.replacing('dogwood', 'cedar')");
+    QVERIFY(collected());
+    package("dogwood")->action = Package::Update;
+    boxes->press({"OK"});
+    QVERIFY(engine->apply());
+    QString const shown = QStringLiteral("\tInstall: dogwood 5.0-1 (noarch) [updates]\n");
+    QVERIFY(boxes->takeTexts().first().contains(shown));
+    QVERIFY(engine->calls().contains("installs dogwood-5.0-1.noarch.rpm"));
+    QVERIFY(engine->calls().contains("updates "));
+    QCOMPARE(engine->logLines(Log::Error), QStringList());
 }
 
 QTEST_MAIN(TestYumIOErasApply)

@@ -208,6 +208,25 @@ private Q_SLOTS:
         QCOMPARE(cell.data(Qt::ToolTipRole).toString(), "Package is available for installation");
     }
 
+    void toolTipsNameWhatAnUpdateReplaces()
+    {
+        TestEngine engine;
+        Package::Entry& entry = engine.add("led", Package::OutOfDate);
+        entry.verRel = "2.0-1";
+        entry.replaces = "candle 1.0-1 (noarch), torch 3-1 (noarch)";
+        Model const model(&engine, nullptr);
+        auto const toolTip = [&model](int column) {
+            return model.index(0, column).data(Qt::ToolTipRole).toString();
+        };
+        QCOMPARE(toolTip(1), "Package is available to replace candle 1.0-1 (noarch), torch 3-1 (noarch)");
+        QCOMPARE(toolTip(4), "Available: 2.0-1\nReplaces: candle 1.0-1 (noarch), torch 3-1 (noarch)\n");
+
+        entry.installed = new Package::Entry;
+        entry.installed->verRel = "1.0-1";
+        QCOMPARE(toolTip(1), "Package is available to update an out-of-date version");
+        QCOMPARE(toolTip(4), "Available: 2.0-1\nInstalled: 1.0-1\n");
+    }
+
     void drawsTheKind()
     {
         TestEngine engine;

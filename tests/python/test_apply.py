@@ -154,6 +154,25 @@ def test_obsoleting_install_names_what_it_replaces(
     assert estate.installed() == {"newlamp-1.0-1.noarch"}
 
 
+def test_all_updates_with_a_replacing_one_among_them(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost, listed: Dict[str, List[str]]
+) -> None:
+    """Split as the engine splits the marks on everything that can be updated."""
+    estate.install(rpms.some("oldlamp-1.0", "lib-1.0"))
+    estate.repository("base", rpms.some("newlamp-1.0", "lib-2.0"))
+    found = program.collect()
+    replacing = [update for update in found.updates if getattr(update, "replaces", None)]
+    pairs = [found.pair(update.name) for update in found.updates if update not in replacing]
+    found.yumio.apply(replacing, pairs, [])
+    assert listed == {
+        "installed": ["newlamp-1.0 base"],
+        "updated": ["lib-2.0 base"],
+        "obsoleted": ["oldlamp-1.0 installed"],
+    }
+    assert estate.installed() == {"newlamp-1.0-1.noarch", "lib-2.0-1.noarch"}
+    assert set(program.collect().merged().values()) == {"UpToDate"}
+
+
 def test_package_that_is_up_to_date_is_never_told_to_the_solver_bar(
     estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
 ) -> None:

@@ -8,7 +8,7 @@ import gc
 import os
 import sqlite3
 from pathlib import Path
-from typing import Tuple
+from typing import Any, List, Tuple
 
 import pytest
 from catalogue import Catalogue
@@ -36,6 +36,33 @@ def test_obsoleting_package_is_an_update(estate: Estate, rpms: Catalogue, progra
     estate.install(rpms.some("oldlamp-1.0"))
     estate.repository("base", rpms.some("newlamp-1.0"))
     assert program.collect().merged() == {"newlamp": "OutOfDate", "oldlamp": "UpToDate"}
+
+
+def replaced(update: Any) -> List[str]:
+    """What the engine reads of an update that replaces others: whether the class promises it, and the pkgtups."""
+    return [one.pkgtup[0] for one in update.replaces] if hasattr(type(update), "replaces") else []
+
+
+def test_obsoleting_package_tells_what_it_replaces(estate: Estate, rpms: Catalogue, program: Program) -> None:
+    """Neither what only provides an obsolete name, nor a version that is new enough; but also what is excluded."""
+    installed = [
+        spec("candle", "1.0"),
+        spec("torch", "1.0"),
+        spec("lantern", "3.0"),
+        spec("glim", "1.0", provides=("candle = 1.0",)),
+        spec("wick", "1.0"),
+    ]
+    offered = [
+        spec("led", "1.0", obsoletes=("candle", "torch < 2", "lantern < 3", "nothing")),
+        spec("bulb", "1.0", obsoletes=("torch",)),
+        spec("wick", "2.0", obsoletes=("torch",)),
+    ]
+    estate.install(estate.build(installed))
+    estate.repository("base", estate.build(offered))
+    estate.write_main_config(excludepkgs="torch")
+    found = program.collect()
+    told = {update.name: sorted(replaced(update)) for update in found.updates}
+    assert told == {"led": ["candle", "torch"], "bulb": ["torch"], "wick": []}
 
 
 def test_obsoleting_package_is_no_update_when_the_configuration_says_so(

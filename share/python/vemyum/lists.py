@@ -15,7 +15,7 @@ import hawkey
 
 from .base import Base
 from .database import require_sound
-from .packages import AvailablePackage, Details, InstalledPackage
+from .packages import AvailablePackage, Details, InstalledPackage, ReplacingPackage
 
 
 def _names(packages: Iterable[Any]) -> FrozenSet[str]:
@@ -48,11 +48,18 @@ class Collector:
         query = self._base.sack.query()
         upgrades = query.filter(upgrades_by_priority=True)
         packages = list(upgrades.filter(latest_per_arch=True))
+        replaced: Dict[Any, List[Any]] = {}
         if self._base.conf.obsoletes:
-            packages += self._obsoleters({package.name for package in packages})
+            replaced = self._obsoleters({package.name for package in packages})
+            packages += replaced.keys()
         packages = self._best_first(packages)
         self.updatable = _names(packages)
-        return [AvailablePackage(package, self._details) for package in packages]
+        return [self._update(package, replaced.get(package, [])) for package in packages]
+
+    def _update(self, package: Any, replaced: List[Any]) -> AvailablePackage:
+        if not replaced:
+            return AvailablePackage(package, self._details)
+        return ReplacingPackage(package, self._details, [InstalledPackage(old, self._details) for old in replaced])
 
     def everything(self) -> PackageLists:
         """All installed packages and the newest available ones.
@@ -79,14 +86,24 @@ class Collector:
         """Tells how many packages a transaction of this program has left in the root."""
         cls._known_installed[root] = count
 
-    def _obsoleters(self, updates: Set[str]) -> List[Any]:
+    def _obsoleters(self, updates: Set[str]) -> Dict[Any, List[Any]]:
+        """Packages that make installed ones of other names obsolete, each with those."""
         sack = self._base.sack
         installed = sack.query(flags=hawkey.IGNORE_EXCLUDES).installed()
-        names = {package.name for package in installed}
+        by_name: Dict[str, List[Any]] = {}
+        for package in installed:
+            by_name.setdefault(package.name, []).append(package)
         found = sack.query().available().filter(obsoletes_by_priority=installed, arch=sack.list_arches())
         # An installed package that makes others obsolete in a newer version is an upgrade already.
-        covered = names | updates
-        return [package for package in found.filter(latest_per_arch=True) if package.name not in covered]
+        covered = updates.union(by_name)
+        new = [package for package in found.filter(latest_per_arch=True) if package.name not in covered]
+        return {package: self._replaced(package, by_name) for package in new}
+
+    def _replaced(self, package: Any, installed: Dict[str, List[Any]]) -> List[Any]:
+        """Those of the installed packages, by their names, that a package makes obsolete."""
+        names = dict.fromkeys(reldep.name for reldep in package.obsoletes)
+        itself = self._base.sack.query().filter(pkg=[package])
+        return [old for name in names for old in installed.get(name, []) if itself.filter(obsoletes=[old])]
 
     def _native(self) -> List[str]:
         return [self._base.conf.substitutions["basearch"], self._base.conf.substitutions["arch"], "noarch"]

@@ -160,6 +160,19 @@ AvailablePackage._fields = {
 }
 
 
+class ReplacingPackage(AvailablePackage):
+    """An update that makes installed packages of other names obsolete, while nothing of its own is installed.
+
+    The class's attribute `replaces` promises the engine that there are such packages to tell.
+    """
+
+    __slots__ = ("replaces",)
+
+    def __init__(self, po: dnf.package.Package, details: Details, replaces: List["InstalledPackage"]) -> None:
+        super().__init__(po, details)
+        self.replaces = replaces
+
+
 class InstalledPackage(Package):
     """A package of the rpm database."""
 

@@ -115,6 +115,13 @@ def without(method: str) -> None:
     delattr(namespace["YumIO"], method)
 
 
+def replacing(name: str, *replaced: str) -> None:
+    """Has an update tell which installed packages it replaces."""
+    update = world.find("updates", name)
+    packages = [world.find("installed", one) for one in replaced]
+    update.__class__ = type("Replacing", (type(update),), {"replaces": packages})
+
+
 def run(statements: str) -> str:
     """Runs statements of a test; answers the traceback of what they raised, else nothing."""
     try:
