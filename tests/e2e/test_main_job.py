@@ -10,7 +10,7 @@ from typing import Callable
 import pytest
 
 from program import ACTION_COLUMN, NAME_COLUMN, REPOSITORY_COLUMN, Program, wait_for
-from rpmestate import Estate
+from rpmestate import Estate, spec
 
 Start = Callable[..., Program]
 
@@ -94,6 +94,40 @@ def test_marks_are_applied_in_one_transaction(site: Estate, start: Start) -> Non
         "fleet-bellows: blown by a shell",
     ):
         assert line in log
+
+
+def test_everything_that_can_be_updated_is_also_what_replaces_others(site: Estate, start: Start) -> None:
+    lighter = spec("fleet-lighter", "1.0", obsoletes=["fleet-match < 2"])
+    site.repository("annex", site.build(lighter))
+    program = open_program(start, site)
+    assert program.names() == ["fleet-lamp", "fleet-lighter"]
+    program.press("Set Update of All Out-of-Date")
+    program.press("Apply Actions")
+    question = program.window("Apply")
+    text = program.texts(question)
+    assert "\tInstall: fleet-lighter 1.0-1 (noarch) [annex]" in text
+    assert "\tUpdate: fleet-lamp 1.1-1 (noarch) [harbour]" in text
+    assert "\tObsoleting: fleet-match 1.0-1 (noarch) with fleet-lighter 1.0-1 (noarch)" in text
+    program.press("OK", question)
+    program.wait_closed("Apply")
+    program.wait_ready()
+    assert site.installed() == {"fleet-lamp-1.1-1.noarch", "fleet-lighter-1.0-1.noarch", "fleet-shell-1.0-1.x86_64"}
+    assert program.row_count() == 0
+
+
+def test_a_mark_of_the_context_menu_can_be_applied_at_once(site: Estate, start: Start) -> None:
+    program = open_program(start, site)
+    assert not program.is_enabled("Apply Actions")
+    program.choose_from_context_menu("u", program.place_of("fleet-lamp", ACTION_COLUMN))
+    wait_for(lambda: program.is_enabled("Apply Actions"), "the button of an apply")
+    program.choose_from_context_menu("n", program.place_of("fleet-lamp", ACTION_COLUMN))
+    wait_for(lambda: not program.is_enabled("Apply Actions"), "the button to go back")
+    program.choose_from_context_menu("u", program.place_of("fleet-lamp", ACTION_COLUMN))
+    program.press("Apply Actions")
+    program.press("OK", program.window("Apply"))
+    program.wait_closed("Apply")
+    program.wait_ready()
+    assert "fleet-lamp-1.1-1.noarch" in site.installed()
 
 
 def test_a_program_started_without_standard_descriptors_applies(site: Estate, tmp_path: Path) -> None:
