@@ -16,6 +16,9 @@ from fake_host import FakeHost
 from program import Program
 from rpmestate import Estate, install_options, spec
 
+from vemyum.base import open_base
+from vemyum.configuration import read_configuration
+
 
 def names(packages: list) -> list:
     return [f"{package.name}-{package.printVer()}.{package.arch}" for package in packages]
@@ -63,6 +66,67 @@ def test_obsoleting_package_tells_what_it_replaces(estate: Estate, rpms: Catalog
     found = program.collect()
     told = {update.name: sorted(replaced(update)) for update in found.updates}
     assert told == {"led": ["candle", "torch"], "bulb": ["torch"], "wick": []}
+
+
+def vendors_estate(estate: Estate) -> None:
+    def made(name: str, version: str, vendor: str, **more: Any) -> str:
+        return spec(name, version, tags={"Vendor": vendor} if vendor else None, **more)
+
+    kernel = ("installonlypkg(kernel)",)
+    installed = [
+        made("same", "1", "Works"),
+        made("other", "1", "Works"),
+        made("stated", "1", ""),
+        made("unstated", "1", "Works"),
+        made("neither", "1", ""),
+        made("both", "1", "Works"),
+        made("core", "1", "Works", provides=kernel),
+        made("oldlamp", "1", "Works"),
+        made("oldtorch", "1", "Works"),
+        made("left", "1", "Works"),
+        made("right", "1", "Yard"),
+    ]
+    offered = [
+        made("same", "2", "Works"),
+        made("other", "2", "Yard"),
+        made("stated", "2", "Works"),
+        made("unstated", "2", ""),
+        made("neither", "2", ""),
+        made("both", "2", "Works"),
+        made("both", "3", "Yard"),
+        made("core", "2", "Yard", provides=kernel),
+        made("newlamp", "1", "Yard", obsoletes=("oldlamp",)),
+        made("newtorch", "1", "Works", obsoletes=("oldtorch",)),
+        made("whole", "1", "Works", obsoletes=("left", "right")),
+    ]
+    estate.install(estate.build(installed))
+    estate.repository("base", estate.build(offered))
+
+
+ALL_VENDORS = ["both-3", "core-2", "neither-2", "newlamp-1", "newtorch-1", "other-2", "same-2", "stated-2", "unstated-2"]
+
+
+@pytest.mark.parametrize(
+    "allowed, updates",
+    [("1", [*ALL_VENDORS, "whole-1"]), ("0", ["both-2", "neither-2", "newtorch-1", "same-2"])],
+)
+def test_update_of_a_vendor_that_the_solver_refuses_is_not_offered(
+    estate: Estate, program: Program, allowed: str, updates: List[str]
+) -> None:
+    vendors_estate(estate)
+    estate.write_main_config(allow_vendor_change=allowed)
+    found = program.collect()
+    assert sorted(names(found.updates)) == [f"{update}-1.noarch" for update in updates]
+    merged = found.merged()
+    if allowed == "0":
+        assert (merged["other"], merged["core"], merged["newlamp"]) == ("UpToDate", "UpToDate", "Available")
+    # The library itself updates the same, no more and no less.
+    base = open_base(read_configuration(), progress=False)
+    with contextlib.closing(base):
+        base.load_everything()
+        base.upgrade_all()
+        base.resolve()
+        assert sorted(map(str, base.transaction.install_set)) == sorted(names(found.updates))
 
 
 def test_obsoleting_package_is_no_update_when_the_configuration_says_so(

@@ -9,17 +9,27 @@ from __future__ import annotations
 
 from functools import cmp_to_key
 from operator import attrgetter
-from typing import Any, Dict, FrozenSet, Iterable, List, Set
+from typing import Any, Dict, FrozenSet, Iterable, List, Set, Tuple
 
 import hawkey
 
 from .base import Base
 from .database import require_sound
-from .packages import AvailablePackage, Details, InstalledPackage, ReplacingPackage
+from .packages import AvailablePackage, Details, InstalledPackage, ReplacingPackage, stated_vendor
 
 
 def _names(packages: Iterable[Any]) -> FrozenSet[str]:
     return frozenset(map(attrgetter("name"), packages))
+
+
+def _same_vendor(package: Any, other: Any) -> bool:
+    return (stated_vendor(package) or "") == (stated_vendor(other) or "")
+
+
+def _updates(package: Any, installed: Any) -> bool:
+    """Whether a package of the same name is to take the place of an installed one."""
+    arches = (package.arch, installed.arch)
+    return package.evr_gt(installed) and (package.arch == installed.arch or "noarch" in arches)
 
 
 class PackageLists:
@@ -45,12 +55,12 @@ class Collector:
 
     def updates(self) -> List[AvailablePackage]:
         """Newer versions of installed packages, and packages that make installed ones obsolete."""
-        query = self._base.sack.query()
+        query = self._changeable(self._base.sack.query())
         upgrades = query.filter(upgrades_by_priority=True)
         packages = list(upgrades.filter(latest_per_arch=True))
         replaced: Dict[Any, List[Any]] = {}
         if self._base.conf.obsoletes:
-            replaced = self._obsoleters({package.name for package in packages})
+            replaced = self._obsoleters(query, {package.name for package in packages})
             packages += replaced.keys()
         packages = self._best_first(packages)
         self.updatable = _names(packages)
@@ -86,22 +96,45 @@ class Collector:
         """Tells how many packages a transaction of this program has left in the root."""
         cls._known_installed[root] = count
 
-    def _obsoleters(self, updates: Set[str]) -> Dict[Any, List[Any]]:
-        """Packages that make installed ones of other names obsolete, each with those."""
-        sack = self._base.sack
-        installed = sack.query(flags=hawkey.IGNORE_EXCLUDES).installed()
+    def _changeable(self, query: hawkey.Query) -> hawkey.Query:
+        """The query without the updates that the solver refuses, since a vendor may not change. dnf's query for
+        updates doesn't ask for that."""
+        if getattr(self._base.conf, "allow_vendor_change", True):
+            return query
+        installed, by_name = self._installed()
+        refused = [
+            package
+            for package in query.filter(upgrades=True)
+            if not any(_same_vendor(package, old) and _updates(package, old) for old in by_name[package.name])
+        ]
+        refused += [
+            package
+            for package in query.available().filter(obsoletes=installed)
+            if not all(_same_vendor(package, old) for old in self._replaced(package, by_name))
+        ]
+        return query.filter(pkg__neq=refused)
+
+    def _installed(self) -> Tuple[hawkey.Query, Dict[str, List[Any]]]:
+        """The installed packages, and the same by their names."""
+        installed = self._base.sack.query(flags=hawkey.IGNORE_EXCLUDES).installed()
         by_name: Dict[str, List[Any]] = {}
         for package in installed:
             by_name.setdefault(package.name, []).append(package)
-        found = sack.query().available().filter(obsoletes_by_priority=installed, arch=sack.list_arches())
+        return installed, by_name
+
+    def _obsoleters(self, query: hawkey.Query, updates: Set[str]) -> Dict[Any, List[Any]]:
+        """Packages that make installed ones of other names obsolete, each with those."""
+        installed, by_name = self._installed()
+        arches = self._base.sack.list_arches()
+        found = query.available().filter(obsoletes_by_priority=installed, arch=arches)
         # An installed package that makes others obsolete in a newer version is an upgrade already.
         covered = updates.union(by_name)
         new = [package for package in found.filter(latest_per_arch=True) if package.name not in covered]
         return {package: self._replaced(package, by_name) for package in new}
 
     def _replaced(self, package: Any, installed: Dict[str, List[Any]]) -> List[Any]:
-        """Those of the installed packages, by their names, that a package makes obsolete."""
-        names = dict.fromkeys(reldep.name for reldep in package.obsoletes)
+        """Those of the installed packages, by their names, that a package of another name makes obsolete."""
+        names = dict.fromkeys(reldep.name for reldep in package.obsoletes if reldep.name != package.name)
         itself = self._base.sack.query().filter(pkg=[package])
         return [old for name in names for old in installed.get(name, []) if itself.filter(obsoletes=[old])]
 

@@ -202,15 +202,16 @@ def _installed_build_host(package: InstalledPackage) -> Optional[str]:
         return None
 
 
-def _installed_vendor(package: InstalledPackage) -> Optional[str]:
-    vendor = package.po.vendor
+def stated_vendor(po: dnf.package.Package) -> Optional[str]:
+    """The vendor that a package of the sack states; None where it states none."""
+    vendor = po.vendor
     # libsolv's word for a header without a vendor.
     return None if vendor == "<NULL>" else vendor
 
 
 InstalledPackage._fields = {
     **_SOLV_FIELDS,
-    "vendor": _installed_vendor,
+    "vendor": lambda package: stated_vendor(package.po),
     "repoid": lambda package: INSTALLED,
     "relativepath": lambda package: None,
     "buildhost": _installed_build_host,
