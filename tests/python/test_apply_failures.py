@@ -370,6 +370,37 @@ def test_failure_that_changes_nothing_asks_for_no_refresh(
     assert "refresh" not in fails(program, lambda: found.yumio.apply(marks, [], []), "conflict")
 
 
+def test_transaction_that_is_only_tested_is_told_as_that(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
+) -> None:
+    estate.write_main_config(tsflags="nodocs test")
+    estate.install(rpms.some("lib-1.0", "lone-1.0"))
+    estate.repository("base", rpms.some("lib-2.0", "battery-1.0"))
+    found = program.collect()
+    marks = [found.offered("battery")], [found.pair("lib")], [found.there("lone")]
+    for _ in range(2):
+        text = fails(program, lambda: found.yumio.apply(*marks))
+        assert text == (
+            "This was only a test: tsflags=test is set in the configuration. The transaction has been checked and "
+            "would work; no package was changed."
+        )
+        assert not host.text("errorlog")
+        assert [call[1] for call in host.named("tsInitCallback")] == [0]
+        assert not host.named("postTransactionOutput")
+        assert estate.installed() == {"lib-1.0-1.noarch", "lone-1.0-1.noarch"}
+        host.calls.clear()
+
+
+def test_transaction_that_fails_its_test_is_told_as_ever_where_only_that_is_wanted(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
+) -> None:
+    estate.write_main_config(tsflags="test")
+    estate.repository("base", rpms.some("same-one-1.0", "same-two-1.0"))
+    found = program.collect()
+    marks = [found.offered("same-one"), found.offered("same-two")]
+    assert "only a test" not in fails(program, lambda: found.yumio.apply(marks, [], []), "conflict")
+
+
 def test_protected_package_of_the_managed_system_stays(
     estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
 ) -> None:

@@ -31,6 +31,12 @@ from .messages import Change, Plan, Request
 from .plan import NOT_INSTALLED, enabled_streams, is_doubled, mark, solve
 
 
+_ONLY_TESTED = _(
+    "This was only a test: tsflags=test is set in the configuration. The transaction has been checked and would work; "
+    "no package was changed."
+)
+
+
 class Work:
     """One apply. `installed` is how many packages the system has, as far as that has been looked at."""
 
@@ -107,6 +113,9 @@ class Work:
                 said.append(REFRESH)
             raise YumBaseError("\n".join(said)) from error
         point_rpm_at(root)
+        if "test" in base.conf.tsflags:
+            # The library has come back as if all were done.
+            raise YumBaseError(_ONLY_TESTED)
         wrong = _not_as_asked(base, self._present(root))
         if not wrong and not display.faults:
             return
