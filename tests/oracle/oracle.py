@@ -1,0 +1,125 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""One case from its seed to its verdict."""
+
+from __future__ import annotations
+
+import os
+import shutil
+from pathlib import Path
+from typing import Any, Dict, List, NamedTuple, Tuple
+
+import rpm
+
+import reading
+from case import Case
+from pool import Pool
+from rpmestate import Estate
+from rules import Outcome, explanation
+from sides import Applied, Ran, begin, carry_out, helper_package, in_process
+from state import State, differences, state_of
+
+
+class Verdict(NamedTuple):
+    seed: int
+    words: str
+    """What differs without being meant to, or what went wrong with the case itself; empty for nothing."""
+    rule: str
+    """The rule that explains what differs; empty where nothing does."""
+    kind: str
+    """What the case was about, for the count at the end."""
+
+
+def judge(seed: int, pool: Pool, directory: Path) -> Verdict:
+    """Everything about a case happens below the directory, which is empty or missing."""
+    case = Case(seed, pool)
+    before, root = _image(case, directory)
+    ours, theirs = directory / "vem/root", directory / "dnf/root"
+    for place in (ours, theirs):
+        place.parent.mkdir()
+        shutil.copytree(root, place, symlinks=True)
+    home = directory / "home"
+    home.mkdir()
+    applied: Applied = in_process(lambda: helper_package(case, ours, home), directory / "vem.log")
+    lines = reading.differences(case, applied.read, before["packages"], reading.told(theirs, directory / "list.log"))
+    found: Dict[str, List[str]] = {"reading": lines} if lines else {}
+    kind = "/".join(name for name in ("installs", "updates", "removes") if getattr(applied.wish, name)) or "nothing"
+    rule = ""
+    if applied.wish:
+        ran = carry_out(case, applied, theirs, directory / "dnf.log")
+        outcome = _compare(case, applied, ran, before, state_of(ours), state_of(theirs))
+        rule = explanation(outcome) if outcome.differences else ""
+        if outcome.differences and not rule:
+            found.update(outcome.differences)
+            kind += " DIFFERS"
+        else:
+            kind += " refused" if applied.refused else " done"
+    if not found:
+        return Verdict(seed, "", rule, kind)
+    return Verdict(seed, _told(case, applied, before, found, directory), rule, kind)
+
+
+def _image(case: Case, directory: Path) -> Tuple[State, Path]:
+    """The root that both sides begin with, and what it holds."""
+    directory.mkdir(parents=True, exist_ok=True)
+    estate = Estate(directory / "image")
+    root = estate.root
+    old = directory / "old"
+    case.write_old(old)
+    if case.start or case.start_group:
+        in_process(lambda: begin(case, root, old), directory / "start.log")
+    there = state_of(root)["packages"]
+    if case.forced_out and there:
+        # As somebody does who knows better: what needs it stays behind.
+        estate.rpm("--erase", "--nodeps", "--noscripts", _for_rpm(there[case.seed % len(there)]))
+    names = {package.rpartition("-")[0].rpartition("-")[0] for package in there}
+    forced = [case.pool.rpm(package) for package in case.forced_in if package.name not in names]
+    if forced:
+        estate.install(forced, ["--nodeps", "--noscripts", "--replacefiles"])
+    for number in case.keys if case.signed else []:
+        estate.rpm("--import", case.pool.key(number))
+    case.write(directory / "repositories", root)
+    return state_of(root), root
+
+
+def _for_rpm(nevra: str) -> str:
+    """rpm wants no epoch."""
+    name, _, rest = nevra.partition(":")
+    return f"{name.rpartition('-')[0]}-{rest}"
+
+
+def _compare(case: Case, applied: Applied, ran: Ran, before: State, ours: State, theirs: State) -> Outcome:
+    found = {kind: differences(ours, theirs, kind) for kind in ours}
+    words = ("refused" if applied.refused else "done", "refused" if ran.status else "done")
+    found["outcome"] = [f"-{words[0]}", f"+{words[1]}"] if words[0] != words[1] else []
+    return Outcome(case, applied, ran, before, ours, theirs, {kind: lines for kind, lines in found.items() if lines})
+
+
+def _told(case: Case, applied: Applied, before: State, found: Dict[str, List[str]], directory: Path) -> str:
+    lines = [f"seed {case.seed}: - is the helper package, + the command line"]
+    for mark in ("installs", "updates", "removes"):
+        if getattr(applied.wish, mark):
+            lines.append(f"  {mark}: {' '.join(getattr(applied.wish, mark))}")
+    lines.append(f"  main: {' '.join(f'{option}={value}' for option, value in case.main.items() if value)}")
+    for repository in case.repositories:
+        options = " ".join(f"{option}={value}" for option, value in repository.options.items())
+        lines.append(f"  {repository.id}: {options}")
+    for kind, some in found.items():
+        lines += [f"  {kind}: {line}" for line in some]
+    if applied.refused:
+        lines += [f"  helper package: {line}" for line in applied.refused.splitlines()]
+    said = directory / "dnf.log"
+    if said.exists() and "outcome" in found:
+        lines += [f"  dnf: {line}" for line in said.read_text(encoding="utf-8", errors="replace").splitlines()[-12:]]
+    return "\n".join(lines)
+
+
+def prepare(home: Path) -> None:
+    """This process's rpm, and that of its copies, looks for the database where the estates have it."""
+    home.mkdir(parents=True, exist_ok=True)
+    for place in (home / ".rpmmacros", home / ".config/rpm/macros"):
+        place.parent.mkdir(parents=True, exist_ok=True)
+        place.write_text("%_dbpath /var/lib/rpm\n", encoding="utf-8")
+    os.environ.update(HOME=str(home), XDG_CONFIG_HOME=str(home / ".config"))
+    rpm.reloadConfig()
+
+

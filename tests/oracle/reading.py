@@ -1,0 +1,108 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""What the table shows, held against what `dnf list` tells of the same root."""
+
+from __future__ import annotations
+
+from pathlib import Path
+from typing import Dict, List, Set, Tuple
+
+import rpm
+
+from case import Case
+from sides import Read, command_line
+
+_SECTIONS = {
+    "Installed Packages": "installed",
+    "Available Upgrades": "upgrades",
+    "Upgraded Packages": "upgrades",
+    "Obsoleting Packages": "obsoleting",
+    "Available Packages": "available",
+}
+"""Headings of `dnf list`."""
+
+Package = Tuple[str, str, str, str, str]
+"""Name, epoch, version, release, architecture."""
+
+
+def told(root: Path, said: Path) -> Dict[str, Set[Package]]:
+    """The lists of the command line, by the names of `_SECTIONS`."""
+    # The cache is filled by the first command that needs it; all repositories are directories of this machine.
+    script = ["list --installed", "list --upgrades", "list --obsoletes", "list --available"]
+    ran = command_line([], root, said, script)
+    lists: Dict[str, Set[Package]] = {name: set() for name in _SECTIONS.values()}
+    section = ""
+    words: List[str] = []
+    for line in ran.words.splitlines():
+        if line.strip() in _SECTIONS:
+            section = _SECTIONS[line.strip()]
+        elif section == "obsoleting" and line.startswith(" "):
+            # What the one above replaces.
+            continue
+        elif len(line.split()) == 3 and section and "." in line.split()[0]:
+            words = line.split()
+            lists[section].add(_package(words[0], words[1]))
+    return lists
+
+
+def _package(name_arch: str, evr: str) -> Package:
+    name, _, arch = name_arch.rpartition(".")
+    epoch, _, rest = evr.rpartition(":")
+    version, _, release = rest.rpartition("-")
+    return (name, epoch or "0", version, release, arch)
+
+
+def _split(nevra: str) -> Package:
+    """The five parts of a package as the command line takes it, whatever follows behind a blank."""
+    rest, _, arch = nevra.split()[0].rpartition(".")
+    rest, _, release = rest.rpartition("-")
+    name, _, version = rest.rpartition("-")
+    epoch, _, version = version.partition(":")
+    return (name, epoch, version, release, arch)
+
+
+def _newest(packages: Set[Package]) -> Dict[Tuple[str, str], Package]:
+    newest: Dict[Tuple[str, str], Package] = {}
+    for package in packages:
+        key = (package[0], package[4])
+        if key not in newest or rpm.labelCompare(package[1:4], newest[key][1:4]) > 0:
+            newest[key] = package
+    return newest
+
+
+def differences(case: Case, read: Read, there: List[str], lists: Dict[str, Set[Package]]) -> List[str]:
+    """Lines that name what only the helper package (-) or only the command line (+) tells. `there` is what the rpm
+    database holds."""
+    lines: List[str] = []
+
+    def hold(kind: str, ours: Set[Package], theirs: Set[Package]) -> None:
+        lines.extend(f"-{kind} {_shown(package)}" for package in sorted(ours - theirs))
+        lines.extend(f"+{kind} {_shown(package)}" for package in sorted(theirs - ours))
+
+    installed = set(map(_split, read.installed))
+    # The command line hides an installed package that is excluded, as if it weren't there; rpm knows of no excludes.
+    hold("installed", installed, set(map(_split, there)))
+    hold("installed", lists["installed"], lists["installed"] & installed)
+
+    names = {package[0] for package in installed}
+    ours = set(map(_split, read.updates))
+    upgrades = {package for package in ours if package[0] in names}
+    hold("update", upgrades, lists["upgrades"])
+    known = names | {package[0] for package in lists["upgrades"]}
+    replacing = {package for package in lists["obsoleting"] if package[0] not in known}
+    # The command line tells each version that replaces something, the table the newest one.
+    expected = set(_newest(replacing).values()) if case.main.get("obsoletes") != "0" else set()
+    hold("replacing", ours - upgrades, expected)
+
+    newest = _newest(installed)
+    available = set()
+    for package in map(_split, read.available):
+        same = newest.get((package[0], package[4]))
+        # `dnf list --available` leaves out what is installed in this version or in a newer one.
+        if same is None or rpm.labelCompare(package[1:4], same[1:4]) > 0:
+            available.add(package)
+    hold("available", available, lists["available"])
+    return lines
+
+
+def _shown(package: Package) -> str:
+    return "{0}-{1}:{2}-{3}.{4}".format(*package)

@@ -1,0 +1,69 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""What there is below a root after a wish was carried out, as plain values that can be compared."""
+
+from __future__ import annotations
+
+import os
+from pathlib import Path
+from typing import Dict, List
+
+import libdnf.transaction
+import rpm
+
+State = Dict[str, List[str]]
+
+_KEPT_APART = ("var/cache", "var/log", "var/lib/dnf", "var/lib/rpm", "var/tmp", "etc", "run", "tmp")
+"""What a package manager writes for itself; the packages of an estate have nothing there."""
+
+HISTORY = "var/lib/dnf/history.sqlite"
+
+
+def state_of(root: Path) -> State:
+    """Sorted lists of texts by what they tell: packages, reasons, keys, files, modules."""
+    packages: List[str] = []
+    keys: List[str] = []
+    present = set()
+    transaction = rpm.TransactionSet(str(root))
+    try:
+        transaction.setVSFlags(rpm._RPMVSF_NODIGESTS | rpm._RPMVSF_NOSIGNATURES)
+        for header in transaction.dbMatch():
+            if header["name"] == "gpg-pubkey":
+                keys.append(f"{header['version']}-{header['release']}")
+                continue
+            present.add((header["name"], header["arch"]))
+            packages.append(f"{header['name']}-{header['epoch'] or 0}:{header['version']}-{header['release']}.{header['arch']}")
+    finally:
+        transaction.closeDB()
+    reasons = []
+    if (root / HISTORY).exists():
+        history = libdnf.transaction.Swdb(str(root / HISTORY))
+        for name, arch in sorted(present):
+            reason = history.resolveRPMTransactionItemReason(name, arch, -1)
+            reasons.append(f"{name}.{arch} {libdnf.transaction.TransactionItemReasonToString(reason)}")
+        history.closeDatabase() if hasattr(history, "closeDatabase") else None
+    modules = [f"{path.name}: {path.read_text(encoding='utf-8')}" for path in (root / "etc/dnf/modules.d").glob("*.module")]
+    return {
+        "packages": sorted(packages),
+        "reasons": reasons,
+        "keys": sorted(keys),
+        "files": _files(root),
+        "modules": sorted(modules),
+    }
+
+
+def _files(root: Path) -> List[str]:
+    found: List[str] = []
+    for folder, names, files in os.walk(root):
+        place = os.path.relpath(folder, root)
+        names[:] = [name for name in names if os.path.normpath(f"{place}/{name}") not in _KEPT_APART]
+        for name in files:
+            path = Path(folder, name)
+            found.append(f"{os.path.normpath(f'{place}/{name}')}: {path.read_text(encoding='utf-8')}")
+    return sorted(found)
+
+
+def differences(one: State, other: State, kind: str) -> List[str]:
+    """What only one of them has, each line with a sign in front: - for the first, + for the second."""
+    first, second = one[kind], other[kind]
+    lines = [f"-{line}" for line in first if line not in second]
+    return lines + [f"+{line}" for line in second if line not in first]
