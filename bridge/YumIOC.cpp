@@ -62,6 +62,7 @@ PyMethodDef functions[] = {
     entry<&YumIOHost::stdoutWrite>("stdoutWrite", METH_VARARGS),
     entry<&YumIOHost::stderrWrite>("stderrWrite", METH_VARARGS),
     entry<&YumIOHost::log>("log", METH_VARARGS),
+    entry<&YumIOHost::warninglog>("warninglog", METH_VARARGS),
     entry<&YumIOHost::errorlog>("errorlog", METH_VARARGS),
     entry<&YumIOHost::collectProgress>("collectProgress", METH_VARARGS),
     entry<&YumIOHost::collectGrabMeterStart>("collectGrabMeterStart", METH_VARARGS),

@@ -134,6 +134,9 @@ public:
     /// and table stay as they are.
     bool apply();
 
+    /// What the configuration asks for and the script had to do without in the last collection that
+    /// succeeded: a text, of several lines at times, for each repository or file.
+    [[nodiscard]] QStringList const& incomplete() const { return incompleteTexts; }
     [[nodiscard]] Unfinished const& unfinished() const { return left; }
     /// Job: removes the older versions that `unfinished` knows, as `apply` does what is marked.
     bool removeOlder();
@@ -317,6 +320,7 @@ protected:
     bool collectPackages();
     bool collectGroupData();
     /// Asks a script that knows for what a transaction has left. Nothing of it fails the collection.
+    void collectIncomplete();
     void collectUnfinished();
     void useRepos(PyObject* reposObject, QHash<QString, bool> const& repoStates);
     QStringList collectRepos(PyObject* reposDict);
@@ -459,10 +463,14 @@ protected:
     void exceptionExpected() override;
     QByteArray lastReport() const override;
 
+    PyObject* logAs(
+        Log::Kind kind, PyObject* args); ///< files what a host function got as a line of this kind
+
     // Functions of the host module, called by the helper script.
     PyObject* stdoutWrite(PyObject* self, PyObject* args) override;
     PyObject* stderrWrite(PyObject* self, PyObject* args) override;
     PyObject* log(PyObject* self, PyObject* args) override;
+    PyObject* warninglog(PyObject* self, PyObject* args) override;
     PyObject* errorlog(PyObject* self, PyObject* args) override;
     PyObject* collectProgress(PyObject* self, PyObject* args) override;
     PyObject* collectGrabMeterStart(PyObject* self, PyObject* args) override;
@@ -483,6 +491,7 @@ protected:
 
     Package::EntryList entries;
     QList<Package::Entry*> detached; ///< the rows of the last collection, still to be freed
+    QStringList incompleteTexts;
     Unfinished left;
     EntryHash entryHash;                 ///< the same entries by key; while collecting, the only holder
     qsizetype logMark = -1;              ///< first log line of the guarded call in progress; -1: none

@@ -64,6 +64,7 @@ bool YumIO::collectReal(QHash<QString, bool> const& repoStates)
     bool const collected =
         takeLock() && readRepositories(repoStates) && collectPackages() && collectGroupData();
     if (collected) {
+        collectIncomplete();
         collectUnfinished();
     }
     sharedTexts = {};

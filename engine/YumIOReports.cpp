@@ -168,13 +168,23 @@ PyObject* YumIO::log(PyObject*, PyObject* args)
     Py_RETURN_NONE;
 }
 
+PyObject* YumIO::warninglog(PyObject*, PyObject* args)
+{
+    return logAs(Log::Warning, args);
+}
+
 PyObject* YumIO::errorlog(PyObject*, PyObject* args)
+{
+    return logAs(Log::Error, args);
+}
+
+PyObject* YumIO::logAs(Log::Kind kind, PyObject* args)
 {
     long level = 0;
     char const* text = nullptr;
     if (!PyArg_ParseTuple(args, "ls", &level, &text)) {
         return nullptr;
     }
-    log(Log::Error, static_cast<unsigned int>(level), QString::fromUtf8(text));
+    log(kind, static_cast<unsigned int>(level), QString::fromUtf8(text));
     Py_RETURN_NONE;
 }

@@ -5,12 +5,13 @@
 
 #include <QPushButton>
 
-ScrollableErrorDialog::ScrollableErrorDialog(QString const& text, QWidget* parent)
+ScrollableErrorDialog::ScrollableErrorDialog(
+    QString const& text, QWidget* parent, QStyle::StandardPixmap picture)
     : QDialog(parent)
 {
     auto* const close = new QPushButton(tr("Close"), this);
     connect(close, &QPushButton::clicked, this, &QDialog::accept);
-    textLabel = layOutScrollableDialog(this, QStyle::SP_MessageBoxCritical, text, {close});
+    textLabel = layOutScrollableDialog(this, picture, text, {close});
 }
 
 ScrollableErrorDialog::~ScrollableErrorDialog() = default;

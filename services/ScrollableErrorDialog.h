@@ -2,16 +2,19 @@
 #pragma once
 
 #include <QDialog>
+#include <QStyle>
 
 class QLabel;
 
-/// A modal error message of any length, with the button Close. GUI thread.
+/// A modal message of any length, with the button Close: an error by its picture, if it isn't told another
+/// one. GUI thread.
 class ScrollableErrorDialog final : public QDialog
 {
     Q_OBJECT
 
 public:
-    ScrollableErrorDialog(QString const& text, QWidget* parent);
+    ScrollableErrorDialog(
+        QString const& text, QWidget* parent, QStyle::StandardPixmap picture = QStyle::SP_MessageBoxCritical);
     ~ScrollableErrorDialog() override;
 
 private:

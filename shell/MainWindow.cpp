@@ -12,6 +12,7 @@
 #include "repo/RepoEditorDialog.h"
 #include "repo/YumConfIO.h"
 #include "services/LogWindow.h"
+#include "services/ScrollableErrorDialog.h"
 #include "widgets/HMenu.h"
 
 #include <QAction>
@@ -144,7 +145,7 @@ void MainWindow::setReady(bool ready)
     QEventLoop().processEvents(QEventLoop::ExcludeUserInputEvents);
     if (ready) {
         // Behind whatever has been going on.
-        QMetaObject::invokeMethod(this, &MainWindow::tellUnfinished, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &MainWindow::tellCollected, Qt::QueuedConnection);
     }
 }
 
@@ -453,6 +454,31 @@ void MainWindow::applying(Job const& job)
         rebuild();
     }
     setReady(true);
+}
+
+void MainWindow::tellCollected()
+{
+    // One after the other.
+    tellIncomplete();
+    tellUnfinished();
+}
+
+void MainWindow::tellIncomplete()
+{
+    if (!yumIO || yumIO->jobRuns() || yumIO->incomplete() == incompleteTold) {
+        return;
+    }
+    incompleteTold = yumIO->incomplete();
+    if (incompleteTold.isEmpty()) {
+        return;
+    }
+    QStringList const paragraphs =
+        QStringList{tr(
+            "Not everything that is configured could be used, so the table may not show what it should:")} +
+        incompleteTold;
+    ScrollableErrorDialog dialog(paragraphs.join(QLatin1String("\n\n")), this, QStyle::SP_MessageBoxWarning);
+    dialog.setWindowTitle(tr("Incomplete Table"));
+    dialog.exec();
 }
 
 void MainWindow::tellUnfinished()

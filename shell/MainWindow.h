@@ -84,6 +84,10 @@ public Q_SLOTS:
     void setUpdateAll();
     void clearActions();
     void apply();
+    /// What there is to tell behind a collection.
+    void tellCollected();
+    /// Sums up what the collection had to do without, whenever that has changed.
+    void tellIncomplete();
     /// Tells what a transaction that was cut off has left, once for each that there is to tell, and offers to
     /// remove the older versions of packages that are there twice.
     void tellUnfinished();
@@ -132,6 +136,7 @@ private:
     QAction* cleanXmlMetadataAction = nullptr;
     QAction* cleanPickledCacheAction = nullptr;
     QAction* cleanAllAction = nullptr;
+    QStringList incompleteTold;       ///< what `tellIncomplete` has told last
     QString unfinishedTold;           ///< what `tellUnfinished` has told last
     QPointer<QWidget> closeBox;       ///< says why the window stays, while it does
     QPointer<QWidget> tableArea;      ///< hidden until the first collection is done

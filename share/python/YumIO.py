@@ -121,6 +121,11 @@ class YumIO:
         """The groups; none where `setupTsGroup` found none."""
         return self._session.groups()
 
+    def incomplete(self) -> List[str]:
+        """What is configured and the collection had to do without: a text for each repository or file. YumBaseError
+        before there was one."""
+        return self._session.incomplete()
+
     def unfinished(self) -> Optional[Tuple[str, Dict[str, str], List[Any]]]:
         """What a transaction that was cut off has left: a text; the versions of each package that is there more than
         once, by its name; the older ones of these, for `apply` to remove. None for nothing. YumBaseError."""

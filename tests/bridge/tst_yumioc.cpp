@@ -22,6 +22,7 @@ public:
     PyObject* stdoutWrite(PyObject* self, PyObject* args) override { return called("stdoutWrite", self, args); }
     PyObject* stderrWrite(PyObject* self, PyObject* args) override { return called("stderrWrite", self, args); }
     PyObject* log(PyObject* self, PyObject* args) override { return called("log", self, args); }
+    PyObject* warninglog(PyObject* self, PyObject* args) override { return called("warninglog", self, args); }
     PyObject* errorlog(PyObject* self, PyObject* args) override { return called("errorlog", self, args); }
     PyObject* collectProgress(PyObject* self, PyObject* args) override { return called("collectProgress", self, args); }
     PyObject* collectGrabMeterStart(PyObject* self, PyObject* args) override { return called("collectGrabMeterStart", self, args); }
@@ -149,7 +150,7 @@ void TestYumIOC::moduleHasExactlyTheNamedFunctions()
     QCOMPARE(
         python.text("' '.join(name for name in vars(yumIOC) if not name.startswith('__'))"),
         QStringLiteral(
-            "stdoutWrite stderrWrite log errorlog collectProgress collectGrabMeterStart "
+            "stdoutWrite stderrWrite log warninglog errorlog collectProgress collectGrabMeterStart "
             "collectGrabMeterUpdate collectGrabMeterEnd applyGrabMeterStart applyGrabMeterUpdate "
             "applyGrabMeterEnd dsTsCheck dsRestartLoop userconfirm reportDownloadSize listTransaction "
             "tsInitCallback tsCallback tsEvent postTransactionOutput"));
@@ -159,7 +160,7 @@ void TestYumIOC::functionReachesTheOperationOfItsName_data()
 {
     QTest::addColumn<QString>("call");
     for (char const* call :
-         {"stdoutWrite('out',)", "stderrWrite('err',)", "log(2, 'TSINFO: x')",
+         {"stdoutWrite('out',)", "stderrWrite('err',)", "log(2, 'TSINFO: x')", "warninglog(1, 'skipped')",
           "errorlog(0, 'gr\u00fc\u00df')", "collectProgress(-1, -1, None)",
           "collectGrabMeterStart('u', 'a', 'b', 5, None)", "collectGrabMeterUpdate(9,)",
           "collectGrabMeterEnd(9,)", "applyGrabMeterStart('u', None, None, 5000000000, 't')",

@@ -153,6 +153,7 @@ def test_file_that_only_root_may_read_is_told_and_the_others_are_shown(start: St
     program = start(system("secretive"))
     words = "Unable to read repository configuration file /etc/yum.repos.d/secret.repo; errno = 13 (Permission denied)."
     assert answer(program, "VEM Repository Editor Error", "OK") == words
+    assert answer(program, "Incomplete Table", "Close").endswith("\n\n/etc/yum.repos.d/secret.repo: Permission denied")
     program.wait_ready()
     program.choose("View All")
     assert program.names() == ["coast-horn", "coast-light", "coast-shell"]

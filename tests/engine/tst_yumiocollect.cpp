@@ -36,6 +36,10 @@ private Q_SLOTS:
     void packageWithoutMembersIsReportedAndKept();
     void packageWithoutFieldsHarmsNoOther();
 
+    void whatIsIncompleteIsKeptUntilTheNextCollectionThatSucceeds();
+    void answerAboutWhatIsIncompleteThatIsNone_data();
+    void answerAboutWhatIsIncompleteThatIsNone();
+
     void plainAttributesStandForMethods();
     void oddPlainValuesAreAskedForTheLongWay();
     void barsShowTheWork();
@@ -443,6 +447,48 @@ void TestYumIOCollect::oddPlainValuesAreAskedForTheLongWay()
         (QStringList{"2-3", "noarch", "hedge", "A tree", "2.0Kb"}));
     QCOMPARE(rowan->kind, Package::Suite);
     QCOMPARE(rowan->buildTime, 86400LL);
+}
+
+void TestYumIOCollect::whatIsIncompleteIsKeptUntilTheNextCollectionThatSucceeds()
+{
+    // A script that doesn't know the question.
+    QVERIFY(engine->collect({}));
+    QCOMPARE(engine->incomplete(), QStringList());
+    SCRIPT("standin.instead('incomplete', lambda: ['extras: skipped', 'caf\\u00e9\\nbroken'])");
+    engine->clear();
+    QVERIFY(engine->collect({}));
+    QStringList const told{"extras: skipped", QStringLiteral("caf\u00e9\nbroken")};
+    QCOMPARE(engine->incomplete(), told);
+    SCRIPT("standin.fail('setupRepos', yum.Errors.RepoError('no mirror left'))");
+    engine->clear();
+    QVERIFY(!engine->collect({}));
+    QCOMPARE(boxes->takeTexts().size(), 1);
+    QCOMPARE(engine->incomplete(), told);
+    SCRIPT("standin.reset()\nstandin.instead('incomplete', lambda: [])");
+    engine->clear();
+    QVERIFY(engine->collect({}));
+    QCOMPARE(engine->incomplete(), QStringList());
+    SCRIPT("standin.without('incomplete')");
+}
+
+void TestYumIOCollect::answerAboutWhatIsIncompleteThatIsNone_data()
+{
+    QTest::addColumn<QString>("answer");
+    for (char const* answer : {"None", "'text'", "('text',)", "['text', 7]"}) {
+        QTest::newRow(answer) << QString::fromLatin1(answer);
+    }
+}
+
+void TestYumIOCollect::answerAboutWhatIsIncompleteThatIsNone()
+{
+    QFETCH(QString, answer);
+    QCOMPARE(
+        engine->script(QStringLiteral("standin.instead('incomplete', lambda: %1)").arg(answer)), QString());
+    QVERIFY(engine->collect({}));
+    QCOMPARE(boxes->takeTexts(), QStringList{"Internal error: execution of yumIO.incomplete failed"});
+    QCOMPARE(engine->incomplete(), QStringList());
+    QCOMPARE(engine->count(), 12);
+    SCRIPT("standin.without('incomplete')");
 }
 
 void TestYumIOCollect::barsShowTheWork()

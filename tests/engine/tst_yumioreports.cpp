@@ -258,13 +258,16 @@ void TestYumIOReports::stderrLinesTakeTheirKindAndLevel()
 
 void TestYumIOReports::logTakesLevelAndText()
 {
-    SCRIPT("yumIOC.log(5, 'caf\\u00e9\\nnext')\nyumIOC.errorlog(2, 'fault')\nyumIOC.log(-1, 'odd')");
+    SCRIPT("yumIOC.log(5, 'caf\\u00e9\\nnext')\nyumIOC.errorlog(2, 'fault')\nyumIOC.log(-1, 'odd')\n"
+           "yumIOC.warninglog(1, 'skipped')");
     QCOMPARE(
-        engine->logLines(), (QStringList{
-                                QStringLiteral("caf\u00e9 (5)"), "next (5)", "fault (2)",
-                                QStringLiteral("odd (%1)").arg(std::numeric_limits<unsigned>::max())}));
+        engine->logLines(),
+        (QStringList{
+            QStringLiteral("caf\u00e9 (5)"), "next (5)", "fault (2)",
+            QStringLiteral("odd (%1)").arg(std::numeric_limits<unsigned>::max()), "skipped (1)"}));
     QCOMPARE(engine->logEntries.at(0).kind, Log::Info);
     QCOMPARE(engine->logEntries.at(2).kind, Log::Error);
+    QCOMPARE(engine->logEntries.at(4).kind, Log::Warning);
 }
 
 void TestYumIOReports::onlyTheWholePrefixFeedsTheSolver()
@@ -299,6 +302,7 @@ void TestYumIOReports::wrongArgumentsRaise_data()
     row("log('text')");
     row("log('1', 'text')");
     row("log(2**70, 'text')", "OverflowError");
+    row("warninglog(1)");
     row("errorlog(1)");
     row("errorlog(1, None)");
     row("collectProgress(1, 2)");

@@ -36,7 +36,7 @@ def run(script: program.Program, order: Dict[str, Any], answer: int) -> None:
         fault = ""
     except script.errors.YumBaseError as error:
         fault = str(error)
-    texts = {name: fake_host.HOST.text(name) for name in ("log", "errorlog")}
+    texts = {name: fake_host.HOST.text(name) for name in ("log", "warninglog", "errorlog")}
     script.end()
     say(fault=fault, **texts)
 

@@ -73,6 +73,9 @@ class FakeHost(types.ModuleType):
     def log(self, level: Any, text: Any) -> None:
         self._note("log", self._l(level), self._s(text))
 
+    def warninglog(self, level: Any, text: Any) -> None:
+        self._note("warninglog", self._l(level), self._s(text))
+
     def errorlog(self, level: Any, text: Any) -> None:
         self._note("errorlog", self._l(level), self._s(text))
 

@@ -30,6 +30,7 @@ ONE_OF_EACH: List[Any] = [
     messages.Leave(True),
     messages.Hello(messages.PROTOCOL),
     messages.Log(2, "a line\n"),
+    messages.WarningLog(1, "skipped"),
     messages.ErrorLog(0, "caf\xe9 \udce9 \0"),
     messages.Output('"quoted"\n'),
     messages.ErrorOutput(""),

@@ -69,7 +69,7 @@ def test_identifier_beyond_ascii_costs_only_its_own_repository(
     estate, program = lamp
     append(estate, b"[" + LATIN1 + b"]\nbaseurl=file:///nowhere\n")
     assert program.collect().offered("lamp").version == "1.1"
-    assert "Bad id for repo: B\u00fcro" in host.text("log")
+    assert "Bad id for repo: B\u00fcro" in host.text("warninglog")
 
 
 @pytest.mark.parametrize("mark", [b"", b"\xef\xbb\xbf"])
@@ -91,7 +91,7 @@ def test_file_that_is_not_utf8_is_told_with_its_line(lamp: Tuple[Estate, Program
     file = append(estate, b"name=" + LATIN1 + b"\n")
     line = file.read_bytes().count(b"\n")
     program.start()
-    assert f"/etc/yum.repos.d/{file.name}, line {line}, is read as Latin-1" in host.text("log")
+    assert f"/etc/yum.repos.d/{file.name}, line {line}, is read as Latin-1" in host.text("warninglog")
 
 
 @pytest.mark.parametrize("before", [b"", b"# " + LATIN1 + b"\n"])
@@ -101,7 +101,7 @@ def test_fault_in_a_file_is_told_once_and_by_the_files_own_name(
     estate, program = lamp
     (estate.root / "etc/yum.repos.d/broken.repo").write_bytes(before + b"[broken\nname=x\n")
     program.start()
-    (line,) = [line for line in host.text("log").splitlines() if "Parsing" in line]
+    (line,) = [line for line in host.text("warninglog").splitlines() if "Parsing" in line]
     assert line.count("Parsing") == 1 and "/etc/yum.repos.d/broken.repo" in line
     assert program.collect().offered("lamp").version == "1.1"
 

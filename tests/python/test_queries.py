@@ -192,7 +192,7 @@ def test_a_repository_that_may_be_skipped_is_skipped(
     wrong = address(buffet, "login=me&key=hush").replace("/base", "/more")
     guarded.repository("more", rpms.some("lib-1.0"), baseurl=wrong, extra={"skip_if_unavailable": "1"})
     assert program.collect().merged() == {"lone": "Available", "battery": "Available"}
-    assert "more" in host.text("log") and "hush" not in told(host)
+    assert "more" in host.text("warninglog") and "hush" not in told(host)
 
 
 def test_progress_is_told_as_for_others(guarded: Estate, program: Program, host: FakeHost) -> None:

@@ -268,7 +268,7 @@ def test_repository_that_may_be_skipped_is_skipped(
     estate, program = lamp
     estate.repository("extras", [], baseurl="http://127.0.0.1:1/extras", extra={"skip_if_unavailable": "1"})
     assert program.collect().merged() == {"lamp": "OutOfDate"}
-    assert "extras" in host.text("log") and "127.0.0.1:1" in host.text("log")
+    assert "extras" in host.text("warninglog") and "127.0.0.1:1" in host.text("warninglog")
     assert ("read", "extras") in acts(host)
 
 
@@ -290,7 +290,7 @@ def test_error_lines_are_below_level_three_and_debug_lines_are_not(
     logger.warning("a warning")
     logger.debug("a detail")
     assert ("errorlog", 0, "a fault") in host.calls
-    assert ("log", 1, "a warning") in host.calls
+    assert ("warninglog", 1, "a warning") in host.calls
     assert ("log", 4, "a detail") in host.calls
 
 
@@ -346,4 +346,4 @@ def test_damaged_fast_form_of_the_metadata_is_made_anew(
     assert set(program.collect().merged()) == {"lone", "battery"}
     host.reset()
     program.collect()
-    assert "damaged" not in host.text("log")
+    assert "damaged" not in host.text("warninglog")

@@ -43,7 +43,7 @@ except program.errors.YumBaseError as error:
     said["error"] = str(error)
 except SystemExit:
     said["ended"] = True
-for name in "log", "errorlog":
+for name in "log", "warninglog", "errorlog":
     said[name] = fake_host.HOST.text(name).splitlines()
 said["calls"] = sorted({{call[0] for call in fake_host.HOST.calls}})
 sys.__stdout__.write(json.dumps(said) + "\\n")
@@ -278,7 +278,7 @@ def test_repository_file_with_a_secret_leaves_the_others(house: Guests) -> None:
     secret.chmod(0o600)
     said = house.run(COLLECT)
     assert said["table"] == {"lamp": "OutOfDate", "lone": "Available"}
-    assert "/etc/yum.repos.d/secret.repo: Permission denied" in said["log"]
+    assert "/etc/yum.repos.d/secret.repo: Permission denied" in said["warninglog"]
 
 
 def test_unreadable_main_file_leaves_the_repositories(house: Guests) -> None:
@@ -286,7 +286,7 @@ def test_unreadable_main_file_leaves_the_repositories(house: Guests) -> None:
     main.chmod(0o600)
     said = house.run(COLLECT)
     assert said["table"] == {"lamp": "OutOfDate", "lone": "Available"}
-    assert "/etc/yum.conf: Permission denied" in said["log"]
+    assert "/etc/yum.conf: Permission denied" in said["warninglog"]
 
 
 def test_unreadable_list_of_protected_packages_is_not_missed(house: Guests) -> None:

@@ -50,7 +50,7 @@ try:
 except program.errors.YumBaseError as error:
     said["refused"] = str(error)
 said["cleaned"] = found.yumio.cleanMetadata()[0]
-for name in "log", "errorlog":
+for name in "log", "warninglog", "errorlog":
     said[name] = fake_host.HOST.text(name).splitlines()
 said["asked"] = len(fake_host.HOST.named("userconfirm", "listTransaction", "dsTsCheck"))
 sys.__stdout__.write(json.dumps(said) + "\\n")

@@ -9,12 +9,13 @@ import glob
 import logging
 import os
 import re
-from typing import Any, Callable, Dict, Iterable, Optional
+from typing import Any, Callable, Dict, Iterable, List, Optional
 
 import dnf
 import dnf.conf
 import dnf.exceptions
 import dnf.repo
+import libdnf.error
 
 from .configuration import misread
 from .database import point_rpm_at
@@ -32,7 +33,7 @@ from .webpage import asked
 _UNREADABLE = re.compile(r"\bpars(e|er|ing)\b|no urls in mirrorlist|not found in metalink", re.I)
 """Stands in the library's words for an answer that isn't what was asked for."""
 
-_DURATION = re.compile(r" after \d+ ms")
+_DURATION = re.compile(r" after \d+ m(?:illi)?s(?:econds)?\b")
 
 
 class Base(dnf.Base):
@@ -51,30 +52,35 @@ class Base(dnf.Base):
         """The command line that dnf's history tells."""
         self.sections: Dict[str, RepositorySection] = {}
         """What the repositories were built of, by their ids."""
+        self.lacking: List[str] = []
+        """What is configured and had to be left out, each with its reason."""
 
     def read_all_repos(self, opts: Any = None) -> None:
         """YumBaseError when the main file has become unreadable meanwhile: it may hold repositories, too."""
         reader = RepositoryReader(self.conf, opts)
         try:
-            self._add(reader)
+            self._add(reader, reader)
         except dnf.exceptions.ConfigError as error:
             raise misread(error) from error
+        self.lacking += reader.refused
         self.sections = reader.sections
 
     def use_repositories(self, sections: Iterable[RepositorySection]) -> None:
         """Takes these instead of what the configuration says now."""
         reader = RepositoryReader(self.conf, None)
-        self._add(map(reader.rebuilt, sections))
+        self._add(reader, map(reader.rebuilt, sections))
         self.sections = reader.sections
 
-    def _add(self, repositories: Iterable[dnf.repo.Repo]) -> None:
+    def _add(self, reader: RepositoryReader, repositories: Iterable[dnf.repo.Repo]) -> None:
         for repo in repositories:
             # A section may ask for what the main configuration rules out.
             repo.deltarpm = False
             try:
                 self.repos.add(repo)
-            except dnf.exceptions.ConfigError as error:
+            except (dnf.exceptions.ConfigError, libdnf.error.Error) as error:
                 logging.getLogger("dnf").warning("%s", error)
+                if repo.enabled:
+                    reader.refuse(repo.repofile, error)
 
     def load_everything(self) -> None:
         """Reads the enabled repositories and the rpm database.
@@ -134,6 +140,15 @@ class Base(dnf.Base):
         return bool(found)
 
     def _add_repo_to_sack(self, repo: dnf.repo.Repo) -> None:
+        try:
+            self._fetch_and_read(repo)
+        except RepoError as error:
+            if repo.skip_if_unavailable:
+                # dnf goes on without it. How long something took is another matter each time.
+                self.lacking.append(without_durations(str(error)))
+            raise
+
+    def _fetch_and_read(self, repo: dnf.repo.Repo) -> None:
         with heard() as causes:
             try:
                 self._fetch_by_query(repo)
@@ -184,6 +199,11 @@ class Base(dnf.Base):
             return super()._run_transaction(cb)
 
 
+def without_durations(text: str) -> str:
+    """A failure's text as it is each time that it happens."""
+    return _DURATION.sub("", text)
+
+
 def _tell_of_mirror(tell: Callable[[Any, str, str], None], payload: Any, _data: Any, message: Any, url: Any) -> None:
     tell(payload, str(message or ""), str(url or ""))
 
@@ -199,7 +219,7 @@ def _repository_text(repo: dnf.repo.Repo, text: str, causes: Iterable[str], dire
     said: Dict[str, str] = {}
     for line in (*text.strip().splitlines(), *(cause for cause in causes if cause not in text)):
         # The library tries several times, and tells each time how long that took.
-        said.setdefault(_DURATION.sub("", line), line)
+        said.setdefault(without_durations(line), line)
     return "\n".join([*lines, *said.values(), *scarce_space(directory)])
 
 

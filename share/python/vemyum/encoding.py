@@ -14,6 +14,7 @@ import os
 import tempfile
 from typing import Any, Dict, Iterator, List, Optional, Tuple
 
+import dnf.conf
 import dnf.conf.config
 import dnf.conf.read
 import dnf.exceptions
@@ -50,6 +51,9 @@ class RepositoryReader(dnf.conf.read.RepoReader):
         super().__init__(conf, opts)
         self.sections: Dict[str, RepositorySection] = {}
         """What each repository was built of, by its id."""
+        self.refused: List[str] = []
+        """What cannot be used, as far as it was read: files, and sections that aren't switched off."""
+        self._file = ""
 
     def __iter__(self) -> Iterator[Any]:
         yield from self._get_repos(self.conf.config_file_path)
@@ -58,6 +62,11 @@ class RepositoryReader(dnf.conf.read.RepoReader):
                 yield from self._get_repos(path)
             except dnf.exceptions.ConfigError as error:
                 logging.getLogger("dnf").warning("%s", library_words(error))
+                self.refused.append(library_words(error))
+
+    def refuse(self, file: str, error: Exception) -> None:
+        """Takes down why a section of this file is not used."""
+        self.refused.append(f"{file}: {error}")
 
     def _files(self) -> List[str]:
         """The repository files of all directories, in dnf's order: that of their names without the ending."""
@@ -70,7 +79,12 @@ class RepositoryReader(dnf.conf.read.RepoReader):
         return [path for path in paths.values() if path]
 
     def _build_repo(self, parser: Any, id_: str, repofn: str) -> Any:
-        repo = super()._build_repo(parser, id_, repofn)
+        try:
+            repo = super()._build_repo(parser, id_, repofn)
+        except (dnf.exceptions.ConfigError, dnf.exceptions.RepoError) as error:
+            if _is_switched_on(parser, id_):
+                self.refuse(self._file, error)
+            raise
         check_signatures_unless_told(repo, parser, id_, dnf.conf.config.PRIO_REPOCONFIG)
         options = {name: parser.getValue(id_, name) for name in parser.options(id_)}
         self.sections[repo.id] = RepositorySection(id_, options, bool(repo.enabled))
@@ -89,7 +103,8 @@ class RepositoryReader(dnf.conf.read.RepoReader):
         return repo
 
     def _get_repos(self, repofn: str) -> Iterator[Any]:
-        with _utf8_file(repofn) as file:
+        with _utf8_file(repofn, self.refused) as file:
+            self._file = valid(repofn)
             try:
                 for repo in super()._get_repos(file):
                     repo.repofile = valid(repofn)
@@ -97,6 +112,14 @@ class RepositoryReader(dnf.conf.read.RepoReader):
             except dnf.exceptions.ConfigError as error:
                 # Of the copy that is read in its place nobody knows.
                 raise dnf.exceptions.ConfigError(library_words(error).replace(file, valid(repofn))) from error
+
+
+def _is_switched_on(parser: libdnf.conf.ConfigParser, section: str) -> bool:
+    try:
+        return libdnf.conf.OptionBool(True).fromString(parser.getSubstitutedValue(section, "enabled"))
+    except (RuntimeError, IndexError):
+        # It doesn't say, or says what dnf doesn't understand.
+        return True
 
 
 def _identity(path: str) -> Tuple[int, int]:
@@ -109,11 +132,11 @@ def _identity(path: str) -> Tuple[int, int]:
 
 
 @contextlib.contextmanager
-def _utf8_file(path: str) -> Iterator[str]:
+def _utf8_file(path: str, refused: List[str]) -> Iterator[str]:
     """The name of a file in UTF-8 with the text of `path`: `path` itself, or else a copy for the time being.
 
     Only those bytes that can't be UTF-8 count as Latin-1. A file that can't be opened is left to the reader,
-    for whom it is an empty one.
+    for whom it is an empty one; why is added to `refused`.
     """
     try:
         with open(path, "rb") as file:
@@ -121,6 +144,7 @@ def _utf8_file(path: str) -> Iterator[str]:
     except OSError as error:
         if not isinstance(error, FileNotFoundError):
             logging.getLogger("dnf").warning("%s", os_error_text(error))
+            refused.append(os_error_text(error))
         yield path
         return
     fault = _fault(path, content)

@@ -39,6 +39,10 @@ def errorlog(level: int, text: str) -> None:
     yumIOC.errorlog(level, masked(valid(text)))
 
 
+def warninglog(level: int, text: str) -> None:
+    yumIOC.warninglog(level, masked(valid(text)))
+
+
 def collect_progress(value: Any, total: Any, name: Optional[str]) -> None:
     yumIOC.collectProgress(whole(value), whole(total), None if name is None else valid(name))
 

@@ -23,7 +23,7 @@ _RPM_LOGGER = "dnf.rpm"
 
 
 class HostHandler(logging.Handler):
-    """Forwards records to the host functions `log` and `errorlog`."""
+    """Forwards records to the host functions `log`, `warninglog` and `errorlog`."""
 
     def emit(self, record: logging.LogRecord) -> None:
         try:
@@ -37,13 +37,14 @@ class HostHandler(logging.Handler):
                 host.errorlog(host.LEVEL_QUIET, text)
         elif record.levelno >= logging.ERROR:
             host.errorlog(host.LEVEL_ERROR, as_configured(text))
+        elif record.levelno >= logging.WARNING:
+            host.warninglog(host.LEVEL_NOTICE, as_configured(text))
         else:
             host.log(_level(record.levelno), as_configured(text))
 
 
 def _level(levelno: int) -> int:
     for threshold, level in (
-        (logging.WARNING, host.LEVEL_NOTICE),
         (logging.INFO, host.LEVEL_INFO),
         (logging.DEBUG, host.LEVEL_DEBUG),
     ):

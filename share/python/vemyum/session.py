@@ -18,6 +18,7 @@ from .apply.journal import await_transaction, tell_last
 from .base import Base, open_base
 from .comps import CompsGroup
 from .configuration import Configuration, existing_main_file, main_file, read_configuration
+from .credentials import masked
 from .details import PackageDetails
 from .errors import LockError, RepoError, YumBaseError, reported_as
 from .groups import Group, groups_of, read_groups
@@ -28,6 +29,7 @@ from .repositories import Repositories, UnreadableRepositories
 from .root import as_configured, managed_root
 from .sack import light_packages
 from .sections import RepositorySection
+from .text import valid
 from .texts import _
 from .unfinished import Unfinished, unfinished
 
@@ -143,6 +145,10 @@ class Session:
     def groups(self) -> List[Group]:
         return groups_of(self._comps, self.collector.installed_names)
 
+    def incomplete(self) -> List[str]:
+        """What is configured and the collection had to do without, each with its reason; the log has it, too."""
+        return [masked(valid(as_configured(text))) for text in dict.fromkeys(self.base.lacking)]
+
     def unfinished(self) -> Optional[Unfinished]:
         """What a transaction that was cut off has left; told in the log, too."""
         found = unfinished(self.base)
@@ -180,10 +186,11 @@ class Session:
         return self._base
 
     def repository_sections(self) -> List[RepositorySection]:
-        """The repositories that the lists rest on. YumBaseError before they are read."""
-        states = self.repositories.states()
-        sections = self.base.sections.items()
-        return [dataclasses.replace(section, enabled=states[id]) for id, section in sections]
+        """The repositories that the lists rest on; one that had to be left out counts as switched off. YumBaseError
+        before they are read."""
+        repos = self.base.repos
+        sections = [(repos[id], section) for id, section in self.base.sections.items() if id in repos]
+        return [dataclasses.replace(section, enabled=bool(repo.enabled)) for repo, section in sections]
 
     @property
     def collector(self) -> Collector:

@@ -208,6 +208,9 @@ class RemoteHost(types.ModuleType):
     def log(self, level: int, text: str) -> None:
         self._parent.send(messages.Log(level, text))
 
+    def warninglog(self, level: int, text: str) -> None:
+        self._parent.send(messages.WarningLog(level, text))
+
     def errorlog(self, level: int, text: str) -> None:
         self._parent.send(messages.ErrorLog(level, text))
 

@@ -87,6 +87,12 @@ class Log:
 
 
 @dataclasses.dataclass(frozen=True)
+class WarningLog:
+    level: int
+    text: str
+
+
+@dataclasses.dataclass(frozen=True)
 class ErrorLog:
     level: int
     text: str
@@ -212,6 +218,7 @@ Message = Union[
     Leave,
     Hello,
     Log,
+    WarningLog,
     ErrorLog,
     Output,
     ErrorOutput,

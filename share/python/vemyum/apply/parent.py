@@ -120,6 +120,8 @@ class Apply:
             host.apply_meter_end(message.done)
         elif isinstance(message, messages.Log):
             host.log(message.level, message.text)
+        elif isinstance(message, messages.WarningLog):
+            host.warninglog(message.level, message.text)
         elif isinstance(message, messages.ErrorLog):
             host.errorlog(message.level, message.text)
         elif isinstance(message, messages.Output):
