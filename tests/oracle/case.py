@@ -18,8 +18,8 @@ FEATURES = {
 }
 """What the made-up estates leave out until it is there."""
 
-MOST, LEAST = 40, 5
-"""Packages in the repositories of an estate."""
+MOST, MOST_NAMES = 34, 22
+"""Packages in the repositories of an estate, and how many names they have together with what is installed."""
 
 
 class Row(NamedTuple):
@@ -85,25 +85,31 @@ class Case:
     # Packages ----------------------------------------------------------------------------------------
 
     def _names(self, dice: Dice) -> List[str]:
-        """Some, and most of what they speak of."""
+        """Some, nearly all of what they need, and much of what else they speak of."""
         offers: Dict[str, List[str]] = {}
-        wants: Dict[str, List[str]] = {}
+        words: Dict[str, Dict[str, float]] = {}
         for package in self.pool.packages:
+            offers.setdefault(package.name, [package.name])
             for ability in package.provides:
                 offers.setdefault(ability, []).append(package.name)
-            wants.setdefault(package.name, []).extend(package.wants)
-        ahead = dice.some(NAMES, dice.between(3, 9))
+            of_name = words.setdefault(package.name, {})
+            for word in package.mentions:
+                of_name.setdefault(word, 0.5)
+            for word in package.needs:
+                of_name[word] = 0.98
+        ahead = dice.some(NAMES, dice.between(2, 5))
         if dice.chance(0.2):
             ahead.append(CORES[1])
         found: List[str] = []
-        while ahead and len(found) < 18:
-            name = ahead.pop(0)
+        while ahead and len(found) < MOST_NAMES:
+            # What is needed by what is there comes before anything new.
+            name = ahead.pop()
             if name in found:
                 continue
             found.append(name)
-            for word in dict.fromkeys(wants[name]):
-                if dice.chance(0.93):
-                    ahead.append(dice.one(offers[word]) if word in offers else word)
+            for word, probability in words[name].items():
+                if word in offers and dice.chance(probability):
+                    ahead.append(dice.one(offers[word]))
         return found
 
     def _repositories(self, dice: Dice, by_name: Dict[str, List[Package]]) -> List[Repository]:
@@ -119,7 +125,9 @@ class Case:
                 # What is installed need not be in any repository any more.
                 if dice.chance(0.95 if package.step >= cut else 0.5):
                     kept.append(package)
-        kept = dice.some(kept, MOST)
+        while len(kept) > MOST:
+            # Older ones first.
+            kept.remove(min(dice.some(kept, 3), key=lambda package: package.step))
         for package in sorted(kept, key=lambda one: one.nevra):
             first = dice.number(count)
             places = {first, dice.number(count)} if dice.chance(0.2) else {first}
@@ -240,12 +248,16 @@ class Case:
     # Marks ---------------------------------------------------------------------------------------------
 
     def marks(self, rows: Sequence[Row]) -> Wish:
-        """Marks that this table offers; none where it offers nothing of the kind."""
+        """Marks that this table offers; none where it offers nothing."""
         dice = self._dice
         updates = [row.name for row in rows if row.state == "OutOfDate"]
         there = [row.name for row in rows if row.there]
         installs = [row.name for row in rows if row.state == "Available"]
-        kind = dice.weighed(("remove", "install", "update", "all", "mixed"), (28, 25, 14, 11, 22))
+        offered = (there, installs, updates, updates, there)
+        weights = [weight if some else 0 for weight, some in zip((28, 25, 14, 11, 22), offered)]
+        if not any(weights):
+            return Wish()
+        kind = dice.weighed(("remove", "install", "update", "all", "mixed"), weights)
         few = dice.weighed((1, 2, 3, 4), (50, 25, 15, 10))
         if kind == "remove":
             return Wish(removes=dice.some(there, few))

@@ -6,7 +6,7 @@ from __future__ import annotations
 import os
 import shutil
 from pathlib import Path
-from typing import Any, Dict, List, NamedTuple, Tuple
+from typing import Dict, List, NamedTuple, Tuple
 
 import rpm
 
@@ -15,7 +15,7 @@ from case import Case
 from pool import Pool
 from rpmestate import Estate
 from rules import Outcome, explanation
-from sides import Applied, Ran, begin, carry_out, helper_package, in_process
+from sides import Applied, Asked, Ran, begin, carry_out, helper_package, in_process
 from state import State, differences, state_of
 
 
@@ -23,10 +23,12 @@ class Verdict(NamedTuple):
     seed: int
     words: str
     """What differs without being meant to, or what went wrong with the case itself; empty for nothing."""
-    rule: str
-    """The rule that explains what differs; empty where nothing does."""
+    rules: str
+    """The rules that explain what differs; empty where nothing does."""
     kind: str
     """What the case was about, for the count at the end."""
+    refused: str = ""
+    """Why the helper package refused."""
 
 
 def judge(seed: int, pool: Pool, directory: Path) -> Verdict:
@@ -43,19 +45,28 @@ def judge(seed: int, pool: Pool, directory: Path) -> Verdict:
     lines = reading.differences(case, applied.read, before["packages"], reading.told(theirs, directory / "list.log"))
     found: Dict[str, List[str]] = {"reading": lines} if lines else {}
     kind = "/".join(name for name in ("installs", "updates", "removes") if getattr(applied.wish, name)) or "nothing"
-    rule = ""
+    rules = ""
     if applied.wish:
-        ran = carry_out(case, applied, theirs, directory / "dnf.log")
+        ran = carry_out(applied, theirs, directory / "dnf.log", Asked())
         outcome = _compare(case, applied, ran, before, state_of(ours), state_of(theirs))
-        rule = explanation(outcome) if outcome.differences else ""
-        if outcome.differences and not rule:
+
+        def again(asked: Asked) -> Outcome:
+            place = directory / "again/root"
+            shutil.rmtree(place, ignore_errors=True)
+            shutil.copytree(root, place, symlinks=True)
+            ran = carry_out(applied, place, directory / "dnf.log", asked)
+            return _compare(case, applied, ran, before, outcome.ours, state_of(place))
+
+        if outcome.differences:
+            rules, outcome = explanation(outcome, again)
+        if outcome.differences and not rules:
             found.update(outcome.differences)
             kind += " DIFFERS"
         else:
             kind += " refused" if applied.refused else " done"
     if not found:
-        return Verdict(seed, "", rule, kind)
-    return Verdict(seed, _told(case, applied, before, found, directory), rule, kind)
+        return Verdict(seed, "", rules, kind, applied.refused)
+    return Verdict(seed, _told(case, applied, found, directory), rules, kind)
 
 
 def _image(case: Case, directory: Path) -> Tuple[State, Path]:
@@ -94,7 +105,7 @@ def _compare(case: Case, applied: Applied, ran: Ran, before: State, ours: State,
     return Outcome(case, applied, ran, before, ours, theirs, {kind: lines for kind, lines in found.items() if lines})
 
 
-def _told(case: Case, applied: Applied, before: State, found: Dict[str, List[str]], directory: Path) -> str:
+def _told(case: Case, applied: Applied, found: Dict[str, List[str]], directory: Path) -> str:
     lines = [f"seed {case.seed}: - is the helper package, + the command line"]
     for mark in ("installs", "updates", "removes"):
         if getattr(applied.wish, mark):
@@ -121,5 +132,3 @@ def prepare(home: Path) -> None:
         place.write_text("%_dbpath /var/lib/rpm\n", encoding="utf-8")
     os.environ.update(HOME=str(home), XDG_CONFIG_HOME=str(home / ".config"))
     rpm.reloadConfig()
-
-

@@ -47,15 +47,15 @@ LADDER = (
 """Epoch, version and release, rising."""
 
 ABILITIES = tuple(f"ability-{letter}" for letter in "abcdefgh")
-RIVALS = (NAMES[7], NAMES[19])
+RIVALS = (NAMES[33], NAMES[35])
 """Two packages with one file that differs."""
-STUMBLING = {NAMES[11]: "pre", NAMES[23]: "post", NAMES[31]: "preun"}
-"""Packages whose newest version has a scriptlet that fails."""
+STUMBLING = {NAMES[38]: "pre", NAMES[36]: "post", NAMES[34]: "preun"}
+"""Packages whose newest version has a scriptlet that fails. Few others need them."""
 
 
 class Package(NamedTuple):
-    """A package of the pool. `step` is its place on the ladder; `wants` are the names and abilities that it speaks of,
-    what it needs before the rest."""
+    """A package of the pool. `step` is its place on the ladder; `needs` and `mentions` are names and abilities: of what
+    it requires, and of whatever else it speaks of."""
 
     name: str
     epoch: int
@@ -63,7 +63,8 @@ class Package(NamedTuple):
     release: str
     arch: str
     step: int
-    wants: Tuple[str, ...]
+    needs: Tuple[str, ...]
+    mentions: Tuple[str, ...]
     provides: Tuple[str, ...]
     text: str
 
@@ -102,7 +103,10 @@ class _Relations:
 
     def versioned(self, operators: Sequence[str] = (">=", ">=", ">=", "=", "<", "<=", ">")) -> str:
         other = self._other()
-        return f"{NAMES[other]} {self._dice.one(operators)} {_evr(self._dice.one(self._ladders[other]), self._dice)}"
+        # What asks for an older one at least can be had more often.
+        ladder = self._ladders[other]
+        step = ladder[self._dice.number(self._dice.between(1, len(ladder)))]
+        return f"{NAMES[other]} {self._dice.one(operators)} {_evr(step, self._dice)}"
 
     def rich(self, conditions: bool = True) -> str:
         """Without conditions it can stand where the other package is the one that asks."""
@@ -115,7 +119,7 @@ class _Relations:
         if kind == "name":
             return self.name()
         if kind == "versioned":
-            return self.versioned((">=", ">=", ">=", "<", "="))
+            return self.versioned((">=", ">=", ">=", ">=", ">=", "<", "<=", "=", ">="))
         if kind == "ability":
             ability = self._dice.one(ABILITIES)
             return ability if self._dice.chance(0.6) else f"{ability} >= {self._dice.between(1, 3)}"
@@ -152,7 +156,7 @@ def packages() -> List[Package]:
         architectures = _architectures(dice, len(ladder))
         relations = _Relations(dice, at, ladders)
         usual = [relations.need() for _ in range(dice.weighed((0, 1, 2, 3), (25, 40, 25, 10)))] if at > 3 else []
-        abilities = dice.some(ABILITIES, 1) if dice.chance(0.4) else []
+        abilities = [ABILITIES[at]] if at < len(ABILITIES) else dice.some(ABILITIES, 1) if dice.chance(0.3) else []
         for number, (step, archs) in enumerate(zip(ladder, architectures)):
             last = number == len(ladder) - 1
             requires = [one for one in usual if dice.chance(0.85)]
@@ -192,9 +196,9 @@ def packages() -> List[Package]:
                     scriptlets=scriptlets,
                     tags=tags,
                 )
-                wants = _words(requires) + _words([*obsoletes, *conflicts, *(tags[tag] for tag in tags if tag != "Vendor")])
+                mentions = _words([*obsoletes, *conflicts, *(tags[tag] for tag in tags if tag != "Vendor")])
                 offers = tuple(word for word in _words(provides) if word in ABILITIES)
-                made.append(Package(name, *step, arch, LADDER.index(step), wants, offers, text))
+                made.append(Package(name, *step, arch, LADDER.index(step), _words(requires), mentions, offers, text))
     for number, (epoch, version, release) in enumerate(LADDER[:5]):
         for name in CORES:
             own = f"core = {version}-{release}"
@@ -207,7 +211,7 @@ def packages() -> List[Package]:
                 requires=(own,) if name != "core" else (),
                 files={f"/boot/{name}-{version}-{release}": version},
             )
-            made.append(Package(name, epoch, version, release, NATIVE, number, ("core",) if name != "core" else (), (), text))
+            made.append(Package(name, epoch, version, release, NATIVE, number, ("core",) if name != "core" else (), (), (), text))
     return made
 
 

@@ -1,12 +1,17 @@
 # SPDX-License-Identifier: GPL-2.0-or-later
-"""The differences that are meant: one table. Whatever no rule explains is a fault."""
+"""The differences that are meant: one table. Whatever no rule explains is a fault.
+
+A rule never says that something may differ. It says what the helper package is to do instead: the same as the command
+line does when it is asked in another way, or what the rule's own function looks at in full.
+"""
 
 from __future__ import annotations
 
-from typing import Callable, Dict, List, NamedTuple
+import fnmatch
+from typing import Callable, Dict, List, NamedTuple, Optional, Tuple
 
 from case import Case
-from sides import Applied, Ran
+from sides import Applied, Asked, Ran
 from state import State
 
 
@@ -26,32 +31,74 @@ class Outcome(NamedTuple):
 class Rule(NamedTuple):
     name: str
     reason: str
-    explains: Callable[[Outcome], bool]
-    """Whether all differences of this case are the rule's."""
+    concerns: Callable[[Outcome], bool]
+    """Whether the case is one of those that the rule speaks of."""
+    ask: Optional[Callable[[Asked], Asked]] = None
+    """How else the command line is asked then; without it, all that differs is explained by `concerns`."""
 
 
-def _untouched(outcome: Outcome) -> bool:
-    return outcome.ours == outcome.before
+def _marks_updates(outcome: Outcome) -> bool:
+    return bool(outcome.applied.wish.updates)
 
 
-def _gives_way(outcome: Outcome) -> bool:
-    if not (outcome.applied.wish.updates and outcome.applied.refused and _untouched(outcome)):
-        return False
-    rows = {row.name: row for row in outcome.applied.read.rows}
-    marked = [rows[name].newer for name in outcome.applied.wish.updates]
-    return outcome.ran.status == 0 and any(package not in outcome.theirs["packages"] for package in marked)
+def _removes_excluded(outcome: Outcome) -> bool:
+    patterns = outcome.case.main.get("excludepkgs", "").split()
+    return any(fnmatch.fnmatchcase(name, pattern) for name in outcome.applied.wish.removes for pattern in patterns)
+
+
+def _late_scriptlet_failed(outcome: Outcome) -> bool:
+    """Everything is as it should be, but for what a scriptlet has to say."""
+    told = "Error in POSTIN scriptlet"
+    return (
+        set(outcome.differences) == {"outcome"}
+        and outcome.ran.status == 0
+        and told in outcome.ran.words
+        and told in outcome.applied.refused
+    )
 
 
 RULES = (
     Rule(
-        "a marked update is never left out in silence",
-        '"dnf upgrade" leaves out an update whose dependencies cannot be met, says so in passing and succeeds; who '
-        "marked it here is told that it cannot be had, and nothing is changed.",
-        _gives_way,
+        "a scriptlet that fails behind an installation is told as a failure",
+        "dnf writes a line about it and succeeds; the package is in, but may not work, which nobody is to find out by "
+        "chance.",
+        _late_scriptlet_failed,
+    ),
+    Rule(
+        "a marked update is insisted upon",
+        '"dnf upgrade" of a version leaves it out where anything is in the way, says so in passing, and may even update '
+        'to another version; it shuns some that can be had. "dnf install" of the same version takes it or says why not.',
+        _marks_updates,
+        lambda asked: asked._replace(insisting=True),
+    ),
+    Rule(
+        "an excluded package can be removed",
+        "What excludepkgs names can't be removed by dnf, which acts as if it weren't installed. The table shows it, and "
+        "it can be removed like any other.",
+        _removes_excluded,
+        lambda asked: asked._replace(options=(*asked.options, "--disableexcludes=main")),
     ),
 )
 
 
-def explanation(outcome: Outcome) -> str:
-    """The name of the rule that explains the differences of a case; empty for none."""
-    return next((rule.name for rule in RULES if rule.explains(outcome)), "")
+def explanation(outcome: Outcome, again: Callable[[Asked], Outcome]) -> Tuple[str, Outcome]:
+    """The names of the rules that explain the differences of a case, empty where something is left; and the outcome
+    that comes nearest. `again` has the command line carry out the wish once more, asked otherwise."""
+    asked = Asked()
+    names: List[str] = []
+    for rule in RULES:
+        if rule.ask is not None and rule.concerns(outcome):
+            names.append(rule.name)
+            asked = rule.ask(asked)
+            outcome_again = again(asked)
+            if not outcome_again.differences:
+                return " + ".join(names), outcome_again
+            direct = _direct(outcome_again)
+            if direct:
+                return " + ".join([*names, direct]), outcome_again
+    direct = _direct(outcome)
+    return direct, outcome
+
+
+def _direct(outcome: Outcome) -> str:
+    return next((rule.name for rule in RULES if rule.ask is None and rule.concerns(outcome)), "")

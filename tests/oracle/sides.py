@@ -13,7 +13,7 @@ import signal
 import sys
 import traceback
 from pathlib import Path
-from typing import Any, Callable, Dict, List, NamedTuple, Optional, Sequence
+from typing import Any, Callable, Dict, List, NamedTuple, Optional, Sequence, Tuple
 
 import dnf
 import dnf.cli.main
@@ -212,19 +212,28 @@ def _main(words: List[str]) -> int:
         return int(end.code or 0)
 
 
-def carry_out(case: Case, applied: Applied, root: Path, said: Path) -> Ran:
+class Asked(NamedTuple):
+    """How a wish is put to the command line."""
+
+    insisting: bool = False
+    """Updates by "install", which takes a version or fails, and not by "upgrade"."""
+    options: Tuple[str, ...] = ()
+
+
+def carry_out(applied: Applied, root: Path, said: Path, asked: Asked) -> Ran:
     """The same wish on the command line."""
     rows = {row.name: row for row in applied.read.rows}
     wish = applied.wish
+    # What replaces a package of another name is no newer version of anything, so that nothing could be upgraded to it.
+    upgrades = [name for name in wish.updates if rows[name].there and not asked.insisting]
+    installs = [name for name in (*wish.installs, *wish.updates) if name not in upgrades]
     lines = {
         "remove": [rows[name].there for name in wish.removes],
-        "install": [rows[name].newer for name in wish.installs]
-        + [rows[name].newer for name in wish.updates if not rows[name].there],
-        "upgrade": [rows[name].newer for name in wish.updates if rows[name].there],
+        "install": [rows[name].newer for name in installs],
+        "upgrade": [rows[name].newer for name in upgrades],
     }
     commands = [[command, *packages] for command, packages in lines.items() if packages]
     if len(commands) == 1:
-        return command_line(commands[0], root, said)
+        return command_line([*asked.options, *commands[0]], root, said)
     # Without "run": the shell runs what is marked at the end of its script, too, and tells by its status how it went.
-    return command_line([], root, said, [" ".join(command) for command in commands])
-
+    return command_line(asked.options, root, said, [" ".join(command) for command in commands])
