@@ -13,21 +13,12 @@ from typing import Any, Callable, ContextManager, Iterator, Tuple
 
 import pytest
 from catalogue import Catalogue
+from failing import fail_with, fails, in_work
 from fake_host import FakeHost
 from program import Program
 from rpmestate import Estate
 
 # Failures before anything is done ---------------------------------------------------------------------
-
-
-def fails(program: Program, apply: Any, *words: str) -> str:
-    with pytest.raises(program.errors.YumBaseError) as caught:
-        apply()
-    text = str(caught.value)
-    assert caught.value.value == text
-    for word in words:
-        assert word in text, text
-    return text
 
 
 def test_unsolvable_dependencies_are_told_in_dnfs_words(
@@ -86,27 +77,6 @@ def test_vanished_rpm_file_is_named(
     (rpm,) = directory.glob("*.rpm")
     rpm.unlink()
     fails(program, lambda: found.yumio.apply([found.offered("lone")], [], []), "lone-1.0-1.noarch", str(rpm))
-
-
-def in_work(in_child: Callable[[str], None], line: str) -> None:
-    """Changes a step of the work; the module wants the host's, which the process itself makes later."""
-    in_child(
-        f"""
-import os, sys
-from vemyum.apply import child
-do = child._work
-def changed(parent):
-    from vemyum.apply import work
-    import dnf.db.history
-    {line}
-    return do(parent)
-child._work = changed
-"""
-    )
-
-
-def fail_with(error: str) -> str:
-    return f"def fail(*_): raise {error}"
 
 
 def test_rpm_file_that_vanishes_late_is_named(
@@ -285,7 +255,7 @@ def test_failing_pre_scriptlet_is_an_error_and_the_others_go_in(
 
 
 @pytest.fixture
-def german_rpm(tmp_path: Path, monkeypatch: pytest.MonkeyPatch, in_child: Callable[[str], None]) -> Iterator[None]:
+def german_rpm(tmp_path: Path, in_child: Callable[[str], None]) -> Iterator[None]:
     """rpm begins its lines in German; dnf and the helper script speak English."""
     folder = tmp_path / "locale/de/LC_MESSAGES"
     folder.mkdir(parents=True)
@@ -294,14 +264,16 @@ def german_rpm(tmp_path: Path, monkeypatch: pytest.MonkeyPatch, in_child: Callab
     # A locale that is somebody's: in C.UTF-8, the one that every system has, later releases of glibc translate nothing.
     made = ["localedef", "--no-archive", "--inputfile=de_DE", "--charmap=UTF-8", tmp_path / "de_DE.UTF-8"]
     subprocess.run(made, check=True)
-    monkeypatch.setenv("LANGUAGE", "de")
-    monkeypatch.setenv("LOCPATH", str(tmp_path))
-    monkeypatch.setenv("LC_ALL", "de_DE.UTF-8")
     in_child(f"import locale; locale.bindtextdomain('rpm', {str(tmp_path / 'locale')!r})")
     before = locale.setlocale(locale.LC_ALL)
-    yield
-    # Libraries follow the environment.
-    locale.setlocale(locale.LC_ALL, before)
+    with pytest.MonkeyPatch.context() as environment:
+        environment.setenv("LANGUAGE", "de")
+        environment.setenv("LOCPATH", str(tmp_path))
+        environment.setenv("LC_ALL", "de_DE.UTF-8")
+        yield
+    # The C library keeps what it has translated until the locale changes.
+    for name in ("C", "C.UTF-8", before):
+        locale.setlocale(locale.LC_ALL, name)
 
 
 def test_rpms_words_about_a_failure_are_told_in_any_language(
@@ -341,24 +313,6 @@ def test_failing_preun_scriptlet_is_an_error(
         "staying",
     )
     assert estate.installed() == {"badpreun-1.0-1.noarch"}
-
-
-def test_book_keeping_that_fails_behind_the_transaction_tells_of_the_refresh(
-    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost, in_child: Callable[[str], None]
-) -> None:
-    estate.repository("base", rpms.some("lone-1.0"))
-    found = program.collect()
-    in_work(
-        in_child,
-        fail_with("RuntimeError('database or disk is full')") + "\n    dnf.db.history.SwdbInterface.end = fail",
-    )
-    fails(
-        program,
-        lambda: found.yumio.apply([found.offered("lone")], [], []),
-        "database or disk is full",
-        "refresh the list",
-    )
-    assert estate.installed() == {"lone-1.0-1.noarch"}
 
 
 def test_failure_that_changes_nothing_asks_for_no_refresh(

@@ -26,6 +26,12 @@ GroupsError = dnf.exceptions.CompsError
 REFRESH = _("A part of the transaction may have been done: please refresh the list of packages.")
 """Ends the text of a failure behind which the table may no longer be right."""
 
+ALL_DONE = _(
+    "The packages have been changed as asked, and only what comes after that has failed: please refresh the list of "
+    "packages."
+)
+"""Ends the text of a failure behind a transaction that has done all it was to do."""
+
 LIBRARY_ERRORS = (
     dnf.exceptions.Error,
     hawkey.Exception,

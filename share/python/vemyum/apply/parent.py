@@ -15,7 +15,7 @@ from typing import Any, Optional, Sequence
 import hawkey
 
 from .. import host, processes
-from ..errors import REFRESH, LockError, YumBaseError
+from ..errors import ALL_DONE, REFRESH, LockError, YumBaseError
 from ..lists import Collector
 from ..lock import LOCK
 from ..root import managed_root
@@ -68,7 +68,10 @@ class Apply:
         if ended.installed >= 0:
             Collector.expect_installed(root, ended.installed)
         if ended.outcome == messages.DONE:
-            host.post_transaction_output(self)
+            try:
+                host.post_transaction_output(self)
+            except Exception as error:  # noqa: BLE001 - whatever it is, the packages have been changed
+                raise YumBaseError(f"{error}\n{ALL_DONE}") from error
         elif ended.outcome == messages.FAILED:
             raise YumBaseError(ended.text)
         elif ended.outcome == messages.BROKEN_PIPE:

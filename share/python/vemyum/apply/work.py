@@ -8,7 +8,7 @@ confirmation then leaves nothing behind but a Base to close.
 from __future__ import annotations
 
 import contextlib
-from typing import Any, Callable, Dict, List, Set
+from typing import Any, Callable, Dict, Iterator, List, Optional, Set
 
 import dnf.conf
 import dnf.repo
@@ -22,14 +22,13 @@ from ..base import Base
 from ..database import point_rpm_at, require_sound, unlisted
 from ..display import Display
 from ..download import download, not_in_cache
-from ..errors import REFRESH, YumBaseError, reported_as
+from ..errors import ALL_DONE, REFRESH, YumBaseError, reported_as
 from ..history import usable_history
 from ..signatures import check_signatures
 from ..surroundings import load_needed_later
 from ..texts import _
 from .messages import Change, Plan, Request
 from .plan import NOT_INSTALLED, enabled_streams, is_doubled, mark, solve
-
 
 _ONLY_TESTED = _(
     "This was only a test: tsflags=test is set in the configuration. The transaction has been checked and would work; "
@@ -45,13 +44,15 @@ class Work:
         self._request = request
         conf.comment = "; ".join(filter(None, (conf.comment, request.comment)))
         self.installed = -1
+        self._done = False
+        """Whether the packages have been changed, all of them as they were to be."""
 
     def do(self, agreed: Callable[[Plan], bool], begins: Callable[[List[Change]], None]) -> bool:
         """Everything, or nothing where the plan isn't agreed to; tells which.
 
         `begins` is called when rpm begins to change the system. Raises YumBaseError, other dnf errors, OSError.
         """
-        with usable_history(self._conf), contextlib.closing(self._loaded()) as base:
+        with self._telling_what_is_done(), usable_history(self._conf), _closing(self._loaded()) as base:
             self._require_sound(base)
             host.solver_check()
             changes = solve(base, mark(base, self._request.incoming, self._request.removes))
@@ -89,6 +90,17 @@ class Work:
             on_failure.pop_all()
             return base
 
+    @contextlib.contextmanager
+    def _telling_what_is_done(self) -> Iterator[None]:
+        """Lets a failure behind a transaction that went well say so."""
+        try:
+            with reported_as(YumBaseError):
+                yield
+        except (YumBaseError, BrokenPipeError) as error:
+            if not self._done:
+                raise
+            raise YumBaseError(f"{error}\n{ALL_DONE}") from error
+
     def _require_sound(self, base: Base) -> None:
         """Nothing is built on a database that has been damaged since the table was filled."""
         packages = base.sack.query(flags=hawkey.IGNORE_EXCLUDES).installed()
@@ -102,26 +114,38 @@ class Work:
         before = self._present(root)
         _require_installed(base, before)
         host.transaction_init(False)
+        # A full disk can also stop dnf's book-keeping when all packages are in, and the look at them then.
+        failures: List[str] = []
+        present: Optional[Dict[str, Set[str]]] = None
         try:
             with reported_as(YumBaseError):
                 base.do_transaction([display])
+        except (YumBaseError, BrokenPipeError) as error:
+            failures.append(str(error))
+        try:
+            with reported_as(YumBaseError):
+                point_rpm_at(root)
+                present = self._present(root)
         except YumBaseError as error:
-            point_rpm_at(root)
-            said = [str(error), *(line for line in display.faults + display.rpm_said if line not in str(error))]
-            if self._present(root) != before:
-                # A full disk can also stop dnf's book-keeping when all packages are in.
-                said.append(REFRESH)
-            raise YumBaseError("\n".join(said)) from error
-        point_rpm_at(root)
+            failures.append(str(error))
+        heard = list(dict.fromkeys(display.faults + display.rpm_said))
+        if failures or present is None:
+            told = "\n".join(failures)
+            lines = [*failures, *(line for line in heard if line not in told)]
+            if present is None:
+                lines.append(REFRESH)
+            elif present != before:
+                wrong = _not_as_asked(base, present)
+                lines += [*wrong, REFRESH if wrong or display.faults else ALL_DONE]
+            raise YumBaseError("\n".join(lines))
         if "test" in base.conf.tsflags:
             # The library has come back as if all were done.
             raise YumBaseError(_ONLY_TESTED)
-        wrong = _not_as_asked(base, self._present(root))
-        if not wrong and not display.faults:
-            return
-        lines = [_("Not everything went as it should:")]
-        lines += [f"  {line}" for line in (*wrong, *dict.fromkeys(display.faults + display.rpm_said))]
-        raise YumBaseError("\n".join([*lines, REFRESH]))
+        wrong = _not_as_asked(base, present)
+        if wrong or display.faults:
+            lines = [_("Not everything went as it should:"), *(f"  {line}" for line in (*wrong, *heard))]
+            raise YumBaseError("\n".join([*lines, REFRESH]))
+        self._done = True
 
     def _present(self, root: str) -> Dict[str, Set[str]]:
         """The installed packages, by name, as the rpm database tells them."""
@@ -138,6 +162,20 @@ class Work:
             transaction.closeDB()
         self.installed = count if unlisted(root, present.keys()) is None else -1
         return present
+
+
+@contextlib.contextmanager
+def _closing(base: Base) -> Iterator[Base]:
+    """Closes the Base behind the block. Its failure is not to hide one of the block."""
+    try:
+        yield base
+    except BaseException:
+        try:
+            base.close()
+        except Exception as error:  # noqa: BLE001 - told beside the other one
+            host.errorlog(host.LEVEL_NOTICE, str(error))
+        raise
+    base.close()
 
 
 def _require_installed(base: Base, present: Dict[str, Set[str]]) -> None:
