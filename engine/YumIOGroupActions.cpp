@@ -116,7 +116,8 @@ bool YumIO::applyGrpRemove(Package::Entry const* group)
             }
             break;
         case Package::None:
-            if (entry->state != Package::Available) {
+            // What would go in in the place of others isn't there to be removed.
+            if (entry->state != Package::Available && !entry->replacesOthers()) {
                 entry->applyAction = Package::Remove;
                 applyGrpLog(group, entry);
             }

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void suitesAreNotExpanded();
     void earlierGroupCountsForTheNext();
     void sharedPackageOfInstalledAndRemovedGroups();
+    void removedGroupLeavesOutWhatWouldReplaceOthers();
 
     void conflictIsAskedWithThreeButtons_data();
     void conflictIsAskedWithThreeButtons();
@@ -221,6 +222,19 @@ void TestYumIOGroupActions::sharedPackageOfInstalledAndRemovedGroups()
                             "so the package would be marked for Install,\n"
                             "but it was marked individually for Install.\nHow do you wish to proceed?",
                             {"Install", "Install", "Cancel"}}}));
+}
+
+void TestYumIOGroupActions::removedGroupLeavesOutWhatWouldReplaceOthers()
+{
+    SCRIPT("standin.replacing('dogwood', 'cedar')");
+    collectGroups("Grove=['alder', 'dogwood']");
+    group("Grove")->action = Package::Remove;
+    QVERIFY(resolve());
+    QCOMPARE(package("alder")->applyAction, Package::Remove);
+    QCOMPARE(package("dogwood")->applyAction, Package::None);
+    group("Grove")->action = Package::Update;
+    QVERIFY(resolve());
+    QCOMPARE(package("dogwood")->applyAction, Package::Update);
 }
 
 void TestYumIOGroupActions::conflictIsAskedWithThreeButtons_data()
