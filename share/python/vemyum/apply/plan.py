@@ -158,7 +158,7 @@ def _resolve_both(base: Base, marks: Marks) -> bool:
     _protect(base)
     for package in going:
         if _pkgtup(package) in dependent:
-            base._goal.erase(package)
+            base._goal.erase(package, clean_deps=base.conf.clean_requirements_on_remove)
     return bool(base.resolve(allow_erasing=False))
 
 
