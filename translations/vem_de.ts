@@ -764,6 +764,16 @@ Installed in more than one version: %1</source>
         <translation>
 In mehr als einer Version installiert: %1</translation>
     </message>
+    <message>
+        <source>Package is available to replace %1</source>
+        <translation>Das Paket ist als Ersatz für %1 verfügbar</translation>
+    </message>
+    <message>
+        <source>Replaces: %1
+</source>
+        <translation>Ersetzt: %1
+</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::OtherContextMenu</name>

@@ -764,6 +764,16 @@ Installed in more than one version: %1</source>
         <translation>
 Instalado en más de una versión: %1</translation>
     </message>
+    <message>
+        <source>Package is available to replace %1</source>
+        <translation>El paquete está disponible para reemplazar a %1</translation>
+    </message>
+    <message>
+        <source>Replaces: %1
+</source>
+        <translation>Reemplaza: %1
+</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::OtherContextMenu</name>

@@ -764,6 +764,16 @@ Installed in more than one version: %1</source>
         <translation>
 Installé en plusieurs versions&#xa0;: %1</translation>
     </message>
+    <message>
+        <source>Package is available to replace %1</source>
+        <translation>Le paquet est disponible pour remplacer %1</translation>
+    </message>
+    <message>
+        <source>Replaces: %1
+</source>
+        <translation>Remplace&#xa0;: %1
+</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::OtherContextMenu</name>

@@ -764,6 +764,16 @@ Installed in more than one version: %1</source>
         <translation>
 複数のバージョンがインストールされています: %1</translation>
     </message>
+    <message>
+        <source>Package is available to replace %1</source>
+        <translation>%1 を置き換えるパッケージです</translation>
+    </message>
+    <message>
+        <source>Replaces: %1
+</source>
+        <translation>置き換え対象: %1
+</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::OtherContextMenu</name>

@@ -764,6 +764,16 @@ Installed in more than one version: %1</source>
         <translation>
 安装了多个版本：%1</translation>
     </message>
+    <message>
+        <source>Package is available to replace %1</source>
+        <translation>软件包可用于替换 %1</translation>
+    </message>
+    <message>
+        <source>Replaces: %1
+</source>
+        <translation>替换：%1
+</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::OtherContextMenu</name>
