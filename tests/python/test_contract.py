@@ -115,7 +115,7 @@ NAMES = [
 
 PACKAGE_FIELDS = (
     "arch baseurl buildtime changelogs conflicts description epoch evr files group license location name "
-    "obsoletes packager provides release reponame requires size sourcerpm summary url vendor version evr_cmp"
+    "obsoletes packager provides release reponame requires size sourcerpm summary url vendor version evr_cmp evr_gt"
 ).split()
 
 BASE_METHODS = {
@@ -172,7 +172,8 @@ def test_repository_option_exists(name: str) -> None:
 
 @pytest.mark.parametrize(
     "name",
-    "cachedir deltarpm exit_on_lock installroot logdir obsoletes persistdir reposdir varsdir".split(),
+    "allow_vendor_change cachedir deltarpm exit_on_lock installroot logdir obsoletes persistdir reposdir tsflags "
+    "varsdir".split(),
 )
 def test_main_option_exists(name: str) -> None:
     assert dnf.conf.Conf()._has_option(name)
@@ -195,12 +196,13 @@ def test_download_progress_is_called_by_these_names() -> None:
     assert list(inspect.signature(progress.end).parameters) == ["self", "payload", "status", "msg"]
 
 
-def test_filters_by_priority_exist() -> None:
+def test_filters_exist() -> None:
     sack = hawkey.Sack()
     query = hawkey.Query(sack)
-    for name in ("latest_per_arch_by_priority", "upgrades_by_priority", "latest_per_arch"):
+    for name in ("latest_per_arch_by_priority", "upgrades_by_priority", "upgrades", "latest_per_arch"):
         assert list(query.filter(**{name: True})) == []
-    assert list(query.filter(obsoletes_by_priority=query)) == []
+    for name in ("obsoletes_by_priority", "obsoletes", "pkg", "pkg__neq"):
+        assert list(query.filter(**{name: query})) == []
 
 
 def test_loggers_are_named_so() -> None:

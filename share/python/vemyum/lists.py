@@ -99,7 +99,7 @@ class Collector:
     def _changeable(self, query: hawkey.Query) -> hawkey.Query:
         """The query without the updates that the solver refuses, since a vendor may not change. dnf's query for
         updates doesn't ask for that."""
-        if getattr(self._base.conf, "allow_vendor_change", True):
+        if self._base.conf.allow_vendor_change:
             return query
         installed, by_name = self._installed()
         refused = [
