@@ -85,6 +85,8 @@ def vendors_estate(estate: Estate) -> None:
         made("oldtorch", "1", "Works"),
         made("left", "1", "Works"),
         made("right", "1", "Yard"),
+        made("wick", "1", "Works"),
+        made("tinder", "1", "Yard"),
     ]
     offered = [
         made("same", "2", "Works"),
@@ -98,6 +100,7 @@ def vendors_estate(estate: Estate) -> None:
         made("newlamp", "1", "Yard", obsoletes=("oldlamp",)),
         made("newtorch", "1", "Works", obsoletes=("oldtorch",)),
         made("whole", "1", "Works", obsoletes=("left", "right")),
+        made("wick", "2", "Works", obsoletes=("tinder",)),
     ]
     estate.install(estate.build(installed))
     estate.repository("base", estate.build(offered))
@@ -108,7 +111,7 @@ ALL_VENDORS = ["both-3", "core-2", "neither-2", "newlamp-1", "newtorch-1", "othe
 
 @pytest.mark.parametrize(
     "allowed, updates",
-    [("1", [*ALL_VENDORS, "whole-1"]), ("0", ["both-2", "neither-2", "newtorch-1", "same-2"])],
+    [("1", [*ALL_VENDORS, "whole-1", "wick-2"]), ("0", ["both-2", "neither-2", "newtorch-1", "same-2"])],
 )
 def test_update_of_a_vendor_that_the_solver_refuses_is_not_offered(
     estate: Estate, program: Program, allowed: str, updates: List[str]
