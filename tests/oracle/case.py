@@ -8,7 +8,7 @@ from pathlib import Path
 from typing import Dict, List, NamedTuple, Optional, Sequence, Set, Tuple
 
 from dice import Dice
-from pool import CORES, Entry, NAMES, Package, Pool, SECOND, write_repository
+from pool import CORES, NAMES, SECOND, Entry, Package, Pool, write_repository
 
 FEATURES = {
     # The helper package loads no plugin yet.
@@ -149,7 +149,8 @@ class Case:
         return found
 
     def _some_names(self, dice: Dice) -> str:
-        return " ".join(name if dice.chance(0.7) else f"{name[:3]}*" for name in dice.some(self.names, dice.between(1, 2)))
+        names = dice.some(self.names, dice.between(1, 2))
+        return " ".join(name if dice.chance(0.7) else f"{name[:3]}*" for name in names)
 
     def _main(self, dice: Dice) -> Dict[str, str]:
         main = {
@@ -195,8 +196,9 @@ class Case:
         """Groups by their id: pairs of a name and its kind."""
         if not dice.chance(0.25):
             return {}
+        kinds = ("mandatory", "default", "optional")
         return {
-            id: [(name, dice.one(("mandatory", "default", "optional"))) for name in dice.some(self.names, dice.between(1, 4))]
+            id: [(name, dice.one(kinds)) for name in dice.some(self.names, dice.between(1, 4))]
             for id in ("tools", "games")[: dice.between(1, 2)]
         }
 

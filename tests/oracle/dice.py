@@ -10,7 +10,7 @@ T = TypeVar("T")
 
 
 class Dice:
-    """Rests on `random.random` alone, whose numbers no version of Python changes, unlike those of `choice` or `sample`."""
+    """Rests on `random.random` alone: no version of Python changes its numbers, as it may those of `choice`."""
 
     def __init__(self, seed: str) -> None:
         self._random = random.Random(seed)

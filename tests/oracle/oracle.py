@@ -14,8 +14,8 @@ import reading
 from case import Case
 from pool import Pool
 from rpmestate import Estate
-from rules import Outcome, explanation
-from sides import Applied, Asked, Ran, begin, carry_out, helper_package, in_process
+from rules import Outcome, explanation, unexplained
+from sides import Applied, Asked, Ran, begin, carry_out, command_line, helper_package, in_process
 from state import State, differences, state_of
 
 
@@ -35,14 +35,18 @@ def judge(seed: int, pool: Pool, directory: Path) -> Verdict:
     """Everything about a case happens below the directory, which is empty or missing."""
     case = Case(seed, pool)
     before, root = _image(case, directory)
-    ours, theirs = directory / "vem/root", directory / "dnf/root"
-    for place in (ours, theirs):
-        place.parent.mkdir()
-        shutil.copytree(root, place, symlinks=True)
+    ours, theirs = (_copy(root, directory / side / "root") for side in ("vem", "dnf"))
     home = directory / "home"
     home.mkdir()
     applied: Applied = in_process(lambda: helper_package(case, ours, home), directory / "vem.log")
     lines = reading.differences(case, applied.read, before["packages"], reading.told(theirs, directory / "list.log"))
+
+    def can_be_had(package: str) -> bool:
+        place = _copy(root, directory / "asked/root")
+        command_line(["install", package], place, directory / "asked.log")
+        return package in state_of(place)["packages"]
+
+    lines, reading_rules = unexplained(case, before, lines, can_be_had)
     found: Dict[str, List[str]] = {"reading": lines} if lines else {}
     kind = "/".join(name for name in ("installs", "updates", "removes") if getattr(applied.wish, name)) or "nothing"
     rules = ""
@@ -51,9 +55,7 @@ def judge(seed: int, pool: Pool, directory: Path) -> Verdict:
         outcome = _compare(case, applied, ran, before, state_of(ours), state_of(theirs))
 
         def again(asked: Asked) -> Outcome:
-            place = directory / "again/root"
-            shutil.rmtree(place, ignore_errors=True)
-            shutil.copytree(root, place, symlinks=True)
+            place = _copy(root, directory / "again/root")
             ran = carry_out(applied, place, directory / "dnf.log", asked)
             return _compare(case, applied, ran, before, outcome.ours, state_of(place))
 
@@ -64,9 +66,16 @@ def judge(seed: int, pool: Pool, directory: Path) -> Verdict:
             kind += " DIFFERS"
         else:
             kind += " refused" if applied.refused else " done"
+    rules = " + ".join([*filter(None, [rules]), *sorted(reading_rules)])
     if not found:
         return Verdict(seed, "", rules, kind, applied.refused)
     return Verdict(seed, _told(case, applied, found, directory), rules, kind)
+
+
+def _copy(root: Path, place: Path) -> Path:
+    shutil.rmtree(place, ignore_errors=True)
+    shutil.copytree(root, place, symlinks=True)
+    return place
 
 
 def _image(case: Case, directory: Path) -> Tuple[State, Path]:

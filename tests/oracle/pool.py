@@ -8,7 +8,6 @@ signed, together with its part of a repository's metadata.
 
 from __future__ import annotations
 
-import contextlib
 import fcntl
 import gzip
 import hashlib
@@ -19,7 +18,7 @@ import shutil
 import tempfile
 from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
-from typing import Dict, Iterator, List, NamedTuple, Optional, Sequence, Tuple
+from typing import Dict, List, NamedTuple, Optional, Sequence, Tuple
 
 from dice import Dice
 from keys import Key
@@ -28,9 +27,9 @@ from rpmestate import BUILD_JOBS, Estate, run, spec
 NATIVE, SECOND = "x86_64", "i686"
 
 NAMES = (
-    "acorn amber anchor apron basin beacon birch brook cabin candle cedar cinder clover copper coral crane dapple ember "
-    "fable fennel ferry flint garnet harbor hazel heron island juniper kettle ladder lantern maple meadow nettle orchid "
-    "pebble quarry raven saddle thistle"
+    "acorn amber anchor apron basin beacon birch brook cabin candle cedar cinder clover copper coral crane dapple "
+    "ember fable fennel ferry flint garnet harbor hazel heron island juniper kettle ladder lantern maple meadow nettle "
+    "orchid pebble quarry raven saddle thistle"
 ).split()
 CORES = ("core", "core-parts")
 """Packages of which several versions are installed side by side; the second one needs the first's own version."""
@@ -63,6 +62,7 @@ class Package(NamedTuple):
     release: str
     arch: str
     step: int
+    vendor: str
     needs: Tuple[str, ...]
     mentions: Tuple[str, ...]
     provides: Tuple[str, ...]
@@ -110,9 +110,9 @@ class _Relations:
 
     def rich(self, conditions: bool = True) -> str:
         """Without conditions it can stand where the other package is the one that asks."""
-        plain = ("({0} or {1})", "({0} and {1})", "({3} and {1})")
-        shape = self._dice.one(plain[:2] + ("({0} if {1})", "({0} if {1} else {2})", "({3} if {1})") if conditions else plain)
-        return shape.format(self.name(), self.name(), self.name(), self.versioned((">=",)))
+        shapes = ["({0} or {1})", "({0} and {1})"]
+        shapes += ["({0} if {1})", "({0} if {1} else {2})", "({3} if {1})"] if conditions else ["({3} and {1})"]
+        return self._dice.one(shapes).format(self.name(), self.name(), self.name(), self.versioned((">=",)))
 
     def need(self) -> str:
         kind = self._dice.weighed(("name", "versioned", "ability", "file", "rich"), (45, 25, 12, 5, 13))
@@ -151,68 +151,76 @@ def packages() -> List[Package]:
     for _ in NAMES:
         steps = sorted(dice.some(range(len(LADDER)), dice.weighed((1, 2, 3, 4), (1, 3, 4, 2))))
         ladders.append([LADDER[step] for step in steps])
+    made = [package for at in range(len(NAMES)) for package in _of_name(dice, at, ladders)]
+    return made + [_core(name, step) for step in range(5) for name in CORES]
+
+
+def _of_name(dice: Dice, at: int, ladders: Sequence[Sequence[Tuple[int, str, str]]]) -> List[Package]:
+    """All versions of a name, for all of their architectures."""
+    name, ladder = NAMES[at], ladders[at]
+    architectures = _architectures(dice, len(ladder))
+    relations = _Relations(dice, at, ladders)
+    # The first few need nothing.
+    usual = [relations.need() for _ in range(dice.weighed((0, 1, 2, 3), (25, 40, 25, 10)))] if at > 3 else []
+    abilities = [ABILITIES[at]] if at < len(ABILITIES) else dice.some(ABILITIES, 1) if dice.chance(0.3) else []
     made: List[Package] = []
-    for at, (name, ladder) in enumerate(zip(NAMES, ladders)):
-        architectures = _architectures(dice, len(ladder))
-        relations = _Relations(dice, at, ladders)
-        usual = [relations.need() for _ in range(dice.weighed((0, 1, 2, 3), (25, 40, 25, 10)))] if at > 3 else []
-        abilities = [ABILITIES[at]] if at < len(ABILITIES) else dice.some(ABILITIES, 1) if dice.chance(0.3) else []
-        for number, (step, archs) in enumerate(zip(ladder, architectures)):
-            last = number == len(ladder) - 1
-            requires = [one for one in usual if dice.chance(0.85)]
-            if at > 3 and dice.chance(0.25):
-                requires.append(relations.need())
-            provides = [f"{ability} = {number + 1}" if dice.chance(0.6) else ability for ability in abilities]
-            conflicts = [dice.one((relations.name, relations.versioned))()] if dice.chance(0.07) else []
-            obsoletes: List[str] = []
-            if dice.chance(0.14 if last else 0.03):
-                obsoletes.append(relations.name() if dice.chance(0.4) else relations.versioned(("<", "<=")))
-                if dice.chance(0.5):
-                    provides.append(f"{obsoletes[0].split()[0]} = {step[1]}")
-            tags: Dict[str, str] = {"Vendor": dice.weighed(("North Works", "South Works"), (85, 15))}
-            for tag, probability in (("Recommends", 0.15), ("Suggests", 0.05), ("Supplements", 0.08), ("Enhances", 0.03)):
-                if dice.chance(probability):
-                    conditions = tag in ("Recommends", "Suggests")
-                    tags[tag] = relations.rich(conditions) if dice.chance(0.25) else relations.name()
-            files = {f"/usr/share/{name}/data": f"{name} {step[0]}:{step[1]}-{step[2]}"}
-            if name in RIVALS and last:
-                files["/usr/share/rivals"] = name
-            scriptlets = {}
-            if name in STUMBLING and last:
-                scriptlets[f"{STUMBLING[name]} -p <lua>"] = 'error("stumbled")'
-            for arch in archs:
-                own = {f"/usr/lib/{name}-{arch}": arch} if arch != "noarch" else {}
-                text = spec(
-                    name,
-                    step[1],
-                    step[2],
-                    epoch=step[0] or None,
-                    arch="noarch" if arch == "noarch" else None,
-                    requires=requires,
-                    provides=provides,
-                    conflicts=conflicts,
-                    obsoletes=obsoletes,
-                    files={**files, **own},
-                    scriptlets=scriptlets,
-                    tags=tags,
-                )
-                mentions = _words([*obsoletes, *conflicts, *(tags[tag] for tag in tags if tag != "Vendor")])
-                offers = tuple(word for word in _words(provides) if word in ABILITIES)
-                made.append(Package(name, *step, arch, LADDER.index(step), _words(requires), mentions, offers, text))
-    for number, (epoch, version, release) in enumerate(LADDER[:5]):
-        for name in CORES:
-            own = f"core = {version}-{release}"
+    for number, (step, archs) in enumerate(zip(ladder, architectures)):
+        last = number == len(ladder) - 1
+        requires = [one for one in usual if dice.chance(0.85)]
+        if at > 3 and dice.chance(0.25):
+            requires.append(relations.need())
+        provides = [f"{ability} = {number + 1}" if dice.chance(0.6) else ability for ability in abilities]
+        conflicts = [dice.one((relations.name, relations.versioned))()] if dice.chance(0.07) else []
+        obsoletes: List[str] = []
+        if dice.chance(0.14 if last else 0.03):
+            obsoletes.append(relations.name() if dice.chance(0.4) else relations.versioned(("<", "<=")))
+            if dice.chance(0.5):
+                provides.append(f"{obsoletes[0].split()[0]} = {step[1]}")
+        vendor = dice.weighed(("North Works", "South Works"), (85, 15))
+        weak: Dict[str, str] = {}
+        for tag, chance in (("Recommends", 0.15), ("Suggests", 0.05), ("Supplements", 0.08), ("Enhances", 0.03)):
+            if dice.chance(chance):
+                conditions = tag in ("Recommends", "Suggests")
+                weak[tag] = relations.rich(conditions) if dice.chance(0.25) else relations.name()
+        files = {f"/usr/share/{name}/data": f"{name} {step[0]}:{step[1]}-{step[2]}"}
+        if name in RIVALS and last:
+            files["/usr/share/rivals"] = name
+        scriptlets = {f"{STUMBLING[name]} -p <lua>": 'error("stumbled")'} if name in STUMBLING and last else {}
+        needs, mentions = _words(requires), _words([*obsoletes, *conflicts, *weak.values()])
+        offers = tuple(word for word in _words(provides) if word in ABILITIES)
+        for arch in archs:
             text = spec(
                 name,
-                version,
-                release,
-                arch=None,
-                provides=("installonlypkg(kernel)",),
-                requires=(own,) if name != "core" else (),
-                files={f"/boot/{name}-{version}-{release}": version},
+                step[1],
+                step[2],
+                epoch=step[0] or None,
+                arch="noarch" if arch == "noarch" else None,
+                requires=requires,
+                provides=provides,
+                conflicts=conflicts,
+                obsoletes=obsoletes,
+                files={**files, **({f"/usr/lib/{name}-{arch}": arch} if arch != "noarch" else {})},
+                scriptlets=scriptlets,
+                tags={"Vendor": vendor, **weak},
             )
-            made.append(Package(name, epoch, version, release, NATIVE, number, ("core",) if name != "core" else (), (), (), text))
+            made.append(Package(name, *step, arch, LADDER.index(step), vendor, needs, mentions, offers, text))
     return made
+
+
+def _core(name: str, step: int) -> Package:
+    epoch, version, release = LADDER[step]
+    needs = ("core",) if name != "core" else ()
+    text = spec(
+        name,
+        version,
+        release,
+        arch=None,
+        provides=("installonlypkg(kernel)",),
+        requires=[f"{need} = {version}-{release}" for need in needs],
+        tags={"Vendor": "North Works"},
+        files={f"/boot/{name}-{version}-{release}": version},
+    )
+    return Package(name, epoch, version, release, NATIVE, step, "North Works", needs, (), (), text)
 
 
 class Entry(NamedTuple):
@@ -291,8 +299,9 @@ def _build(directory: Path, scratch: Path) -> None:
 
 
 def _index(directory: Path, folder: Path, found: Sequence[Package]) -> Dict[str, Entry]:
-    run(["createrepo_c", "--quiet", "--simple-md-filenames", "--no-database", folder])
-    texts = {kind: _read(folder / "repodata" / kind) for kind in ("primary", "filelists")}
+    run(["createrepo_c", "--quiet", "--simple-md-filenames", "--no-database", "--general-compress-type=gz", folder])
+    files = {kind: folder / f"repodata/{kind}.xml.gz" for kind in ("primary", "filelists")}
+    texts = {kind: gzip.decompress(file.read_bytes()).decode("utf-8") for kind, file in files.items()}
     shutil.rmtree(folder / "repodata")
     parts = {kind: re.findall(r"<package .*?</package>", text, re.S) for kind, text in texts.items()}
     lists = {_attribute(part, "pkgid"): part for part in parts["filelists"]}
@@ -312,19 +321,11 @@ def _attribute(text: str, name: str) -> str:
     return match.group(1)
 
 
-def _read(stem: Path) -> str:
-    """A file of the metadata, however this createrepo_c packs it when told nothing."""
-    (path,) = stem.parent.glob(f"{stem.name}.xml*")
-    if path.suffix == ".gz":
-        return gzip.decompress(path.read_bytes()).decode("utf-8")
-    if path.suffix == ".zst":
-        return run(["zstd", "--decompress", "--stdout", path])
-    return path.read_text(encoding="utf-8")
-
-
+_HEAD = '<?xml version="1.0" encoding="UTF-8"?>\n'
+_SPACE = "http://linux.duke.edu/metadata"
 _NAMESPACES = {
-    "primary": ("metadata", 'xmlns="http://linux.duke.edu/metadata/common" xmlns:rpm="http://linux.duke.edu/metadata/rpm"'),
-    "filelists": ("filelists", 'xmlns="http://linux.duke.edu/metadata/filelists"'),
+    "primary": ("metadata", f'xmlns="{_SPACE}/common" xmlns:rpm="{_SPACE}/rpm"'),
+    "filelists": ("filelists", f'xmlns="{_SPACE}/filelists"'),
 }
 
 
@@ -339,7 +340,7 @@ def write_repository(
     contents = {}
     for kind, (root, namespaces) in _NAMESPACES.items():
         parts = "\n".join(getattr(entry, kind) for entry in entries)
-        contents[kind] = f'<?xml version="1.0" encoding="UTF-8"?>\n<{root} {namespaces} packages="{len(entries)}">\n{parts}\n</{root}>\n'
+        contents[kind] = f'{_HEAD}<{root} {namespaces} packages="{len(entries)}">\n{parts}\n</{root}>\n'
     for kind, text in (("group", comps), ("modules", modules)):
         if text is not None:
             contents[kind] = text
@@ -354,10 +355,5 @@ def write_repository(
             f'</open-checksum><location href="repodata/{name}"/><timestamp>1700000000</timestamp>'
             f"<size>{len(raw)}</size><open-size>{len(raw)}</open-size></data>"
         )
-    (data / "repomd.xml").write_text(
-        '<?xml version="1.0" encoding="UTF-8"?>\n<repomd xmlns="http://linux.duke.edu/metadata/repo">'
-        + "<revision>1</revision>"
-        + "\n".join(described)
-        + "</repomd>\n",
-        encoding="utf-8",
-    )
+    repomd = "\n".join([f'<repomd xmlns="{_SPACE}/repo"><revision>1</revision>', *described, "</repomd>", ""])
+    (data / "repomd.xml").write_text(_HEAD + repomd, encoding="utf-8")

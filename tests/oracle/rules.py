@@ -8,7 +8,8 @@ line does when it is asked in another way, or what the rule's own function looks
 from __future__ import annotations
 
 import fnmatch
-from typing import Callable, Dict, List, NamedTuple, Optional, Tuple
+import re
+from typing import Callable, Dict, List, NamedTuple, Optional, Set, Tuple
 
 from case import Case
 from sides import Applied, Asked, Ran
@@ -28,13 +29,19 @@ class Outcome(NamedTuple):
     """By kind: "outcome" and those of the states; lines with - are ours, with + theirs. None of them is empty."""
 
 
+Again = Callable[[Asked], Outcome]
+"""Has the command line carry out the wish once more, asked otherwise."""
+
+
 class Rule(NamedTuple):
     name: str
     reason: str
     concerns: Callable[[Outcome], bool]
     """Whether the case is one of those that the rule speaks of."""
     ask: Optional[Callable[[Asked], Asked]] = None
-    """How else the command line is asked then; without it, all that differs is explained by `concerns`."""
+    """How else the command line is asked then, which leaves no difference."""
+    explains: Optional[Callable[[Outcome, Again], bool]] = None
+    """Without another way to ask: whether the rule explains all that differs."""
 
 
 def _marks_updates(outcome: Outcome) -> bool:
@@ -46,59 +53,143 @@ def _removes_excluded(outcome: Outcome) -> bool:
     return any(fnmatch.fnmatchcase(name, pattern) for name in outcome.applied.wish.removes for pattern in patterns)
 
 
-def _late_scriptlet_failed(outcome: Outcome) -> bool:
-    """Everything is as it should be, but for what a scriptlet has to say."""
-    told = "Error in POSTIN scriptlet"
-    return (
-        set(outcome.differences) == {"outcome"}
-        and outcome.ran.status == 0
-        and told in outcome.ran.words
-        and told in outcome.applied.refused
-    )
+def _scriptlet_failed(outcome: Outcome) -> bool:
+    return _LATE in outcome.ran.words and _LATE in outcome.applied.refused
 
+
+def _only_told(outcome: Outcome, _again: Again) -> bool:
+    return set(outcome.differences) == {"outcome"} and outcome.ran.status == 0
+
+
+def _refuses_mixture(outcome: Outcome) -> bool:
+    wish = outcome.applied.wish
+    mixed = bool(wish.removes) and bool(wish.installs or wish.updates)
+    return mixed and bool(outcome.applied.refused) and outcome.ours == outcome.before and outcome.ran.status == 0
+
+
+def _installs_by_policy(outcome: Outcome) -> bool:
+    wish = outcome.applied.wish
+    return outcome.case.main.get("multilib_policy") == "all" and bool(wish.installs or wish.updates)
+
+
+def _gone(before: State, after: State) -> Set[str]:
+    return _names(before) - _names(after)
+
+
+def _names(state: State) -> Set[str]:
+    """Without versions, but with architectures."""
+    return {re.sub(r"-\d+:.*\.", ".", package) for package in state["packages"]}
+
+
+def _pushed_out(outcome: Outcome, again: Again) -> bool:
+    """Whether the command line has more removed than the marks, and than what goes with them."""
+    removed = again(Asked(removals_only=True))
+    return bool(_gone(outcome.before, outcome.theirs) - _gone(outcome.before, removed.theirs))
+
+
+_LATE = "Error in POSTIN scriptlet"
 
 RULES = (
     Rule(
         "a scriptlet that fails behind an installation is told as a failure",
         "dnf writes a line about it and succeeds; the package is in, but may not work, which nobody is to find out by "
         "chance.",
-        _late_scriptlet_failed,
+        _scriptlet_failed,
+        explains=_only_told,
+    ),
+    Rule(
+        "a mark for removal pushes nothing else out",
+        '"dnf shell" lets whatever is in the way of an installation go as soon as anything at all is to be removed. '
+        "Here a package goes because it is marked, or because it needs one that goes; else the installation is "
+        "refused, as it is without the other mark.",
+        _refuses_mixture,
+        explains=_pushed_out,
     ),
     Rule(
         "a marked update is insisted upon",
-        '"dnf upgrade" of a version leaves it out where anything is in the way, says so in passing, and may even update '
-        'to another version; it shuns some that can be had. "dnf install" of the same version takes it or says why not.',
+        '"dnf upgrade" of a version leaves it out where anything is in the way, says so in passing, and may even '
+        'update to another version; it shuns some that can be had. "dnf install" of the same version takes it, or '
+        "says why not.",
         _marks_updates,
         lambda asked: asked._replace(insisting=True),
     ),
     Rule(
+        "a row is one version for one architecture",
+        'With multilib_policy=all "dnf install" of a version takes a package that replaces it instead where that is '
+        "easier. Here the marked version comes, or nothing.",
+        _installs_by_policy,
+        lambda asked: asked._replace(options=(*asked.options, "--setopt=multilib_policy=best")),
+    ),
+    Rule(
         "an excluded package can be removed",
-        "What excludepkgs names can't be removed by dnf, which acts as if it weren't installed. The table shows it, and "
-        "it can be removed like any other.",
+        "What excludepkgs names can't be removed by dnf, which acts as if it weren't installed. The table shows it, "
+        "and it can be removed like any other.",
         _removes_excluded,
         lambda asked: asked._replace(options=(*asked.options, "--disableexcludes=main")),
     ),
 )
 
 
-def explanation(outcome: Outcome, again: Callable[[Asked], Outcome]) -> Tuple[str, Outcome]:
+def explanation(outcome: Outcome, again: Again) -> Tuple[str, Outcome]:
     """The names of the rules that explain the differences of a case, empty where something is left; and the outcome
-    that comes nearest. `again` has the command line carry out the wish once more, asked otherwise."""
+    that comes nearest."""
     asked = Asked()
     names: List[str] = []
-    for rule in RULES:
-        if rule.ask is not None and rule.concerns(outcome):
-            names.append(rule.name)
-            asked = rule.ask(asked)
-            outcome_again = again(asked)
-            if not outcome_again.differences:
-                return " + ".join(names), outcome_again
-            direct = _direct(outcome_again)
-            if direct:
-                return " + ".join([*names, direct]), outcome_again
-    direct = _direct(outcome)
-    return direct, outcome
+    nearest = outcome
+    while True:
+        for rule in RULES:
+            if rule.explains is not None and rule.concerns(nearest) and rule.explains(nearest, again):
+                return " + ".join([*names, rule.name]), nearest
+        rest = [rule for rule in RULES if rule.ask is not None and rule.name not in names and rule.concerns(outcome)]
+        if not rest:
+            return "", nearest
+        names.append(rest[0].name)
+        asked = rest[0].ask(asked) if rest[0].ask is not None else asked
+        nearest = again(asked)
+        if not nearest.differences:
+            return " + ".join(names), nearest
 
 
-def _direct(outcome: Outcome) -> str:
-    return next((rule.name for rule in RULES if rule.ask is None and rule.concerns(outcome)), "")
+CanBeHad = Callable[[str], bool]
+"""Whether the command line installs this version when it is asked for it."""
+
+
+class ReadingRule(NamedTuple):
+    """A line of what the table leaves out, or shows in addition, that is meant to differ."""
+
+    name: str
+    reason: str
+    explains: Callable[[Case, State, str, CanBeHad], bool]
+    """Whether it explains this line; the state is that of the root."""
+
+
+def _other_vendor(case: Case, there: State, line: str, can_be_had: CanBeHad) -> bool:
+    if case.main.get("allow_vendor_change") != "0" or not line.startswith(("+update ", "+replacing ")):
+        return False
+    package = line.split()[1]
+    vendors = {package.nevra: package.vendor for package in case.pool.packages}
+    others = any(vendors[installed] != vendors[package] for installed in there["packages"])
+    return others and not can_be_had(package)
+
+
+READING_RULES = (
+    ReadingRule(
+        "what the solver must refuse is not offered",
+        'With allow_vendor_change=0, "dnf list" tells updates that come from another vendor, or replace a package of '
+        'another vendor; neither "dnf upgrade" nor "dnf install" takes them.',
+        _other_vendor,
+    ),
+)
+
+
+def unexplained(case: Case, there: State, lines: List[str], can_be_had: CanBeHad) -> Tuple[List[str], Set[str]]:
+    """The lines of a comparison of the table that no rule explains, and the rules that explain the rest."""
+    left: List[str] = []
+    names: Set[str] = set()
+    for line in lines:
+        rule = next((rule for rule in READING_RULES if rule.explains(case, there, line, can_be_had)), None)
+        if rule is None:
+            left.append(line)
+        else:
+            names.add(rule.name)
+    return left, names

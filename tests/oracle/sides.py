@@ -159,7 +159,8 @@ def helper_package(case: Case, root: Path, home: Path, wish: Optional[Wish] = No
     refused = ""
     if wish:
         try:
-            found.yumio.apply(installs, [found.pair(name) for name in updates], [found.there(name) for name in wish.removes])
+            pairs = [found.pair(name) for name in updates]
+            found.yumio.apply(installs, pairs, [found.there(name) for name in wish.removes])
         except program.errors.YumBaseError as error:
             refused = str(error) or "refused"
     for call in fake_host.HOST.named("log", "errorlog", "stdoutWrite", "stderrWrite"):
@@ -218,12 +219,13 @@ class Asked(NamedTuple):
     insisting: bool = False
     """Updates by "install", which takes a version or fails, and not by "upgrade"."""
     options: Tuple[str, ...] = ()
+    removals_only: bool = False
 
 
 def carry_out(applied: Applied, root: Path, said: Path, asked: Asked) -> Ran:
     """The same wish on the command line."""
     rows = {row.name: row for row in applied.read.rows}
-    wish = applied.wish
+    wish = Wish(removes=applied.wish.removes) if asked.removals_only else applied.wish
     # What replaces a package of another name is no newer version of anything, so that nothing could be upgraded to it.
     upgrades = [name for name in wish.updates if rows[name].there and not asked.insisting]
     installs = [name for name in (*wish.installs, *wish.updates) if name not in upgrades]

@@ -31,7 +31,8 @@ def state_of(root: Path) -> State:
                 keys.append(f"{header['version']}-{header['release']}")
                 continue
             present.add((header["name"], header["arch"]))
-            packages.append(f"{header['name']}-{header['epoch'] or 0}:{header['version']}-{header['release']}.{header['arch']}")
+            evr = f"{header['epoch'] or 0}:{header['version']}-{header['release']}"
+            packages.append(f"{header['name']}-{evr}.{header['arch']}")
     finally:
         transaction.closeDB()
     reasons = []
@@ -40,8 +41,8 @@ def state_of(root: Path) -> State:
         for name, arch in sorted(present):
             reason = history.resolveRPMTransactionItemReason(name, arch, -1)
             reasons.append(f"{name}.{arch} {libdnf.transaction.TransactionItemReasonToString(reason)}")
-        history.closeDatabase() if hasattr(history, "closeDatabase") else None
-    modules = [f"{path.name}: {path.read_text(encoding='utf-8')}" for path in (root / "etc/dnf/modules.d").glob("*.module")]
+    streams = (root / "etc/dnf/modules.d").glob("*.module")
+    modules = [f"{path.name}: {path.read_text(encoding='utf-8')}" for path in streams]
     return {
         "packages": sorted(packages),
         "reasons": reasons,
