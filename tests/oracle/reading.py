@@ -24,12 +24,16 @@ Package = Tuple[str, str, str, str, str]
 """Name, epoch, version, release, architecture."""
 
 
-def told(root: Path, said: Path) -> Dict[str, Set[Package]]:
-    """The lists of the command line, by the names of `_SECTIONS`."""
+Lists = Dict[str, Dict[Package, str]]
+"""By the names of `_SECTIONS`: the packages, and from which repository each is."""
+
+
+def told(root: Path, said: Path) -> Lists:
+    """The lists of the command line."""
     # The cache is filled by the first command that needs it; all repositories are directories of this machine.
     script = ["list --installed", "list --upgrades", "list --obsoletes", "list --available"]
     ran = command_line([], root, said, script)
-    lists: Dict[str, Set[Package]] = {name: set() for name in _SECTIONS.values()}
+    lists: Lists = {name: {} for name in _SECTIONS.values()}
     section = ""
     words: List[str] = []
     for line in ran.words.splitlines():
@@ -40,7 +44,7 @@ def told(root: Path, said: Path) -> Dict[str, Set[Package]]:
             continue
         elif len(line.split()) == 3 and section and "." in line.split()[0]:
             words = line.split()
-            lists[section].add(_package(words[0], words[1]))
+            lists[section].setdefault(_package(words[0], words[1]), words[2])
     return lists
 
 
@@ -69,7 +73,7 @@ def _newest(packages: Set[Package]) -> Dict[Tuple[str, str], Package]:
     return newest
 
 
-def differences(case: Case, read: Read, there: List[str], lists: Dict[str, Set[Package]]) -> List[str]:
+def differences(case: Case, read: Read, there: List[str], lists: Lists) -> List[str]:
     """Lines that name what only the helper package (-) or only the command line (+) tells. `there` is what the rpm
     database holds."""
     lines: List[str] = []
@@ -81,12 +85,12 @@ def differences(case: Case, read: Read, there: List[str], lists: Dict[str, Set[P
     installed = set(map(_split, read.installed))
     # The command line hides an installed package that is excluded, as if it weren't there; rpm knows of no excludes.
     hold("installed", installed, set(map(_split, there)))
-    hold("installed", lists["installed"], lists["installed"] & installed)
+    hold("installed", set(lists["installed"]), lists["installed"].keys() & installed)
 
     names = {package[0] for package in installed}
     ours = set(map(_split, read.updates))
     upgrades = {package for package in ours if package[0] in names}
-    hold("update", upgrades, lists["upgrades"])
+    hold("update", upgrades, set(lists["upgrades"]))
     known = names | {package[0] for package in lists["upgrades"]}
     replacing = {package for package in lists["obsoleting"] if package[0] not in known}
     # The command line tells each version that replaces something, the table the newest one.
@@ -100,7 +104,15 @@ def differences(case: Case, read: Read, there: List[str], lists: Dict[str, Set[P
         # `dnf list --available` leaves out what is installed in this version or in a newer one.
         if same is None or rpm.labelCompare(package[1:4], same[1:4]) > 0:
             available.add(package)
-    hold("available", available, lists["available"])
+    hold("available", available, set(lists["available"]))
+    for listed, section in ((read.updates, "upgrades"), (read.available, "available")):
+        repositories: Dict[Package, str] = {}
+        for line in listed:
+            # The engine takes the first of several.
+            repositories.setdefault(_split(line), line.split()[1])
+        for package, theirs in sorted(lists[section].items()):
+            if repositories.get(package, theirs) != theirs:
+                lines += [f"-{section} {_shown(package)} {repositories[package]}", f"+{section} {_shown(package)} {theirs}"]
     return lines
 
 
