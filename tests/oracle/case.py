@@ -4,8 +4,11 @@
 from __future__ import annotations
 
 import dataclasses
+import shutil
 from pathlib import Path
 from typing import Dict, List, NamedTuple, Optional, Sequence, Set, Tuple
+
+import dnf.const
 
 from dice import Dice
 from pool import CORES, NAMES, SECOND, Entry, Package, Pool, write_repository
@@ -17,6 +20,9 @@ FEATURES = {
     "unknown keys": False,
 }
 """What the made-up estates leave out until it is there."""
+
+LOCKING = Path(dnf.const.PLUGINPATH) / "versionlock.py"
+"""The plugin that locks versions; not every system has it."""
 
 MOST, MOST_NAMES = 34, 22
 """Packages in the repositories of an estate, and how many names they have together with what is installed."""
@@ -80,6 +86,9 @@ class Case:
                 if FEATURES["unknown keys"]:
                     repository.options["gpgkey"] = " ".join(pool.key(number).as_uri() for number in (1, 2))
                 repository.options["gpgcheck"] = "1"
+        self.locks = self._locks(Dice(f"locks {seed}")) if FEATURES["versionlock"] and LOCKING.exists() else []
+        self.options: List[str] = []
+        """What the command line has to be told in addition, once the case is written."""
         self._dice = Dice(f"marks {seed}")
 
     # Packages ----------------------------------------------------------------------------------------
@@ -224,6 +233,15 @@ class Case:
         if dice.chance(0.5):
             self.streams = {name: dice.one(("old", "new"))}
 
+    def _locks(self, dice: Dice) -> List[str]:
+        """Lines of the list of locked versions: a name is held at one, or one is never to come."""
+        if not dice.chance(0.15):
+            return []
+        known = [package for package in self.pool.packages if package.name in self.names]
+        locked = dice.some(known, dice.between(1, 3))
+        lines = [f"{one.name}-{one.epoch}:{one.version}-{one.release}.*" for one in locked]
+        return [line if dice.chance(0.75) else f"!{line}" for line in lines]
+
     # What it is on the disk ---------------------------------------------------------------------------
 
     def write(self, directory: Path, root: Path) -> None:
@@ -237,7 +255,21 @@ class Case:
             write_repository(self.pool, place, [entries[one.nevra] for one in repository.packages], comps, modules)
             options = {"name": repository.id, "baseurl": place.as_uri(), **repository.options}
             write_section(root / f"etc/yum.repos.d/{repository.id}.repo", repository.id, options)
-        write_section(root / "etc/dnf/dnf.conf", "main", self.main)
+        main = {**self.main, "plugins": "0"}
+        if self.locks:
+            # Of all that this machine has, the one plugin alone.
+            code, settings, listed = directory / "plugins", directory / "settings", "etc/dnf/plugins/versionlock.list"
+            for folder in (code, settings):
+                folder.mkdir()
+            shutil.copy2(LOCKING, code)
+            main.update(plugins="1", pluginpath=str(code))
+            # The command line looks for both files on this machine, whatever the root.
+            self.options = [f"--setopt=pluginconfpath={settings}"]
+            for folder, place in ((root / "etc/dnf/plugins", Path("/")), (settings, root)):
+                options = {"enabled": "1", "locklist": str(place / listed)}
+                write_section(folder / "versionlock.conf", "main", options)
+            (root / listed).write_text("".join(f"{line}\n" for line in self.locks), encoding="utf-8")
+        write_section(root / "etc/dnf/dnf.conf", "main", main)
         for module, stream in self.streams.items():
             options = {"name": module, "stream": stream, "profiles": "", "state": "enabled"}
             write_section(root / f"etc/dnf/modules.d/{module}.module", module, options)

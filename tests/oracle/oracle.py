@@ -39,11 +39,11 @@ def judge(seed: int, pool: Pool, directory: Path) -> Verdict:
     home = directory / "home"
     home.mkdir()
     applied: Applied = in_process(lambda: helper_package(case, ours, home), directory / "vem.log")
-    lines = reading.differences(case, applied.read, before["packages"], reading.told(theirs, directory / "list.log"))
+    lines = reading.differences(case, applied.read, before["packages"], reading.told(case, theirs, directory / "list.log"))
 
     def can_be_had(package: str) -> bool:
         place = _copy(root, directory / "asked/root")
-        command_line(["install", package], place, directory / "asked.log")
+        command_line(case, ["install", package], place, directory / "asked.log")
         return package in state_of(place)["packages"]
 
     lines, reading_rules = unexplained(case, before, lines, can_be_had)
@@ -51,12 +51,12 @@ def judge(seed: int, pool: Pool, directory: Path) -> Verdict:
     kind = "/".join(name for name in ("installs", "updates", "removes") if getattr(applied.wish, name)) or "nothing"
     rules = ""
     if applied.wish:
-        ran = carry_out(applied, theirs, directory / "dnf.log", Asked())
+        ran = carry_out(case, applied, theirs, directory / "dnf.log", Asked())
         outcome = _compare(case, applied, ran, before, state_of(ours), state_of(theirs))
 
         def again(asked: Asked) -> Outcome:
             place = _copy(root, directory / "again/root")
-            ran = carry_out(applied, place, directory / "dnf.log", asked)
+            ran = carry_out(case, applied, place, directory / "dnf.log", asked)
             return _compare(case, applied, ran, before, outcome.ours, state_of(place))
 
         if outcome.differences:
@@ -120,6 +120,7 @@ def _told(case: Case, applied: Applied, found: Dict[str, List[str]], directory: 
         if getattr(applied.wish, mark):
             lines.append(f"  {mark}: {' '.join(getattr(applied.wish, mark))}")
     lines.append(f"  main: {' '.join(f'{option}={value}' for option, value in case.main.items() if value)}")
+    lines += [f"  locked: {line}" for line in case.locks]
     for repository in case.repositories:
         options = " ".join(f"{option}={value}" for option, value in repository.options.items())
         lines.append(f"  {repository.id}: {options}")

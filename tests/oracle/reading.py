@@ -28,11 +28,11 @@ Lists = Dict[str, Dict[Package, str]]
 """By the names of `_SECTIONS`: the packages, and from which repository each is."""
 
 
-def told(root: Path, said: Path) -> Lists:
+def told(case: Case, root: Path, said: Path) -> Lists:
     """The lists of the command line."""
     # The cache is filled by the first command that needs it; all repositories are directories of this machine.
     script = ["list --installed", "list --upgrades", "list --obsoletes", "list --available"]
-    ran = command_line([], root, said, script)
+    ran = command_line(case, [], root, said, script)
     lists: Lists = {name: {} for name in _SECTIONS.values()}
     section = ""
     words: List[str] = []

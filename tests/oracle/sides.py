@@ -191,10 +191,12 @@ class Ran(NamedTuple):
     """All that was written."""
 
 
-def command_line(arguments: Sequence[str], root: Path, said: Path, script: Sequence[str] = ()) -> Ran:
+def command_line(
+    case: Case, arguments: Sequence[str], root: Path, said: Path, script: Sequence[str] = ()
+) -> Ran:
     """`dnf` with these arguments, on this root, that answers yes to whatever it asks. A script goes to `dnf shell`."""
     # dnf looks below the root for its configuration and for the repositories', once they are there.
-    words = ["--installroot", str(root), "--assumeyes", *arguments]
+    words = ["--installroot", str(root), "--assumeyes", *case.options, *arguments]
     if script:
         path = said.with_suffix(".script")
         path.write_text("".join(f"{line}\n" for line in script), encoding="utf-8")
@@ -222,7 +224,7 @@ class Asked(NamedTuple):
     removals_only: bool = False
 
 
-def carry_out(applied: Applied, root: Path, said: Path, asked: Asked) -> Ran:
+def carry_out(case: Case, applied: Applied, root: Path, said: Path, asked: Asked) -> Ran:
     """The same wish on the command line."""
     rows = {row.name: row for row in applied.read.rows}
     wish = Wish(removes=applied.wish.removes) if asked.removals_only else applied.wish
@@ -236,6 +238,6 @@ def carry_out(applied: Applied, root: Path, said: Path, asked: Asked) -> Ran:
     }
     commands = [[command, *packages] for command, packages in lines.items() if packages]
     if len(commands) == 1:
-        return command_line([*asked.options, *commands[0]], root, said)
+        return command_line(case, [*asked.options, *commands[0]], root, said)
     # Without "run": the shell runs what is marked at the end of its script, too, and tells by its status how it went.
-    return command_line(asked.options, root, said, [" ".join(command) for command in commands])
+    return command_line(case, asked.options, root, said, [" ".join(command) for command in commands])
