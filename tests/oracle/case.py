@@ -14,8 +14,7 @@ from dice import Dice
 from pool import CORES, NAMES, SECOND, Entry, Package, Pool, write_repository
 
 FEATURES = {
-    # The helper package loads no plugin yet.
-    "versionlock": False,
+    "versionlock": True,
     # An apply asks for no key yet: those that it lacks are never told to the command line either.
     "unknown keys": False,
 }
