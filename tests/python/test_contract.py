@@ -13,11 +13,13 @@ import logging
 import dnf
 import dnf.callback
 import dnf.cli.commands.clean
+import dnf.cli.output
 import dnf.conf
 import dnf.conf.config
 import dnf.conf.read
 import dnf.const
 import dnf.exceptions
+import dnf.i18n
 import dnf.lock
 import dnf.logging
 import dnf.package
@@ -37,7 +39,20 @@ import rpm
 
 NAMES = [
     (dnf.const, "VERSION"),
+    (dnf.const, "LOG"),
+    (dnf.const, "LOG_MARKER"),
+    (dnf.const, "LOG_RPM"),
+    (dnf.cli.output, "DepSolveProgressCallBack"),
+    (dnf.cli.output.Output, "list_transaction"),
+    (dnf.i18n, "_"),
+    (dnf.lock, "build_log_lock"),
     (dnf.logging, "ALL"),
+    (dnf.logging, "DDEBUG"),
+    (dnf.logging, "Logging"),
+    (dnf.logging, "MultiprocessRotatingFileHandler"),
+    (dnf.logging, "SUBDEBUG"),
+    (dnf.logging, "_cfg_verbose_val2level"),
+    (dnf.logging, "_create_filehandler"),
     (dnf.sack, "Sack"),
     (dnf.sack, "_build_sack"),
     (dnf.callback, "DownloadProgress"),

@@ -12,6 +12,7 @@ import re
 from typing import Any, Callable, Dict, Iterable, List, Optional
 
 import dnf
+import dnf.cli.output
 import dnf.conf
 import dnf.exceptions
 import dnf.repo
@@ -22,6 +23,7 @@ from .database import point_rpm_at
 from .encoding import RepositoryReader
 from .errors import RepoError, YumBaseError
 from .inhibitor import inhibited
+from .logfiles import tell_command, tell_transaction
 from .messages import heard, rpms_words
 from .metadata import ReadingProgress, RepositoryProgress
 from .queries import MetadataFetcher, ask_by_complete_address, base_addresses, rounds
@@ -44,6 +46,9 @@ class Base(dnf.Base):
 
     def __init__(self, conf: dnf.conf.MainConf, progress: bool = True) -> None:
         super().__init__(conf)
+        self.lacking: List[str] = []
+        """What is configured and had to be left out, each with its reason."""
+        self._ds_callback = dnf.cli.output.DepSolveProgressCallBack()
         self._report = ReadingProgress(conf.cachedir) if progress else None
         self._read: Optional[Callable[[dnf.repo.Repo], None]] = None
         self.before_run: Optional[Callable[[], None]] = None
@@ -102,6 +107,10 @@ class Base(dnf.Base):
         """
         self._read = read
         self._fill(False)
+
+    def resolve(self, allow_erasing: bool = False) -> Any:
+        tell_command(self.conf, " ".join(self.args))
+        return super().resolve(allow_erasing)
 
     def _fill(self, with_system: bool, available: bool = True) -> None:
         point_rpm_at(self.conf.installroot)
@@ -191,6 +200,10 @@ class Base(dnf.Base):
                 logging.getLogger("dnf").warning("%s", error)
         ask_by_complete_address(payloads, rounds(payloads) - 1)
         return super()._download_remote_payloads(payloads, *rest, **options)
+
+    def do_transaction(self, display: Any = ()) -> Any:
+        tell_transaction(self)
+        return super().do_transaction(display)
 
     def _run_transaction(self, cb: Any) -> Any:
         if self.before_run is not None:

@@ -19,18 +19,22 @@ from . import host
 from .root import as_configured
 from .text import valid
 
-_RPM_LOGGER = "dnf.rpm"
+RPM_LOGGER = "dnf.rpm"
+ONLY_IN_FILES = "dnf.vem"
+"""The logger of what stands in dnf's log files and not in the engine's log, which has words of its own for it."""
 
 
 class HostHandler(logging.Handler):
     """Forwards records to the host functions `log`, `warninglog` and `errorlog`."""
 
     def emit(self, record: logging.LogRecord) -> None:
+        if record.name == ONLY_IN_FILES:
+            return
         try:
             text = record.getMessage()
         except (TypeError, ValueError):
             text = str(record.msg)
-        if record.name == _RPM_LOGGER and record.levelno >= logging.INFO:
+        if record.name == RPM_LOGGER and record.levelno >= logging.INFO:
             # Scriptlet output comes through the transaction's display, and what rpm says against a
             # package stands in the exception: once is enough.
             if record.levelno > logging.INFO:

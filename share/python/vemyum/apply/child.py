@@ -65,6 +65,7 @@ def _work(parent: "_Parent") -> messages.Ended:
     from ..credentials import masked
     from ..errors import YumBaseError, reported_as
     from ..lock import LOCK
+    from ..logfiles import open_log_files, tell_end
     from ..messages import install_handler
     from .work import Work
 
@@ -80,6 +81,7 @@ def _work(parent: "_Parent") -> messages.Ended:
             require_main_file(request.main_file)
             conf = read_configuration()
             LOCK.take_over(conf, parent.pid)
+            open_log_files(conf)
             work = Work(conf, request)
             done = work.do(parent.agreed, lambda changes: parent.commit(conf, changes))
         outcome, text = (messages.DONE, "") if done else (messages.REFUSED, "")
@@ -89,6 +91,7 @@ def _work(parent: "_Parent") -> messages.Ended:
         outcome, text = messages.BROKEN_PIPE, str(error)
     except BaseException:  # noqa: BLE001 - told to whoever asked for the work
         outcome, text = messages.INTERNAL, masked(traceback.format_exc())
+    tell_end(outcome == messages.DONE, text)
     return messages.Ended(outcome, text, work.installed if work is not None else -1)
 
 
