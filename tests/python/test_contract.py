@@ -23,6 +23,7 @@ import dnf.i18n
 import dnf.lock
 import dnf.logging
 import dnf.package
+import dnf.plugin
 import dnf.repo
 import dnf.rpm
 import dnf.rpm.miscutils
@@ -82,6 +83,14 @@ NAMES = [
     (dnf.lock, "build_download_lock"),
     (dnf.lock, "build_metadata_lock"),
     (dnf.lock, "build_rpmdb_lock"),
+    (dnf.Plugin, "read_config"),
+    (dnf.plugin, "DYNAMIC_PACKAGE"),
+    (dnf.plugin, "_get_plugins_files"),
+    (dnf.plugin.Plugins, "_caller"),
+    (dnf.plugin.Plugins, "_check_enabled"),
+    (dnf.plugin.Plugins, "_load"),
+    (dnf.plugin.Plugins, "_run_init"),
+    (dnf.plugin.Plugins, "_unload"),
     (dnf.package.Package, "_from_system"),
     (dnf.package.Package, "_is_local_pkg"),
     (dnf.package.Package, "get_header"),

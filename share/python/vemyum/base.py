@@ -9,7 +9,7 @@ import glob
 import logging
 import os
 import re
-from typing import Any, Callable, Dict, Iterable, List, Optional
+from typing import Any, Callable, Dict, Iterable, List, Optional, Sequence
 
 import dnf
 import dnf.cli.output
@@ -26,6 +26,7 @@ from .inhibitor import inhibited
 from .logfiles import tell_command, tell_transaction
 from .messages import heard, rpms_words
 from .metadata import ReadingProgress, RepositoryProgress
+from .plugins import Plugins
 from .queries import MetadataFetcher, ask_by_complete_address, base_addresses, rounds
 from .sections import RepositorySection
 from .space import scarce_space
@@ -44,10 +45,11 @@ class Base(dnf.Base):
     Whoever makes one closes it: a Base that is only dropped keeps its memory and its files open.
     """
 
-    def __init__(self, conf: dnf.conf.MainConf, progress: bool = True) -> None:
+    def __init__(self, conf: dnf.conf.MainConf, progress: bool = True, strict: bool = False) -> None:
         super().__init__(conf)
         self.lacking: List[str] = []
         """What is configured and had to be left out, each with its reason."""
+        self._plugins = Plugins(self.lacking.append, strict)
         self._ds_callback = dnf.cli.output.DepSolveProgressCallBack()
         self._report = ReadingProgress(conf.cachedir) if progress else None
         self._read: Optional[Callable[[dnf.repo.Repo], None]] = None
@@ -106,6 +108,8 @@ class Base(dnf.Base):
         Raises like `load_everything`, and for an OSError of `read` too.
         """
         self._read = read
+        # What they would ask of a sack is not to be found in an empty one.
+        self._plugins.plugins.clear()
         self._fill(False)
 
     def resolve(self, allow_erasing: bool = False) -> Any:
@@ -237,19 +241,30 @@ def _repository_text(repo: dnf.repo.Repo, text: str, causes: Iterable[str], dire
 
 
 def open_base(
-    conf: dnf.conf.MainConf, enabled: Optional[Dict[str, bool]] = None, progress: bool = True
+    conf: dnf.conf.MainConf,
+    sections: Optional[Sequence[RepositorySection]] = None,
+    progress: bool = True,
+    strict: bool = False,
 ) -> Base:
-    """A Base with the configured repositories, nothing loaded yet.
+    """A Base with repositories, nothing loaded yet.
 
-    `enabled` overrides what the configuration says; ids that are not configured are passed over.
+    They are those of the sections, else those of the configuration as it is now. A plugin that fails is left out, unless
+    `strict`: then it raises, where the command line would end.
     Raises dnf's errors and OSError; nothing stays open then.
     """
     with contextlib.ExitStack() as on_failure:
-        base = Base(conf, progress)
+        base = Base(conf, progress, strict)
         on_failure.callback(base.close)
-        base.read_all_repos()
-        for repo in base.repos.values():
-            if enabled is not None and repo.id in enabled:
-                (repo.enable if enabled[repo.id] else repo.disable)()
+        base.init_plugins()
+        base.pre_configure_plugins()
+        if sections is None:
+            base.read_all_repos()
+        else:
+            base.use_repositories(sections)
+        base.configure_plugins()
+        if sections is not None:
+            # Whatever a plugin has to say to that.
+            for id, section in base.sections.items():
+                (base.repos[id].enable if section.enabled else base.repos[id].disable)()
         on_failure.pop_all()
         return base

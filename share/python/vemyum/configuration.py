@@ -236,6 +236,8 @@ def _put_below_root(conf: dnf.conf.MainConf, root: str) -> None:
         below(root, libdnf.conf.ConfigParser.substitute(path, conf.substitutions)) for path in conf.reposdir
     ]
     conf._set_value("reposdir", directories)
+    # Where the plugins themselves lie is this machine's business.
+    conf._set_value("pluginconfpath", [below(root, path) for path in conf.pluginconfpath])
 
 
 class Configuration:

@@ -6,7 +6,7 @@ from __future__ import annotations
 import html
 import re
 import sys
-from typing import Dict, Iterator, List, Optional, Tuple
+from typing import Dict, Iterator, List, Optional, Sequence, Tuple
 
 import dnf.conf
 import dnf.package
@@ -16,6 +16,7 @@ from . import host
 from .base import Base, open_base
 from .metadata import reading_reported
 from .records import Recognition, Records, Unrecognised, changes, chunks, files
+from .sections import RepositorySection
 from .text import valid
 from .texts import _
 
@@ -52,13 +53,13 @@ class PackageDetails:
                         ),
                     )
 
-    def load_changelogs(self, conf: dnf.conf.MainConf, enabled: Dict[str, bool]) -> None:
-        """Loads the changelogs of the enabled repositories, with progress. Raises as Base does, and OSError.
+    def load_changelogs(self, conf: dnf.conf.MainConf, sections: Sequence[RepositorySection]) -> None:
+        """Loads the changelogs of those repositories that are enabled, with progress. Raises as Base does, and OSError.
 
         A Base of its own fetches them: dnf does so only when a repository is first loaded.
         """
         _close_all(self._changelogs)
-        base = open_base(conf, enabled)
+        base = open_base(conf, sections)
         try:
             for repo in base.repos.iter_enabled():
                 repo.load_metadata_other = True

@@ -99,7 +99,7 @@ class RepositoryReader(dnf.conf.read.RepoReader):
             parser.setValue(section.name, name, value)
         repo = self._build_repo(parser, section.name, "")
         repo._configure_from_options(self.opts)
-        (repo.enable if section.enabled else repo.disable)()
+        self.sections[repo.id] = section
         return repo
 
     def _get_repos(self, repofn: str) -> Iterator[Any]:

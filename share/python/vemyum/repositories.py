@@ -38,9 +38,6 @@ class Repositories:
         """Takes effect at the next reading. RepoError for an unknown id."""
         self._find(id).enabled = 0
 
-    def states(self) -> Dict[str, bool]:
-        return {repo.id: bool(repo.enabled) for repo in self.repos.values()}
-
     def _find(self, id: str) -> Repository:
         try:
             return self.repos[id]

@@ -174,7 +174,7 @@ class Session:
     def load_changelogs(self) -> None:
         if self._details is None or self._conf is None:
             raise YumBaseError(_NOT_READ)
-        self._details.load_changelogs(self._conf, self.repositories.states())
+        self._details.load_changelogs(self._conf, self.repository_sections())
 
     # What has been read ---------------------------------------------------------------------------------
 

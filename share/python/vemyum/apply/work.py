@@ -18,7 +18,7 @@ import libdnf.transaction as lt
 import rpm
 
 from .. import host
-from ..base import Base
+from ..base import Base, open_base
 from ..database import point_rpm_at, require_sound, unlisted
 from ..display import Display
 from ..download import download, not_in_cache
@@ -71,10 +71,9 @@ class Work:
         """Where there are removals alone, without repositories, as on the command line: nothing is to come in. Behind
         a transaction that was cut off, the rest of it may have to."""
         with contextlib.ExitStack() as on_failure:
-            base = Base(self._conf, progress=False)
-            on_failure.callback(base.close)
             # A repository that was added or changed meanwhile is none of those that the marks rest on.
-            base.use_repositories(self._request.repositories)
+            base = open_base(self._conf, self._request.repositories, progress=False, strict=True)
+            on_failure.callback(base.close)
             base.args = [self._request.command]
             enabled = list(base.repos.iter_enabled())
             for repo in enabled:
