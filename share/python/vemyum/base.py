@@ -23,7 +23,7 @@ from .database import point_rpm_at
 from .encoding import RepositoryReader
 from .errors import RepoError, YumBaseError
 from .inhibitor import inhibited
-from .logfiles import tell_command, tell_transaction
+from .logfiles import tell_transaction
 from .messages import heard, rpms_words
 from .metadata import ReadingProgress, RepositoryProgress
 from .plugins import Plugins
@@ -59,8 +59,6 @@ class Base(dnf.Base):
         """The command line that dnf's history tells."""
         self.sections: Dict[str, RepositorySection] = {}
         """What the repositories were built of, by their ids."""
-        self.lacking: List[str] = []
-        """What is configured and had to be left out, each with its reason."""
 
     def read_all_repos(self, opts: Any = None) -> None:
         """YumBaseError when the main file has become unreadable meanwhile: it may hold repositories, too."""
@@ -111,10 +109,6 @@ class Base(dnf.Base):
         # What they would ask of a sack is not to be found in an empty one.
         self._plugins.plugins.clear()
         self._fill(False)
-
-    def resolve(self, allow_erasing: bool = False) -> Any:
-        tell_command(self.conf, " ".join(self.args))
-        return super().resolve(allow_erasing)
 
     def _fill(self, with_system: bool, available: bool = True) -> None:
         point_rpm_at(self.conf.installroot)

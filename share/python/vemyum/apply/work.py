@@ -24,6 +24,7 @@ from ..display import Display
 from ..download import download, not_in_cache
 from ..errors import ALL_DONE, REFRESH, YumBaseError, reported_as
 from ..history import usable_history
+from ..logfiles import tell_command
 from ..signatures import check_signatures
 from ..surroundings import load_needed_later
 from ..texts import _
@@ -55,6 +56,7 @@ class Work:
         with self._telling_what_is_done(), usable_history(self._conf), _closing(self._loaded()) as base:
             self._require_sound(base)
             host.solver_check()
+            tell_command(base.conf, self._request.command)
             changes = solve(base, mark(base, self._request.incoming, self._request.removes))
             incoming = sorted(base.transaction.install_set)
             plan = Plan(changes, enabled_streams(base), [int(package.size) for package in not_in_cache(incoming)])
