@@ -417,6 +417,14 @@ Das Fenster bleibt offen, bis das zu Ende ist.</translation>
         <source>&amp;Leave Them</source>
         <translation>&amp;Belassen</translation>
     </message>
+    <message>
+        <source>Not everything that is configured could be used, so the table may not show what it should:</source>
+        <translation>Nicht alles, was konfiguriert ist, ließ sich verwenden, daher zeigt die Tabelle womöglich nicht, was sie sollte:</translation>
+    </message>
+    <message>
+        <source>Incomplete Table</source>
+        <translation>Unvollständige Tabelle</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>

@@ -417,6 +417,14 @@ La ventana permanece abierta hasta que termine.</translation>
         <source>&amp;Leave Them</source>
         <translation>&amp;Dejarlas</translation>
     </message>
+    <message>
+        <source>Not everything that is configured could be used, so the table may not show what it should:</source>
+        <translation>No se pudo usar todo lo que está configurado, así que la tabla puede no mostrar lo que debería:</translation>
+    </message>
+    <message>
+        <source>Incomplete Table</source>
+        <translation>Tabla incompleta</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>

@@ -417,6 +417,14 @@ La fenêtre reste ouverte jusqu’à la fin de l’opération.</translation>
         <source>&amp;Leave Them</source>
         <translation>&amp;Les conserver</translation>
     </message>
+    <message>
+        <source>Not everything that is configured could be used, so the table may not show what it should:</source>
+        <translation>Tout ce qui est configuré n’a pas pu être utilisé ; il se peut donc que le tableau ne montre pas ce qu’il devrait :</translation>
+    </message>
+    <message>
+        <source>Incomplete Table</source>
+        <translation>Tableau incomplet</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>

@@ -417,6 +417,14 @@ The window stays open until that has come to its end.</source>
         <source>&amp;Leave Them</source>
         <translation>残す(&amp;L)</translation>
     </message>
+    <message>
+        <source>Not everything that is configured could be used, so the table may not show what it should:</source>
+        <translation>設定されているもののうち使用できないものがあったため、表の内容が本来のものと異なる可能性があります:</translation>
+    </message>
+    <message>
+        <source>Incomplete Table</source>
+        <translation>不完全な表</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>

@@ -417,6 +417,14 @@ The window stays open until that has come to its end.</source>
         <source>&amp;Leave Them</source>
         <translation>保留(&amp;L)</translation>
     </message>
+    <message>
+        <source>Not everything that is configured could be used, so the table may not show what it should:</source>
+        <translation>并非所有已配置的内容都可以使用，因此表格显示的内容可能不完整：</translation>
+    </message>
+    <message>
+        <source>Incomplete Table</source>
+        <translation>表格不完整</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>
