@@ -74,6 +74,7 @@ PyMethodDef functions[] = {
     entry<&YumIOHost::dsTsCheck>("dsTsCheck", METH_NOARGS),
     entry<&YumIOHost::dsRestartLoop>("dsRestartLoop", METH_NOARGS),
     entry<&YumIOHost::userconfirm>("userconfirm", METH_NOARGS),
+    entry<&YumIOHost::confirmKey>("confirmKey", METH_VARARGS),
     entry<&YumIOHost::reportDownloadSize>("reportDownloadSize", METH_VARARGS),
     entry<&YumIOHost::listTransaction>("listTransaction", METH_VARARGS),
     entry<&YumIOHost::tsInitCallback>("tsInitCallback", METH_VARARGS),

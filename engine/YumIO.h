@@ -482,6 +482,7 @@ protected:
     PyObject* dsTsCheck(PyObject* self, PyObject* args) override;
     PyObject* dsRestartLoop(PyObject* self, PyObject* args) override;
     PyObject* userconfirm(PyObject* self, PyObject* args) override;
+    PyObject* confirmKey(PyObject* self, PyObject* args) override;
     PyObject* reportDownloadSize(PyObject* self, PyObject* args) override;
     PyObject* listTransaction(PyObject* self, PyObject* args) override;
     PyObject* tsInitCallback(PyObject* self, PyObject* args) override;

@@ -15,6 +15,7 @@ YumIODialogs::YumIODialogs(QWidget* parent)
     connect(this, &YumIODialogs::warningSig, minion, &YumIODialogsMinion::warning);
     connect(this, &YumIODialogs::criticalSig, minion, &YumIODialogsMinion::critical);
     connect(this, &YumIODialogs::scrollableSig, minion, &YumIODialogsMinion::scrollable);
+    connect(this, &YumIODialogs::keySig, minion, &YumIODialogsMinion::key);
 }
 
 YumIODialogs::~YumIODialogs()
@@ -57,6 +58,14 @@ void YumIODialogs::scrollable(QString const& caption, QString const& text)
     resultReady = false;
     Q_EMIT scrollableSig(caption, text);
     waitForResult();
+}
+
+int YumIODialogs::key(KeyQuestion const& question)
+{
+    resultReady = false;
+    Q_EMIT keySig(question);
+    waitForResult();
+    return result;
 }
 
 void YumIODialogs::setResult(int value)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "services/KeyQuestion.h" // whole: its values go from thread to thread
+
 #include <QEventLoop>
 #include <QObject>
 #include <QString>
@@ -40,6 +42,10 @@ public:
     /// A message of any length, with the button Close.
     void scrollable(QString const& caption, QString const& text);
 
+    /// Whether a key is to be fetched, or trusted, by a dialog of its own. Answers 1 for yes, 0 for Cancel or
+    /// a closed window.
+    [[nodiscard]] int key(KeyQuestion const& question);
+
 Q_SIGNALS:
     int confirmSig(QString const& caption, QString const& text);
     int warningSig(
@@ -51,6 +57,7 @@ Q_SIGNALS:
         QString const& button1Text = QString(), QString const& button2Text = QString(),
         int defaultButtonNumber = 0, int escapeButtonNumber = -1);
     int scrollableSig(QString const& caption, QString const& text);
+    int keySig(KeyQuestion const& question);
 
 public Q_SLOTS:
     /// The answer has come.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "services/YumIODialogsMinion.h"
 
+#include "services/KeyDialog.h"
 #include "services/ScrollableConfirmDialog.h"
 #include "services/ScrollableErrorDialog.h"
 
@@ -44,6 +45,13 @@ void YumIODialogsMinion::scrollable(QString const& caption, QString const& text)
     dialog.setWindowTitle(caption);
     dialog.exec();
     Q_EMIT setResult(0);
+}
+
+void YumIODialogsMinion::key(KeyQuestion const& question)
+{
+    KeyDialog dialog(question, parent);
+    int const answer = dialog.exec();
+    Q_EMIT setResult(answer);
 }
 
 int YumIODialogsMinion::ask(

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "services/KeyQuestion.h"
+
 #include <QMessageBox>
 #include <QObject>
 #include <QString>
@@ -30,6 +32,7 @@ public Q_SLOTS:
         QString const& button1Text = QString(), QString const& button2Text = QString(),
         int defaultButtonNumber = 0, int escapeButtonNumber = -1);
     void scrollable(QString const& caption, QString const& text);
+    void key(KeyQuestion const& question);
 
 private:
     struct Buttons

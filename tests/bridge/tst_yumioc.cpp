@@ -34,6 +34,7 @@ public:
     PyObject* dsTsCheck(PyObject* self, PyObject* args) override { return called("dsTsCheck", self, args); }
     PyObject* dsRestartLoop(PyObject* self, PyObject* args) override { return called("dsRestartLoop", self, args); }
     PyObject* userconfirm(PyObject* self, PyObject* args) override { return called("userconfirm", self, args); }
+    PyObject* confirmKey(PyObject* self, PyObject* args) override { return called("confirmKey", self, args); }
     PyObject* reportDownloadSize(PyObject* self, PyObject* args) override { return called("reportDownloadSize", self, args); }
     PyObject* listTransaction(PyObject* self, PyObject* args) override { return called("listTransaction", self, args); }
     PyObject* tsInitCallback(PyObject* self, PyObject* args) override { return called("tsInitCallback", self, args); }
@@ -152,8 +153,8 @@ void TestYumIOC::moduleHasExactlyTheNamedFunctions()
         QStringLiteral(
             "stdoutWrite stderrWrite log warninglog errorlog collectProgress collectGrabMeterStart "
             "collectGrabMeterUpdate collectGrabMeterEnd applyGrabMeterStart applyGrabMeterUpdate "
-            "applyGrabMeterEnd dsTsCheck dsRestartLoop userconfirm reportDownloadSize listTransaction "
-            "tsInitCallback tsCallback tsEvent postTransactionOutput"));
+            "applyGrabMeterEnd dsTsCheck dsRestartLoop userconfirm confirmKey reportDownloadSize "
+            "listTransaction tsInitCallback tsCallback tsEvent postTransactionOutput"));
 }
 
 void TestYumIOC::functionReachesTheOperationOfItsName_data()
@@ -164,9 +165,10 @@ void TestYumIOC::functionReachesTheOperationOfItsName_data()
           "errorlog(0, 'gr\u00fc\u00df')", "collectProgress(-1, -1, None)",
           "collectGrabMeterStart('u', 'a', 'b', 5, None)", "collectGrabMeterUpdate(9,)",
           "collectGrabMeterEnd(9,)", "applyGrabMeterStart('u', None, None, 5000000000, 't')",
-          "applyGrabMeterUpdate(9,)", "applyGrabMeterEnd(9,)", "reportDownloadSize([],)",
-          "listTransaction(1,)", "tsInitCallback(0,)", "tsCallback(1, 2, 3, ({'name': 'n'},), None)",
-          "tsEvent('p', 1, 2, 3, 4, 5)", "postTransactionOutput(1,)"}) {
+          "applyGrabMeterUpdate(9,)", "applyGrabMeterEnd(9,)",
+          "confirmKey('l', 'r', 'p', 'u', 'f', 'k', 5, 0)", "reportDownloadSize([],)", "listTransaction(1,)",
+          "tsInitCallback(0,)", "tsCallback(1, 2, 3, ({'name': 'n'},), None)", "tsEvent('p', 1, 2, 3, 4, 5)",
+          "postTransactionOutput(1,)"}) {
         QTest::newRow(call) << QString::fromUtf8(call);
     }
 }

@@ -20,6 +20,9 @@ private Q_SLOTS:
 
     void onlyAcceptingConfirms_data();
     void onlyAcceptingConfirms();
+    void onlyAnAgreementImportsAKey_data();
+    void onlyAnAgreementImportsAKey();
+    void interpreterIsFreeWhileAKeyIsAskedAbout();
     void barsAreEmptyWhileTheUserIsAsked();
     void emptyTransactionHasNothingToFetch();
     void questionMayBeAskedAgain();
@@ -218,6 +221,44 @@ void TestYumIOApply::onlyAcceptingConfirms()
         engine->logLines(Log::Action),
         (QStringList{"Applying", accepted ? "Applying: OK" : "Not Applying: Canceled"}));
     QVERIFY(engine->calls().contains("flush"));
+}
+
+void TestYumIOApply::onlyAnAgreementImportsAKey_data()
+{
+    QTest::addColumn<bool>("agreed");
+    QTest::newRow("Import Key") << true;
+    QTest::newRow("Cancel") << false;
+    QTest::newRow("Escape") << false;
+}
+
+void TestYumIOApply::onlyAnAgreementImportsAKey()
+{
+    QFETCH(bool, agreed);
+    applyDoes("standin.note(repr(yumIOC.confirmKey('file:///key', 'base', 'elm', 'Ada', '653B6A0B', '6A0B', "
+              "5, 0)))");
+    boxes->press({QTest::currentDataTag()});
+    engine->apply();
+    QList<Boxes::Box> const seen = boxes->take();
+    QCOMPARE(seen.size(), 1);
+    QCOMPARE(seen.at(0).caption, QStringLiteral("Import Key"));
+    QCOMPARE(seen.at(0).buttons, (QStringList{"Import Key", "Cancel"}));
+    QVERIFY(engine->calls().contains(agreed ? "1" : "0"));
+    QCOMPARE(
+        engine->logLines(Log::Action),
+        (QStringList{"Applying", agreed ? "Key 653B6A0B: OK" : "Key 653B6A0B: Canceled"}));
+}
+
+// The script's other threads go on, and so does the window that wants to ask the interpreter something.
+void TestYumIOApply::interpreterIsFreeWhileAKeyIsAskedAbout()
+{
+    applyDoes("yumIOC.confirmKey('http://host/key', 'base', '', '', '', '', 0, 0)");
+    QString caption;
+    boxes->whileShown([&] { caption = engine->value("'free'"); });
+    engine->apply();
+    QCOMPARE(boxes->take().value(0).caption, QStringLiteral("Fetch Key"));
+    QCOMPARE(caption, QStringLiteral("free"));
+    // What only says where a key is, and isn't one yet, isn't noted.
+    QCOMPARE(engine->logLines(Log::Action), QStringList("Applying"));
 }
 
 void TestYumIOApply::barsAreEmptyWhileTheUserIsAsked()

@@ -318,6 +318,9 @@ void TestYumIOReports::wrongArgumentsRaise_data()
     row("dsTsCheck(1)");
     row("dsRestartLoop(1)");
     row("userconfirm(1)");
+    row("confirmKey()");
+    row("confirmKey('l', 'r', 'p', 'u', 'f', 'k', '5', 0)");
+    row("confirmKey('l', 'r', 'p', None, 'f', 'k', 5, 0)");
     row("reportDownloadSize()");
     row("reportDownloadSize(5)");
     row("listTransaction()");
@@ -350,6 +353,7 @@ void TestYumIOReports::callsOutsideAJobDoNothing_data()
     QTest::newRow("dsTsCheck()") << "None";
     QTest::newRow("dsRestartLoop()") << "None";
     QTest::newRow("userconfirm()") << "0";
+    QTest::newRow("confirmKey('l', 'r', 'p', 'u', 'f', 'k', 5, 0)") << "0";
     QTest::newRow("tsInitCallback(0)") << "None";
     QTest::newRow("tsInitCallback(1)") << "None";
     QTest::newRow("tsCallback(2, 0, 5, ({'name': 'x'}, ''), None)") << "None";

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "Worker.h"
 #include "base/Application.h"
+#include "services/KeyQuestion.h"
 #include "services/ScrollableConfirmDialog.h"
 #include "services/ScrollableErrorDialog.h"
 #include "services/YumIODialogs.h"
@@ -14,6 +15,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTest>
+#include <QTextEdit>
 #include <QTimer>
 #include <functional>
 
@@ -98,6 +100,8 @@ private Q_SLOTS:
 
     void confirmAnswers_data();
     void confirmAnswers();
+    void keyAnswers_data();
+    void keyAnswers();
     void confirmShowsItsTextAndCaption();
     void scrollableComesBackHoweverItIsClosed_data();
     void scrollableComesBackHoweverItIsClosed();
@@ -150,6 +154,44 @@ void TestYumIODialogs::confirmAnswers()
     Answer const answer(action);
     QCOMPARE(dialogs.confirm(QStringLiteral("Apply"), QStringLiteral("Really?")), expected);
     QVERIFY(answer.wasGiven());
+}
+
+void TestYumIODialogs::keyAnswers_data()
+{
+    QTest::addColumn<std::function<void(QWidget*)>>("action");
+    QTest::addColumn<int>("expected");
+    QTest::newRow("Import Key") << pressing(QStringLiteral("Import Key")) << 1;
+    QTest::newRow("Cancel") << pressing(QStringLiteral("Cancel")) << 0;
+    QTest::newRow("window closed") << std::function(closeWindow) << 0;
+    QTest::newRow("Escape") << std::function(pressEscape) << 0;
+}
+
+void TestYumIODialogs::keyAnswers()
+{
+    QFETCH(std::function<void(QWidget*)>, action);
+    QFETCH(int, expected);
+    KeyQuestion question;
+    question.fingerprint = QStringLiteral("653B6A0B");
+    YumIODialogs dialogs(&window);
+    Answer const answer(action);
+    QCOMPARE(dialogs.key(question), expected);
+    QVERIFY(answer.wasGiven());
+    // From a worker it crosses the threads whole.
+    QString fingerprint;
+    Answer const again([&](QWidget* dialog) {
+        for (QTextEdit const* const edit : dialog->findChildren<QTextEdit*>()) {
+            fingerprint +=
+                edit->accessibleName() == QLatin1String("Fingerprint") ? edit->toPlainText() : QString();
+        }
+        action(dialog);
+    });
+    int answered = -1;
+    runOnWorker([&] {
+        YumIODialogs own(&window);
+        answered = own.key(question);
+    });
+    QCOMPARE(answered, expected);
+    QCOMPARE(fingerprint, QStringLiteral("653B 6A0B"));
 }
 
 void TestYumIODialogs::confirmShowsItsTextAndCaption()

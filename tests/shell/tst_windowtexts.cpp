@@ -7,6 +7,8 @@
 #include "packagetable/PackageTableView.h"
 #include "repo/RepoAuthDialog.h"
 #include "repo/RepoEntry.h"
+#include "services/KeyDialog.h"
+#include "services/KeyQuestion.h"
 #include "services/ScrollableConfirmDialog.h"
 #include "services/ScrollableErrorDialog.h"
 #include "widgets/HMenu.h"
@@ -281,6 +283,38 @@ private Q_SLOTS:
         boxes->whileShown([&] { look(&dialog, data); });
         dialog.exec(&entry);
         QCOMPARE(looked.size(), 1);
+    }
+
+    void keys()
+    {
+        QString const location = QStringLiteral("http://host.example/keys/RPM-GPG-KEY-estate");
+        KeyQuestion question{
+            location,
+            QStringLiteral("estate"),
+            QStringLiteral("lamp-1.1-1.noarch, lone-1.0-1.noarch"),
+            QString(),
+            QString(),
+            QString(),
+            0,
+            0};
+        auto const show = [&] {
+            KeyDialog dialog(question, window);
+            dialog.show();
+            look(&dialog);
+        };
+        show();
+        question.location = QStringLiteral("https://host.example/keys/RPM-GPG-KEY-estate");
+        show();
+        question.userId = QStringLiteral("Estate Signing <signing@estate.example>");
+        question.fingerprint = QStringLiteral("653B6A0B10617ED25C453619458762D05376E0CD");
+        question.keyId = QStringLiteral("458762D05376E0CD");
+        question.created = 1709294400;
+        question.packages.clear();
+        show();
+        question.location = QStringLiteral("file:///etc/pki/rpm-gpg/RPM-GPG-KEY-estate");
+        question.expires = 2024827200;
+        show();
+        QCOMPARE(looked.size(), 4);
     }
 
     void reports()
