@@ -13,7 +13,8 @@ Call = Tuple[Any, ...]
 class FakeHost(types.ModuleType):
     """`calls` holds tuples of the function's name and its arguments, in order.
 
-    `answer` is what `userconfirm` gives; `on_confirm` and `on_list` run inside those calls.
+    `answer` is what `userconfirm` gives; `on_confirm` and `on_list` run inside those calls. `key_answer` gives what
+    `confirmKey` answers, by its arguments.
     """
 
     def __init__(self) -> None:
@@ -25,6 +26,7 @@ class FakeHost(types.ModuleType):
         self.answer = 1
         self.on_confirm: Optional[Callable[[], None]] = None
         self.on_list: Optional[Callable[[Any], None]] = None
+        self.key_answer: Callable[..., int] = lambda *question: 0
 
     # What was recorded ---------------------------------------------------------------------------------
 
@@ -114,6 +116,12 @@ class FakeHost(types.ModuleType):
         if self.on_confirm is not None:
             self.on_confirm()
         return self.answer
+
+    def confirmKey(self, *question: Any) -> int:
+        *texts, created, expires = question
+        assert len(texts) == 6
+        self._note("confirmKey", *map(self._s, texts), self._l(created), self._l(expires))
+        return self.key_answer(*question)
 
     def reportDownloadSize(self, packages: Any) -> None:
         self._note("reportDownloadSize", sum(self._l(package.size) for package in packages))

@@ -18,6 +18,7 @@ import dnf.conf
 import dnf.conf.config
 import dnf.conf.read
 import dnf.const
+import dnf.crypto
 import dnf.exceptions
 import dnf.i18n
 import dnf.lock
@@ -96,13 +97,17 @@ NAMES = [
     (dnf.package.Package, "get_header"),
     (dnf.package.Package, "localPkg"),
     (dnf.package.Package, "returnIdSum"),
+    (dnf.crypto, "keyids_from_pubring"),
     (dnf.repo, "CACHE_FILES"),
     (dnf.repo, "SYNC_LAZY"),
+    (dnf.repo.Repo, "_pubring_dir"),
+    (dnf.repo.Repo, "_set_key_import"),
     (dnf.repo.Repo, "disable"),
     (dnf.repo.Repo, "enable"),
     (dnf.repo.Repo, "get_metadata_path"),
     (dnf.repo.Repo, "load"),
     (dnf.repo.Repo, "load_metadata_other"),
+    (dnf.repo.Repo, "remote_location"),
     (dnf.repo.Repo, "set_progress_bar"),
     (dnf.rpm, "detect_releasever"),
     (dnf.rpm.miscutils, "_process_rpm_output"),

@@ -84,6 +84,26 @@ def confirmed() -> bool:
     return bool(yumIOC.userconfirm())
 
 
+def confirm_key(
+    location: str,
+    repository: str,
+    packages: str,
+    user_id: str = "",
+    fingerprint: str = "",
+    key_id: str = "",
+    created: int = 0,
+    expires: int = 0,
+) -> bool:
+    """Asks whether a key is to be trusted, or, as long as it has no fingerprint, whether it is to be fetched; blocks
+    until the answer is there. Whoever cannot ask agrees to nothing.
+
+    `packages` are what is signed with it, empty for the metadata of the repository; times are seconds since 1970.
+    """
+    ask = getattr(yumIOC, "confirmKey", None)
+    texts = (masked(valid(text)) for text in (location, repository, packages, user_id, fingerprint, key_id))
+    return ask is not None and bool(ask(*texts, created, expires))
+
+
 def report_download_size(packages: Iterable[Any]) -> None:
     yumIOC.reportDownloadSize(packages)
 

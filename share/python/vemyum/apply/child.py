@@ -19,7 +19,7 @@ import threading
 import time
 import traceback
 import types
-from typing import Any, List, NoReturn, Optional
+from typing import Any, List, NoReturn, Optional, Union
 
 from . import messages
 from .channel import Channel
@@ -125,9 +125,9 @@ class _Parent:
             raise messages.ProtocolError(type(request).__name__)
         return request
 
-    def agreed(self, plan: messages.Plan) -> bool:
+    def agreed(self, question: Union[messages.Plan, messages.KeyWanted]) -> bool:
         """Asks; waits for the answer."""
-        self._channel.send(plan)
+        self._channel.send(question)
         self._channel.flush()
         answer = self._said.get()
         return isinstance(answer, messages.Answer) and answer.confirmed
@@ -199,7 +199,7 @@ class _Parent:
 class RemoteHost(types.ModuleType):
     """The engine's module `yumIOC` in this process: each call is a message to the program.
 
-    The functions that ask or list are not among them; here the plan does both.
+    The functions that list, and ask about it, are not among them; here the plan does both.
     """
 
     def __init__(self, parent: _Parent) -> None:
@@ -225,6 +225,9 @@ class RemoteHost(types.ModuleType):
 
     def dsTsCheck(self) -> None:
         self._parent.send(messages.Solving())
+
+    def confirmKey(self, *question: Any) -> int:
+        return int(self._parent.agreed(messages.KeyWanted(*question)))
 
     def applyGrabMeterStart(self, name: str, _a: None, _b: None, size: int, _c: None) -> None:
         self._parent.send(messages.FileStarted(name, size))

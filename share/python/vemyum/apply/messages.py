@@ -3,7 +3,7 @@
 
 Each message is one line, a JSON object of the fields of one of the classes below and "is", the name of the class.
 The child begins with `Hello`, the parent answers with `Request`. Then the child talks, up to `Ended`; the parent only
-gives the `Answer` to `Plan`, and says `Leave` in the end, or earlier to end what has not begun. Texts may hold what is
+gives the `Answer` to `Plan` and to each `KeyWanted`, and says `Leave` in the end, or earlier to end what has not begun. Texts may hold what is
 no valid Unicode, as file names do.
 """
 
@@ -57,7 +57,7 @@ class Request:
 
 @dataclasses.dataclass(frozen=True)
 class Answer:
-    """Whether the user agrees to the plan."""
+    """Whether the user agrees to the plan, or to the key."""
 
     confirmed: bool
 
@@ -147,6 +147,20 @@ class Plan:
 
 
 @dataclasses.dataclass(frozen=True)
+class KeyWanted:
+    """A key that is missing, with the arguments of `host.confirm_key`. Wants an answer."""
+
+    location: str
+    repository: str
+    packages: str
+    user_id: str
+    fingerprint: str
+    key_id: str
+    created: int
+    expires: int
+
+
+@dataclasses.dataclass(frozen=True)
 class FileStarted:
     """A download begins: file name or address, bytes."""
 
@@ -224,6 +238,7 @@ Message = Union[
     ErrorOutput,
     Solving,
     Plan,
+    KeyWanted,
     FileStarted,
     FileProgress,
     FileEnded,

@@ -135,6 +135,8 @@ class Apply:
             host.solver_check()
         elif isinstance(message, messages.Plan):
             child.tell(messages.Answer(self._agreed(message)))
+        elif isinstance(message, messages.KeyWanted):
+            child.tell(messages.Answer(host.confirm_key(**vars(message))))
         elif isinstance(message, messages.TransactionStarts):
             self._begun = message.real
             host.transaction_init(message.real)
