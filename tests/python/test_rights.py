@@ -14,6 +14,7 @@ from typing import Any, Dict, Iterator, List, Tuple
 
 import pytest
 from catalogue import Catalogue
+from keys import Key
 from program import Program
 from rpmestate import Estate
 from users import NOBODY, other_users_exist
@@ -205,6 +206,23 @@ def test_metadata_lie_in_the_users_own_cache(house: Guests, web: Web) -> None:
     web.forget_requests()
     assert house.run(COLLECT)["table"] == {"lamp": "OutOfDate", "lone": "Available"}
     assert not any("primary" in path for path in web.requests())
+
+
+def test_key_of_metadata_lies_in_the_users_own_cache(house: Guests) -> None:
+    """After the same question as for the administrator."""
+    answer = "import fake_host\nfake_host.HOST.key_answer = lambda *question: {answer}\n" + COLLECT
+    with Key() as key:
+        public = house.estate.directory / "public.asc"
+        public.write_bytes(key.public.read_bytes())
+        house.estate.write_repo_file("base", extra={"repo_gpgcheck": "1", "gpgkey": public.as_uri()})
+        key.sign_metadata(house.estate.repos_dir / "base")
+        before = system(house.estate)
+        assert "was not agreed to" in house.run(answer.format(answer=0))["error"]
+        assert "lone" in house.run(answer.format(answer=1))["table"]
+    assert "confirmKey" not in house.run(COLLECT)["calls"]
+    (own,) = house.own()
+    assert list(own.glob("cache/base-*/pubring"))
+    assert system(house.estate) == before
 
 
 def test_system_of_another_root_has_another_cache(house: Guests, tmp_path: Path) -> None:

@@ -18,6 +18,7 @@ import dnf.exceptions
 import dnf.repo
 import libdnf.error
 
+from . import keys
 from .configuration import misread
 from .database import point_rpm_at
 from .encoding import RepositoryReader
@@ -55,6 +56,8 @@ class Base(dnf.Base):
         self._read: Optional[Callable[[dnf.repo.Repo], None]] = None
         self.before_run: Optional[Callable[[], None]] = None
         """Called when the test transaction is over and the real one begins."""
+        self.asks_for_keys = False
+        """Whether the user is asked about a key of a repository's metadata that isn't trusted yet."""
         self.args = ["vem"]
         """The command line that dnf's history tells."""
         self.sections: Dict[str, RepositorySection] = {}
@@ -160,7 +163,7 @@ class Base(dnf.Base):
             try:
                 self._fetch_by_query(repo)
                 # Fetches; the call inherited below finds it done and only reads.
-                repo.load()
+                keys.load(repo, self.asks_for_keys)
                 if self._report is not None:
                     self._report.begin(repo)
                 (self._read or super()._add_repo_to_sack)(repo)

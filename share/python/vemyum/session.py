@@ -124,6 +124,7 @@ class Session:
             raise RepoError(_("The repositories can be read once only"))
         for repo in self._base.repos.values():
             (repo.enable if self.repositories.repos[repo.id].enabled else repo.disable)()
+        self._base.asks_for_keys = True
         with reported_as(RepoError), _nothing_is_garbage(), light_packages():
             self._base.load_everything()
         self._details = PackageDetails(self._base)
