@@ -95,13 +95,13 @@ def test_packages_without_a_good_signature(
         desk.untold()
         desk.mark("fleet-oil")
 
-    def refused(cause: str, key: str) -> None:
-        desk.apply()
+    def refused(cause: str, key: str, *found: str) -> None:
         assert_told(
             desk.told(),
             re.compile(f"Package fleet-oil-1.0-1.noarch: .*{cause}"),
             re.compile(f"    key: .*{key}"),
             f"    gpgkey of repository harbour: {location}",
+            *(f"    {location}: {line}" for line in found),
             "Nothing was installed.",
             "Error applying changes",
         )
@@ -109,12 +109,16 @@ def test_packages_without_a_good_signature(
 
     desk.ready()
     offer(plain)
+    desk.apply()
     refused("is not signed", "not signed")
     offer(by_us)
-    refused("not installed", ours.id.lower())
+    desk.apply()
+    desk.program.press("Cancel", desk.program.window("Import Key"))
+    refused("not installed", ours.id.lower(), f"the key {ours.fingerprint} was not agreed to")
     desk.site.rpm("--import", ours.public)
     offer(by_others)
-    refused("not installed", foreign.id.lower())
+    desk.apply()
+    refused("not installed", foreign.id.lower(), f"the key {ours.fingerprint} is not the one")
     offer(by_us)
     apply_well(desk)
     desk.sound("fleet-oil-1.0-1.noarch", *BEFORE)
