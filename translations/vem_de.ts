@@ -59,6 +59,89 @@
     </message>
 </context>
 <context>
+    <name>KeyDialog</name>
+    <message>
+        <source>Import Key</source>
+        <translation>Schlüssel importieren</translation>
+    </message>
+    <message>
+        <source>Fetch Key</source>
+        <translation>Schlüssel abrufen</translation>
+    </message>
+    <message>
+        <source>Is this key to be trusted? Everything that it has signed is accepted from then on. Import it only if you know its fingerprint from elsewhere, such as its owner&apos;s pages.</source>
+        <translation>Soll diesem Schlüssel vertraut werden? Alles, was mit ihm signiert ist, wird von da an angenommen. Importieren Sie ihn nur, wenn Sie seinen Fingerabdruck aus anderer Quelle kennen, etwa von den Seiten des Eigentümers.</translation>
+    </message>
+    <message>
+        <source>A key that is missing is to be fetched from the address below. Nothing is trusted yet: you see the key before it is imported.</source>
+        <translation>Ein fehlender Schlüssel soll von der unten stehenden Adresse abgerufen werden. Damit wird noch nichts vertraut: Sie sehen den Schlüssel, bevor er importiert wird.</translation>
+    </message>
+    <message>
+        <source>User ID:</source>
+        <translation>Benutzer-ID:</translation>
+    </message>
+    <message>
+        <source>Fingerprint:</source>
+        <translation>Fingerabdruck:</translation>
+    </message>
+    <message>
+        <source>Key ID:</source>
+        <translation>Schlüssel-ID:</translation>
+    </message>
+    <message>
+        <source>%1 (short: %2)</source>
+        <translation>%1 (kurz: %2)</translation>
+    </message>
+    <message>
+        <source>Created:</source>
+        <translation>Erstellt:</translation>
+    </message>
+    <message>
+        <source>Expires:</source>
+        <translation>Läuft ab:</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation>nie</translation>
+    </message>
+    <message>
+        <source>Address:</source>
+        <translation>Adresse:</translation>
+    </message>
+    <message>
+        <source>Transport:</source>
+        <translation>Übertragung:</translation>
+    </message>
+    <message>
+        <source>a file of this system</source>
+        <translation>eine Datei dieses Systems</translation>
+    </message>
+    <message>
+        <source>https: encrypted, from a server that has proved its name</source>
+        <translation>https: verschlüsselt, von einem Server, der seinen Namen nachgewiesen hat</translation>
+    </message>
+    <message>
+        <source>%1: not encrypted. Whoever is on the way can have exchanged the key.</source>
+        <translation>%1: nicht verschlüsselt. Wer auf dem Weg dazwischen ist, kann den Schlüssel ausgetauscht haben.</translation>
+    </message>
+    <message>
+        <source>Repository:</source>
+        <translation>Paketquelle:</translation>
+    </message>
+    <message>
+        <source>Signed with it:</source>
+        <translation>Damit signiert:</translation>
+    </message>
+    <message>
+        <source>the metadata of the repository</source>
+        <translation>die Metadaten der Paketquelle</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
     <name>Log::Window</name>
     <message>
         <source>&lt;font color=&quot;%1&quot;&gt;</source>
@@ -1917,6 +2000,26 @@ Wie soll fortgefahren werden?</translation>
     <message>
         <source>Unable to see whether a transaction was cut off</source>
         <translation>Es kann nicht festgestellt werden, ob eine Transaktion abgebrochen wurde</translation>
+    </message>
+    <message>
+        <source>Key %1: OK</source>
+        <translation>Schlüssel %1: bestätigt</translation>
+    </message>
+    <message>
+        <source>Key %1: Canceled</source>
+        <translation>Schlüssel %1: abgebrochen</translation>
+    </message>
+    <message>
+        <source>Enabling module streams:
+</source>
+        <translation>Modul-Streams werden eingeschaltet:
+</translation>
+    </message>
+    <message>
+        <source>	%1
+</source>
+        <translation>	%1
+</translation>
     </message>
 </context>
 <context>

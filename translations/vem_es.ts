@@ -59,6 +59,89 @@
     </message>
 </context>
 <context>
+    <name>KeyDialog</name>
+    <message>
+        <source>Import Key</source>
+        <translation>Importar clave</translation>
+    </message>
+    <message>
+        <source>Fetch Key</source>
+        <translation>Obtener clave</translation>
+    </message>
+    <message>
+        <source>Is this key to be trusted? Everything that it has signed is accepted from then on. Import it only if you know its fingerprint from elsewhere, such as its owner&apos;s pages.</source>
+        <translation>¿Se debe confiar en esta clave? A partir de entonces se acepta todo lo que haya firmado. Impórtela solo si conoce su huella digital por otra vía, como las páginas de su propietario.</translation>
+    </message>
+    <message>
+        <source>A key that is missing is to be fetched from the address below. Nothing is trusted yet: you see the key before it is imported.</source>
+        <translation>Se va a obtener una clave que falta de la dirección de abajo. Todavía no se confía en nada: verá la clave antes de que se importe.</translation>
+    </message>
+    <message>
+        <source>User ID:</source>
+        <translation>ID de usuario:</translation>
+    </message>
+    <message>
+        <source>Fingerprint:</source>
+        <translation>Huella digital:</translation>
+    </message>
+    <message>
+        <source>Key ID:</source>
+        <translation>ID de clave:</translation>
+    </message>
+    <message>
+        <source>%1 (short: %2)</source>
+        <translation>%1 (corto: %2)</translation>
+    </message>
+    <message>
+        <source>Created:</source>
+        <translation>Creada:</translation>
+    </message>
+    <message>
+        <source>Expires:</source>
+        <translation>Caduca:</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation>nunca</translation>
+    </message>
+    <message>
+        <source>Address:</source>
+        <translation>Dirección:</translation>
+    </message>
+    <message>
+        <source>Transport:</source>
+        <translation>Transporte:</translation>
+    </message>
+    <message>
+        <source>a file of this system</source>
+        <translation>un archivo de este sistema</translation>
+    </message>
+    <message>
+        <source>https: encrypted, from a server that has proved its name</source>
+        <translation>https: cifrado, de un servidor que ha demostrado su nombre</translation>
+    </message>
+    <message>
+        <source>%1: not encrypted. Whoever is on the way can have exchanged the key.</source>
+        <translation>%1: sin cifrar. Cualquiera que esté en el camino puede haber cambiado la clave.</translation>
+    </message>
+    <message>
+        <source>Repository:</source>
+        <translation>Repositorio:</translation>
+    </message>
+    <message>
+        <source>Signed with it:</source>
+        <translation>Firmado con ella:</translation>
+    </message>
+    <message>
+        <source>the metadata of the repository</source>
+        <translation>los metadatos del repositorio</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
     <name>Log::Window</name>
     <message>
         <source>&lt;font color=&quot;%1&quot;&gt;</source>
@@ -1917,6 +2000,26 @@ pero también pertenece al grupo %5 y por ello se marcó con la acción %6.
     <message>
         <source>Unable to see whether a transaction was cut off</source>
         <translation>No se pudo determinar si se interrumpió una transacción</translation>
+    </message>
+    <message>
+        <source>Key %1: OK</source>
+        <translation>Clave %1: confirmada</translation>
+    </message>
+    <message>
+        <source>Key %1: Canceled</source>
+        <translation>Clave %1: cancelada</translation>
+    </message>
+    <message>
+        <source>Enabling module streams:
+</source>
+        <translation>Se habilitan flujos de módulos:
+</translation>
+    </message>
+    <message>
+        <source>	%1
+</source>
+        <translation>	%1
+</translation>
     </message>
 </context>
 <context>

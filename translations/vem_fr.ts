@@ -59,6 +59,89 @@
     </message>
 </context>
 <context>
+    <name>KeyDialog</name>
+    <message>
+        <source>Import Key</source>
+        <translation>Importer la clé</translation>
+    </message>
+    <message>
+        <source>Fetch Key</source>
+        <translation>Récupérer la clé</translation>
+    </message>
+    <message>
+        <source>Is this key to be trusted? Everything that it has signed is accepted from then on. Import it only if you know its fingerprint from elsewhere, such as its owner&apos;s pages.</source>
+        <translation>Faut-il se fier à cette clé&#xa0;? Tout ce qu’elle a signé sera accepté dès lors. Ne l’importez que si vous connaissez son empreinte par une autre voie, comme les pages de son propriétaire.</translation>
+    </message>
+    <message>
+        <source>A key that is missing is to be fetched from the address below. Nothing is trusted yet: you see the key before it is imported.</source>
+        <translation>Une clé manquante doit être récupérée à l’adresse ci-dessous. Rien n’est encore approuvé&#xa0;: vous verrez la clé avant qu’elle soit importée.</translation>
+    </message>
+    <message>
+        <source>User ID:</source>
+        <translation>ID d’utilisateur&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Fingerprint:</source>
+        <translation>Empreinte&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Key ID:</source>
+        <translation>ID de clé&#xa0;:</translation>
+    </message>
+    <message>
+        <source>%1 (short: %2)</source>
+        <translation>%1 (court&#xa0;: %2)</translation>
+    </message>
+    <message>
+        <source>Created:</source>
+        <translation>Créée&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Expires:</source>
+        <translation>Expire&#xa0;:</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation>jamais</translation>
+    </message>
+    <message>
+        <source>Address:</source>
+        <translation>Adresse&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Transport:</source>
+        <translation>Transport&#xa0;:</translation>
+    </message>
+    <message>
+        <source>a file of this system</source>
+        <translation>un fichier de ce système</translation>
+    </message>
+    <message>
+        <source>https: encrypted, from a server that has proved its name</source>
+        <translation>https&#xa0;: chiffré, depuis un serveur qui a prouvé son nom</translation>
+    </message>
+    <message>
+        <source>%1: not encrypted. Whoever is on the way can have exchanged the key.</source>
+        <translation>%1&#xa0;: non chiffré. Quiconque se trouve sur le trajet peut avoir remplacé la clé.</translation>
+    </message>
+    <message>
+        <source>Repository:</source>
+        <translation>Dépôt&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Signed with it:</source>
+        <translation>Signé avec elle&#xa0;:</translation>
+    </message>
+    <message>
+        <source>the metadata of the repository</source>
+        <translation>les métadonnées du dépôt</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
     <name>Log::Window</name>
     <message>
         <source>&lt;font color=&quot;%1&quot;&gt;</source>
@@ -1917,6 +2000,26 @@ Comment voulez-vous procéder&#xa0;?</translation>
     <message>
         <source>Unable to see whether a transaction was cut off</source>
         <translation>Impossible de déterminer si une transaction a été interrompue</translation>
+    </message>
+    <message>
+        <source>Key %1: OK</source>
+        <translation>Clé %1&#xa0;: confirmée</translation>
+    </message>
+    <message>
+        <source>Key %1: Canceled</source>
+        <translation>Clé %1&#xa0;: annulée</translation>
+    </message>
+    <message>
+        <source>Enabling module streams:
+</source>
+        <translation>Activation de flux de modules :
+</translation>
+    </message>
+    <message>
+        <source>	%1
+</source>
+        <translation>	%1
+</translation>
     </message>
 </context>
 <context>

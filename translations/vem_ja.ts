@@ -59,6 +59,89 @@
     </message>
 </context>
 <context>
+    <name>KeyDialog</name>
+    <message>
+        <source>Import Key</source>
+        <translation>鍵をインポート</translation>
+    </message>
+    <message>
+        <source>Fetch Key</source>
+        <translation>鍵を取得</translation>
+    </message>
+    <message>
+        <source>Is this key to be trusted? Everything that it has signed is accepted from then on. Import it only if you know its fingerprint from elsewhere, such as its owner&apos;s pages.</source>
+        <translation>この鍵を信頼しますか? 以後、この鍵で署名されたものはすべて受け入れられます。所有者のページなど、別の経路でフィンガープリントを確認できる場合にだけインポートしてください。</translation>
+    </message>
+    <message>
+        <source>A key that is missing is to be fetched from the address below. Nothing is trusted yet: you see the key before it is imported.</source>
+        <translation>不足している鍵を下のアドレスから取得します。まだ何も信頼されません。インポートの前に鍵の内容が表示されます。</translation>
+    </message>
+    <message>
+        <source>User ID:</source>
+        <translation>ユーザー ID:</translation>
+    </message>
+    <message>
+        <source>Fingerprint:</source>
+        <translation>フィンガープリント:</translation>
+    </message>
+    <message>
+        <source>Key ID:</source>
+        <translation>鍵 ID:</translation>
+    </message>
+    <message>
+        <source>%1 (short: %2)</source>
+        <translation>%1 (短縮形: %2)</translation>
+    </message>
+    <message>
+        <source>Created:</source>
+        <translation>作成日:</translation>
+    </message>
+    <message>
+        <source>Expires:</source>
+        <translation>有効期限:</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Address:</source>
+        <translation>アドレス:</translation>
+    </message>
+    <message>
+        <source>Transport:</source>
+        <translation>経路:</translation>
+    </message>
+    <message>
+        <source>a file of this system</source>
+        <translation>このシステムのファイル</translation>
+    </message>
+    <message>
+        <source>https: encrypted, from a server that has proved its name</source>
+        <translation>https: 暗号化されており、サーバー名も確認済み</translation>
+    </message>
+    <message>
+        <source>%1: not encrypted. Whoever is on the way can have exchanged the key.</source>
+        <translation>%1: 暗号化されていません。途中の誰かが鍵をすり替えている可能性があります。</translation>
+    </message>
+    <message>
+        <source>Repository:</source>
+        <translation>リポジトリ:</translation>
+    </message>
+    <message>
+        <source>Signed with it:</source>
+        <translation>署名対象:</translation>
+    </message>
+    <message>
+        <source>the metadata of the repository</source>
+        <translation>リポジトリのメタデータ</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
     <name>Log::Window</name>
     <message>
         <source>&lt;font color=&quot;%1&quot;&gt;</source>
@@ -1917,6 +2000,26 @@ How do you wish to proceed?</source>
     <message>
         <source>Unable to see whether a transaction was cut off</source>
         <translation>トランザクションが中断されたかどうかを確認できません</translation>
+    </message>
+    <message>
+        <source>Key %1: OK</source>
+        <translation>鍵 %1: OK</translation>
+    </message>
+    <message>
+        <source>Key %1: Canceled</source>
+        <translation>鍵 %1: キャンセルされました</translation>
+    </message>
+    <message>
+        <source>Enabling module streams:
+</source>
+        <translation>モジュールストリームの有効化:
+</translation>
+    </message>
+    <message>
+        <source>	%1
+</source>
+        <translation>	%1
+</translation>
     </message>
 </context>
 <context>

@@ -59,6 +59,89 @@
     </message>
 </context>
 <context>
+    <name>KeyDialog</name>
+    <message>
+        <source>Import Key</source>
+        <translation>导入密钥</translation>
+    </message>
+    <message>
+        <source>Fetch Key</source>
+        <translation>获取密钥</translation>
+    </message>
+    <message>
+        <source>Is this key to be trusted? Everything that it has signed is accepted from then on. Import it only if you know its fingerprint from elsewhere, such as its owner&apos;s pages.</source>
+        <translation>要信任此密钥吗？此后将接受由它签名的所有内容。只有在您通过其他途径（例如其所有者的网页）得知其指纹时，才应导入。</translation>
+    </message>
+    <message>
+        <source>A key that is missing is to be fetched from the address below. Nothing is trusted yet: you see the key before it is imported.</source>
+        <translation>将从以下地址获取缺少的密钥。此时尚不信任任何内容：导入之前您会看到该密钥。</translation>
+    </message>
+    <message>
+        <source>User ID:</source>
+        <translation>用户标识：</translation>
+    </message>
+    <message>
+        <source>Fingerprint:</source>
+        <translation>指纹：</translation>
+    </message>
+    <message>
+        <source>Key ID:</source>
+        <translation>密钥标识：</translation>
+    </message>
+    <message>
+        <source>%1 (short: %2)</source>
+        <translation>%1（短：%2）</translation>
+    </message>
+    <message>
+        <source>Created:</source>
+        <translation>创建日期：</translation>
+    </message>
+    <message>
+        <source>Expires:</source>
+        <translation>到期日期：</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation>永不</translation>
+    </message>
+    <message>
+        <source>Address:</source>
+        <translation>地址：</translation>
+    </message>
+    <message>
+        <source>Transport:</source>
+        <translation>传输：</translation>
+    </message>
+    <message>
+        <source>a file of this system</source>
+        <translation>本系统的文件</translation>
+    </message>
+    <message>
+        <source>https: encrypted, from a server that has proved its name</source>
+        <translation>https：已加密，且服务器已证明其名称</translation>
+    </message>
+    <message>
+        <source>%1: not encrypted. Whoever is on the way can have exchanged the key.</source>
+        <translation>%1：未加密。传输途中的任何人都可能已替换该密钥。</translation>
+    </message>
+    <message>
+        <source>Repository:</source>
+        <translation>仓库：</translation>
+    </message>
+    <message>
+        <source>Signed with it:</source>
+        <translation>由其签名：</translation>
+    </message>
+    <message>
+        <source>the metadata of the repository</source>
+        <translation>仓库的元数据</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
     <name>Log::Window</name>
     <message>
         <source>&lt;font color=&quot;%1&quot;&gt;</source>
@@ -1917,6 +2000,26 @@ How do you wish to proceed?</source>
     <message>
         <source>Unable to see whether a transaction was cut off</source>
         <translation>无法确定是否有事务被中断</translation>
+    </message>
+    <message>
+        <source>Key %1: OK</source>
+        <translation>密钥 %1：已确认</translation>
+    </message>
+    <message>
+        <source>Key %1: Canceled</source>
+        <translation>密钥 %1：已取消</translation>
+    </message>
+    <message>
+        <source>Enabling module streams:
+</source>
+        <translation>启用模块流：
+</translation>
+    </message>
+    <message>
+        <source>	%1
+</source>
+        <translation>	%1
+</translation>
     </message>
 </context>
 <context>
