@@ -79,16 +79,24 @@ class Case:
         self.weak_at_start = dice.chance(0.8)
         self.forced_out = dice.chance(0.07)
         self.forced_in = [dice.one(pool.packages)] if dice.chance(0.1) else []
-        self.keys = [1, 2] if not self.signed or FEATURES["unknown keys"] or dice.chance(0.7) else [1]
+        self.keys = [1, 2] if not self.signed or dice.chance(0.7) else [1]
         if self.signed:
-            for repository in self.repositories:
-                if FEATURES["unknown keys"]:
-                    repository.options["gpgkey"] = " ".join(pool.key(number).as_uri() for number in (1, 2))
-                repository.options["gpgcheck"] = "1"
+            self._check(Dice(f"keys {seed}"))
         self.locks = self._locks(Dice(f"locks {seed}")) if FEATURES["versionlock"] and LOCKING.exists() else []
         self.options: List[str] = []
         """What the command line has to be told in addition, once the case is written."""
         self._dice = Dice(f"marks {seed}")
+
+    def _check(self, dice: Dice) -> None:
+        """Has the repositories' packages checked, and lets the rpm database know of some of the keys."""
+        for repository in self.repositories:
+            repository.options["gpgcheck"] = "1"
+            # Whose keys are told can be asked for them.
+            if FEATURES["unknown keys"] and dice.chance(0.8):
+                told = dice.one(((1, 2), (1,), (2, 1)))
+                repository.options["gpgkey"] = " ".join(self.pool.key(number).as_uri() for number in told)
+        if FEATURES["unknown keys"]:
+            self.keys = dice.one(([1, 2], [1], []))
 
     # Packages ----------------------------------------------------------------------------------------
 

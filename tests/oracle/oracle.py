@@ -39,7 +39,8 @@ def judge(seed: int, pool: Pool, directory: Path) -> Verdict:
     home = directory / "home"
     home.mkdir()
     applied: Applied = in_process(lambda: helper_package(case, ours, home), directory / "vem.log")
-    lines = reading.differences(case, applied.read, before["packages"], reading.told(case, theirs, directory / "list.log"))
+    lists = reading.told(case, theirs, directory / "list.log")
+    lines = reading.differences(case, applied.read, before["packages"], lists)
 
     def can_be_had(package: str) -> bool:
         place = _copy(root, directory / "asked/root")

@@ -111,8 +111,9 @@ def differences(case: Case, read: Read, there: List[str], lists: Lists) -> List[
             # The engine takes the first of several.
             repositories.setdefault(_split(line), line.split()[1])
         for package, theirs in sorted(lists[section].items()):
-            if repositories.get(package, theirs) != theirs:
-                lines += [f"-{section} {_shown(package)} {repositories[package]}", f"+{section} {_shown(package)} {theirs}"]
+            ours_is = repositories.get(package, theirs)
+            if ours_is != theirs:
+                lines += [f"-{section} {_shown(package)} {ours_is}", f"+{section} {_shown(package)} {theirs}"]
     return lines
 
 

@@ -61,6 +61,19 @@ def _only_told(outcome: Outcome, _again: Again) -> bool:
     return set(outcome.differences) == {"outcome"} and outcome.ran.status == 0
 
 
+def _fewer_keys(outcome: Outcome) -> bool:
+    lines = outcome.differences.get("keys", [])
+    return bool(lines) and all(line.startswith("+") for line in lines)
+
+
+def _both_refused(outcome: Outcome, _again: Again) -> bool:
+    return set(outcome.differences) == {"keys"} and outcome.ours == outcome.before and outcome.ran.status != 0
+
+
+def _both_done(outcome: Outcome, _again: Again) -> bool:
+    return set(outcome.differences) == {"keys"} and not outcome.applied.refused and outcome.ran.status == 0
+
+
 def _refuses_mixture(outcome: Outcome) -> bool:
     wish = outcome.applied.wish
     mixed = bool(wish.removes) and bool(wish.installs or wish.updates)
@@ -104,6 +117,19 @@ RULES = (
         "refused, as it is without the other mark.",
         _refuses_mixture,
         explains=_pushed_out,
+    ),
+    Rule(
+        "an apply that is refused imports no key",
+        "dnf imports the keys of some packages before it finds that others are not signed. Here nothing is changed.",
+        _fewer_keys,
+        explains=_both_refused,
+    ),
+    Rule(
+        "only a key that signs a package is imported",
+        "Once dnf lacks a key, it imports all that the repository names. Here each is asked for, and those that no "
+        "package wants are not.",
+        _fewer_keys,
+        explains=_both_done,
     ),
     Rule(
         "a marked update is insisted upon",

@@ -156,6 +156,8 @@ def helper_package(case: Case, root: Path, home: Path, wish: Optional[Wish] = No
 
     fake_host.HOST.reset()
     fake_host.HOST.on_list = look
+    # As the command line, which is told to answer yes.
+    fake_host.HOST.key_answer = lambda *_question: 1
     refused = ""
     if wish:
         try:
