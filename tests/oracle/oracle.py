@@ -112,7 +112,25 @@ def _compare(case: Case, applied: Applied, ran: Ran, before: State, ours: State,
     found = {kind: differences(ours, theirs, kind) for kind in ours}
     words = ("refused" if applied.refused else "done", "refused" if ran.status else "done")
     found["outcome"] = [f"-{words[0]}", f"+{words[1]}"] if words[0] != words[1] else []
+    if applied.refused and ran.status:
+        causes = _cause(applied.refused), _cause(ran.words)
+        found["cause"] = [f"-{causes[0]}", f"+{causes[1]}"] if causes[0] != causes[1] else []
     return Outcome(case, applied, ran, before, ours, theirs, {kind: lines for kind, lines in found.items() if lines})
+
+
+_CAUSES = (
+    # What the helper package's child says of a fault of its own is nothing that a command line could say.
+    ("a fault", ("has died",)),
+    ("signatures", ("GPG check FAILED", "is not signed", "Public key for")),
+    ("rpm's test", ("Transaction test error", "conflicts between attempted installs", "conflicts with file from")),
+    ("a scriptlet", ("scriptlet",)),
+    ("the solver", ("Problem",)),
+)
+
+
+def _cause(words: str) -> str:
+    """The kind of reason that is given: two that refuse are to refuse the same."""
+    return next((cause for cause, signs in _CAUSES if any(sign in words for sign in signs)), "something else")
 
 
 def _told(case: Case, applied: Applied, found: Dict[str, List[str]], directory: Path) -> str:
@@ -130,7 +148,7 @@ def _told(case: Case, applied: Applied, found: Dict[str, List[str]], directory: 
     if applied.refused:
         lines += [f"  helper package: {line}" for line in applied.refused.splitlines()]
     said = directory / "dnf.log"
-    if said.exists() and "outcome" in found:
+    if said.exists() and ("outcome" in found or "cause" in found):
         lines += [f"  dnf: {line}" for line in said.read_text(encoding="utf-8", errors="replace").splitlines()[-12:]]
     return "\n".join(lines)
 
