@@ -13,7 +13,7 @@ import pytest
 from catalogue import Catalogue
 from fake_host import FakeHost
 from program import Collection, Program
-from rpmestate import Estate, run, spec
+from rpmestate import Estate, install_options, run, spec
 
 # Removals alone -----------------------------------------------------------------------------------------
 
@@ -26,6 +26,19 @@ def test_removal_takes_along_what_needs_it_and_brings_nothing_in_instead(
     found = program.collect()
     found.yumio.apply([], [], [found.there("lib")])
     assert estate.installed() == {"battery-1.0-1.noarch"}
+
+
+def test_removal_of_one_of_several_versions_side_by_side_takes_along_what_needs_it(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
+) -> None:
+    (old,) = estate.build(spec("peg", "1.0", requires=["core = 1.0"]))
+    (new,) = estate.build(spec("peg", "2.0"))
+    estate.rpm("-i", *install_options(), *rpms.some("core-1.0", "core-2.0"), old)
+    estate.repository("base", [new])
+    found = program.collect()
+    (first,) = [package for package in found.installed if str(package.po).startswith("core-1.0")]
+    found.yumio.apply([], [], [first])
+    assert estate.installed() == {"core-2.0-1.noarch"}
 
 
 def test_removal_needs_no_repository(

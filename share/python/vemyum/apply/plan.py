@@ -97,15 +97,21 @@ def _require_doubled(base: Base, marks: Marks) -> None:
         )
 
 
-def is_doubled(base: Base, removes: Sequence[Wish]) -> bool:
-    """Whether something is to go of which another version stays."""
-    counts: Dict[Tuple[str, str], int] = {}
-    for package in base.sack.query(flags=hawkey.IGNORE_EXCLUDES).installed().filter(name=[one.name for one in removes]):
-        counts[package.name, package.arch] = counts.get((package.name, package.arch), 0) + 1
-    for unwanted in removes:
-        if (unwanted.name, unwanted.arch) in counts:
-            counts[unwanted.name, unwanted.arch] -= 1
-    return any(counts.get((unwanted.name, unwanted.arch), 0) > 0 for unwanted in removes)
+def only_doubled(base: Base, removes: Sequence[Wish]) -> bool:
+    """Whether nothing is to go but versions that a newer one, which stays, has taken the place of. Of install-only
+    packages each has a place of its own."""
+    installed = base.sack.query(flags=hawkey.IGNORE_EXCLUDES).installed().filter(name=[one.name for one in removes])
+    several = base._get_installonly_query(installed)
+    unwanted = set(removes)
+    newest: Dict[Tuple[str, str], dnf.package.Package] = {}
+    found: Dict[Wish, dnf.package.Package] = {}
+    for package in sorted(installed.difference(several)):
+        wish = _wish(package)
+        if wish in unwanted:
+            found[wish] = package
+        else:
+            newest[package.name, package.arch] = package
+    return all(one in found and found[one] < newest.get((one.name, one.arch), found[one]) for one in removes)
 
 
 def _of_names(query: hawkey.Query, wanted: Sequence[Wish]) -> Dict[Wish, dnf.package.Package]:
@@ -115,8 +121,12 @@ def _of_names(query: hawkey.Query, wanted: Sequence[Wish]) -> Dict[Wish, dnf.pac
     """
     found: Dict[Wish, dnf.package.Package] = {}
     for package in query.filter(name=[one.name for one in wanted]):
-        found.setdefault(Wish(package.reponame, package.name, package.arch, package.evr), package)
+        found.setdefault(_wish(package), package)
     return found
+
+
+def _wish(package: dnf.package.Package) -> Wish:
+    return Wish(package.reponame, package.name, package.arch, package.evr)
 
 
 def _shown(wish: Wish) -> str:

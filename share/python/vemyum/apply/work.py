@@ -29,7 +29,7 @@ from ..signatures import check_signatures
 from ..surroundings import load_needed_later
 from ..texts import _
 from .messages import Change, Plan, Request
-from .plan import NOT_INSTALLED, enabled_streams, is_doubled, mark, solve
+from .plan import NOT_INSTALLED, enabled_streams, mark, only_doubled, solve
 
 _ONLY_TESTED = _(
     "This was only a test: tsflags=test is set in the configuration. The transaction has been checked and would work; "
@@ -83,7 +83,7 @@ class Work:
                 repo._repo.setSyncStrategy(dnf.repo.SYNC_LAZY)
             if not self._request.incoming:
                 base.load_system()
-            if self._request.incoming or is_doubled(base, self._request.removes):
+            if self._request.incoming or only_doubled(base, self._request.removes):
                 for repo in enabled:
                     # Which the reading of the system alone has switched off.
                     repo.enable()
