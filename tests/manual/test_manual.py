@@ -5,6 +5,7 @@ VEM_MANUAL is the build folder of the manuals, VEM_PROGRAM the binary.
 """
 from __future__ import annotations
 
+import ast
 import os
 import re
 import subprocess
@@ -215,3 +216,14 @@ def test_quoted_words_are_words_of_the_program(words: str) -> None:
     phrases = {phrase for phrase in re.findall(r'"([^"\n]+)"', text) if " " in phrase.strip()}
     assert len(phrases) > 10
     assert [phrase for phrase in sorted(phrases) if missing(phrase, known)] == []
+
+
+def test_each_difference_from_the_command_line_that_is_meant_is_told() -> None:
+    """The tests that look for others have a rule for each; the first text of a rule is its name."""
+    tree = ast.parse((ROOT / "tests/oracle/rules.py").read_text(encoding="utf-8"))
+    calls = [node for node in ast.walk(tree) if isinstance(node, ast.Call) and isinstance(node.func, ast.Name)]
+    rules = [call for call in calls if call.func.id in ("Rule", "ReadingRule")]
+    names = [ast.literal_eval(call.args[0]) for call in rules]
+    chapter = (SOURCE / "chapters/marking-and-applying.adoc").read_text(encoding="utf-8")
+    told = [line[:-2] for line in chapter.partition("[[as-the-command-line]]")[2].splitlines() if line.endswith("::")]
+    assert told == [name[0].upper() + name[1:] for name in names]
