@@ -9,7 +9,7 @@ from typing import Callable, Iterator, List
 import pytest
 
 from program import Program, wait_for
-from rpmestate import Estate
+from rpmestate import Estate, run, spec
 
 Start = Callable[..., Program]
 
@@ -58,15 +58,14 @@ def test_a_window_that_downloads_packages(site: Estate, start: Start) -> None:
     server.bind(("127.0.0.1", 0))
     server.listen()
     server.settimeout(60)
-    repository = (site.root / "etc/yum.repos.d/harbour.repo").read_text()
+    # The metadata are there; the packages are somewhere where nobody gives them.
+    address = f"http://127.0.0.1:{server.getsockname()[1]}/"
+    run(["createrepo_c", "--quiet", "--baseurl", address, site.repository("dock", site.build(spec("fleet-lamp", "9")))])
     program = start(site)
     program.wait_ready()
-    # The metadata are there; from here on the packages are somewhere where nobody gives them.
-    address = f"baseurl=http://127.0.0.1:{server.getsockname()[1]}/"
-    lines = [address if line.startswith("baseurl=") else line for line in repository.splitlines()]
-    (site.root / "etc/yum.repos.d/harbour.repo").write_text("\n".join(lines) + "\n")
     program.press("Set Update of All Out-of-Date")
     program.press("Apply Actions")
+    program.press("OK", program.window("Apply"))
     with server:
         connection, _ = server.accept()
         with connection:
