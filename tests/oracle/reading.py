@@ -12,13 +12,13 @@ from case import Case
 from sides import Read, command_line
 
 _SECTIONS = {
-    "Installed Packages": "installed",
-    "Available Upgrades": "upgrades",
-    "Upgraded Packages": "upgrades",
-    "Obsoleting Packages": "obsoleting",
-    "Available Packages": "available",
+    "installed packages": "installed",
+    "available upgrades": "upgrades",
+    "upgraded packages": "upgrades",
+    "obsoleting packages": "obsoleting",
+    "available packages": "available",
 }
-"""Headings of `dnf list`."""
+"""Headings of `dnf list`; releases of it differ in capitals and words."""
 
 Package = Tuple[str, str, str, str, str]
 """Name, epoch, version, release, architecture."""
@@ -37,8 +37,9 @@ def told(case: Case, root: Path, said: Path) -> Lists:
     section = ""
     words: List[str] = []
     for line in ran.words.splitlines():
-        if line.strip() in _SECTIONS:
-            section = _SECTIONS[line.strip()]
+        heading = line.strip().lower()
+        if heading in _SECTIONS:
+            section = _SECTIONS[heading]
         elif section == "obsoleting" and line.startswith(" "):
             # What the one above replaces.
             continue

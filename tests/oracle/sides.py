@@ -126,7 +126,9 @@ def nevra(package: Any) -> str:
 
 def helper_package(case: Case, root: Path, home: Path, wish: Optional[Wish] = None) -> Applied:
     """Collects, makes the marks of the case, applies. Marks can be given instead."""
-    os.environ.update(VEMROOT=str(root), HOME=str(home), DBUS_SYSTEM_BUS_ADDRESS=f"unix:path={home}/no-bus")
+    # A home that knows nothing of the estate: the database must be found without its help.
+    os.environ.update(VEMROOT=str(root), HOME=str(home), XDG_CONFIG_HOME=f"{home}/.config")
+    os.environ["DBUS_SYSTEM_BUS_ADDRESS"] = f"unix:path={home}/no-bus"
     for folder in (TOP / "share/python", TOP / "tests/python"):
         sys.path.insert(0, str(folder))
     import fake_host
