@@ -314,6 +314,10 @@ class Case:
         return wish
 
 
+def name_of(nevra: str) -> str:
+    return nevra.rpartition("-")[0].rpartition("-")[0]
+
+
 def write_section(path: Path, title: str, options: Dict[str, str]) -> None:
     path.parent.mkdir(parents=True, exist_ok=True)
     lines = [f"[{title}]", *(f"{option}={value}" for option, value in options.items())]
@@ -323,8 +327,8 @@ def write_section(path: Path, title: str, options: Dict[str, str]) -> None:
 def _comps(groups: Dict[str, List[Tuple[str, str]]]) -> str:
     lines = ['<?xml version="1.0" encoding="UTF-8"?>', "<comps>"]
     for id, members in groups.items():
-        lines += [f"<group><id>{id}</id><name>{id.title()}</name><description/><default>true</default>"]
-        lines += ["<uservisible>true</uservisible><packagelist>"]
+        lines += [f"<group><id>{id}</id><name>{id.title()}</name><description>{id}</description>"]
+        lines += ["<default>true</default><uservisible>true</uservisible><packagelist>"]
         lines += [f'<packagereq type="{kind}">{name}</packagereq>' for name, kind in members]
         lines += ["</packagelist></group>"]
     return "\n".join([*lines, "</comps>", ""])

@@ -11,7 +11,7 @@ from typing import Dict, List, NamedTuple, Tuple
 import rpm
 
 import reading
-from case import Case
+from case import Case, name_of
 from pool import Pool
 from rpmestate import Estate
 from rules import Outcome, explanation, unexplained
@@ -42,9 +42,10 @@ def judge(seed: int, pool: Pool, directory: Path) -> Verdict:
     lists = reading.told(case, theirs, directory / "list.log")
     lines = reading.differences(case, applied.read, before["packages"], lists)
 
-    def can_be_had(package: str) -> bool:
+    def can_be_had(command: str, package: str) -> bool:
         place = _copy(root, directory / "asked/root")
-        command_line(case, ["install", package], place, directory / "asked.log")
+        asked = name_of(package) if command == "upgrade" else package
+        command_line(case, [command, asked], place, directory / "asked.log")
         return package in state_of(place)["packages"]
 
     lines, reading_rules = unexplained(case, before, lines, can_be_had)
@@ -92,7 +93,7 @@ def _image(case: Case, directory: Path) -> Tuple[State, Path]:
     if case.forced_out and there:
         # As somebody does who knows better: what needs it stays behind.
         estate.rpm("--erase", "--nodeps", "--noscripts", _for_rpm(there[case.seed % len(there)]))
-    names = {package.rpartition("-")[0].rpartition("-")[0] for package in there}
+    names = set(map(name_of, there))
     forced = [case.pool.rpm(package) for package in case.forced_in if package.name not in names]
     if forced:
         estate.install(forced, ["--nodeps", "--noscripts", "--replacefiles"])

@@ -178,8 +178,8 @@ def explanation(outcome: Outcome, again: Again) -> Tuple[str, Outcome]:
             return " + ".join(names), nearest
 
 
-CanBeHad = Callable[[str], bool]
-"""Whether the command line installs this version when it is asked for it."""
+CanBeHad = Callable[[str, str], bool]
+"""Whether the command line brings this version by that command, "install" of it or "upgrade" of its name."""
 
 
 class ReadingRule(NamedTuple):
@@ -198,16 +198,16 @@ def _other_vendor(case: Case, there: State, line: str, can_be_had: CanBeHad) -> 
     vendors = {package.nevra: package.vendor for package in case.pool.packages}
     if line.startswith("-"):
         # An older one than the newest, which is of another vendor.
-        return can_be_had(package)
+        return can_be_had("upgrade", package)
     others = any(vendors[installed] != vendors[package] for installed in there["packages"])
-    return others and not can_be_had(package)
+    return others and not can_be_had("install", package)
 
 
 READING_RULES = (
     ReadingRule(
         "what the solver must refuse is not offered",
         'With allow_vendor_change=0, "dnf list" tells updates that come from another vendor, or replace a package of '
-        'another vendor; neither "dnf upgrade" nor "dnf install" takes them. The table shows what they take.',
+        'another vendor; neither "dnf upgrade" nor "dnf install" takes them. The table shows what "dnf upgrade" takes.',
         _other_vendor,
     ),
 )

@@ -7,6 +7,7 @@ from nothing would take longer than what it does on an estate of this size. The 
 
 from __future__ import annotations
 
+import contextlib
 import os
 import pickle
 import signal
@@ -19,6 +20,7 @@ import dnf
 import dnf.cli.main
 import dnf.exceptions
 import dnf.util
+import libdnf.transaction
 import rpm  # noqa: F401 - reads its configuration, which is the same for both sides
 
 from case import Case, Row, Wish
@@ -85,13 +87,18 @@ def begin(case: Case, root: Path, repository: Path) -> None:
     with dnf.Base(conf) as base:
         base.repos.add_new_repo("old", conf, baseurl=[repository.as_uri()])
         base.fill_sack()
-        for wanted in case.start:
-            base.install(wanted, strict=False)
-        if case.start_group:
-            base.read_comps(arch_filter=True)
-            base.group_install(sorted(case.groups)[0], ("mandatory", "default"), strict=False)
+        group = case.groups[sorted(case.groups)[0]] if case.start_group else []
+        members = [name for name, kind in group if kind != "optional"]
+        for wanted in (*case.start, *members):
+            with contextlib.suppress(dnf.exceptions.MarkingError):
+                base.install(wanted, strict=False)
         try:
             if base.resolve():
+                for item in base.transaction:
+                    if item.pkg.name in members:
+                        # As an installation of the group, without the library that reads groups: some releases of it
+                        # end the process.
+                        item.reason = libdnf.transaction.TransactionItemReason_GROUP
                 base.download_packages(list(base.transaction.install_set))
                 base.do_transaction()
         except dnf.exceptions.Error as error:
