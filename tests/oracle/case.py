@@ -13,13 +13,6 @@ import dnf.const
 from dice import Dice
 from pool import CORES, NAMES, SECOND, Entry, Package, Pool, write_repository
 
-FEATURES = {
-    "versionlock": True,
-    # An apply asks for no key yet: those that it lacks are never told to the command line either.
-    "unknown keys": False,
-}
-"""What the made-up estates leave out until it is there."""
-
 LOCKING = Path(dnf.const.PLUGINPATH) / "versionlock.py"
 """The plugin that locks versions; not every system has it."""
 
@@ -79,10 +72,11 @@ class Case:
         self.weak_at_start = dice.chance(0.8)
         self.forced_out = dice.chance(0.07)
         self.forced_in = [dice.one(pool.packages)] if dice.chance(0.1) else []
-        self.keys = [1, 2] if not self.signed or dice.chance(0.7) else [1]
+        self.keys: List[int] = []
+        """Those that the rpm database holds."""
         if self.signed:
             self._check(Dice(f"keys {seed}"))
-        self.locks = self._locks(Dice(f"locks {seed}")) if FEATURES["versionlock"] and LOCKING.exists() else []
+        self.locks = self._locks(Dice(f"locks {seed}")) if LOCKING.exists() else []
         self.options: List[str] = []
         """What the command line has to be told in addition, once the case is written."""
         self._dice = Dice(f"marks {seed}")
@@ -92,11 +86,10 @@ class Case:
         for repository in self.repositories:
             repository.options["gpgcheck"] = "1"
             # Whose keys are told can be asked for them.
-            if FEATURES["unknown keys"] and dice.chance(0.8):
+            if dice.chance(0.8):
                 told = dice.one(((1, 2), (1,), (2, 1)))
                 repository.options["gpgkey"] = " ".join(self.pool.key(number).as_uri() for number in told)
-        if FEATURES["unknown keys"]:
-            self.keys = dice.one(([1, 2], [1], []))
+        self.keys = dice.one(([1, 2], [1], []))
 
     # Packages ----------------------------------------------------------------------------------------
 

@@ -97,7 +97,7 @@ def _image(case: Case, directory: Path) -> Tuple[State, Path]:
     forced = [case.pool.rpm(package) for package in case.forced_in if package.name not in names]
     if forced:
         estate.install(forced, ["--nodeps", "--noscripts", "--replacefiles"])
-    for number in case.keys if case.signed else []:
+    for number in case.keys:
         estate.rpm("--import", case.pool.key(number))
     case.write(directory / "repositories", root)
     return state_of(root), root
