@@ -123,7 +123,7 @@ def test_warning_of_the_process_that_applies(
 ) -> None:
     estate.repository("base", rpms.some("lone-1.0"))
     collection = program.collect()
-    add(estate, "[two words]\nbaseurl=file:///nowhere\n")
+    (estate.root / "var/log/dnf.log").mkdir()
     host.reset()
     collection.yumio.apply([collection.offered("lone")], [], [])
-    assert "two words" in host.text("warninglog")
+    assert "/var/log/dnf.log" in host.text("warninglog")
