@@ -131,6 +131,7 @@ NAMES = [
     (libdnf.transaction, "TransactionItemAction_REMOVE"),
     (libdnf.transaction, "TransactionItemAction_UPGRADE"),
     (libdnf.transaction, "TransactionItemAction_UPGRADED"),
+    (libdnf.transaction, "TransactionItemReason_CLEAN"),
     (libdnf.transaction, "TransactionItemState_ERROR"),
     (rpm, "RPMTAG_BUILDHOST"),
     (rpm, "TransactionSet"),

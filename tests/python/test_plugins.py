@@ -157,6 +157,19 @@ def test_change_of_the_repositories_counts(house: House) -> None:
     assert house.collect().merged() == {"lone": "UpToDate", "lib": "Available"}
 
 
+def test_session_has_the_last_word_about_a_repository(house: House, rpms: Catalogue) -> None:
+    house.estate.repository("more", rpms.some("app-1.0"))
+    house.hook("config", "self.base.repos['more'].disable()")
+    assert "app" not in house.collect().merged()
+    house.program.clear()
+    yumio = house.program.start()
+    yumio.repos.enableRepo("more")
+    yumio.setupRepos()
+    found = Collection(yumio)
+    found.yumio.apply([found.offered("app")], [], [])
+    assert "app-1.0-1.noarch" in house.estate.installed()
+
+
 def test_changed_file_counts_at_the_next_collection(house: House, host: FakeHost) -> None:
     for word in ("first", "other"):
         house.hook("sack", f"print('{word}')")

@@ -10,6 +10,7 @@ import dnf.goal
 import dnf.package
 import dnf.sack
 import hawkey
+import libdnf.transaction as lt
 
 from ..base import Base
 from ..errors import YumBaseError
@@ -53,16 +54,19 @@ def mark(base: Base, incoming: Sequence[Wish], removes: Sequence[Wish]) -> Marks
     return marks
 
 
-def _put(base: Base, marks: Marks) -> None:
-    """Puts the marks into the goal."""
-    for package in marks.incoming:
-        # Also for updates: dnf's own "upgrade" gives way silently where dependencies are in the way.
-        base.package_install(package)
-    for package in marks.removed:
+def _put(base: Base, marks: Marks, along: Sequence[dnf.package.Package] = ()) -> None:
+    """Puts the marks into the goal, and the removal of what goes along.
+
+    Removals first: the solver looks at dependencies that nothing needs any more by the order of what it is asked.
+    """
+    for package in (*marks.removed, *along):
         # What came in as a dependency alone goes along as the configuration says. An older version has the same
         # dependencies as the one that stays.
         clean = base.conf.clean_requirements_on_remove and package.name not in marks.doubled
         base._goal.erase(package, clean_deps=clean)
+    for package in marks.incoming:
+        # Also for updates: dnf's own "upgrade" gives way silently where dependencies are in the way.
+        base.package_install(package)
 
 
 def _unprotect_doubled(base: Base, marks: Marks) -> None:
@@ -158,17 +162,16 @@ def _resolve_both(base: Base, marks: Marks) -> bool:
     done = _resolve(base, marks)
     marked = set(map(_pkgtup, marks.removed))
     going = [package for package in base.goal.list_erasures() if _pkgtup(package) not in marked]
-    if not going:
+    # Nothing needs these any more, maybe since something else is updated.
+    pushed = [package for package in going if base.goal.get_reason(package) != lt.TransactionItemReason_CLEAN]
+    if not pushed:
         return done
     dependent = _gone_without(base, marks.removed)
-    if all(_pkgtup(package) in dependent for package in going):
+    if all(_pkgtup(package) in dependent for package in pushed):
         return done
     base.reset(goal=True)
-    _put(base, marks)
+    _put(base, marks, [package for package in going if _pkgtup(package) in dependent])
     _protect(base)
-    for package in going:
-        if _pkgtup(package) in dependent:
-            base._goal.erase(package, clean_deps=base.conf.clean_requirements_on_remove)
     return bool(base.resolve(allow_erasing=False))
 
 
