@@ -4,6 +4,7 @@
 from __future__ import annotations
 
 import subprocess
+import time
 from pathlib import Path
 from typing import Any, Iterator, List
 
@@ -112,6 +113,28 @@ def test_newer_forms_have_other_fingerprints() -> None:
 def test_what_is_no_key_is_unreadable(data: bytes) -> None:
     with pytest.raises(openpgp.Unreadable):
         openpgp.keys_in(data)
+
+
+@pytest.mark.parametrize("line", [b"a:b:c\n", b"\n", b"A\n", b"-----BEGIN PGP SIGNATURE-----\n"])
+def test_block_without_an_end_takes_no_time(line: bytes) -> None:
+    began = time.process_time()
+    with pytest.raises(openpgp.Unreadable):
+        openpgp.issuers_of(b"-----BEGIN PGP SIGNATURE-----\n" + line * 30000 + b"!\n")
+    assert time.process_time() - began < 5
+
+
+def test_block_that_cannot_be_decoded_is_left_out(key: Key) -> None:
+    good = key.public.read_bytes()
+    broken = b"-----BEGIN PGP PUBLIC KEY BLOCK-----\n\nno!\n-----END PGP PUBLIC KEY BLOCK-----\n"
+    assert openpgp.keys_in(broken + good) == openpgp.keys_in(good) != []
+    with pytest.raises(openpgp.Unreadable):
+        openpgp.keys_in(broken)
+
+
+def test_lines_may_end_as_elsewhere_and_have_headers(key: Key) -> None:
+    lines = key.public.read_bytes().splitlines()
+    lines[1:1] = [b"Version: 1.2-3 (Some-System)", b"Comment: see https://keys.example.org/"]
+    assert openpgp.keys_in(b"\r\n".join([b"Text before", *lines, b""])) == openpgp.keys_in(key.public.read_bytes())
 
 
 def test_damage_is_never_more_than_unreadable(key: Key) -> None:

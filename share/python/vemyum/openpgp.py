@@ -9,16 +9,13 @@ from __future__ import annotations
 
 import base64
 import binascii
+import contextlib
 import dataclasses
 import hashlib
-import re
 from typing import Dict, Iterator, List, NamedTuple, Optional, Tuple
 
-_ARMOUR = re.compile(
-    rb"-----BEGIN PGP (?:PUBLIC KEY BLOCK|SIGNATURE)-----[^\S\n]*\n(?:[^\n]*:[^\n]*\n)*\s*"
-    rb"([A-Za-z0-9+/=\s]*?)(?:^=[A-Za-z0-9+/]{4}\s*)?-----END PGP",
-    re.MULTILINE,
-)
+_BEGINS = (b"-----BEGIN PGP PUBLIC KEY BLOCK-----", b"-----BEGIN PGP SIGNATURE-----")
+_ENDS = b"-----END PGP "
 _SIGNATURE, _KEY, _USER, _SUBKEY = 2, 6, 13, 14
 """Kinds of packets."""
 _DIRECT = 0x1F
@@ -122,13 +119,26 @@ def _blocks(data: bytes) -> List[bytes]:
     """The binary data of each armoured block, or the data itself."""
     if data[:1] and data[0] & 0x80 and data[:3] != b"\xef\xbb\xbf":
         return [data]
-    try:
-        blocks = [base64.b64decode(block) for block in _ARMOUR.findall(data.replace(b"\r", b""))]
-    except binascii.Error as error:
-        raise Unreadable(str(error)) from error
+    blocks = list(_armoured_blocks(data))
     if not blocks:
         raise Unreadable("no block")
     return blocks
+
+
+def _armoured_blocks(data: bytes) -> Iterator[bytes]:
+    """Line by line: whoever has made the data, it takes as long as they are, and no longer."""
+    body: Optional[List[bytes]] = None
+    for line in map(bytes.strip, data.split(b"\n")):
+        if line in _BEGINS:
+            body = []
+        elif body is not None and line.startswith(_ENDS):
+            # What cannot be decoded is no block.
+            with contextlib.suppress(binascii.Error):
+                yield base64.b64decode(b"".join(body), validate=True)
+            body = None
+        elif body is not None and b":" not in line and not (len(line) == 5 and line.startswith(b"=")):
+            # Neither a header nor the checksum.
+            body.append(line)
 
 
 def _packets(data: bytes) -> Iterator[_Packet]:
