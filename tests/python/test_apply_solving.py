@@ -139,6 +139,17 @@ def test_repository_file_that_changes_or_goes_behind_the_collection_has_no_effec
     assert estate.installed() == {"app-1.0-1.noarch", "lib-1.0-1.noarch"}
 
 
+def test_second_section_of_an_id_counts_neither_in_the_table_nor_in_the_apply(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
+) -> None:
+    estate.repository("base", rpms.some("lone-1.0"))
+    with open(estate.root / "etc/yum.repos.d/later.repo", "w", encoding="utf-8") as repos:
+        repos.write("[base]\nname=another base\nbaseurl=file:///nowhere\ngpgcheck=0\n")
+    found = program.collect()
+    found.yumio.apply([found.offered("lone")], [], [])
+    assert estate.installed() == {"lone-1.0-1.noarch"}
+
+
 def test_repository_that_is_switched_for_this_session_alone_is_so_for_the_apply(
     estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
 ) -> None:

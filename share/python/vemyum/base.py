@@ -71,13 +71,11 @@ class Base(dnf.Base):
         except dnf.exceptions.ConfigError as error:
             raise misread(error) from error
         self.lacking += reader.refused
-        self.sections = reader.sections
 
     def use_repositories(self, sections: Iterable[RepositorySection]) -> None:
         """Takes these instead of what the configuration says now."""
         reader = RepositoryReader(self.conf, None)
         self._add(reader, map(reader.rebuilt, sections))
-        self.sections = reader.sections
 
     def _add(self, reader: RepositoryReader, repositories: Iterable[dnf.repo.Repo]) -> None:
         for repo in repositories:
@@ -89,6 +87,9 @@ class Base(dnf.Base):
                 logging.getLogger("dnf").warning("%s", error)
                 if repo.enabled:
                     reader.refuse(repo.repofile, error)
+            else:
+                # Two sections may claim the same id, of which the first counts.
+                self.sections[repo.id] = reader.section
 
     def load_everything(self) -> None:
         """Reads the enabled repositories and the rpm database.

@@ -49,8 +49,8 @@ class RepositoryReader(dnf.conf.read.RepoReader):
 
     def __init__(self, conf: Any, opts: Any) -> None:
         super().__init__(conf, opts)
-        self.sections: Dict[str, RepositorySection] = {}
-        """What each repository was built of, by its id."""
+        self.section = RepositorySection("", {}, False)
+        """What the last repository was built of."""
         self.refused: List[str] = []
         """What cannot be used, as far as it was read: files, and sections that aren't switched off."""
         self._file = ""
@@ -87,7 +87,7 @@ class RepositoryReader(dnf.conf.read.RepoReader):
             raise
         check_signatures_unless_told(repo, parser, id_, dnf.conf.config.PRIO_REPOCONFIG)
         options = {name: parser.getValue(id_, name) for name in parser.options(id_)}
-        self.sections[repo.id] = RepositorySection(id_, options, bool(repo.enabled))
+        self.section = RepositorySection(id_, options, bool(repo.enabled))
         return repo
 
     def rebuilt(self, section: RepositorySection) -> Any:
@@ -99,7 +99,7 @@ class RepositoryReader(dnf.conf.read.RepoReader):
             parser.setValue(section.name, name, value)
         repo = self._build_repo(parser, section.name, "")
         repo._configure_from_options(self.opts)
-        self.sections[repo.id] = section
+        self.section = section
         return repo
 
     def _get_repos(self, repofn: str) -> Iterator[Any]:
