@@ -13,7 +13,7 @@ from fake_host import FakeHost
 from keys import UID, Key
 from program import Program
 from rpmestate import Estate
-from web import Web
+from web import Web, metalink
 
 
 @pytest.fixture(scope="module")
@@ -146,11 +146,40 @@ def test_one_key_of_several_is_asked_about(
     left_out(program, f"the key {other.fingerprint} was not agreed to")
 
 
+@pytest.mark.parametrize("kind", ["mirrorlist", "metalink"])
 def test_mirrors_know_where_the_signature_is(
+    estate: Estate,
+    rpms: Catalogue,
+    program: Program,
+    host: FakeHost,
+    key: Key,
+    other: Key,
+    web: Web,
+    tmp_path: Path,
+    kind: str,
+) -> None:
+    file = tmp_path / "both"
+    file.write_bytes(other.public.read_bytes() + key.public.read_bytes())
+    place = seal(estate, rpms, key, baseurl=None, gpgkey=file.as_uri(), **{kind: f"{web.url}/mirrors"})
+    base = f"{web.url}/base"
+    web.page("/mirrors", metalink(place, base) if kind == "metalink" else f"# Mirrors\n{base}\n".encode())
+    agree(host)
+    assert program.collect().merged() == {"lone": "Available"}
+    assert [question[4] for question in questions(host)] == [key.fingerprint]
+    # What is wrong though the key is known is no matter of keys.
+    host.reset()
+    forget(estate)
+    repomd = place / "repodata/repomd.xml"
+    repomd.write_bytes(repomd.read_bytes() + b"\n")
+    web.page("/mirrors", metalink(place, base) if kind == "metalink" else f"{base}\n".encode())
+    left_out(program, "GPG signature verification error")
+    assert not questions(host)
+
+
+def test_server_that_is_down_hides_no_signature(
     estate: Estate, rpms: Catalogue, program: Program, host: FakeHost, key: Key, web: Web
 ) -> None:
-    web.page("/mirrors", f"{web.url}/base\n".encode())
-    seal(estate, rpms, key, baseurl=None, mirrorlist=f"{web.url}/mirrors")
+    seal(estate, rpms, key, baseurl=f"http://127.0.0.1:1/base {web.url}/base")
     agree(host)
     assert program.collect().merged() == {"lone": "Available"}
     assert [question[4] for question in questions(host)] == [key.fingerprint]

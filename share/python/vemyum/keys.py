@@ -7,6 +7,8 @@ Nothing is trusted, and nothing fetched from a server, before the user has agree
 from __future__ import annotations
 
 import contextlib
+import html
+import itertools
 import os
 import re
 import tempfile
@@ -27,6 +29,10 @@ _FEW = 10
 """Packages that a question names."""
 
 _SIGNATURE_OF_METADATA = "repodata/repomd.xml.asc"
+_MIRRORS_OF_METALINK = re.compile(r">\s*([^<>\s]+)/repodata/repomd\.xml\s*<")
+_MIRROR = re.compile(r"(?:https?|ftp|file)://")
+_TRIES = 5
+"""Servers that are asked for the signature of the metadata."""
 _ABOUT_SIGNATURES = re.compile(r"\bGPG\b|\bsignature\b", re.I)
 
 
@@ -55,14 +61,14 @@ class Search:
         packages: Sequence[str],
         refusal: Callable[[openpgp.Key], Optional[str]] = lambda key: None,
     ) -> None:
-        """One of the keys that these signatures name by fingerprint or id, any key if there is none to name.
+        """One of the keys that these signatures name by fingerprint or id.
 
         `packages` are what is signed, none for the metadata of the repository; `refusal` tells why a key that fits is
         of no use, or None. Raises Missing, also where the user doesn't agree.
         """
         for repo, location in _places(repos):
             for key in self._keys_at(location, repo, packages):
-                part = next((part for part in map(key.part, issuers) if part), None) if issuers else key.primary
+                part = next((part for part in map(key.part, issuers) if part), None)
                 fingerprint = key.primary.fingerprint
                 if part is None:
                     self._tell(location, _("the key {key} is not the one").format(key=fingerprint))
@@ -137,8 +143,13 @@ def _content(location: str, repo: dnf.repo.Repo) -> bytes:
         # A file of the managed system, else one of this one, as dnf has it for any root.
         with open(place if os.path.exists(place) else path, "rb") as file:
             return file.read()
+    return _downloaded(location, repo)
+
+
+def _downloaded(address: str, repo: dnf.repo.Repo) -> bytes:
+    """RuntimeError with the library's words."""
     with open(os.memfd_create("key"), "w+b") as file:
-        repo._repo.downloadUrl(location, file.fileno())
+        repo._repo.downloadUrl(address, file.fileno())
         file.seek(0)
         return file.read()
 
@@ -233,14 +244,24 @@ def _load_with(repo: dnf.repo.Repo, keys: List[str], trusted: bool) -> None:
 
 
 def _issuers(repo: dnf.repo.Repo) -> Optional[List[str]]:
-    """Who has signed the metadata; empty where only its mirrors know where it is, None for no signature."""
-    address = repo.remote_location(_SIGNATURE_OF_METADATA)
-    if address is None:
-        return []
-    try:
-        return openpgp.issuers_of(_content(address, repo)) or None
-    except (OSError, RuntimeError, openpgp.Unreadable):
-        return None
+    """Who has signed the metadata, by the first server that tells; None for no signature."""
+    for base in itertools.islice(_bases(repo), _TRIES):
+        with contextlib.suppress(RuntimeError, openpgp.Unreadable):
+            issuers = openpgp.issuers_of(_downloaded(f"{base.rstrip('/')}/{_SIGNATURE_OF_METADATA}", repo))
+            if issuers:
+                return issuers
+    return None
+
+
+def _bases(repo: dnf.repo.Repo) -> Iterator[str]:
+    """The addresses of a repository. The library forgets its mirrors where it could not use what they gave."""
+    yield from repo.baseurl
+    for address in filter(None, (repo.metalink, repo.mirrorlist)):
+        with contextlib.suppress(RuntimeError):
+            text = _downloaded(address, repo).decode("utf-8", "replace")
+            # A metalink may be given where a list of mirrors is asked for.
+            found = map(html.unescape, _MIRRORS_OF_METALINK.findall(text)) if "<metalink" in text else text.split()
+            yield from (mirror for mirror in found if _MIRROR.match(mirror))
 
 
 def _trusted(repo: dnf.repo.Repo, issuers: Sequence[str]) -> bool:
