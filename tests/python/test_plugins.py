@@ -152,6 +152,13 @@ def test_what_is_printed_is_in_the_log(house: House, host: FakeHost) -> None:
     assert "said by a plugin\n" in host.text("stdoutWrite")
 
 
+def test_pythons_warnings_of_an_apply_are_in_the_log(house: House, host: FakeHost) -> None:
+    house.hook("resolved", "import warnings; warnings.warn('old ways')")
+    house.apply()
+    assert "UserWarning: old ways" in host.text("warninglog")
+    assert "UserWarning: old ways" in (house.estate.root / "var/log/dnf.log").read_text(encoding="utf-8")
+
+
 def test_change_of_the_repositories_counts(house: House) -> None:
     house.hook("config", "self.base.repos['base'].excludepkgs = ['battery']")
     assert house.collect().merged() == {"lone": "UpToDate", "lib": "Available"}

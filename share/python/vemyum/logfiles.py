@@ -21,7 +21,7 @@ from dnf.i18n import _ as in_dnfs_words
 
 from .credentials import masked
 from .errors import os_error_text
-from .messages import ONLY_IN_FILES, RPM_LOGGER
+from .messages import ONLY_IN_FILES, PYTHONS_WARNINGS, RPM_LOGGER
 from .root import as_configured
 from .text import valid
 from .texts import _
@@ -80,6 +80,7 @@ def _open(conf: dnf.conf.MainConf, name: str, logger: str, level: int) -> None:
     if logger != RPM_LOGGER:
         # dnf keeps rpm's lines out of its own file.
         file.addFilter(lambda record: record.name != RPM_LOGGER)
+        logging.getLogger(PYTHONS_WARNINGS).addHandler(file)
     marker = {"name": logger, "levelno": logging.INFO, "levelname": "INFO", "msg": dnf.const.LOG_MARKER}
     if level <= logging.INFO:
         file.handle(logging.makeLogRecord(marker))

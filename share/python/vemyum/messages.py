@@ -23,6 +23,9 @@ RPM_LOGGER = "dnf.rpm"
 ONLY_IN_FILES = "dnf.vem"
 """The logger of what stands in dnf's log files and not in the engine's log, which has words of its own for it."""
 
+PYTHONS_WARNINGS = "py.warnings"
+"""The logger of what Python warns of, such as something in a plugin. dnf takes it from the standard error."""
+
 
 class HostHandler(logging.Handler):
     """Forwards records to the host functions `log`, `warninglog` and `errorlog`."""
@@ -115,9 +118,9 @@ def rpms_words() -> Iterator[Callable[[], List[str]]]:
 
 
 def install_handler() -> None:
-    """Makes the `dnf` logger talk to the engine; a second call changes nothing."""
-    logger = logging.getLogger("dnf")
-    logger.setLevel(dnf.logging.ALL)
-    logger.propagate = False
-    if not any(isinstance(handler, HostHandler) for handler in logger.handlers):
-        logger.addHandler(HostHandler())
+    """Makes the `dnf` logger talk to the engine, and that of Python's warnings; a second call changes nothing."""
+    logging.getLogger("dnf").setLevel(dnf.logging.ALL)
+    for logger in map(logging.getLogger, ("dnf", PYTHONS_WARNINGS)):
+        logger.propagate = False
+        if not any(isinstance(handler, HostHandler) for handler in logger.handlers):
+            logger.addHandler(HostHandler())
