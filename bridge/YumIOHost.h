@@ -25,6 +25,7 @@ public:
     virtual PyObject* log(PyObject* self, PyObject* args) = 0;
     /// "ls": level, text
     virtual PyObject* warninglog(PyObject* self, PyObject* args) = 0;
+    /// "ls": level, text
     virtual PyObject* errorlog(PyObject* self, PyObject* args) = 0;
 
     // Reading of repositories. Sizes are bytes; an argument shown as _ is ignored.

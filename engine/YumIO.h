@@ -319,7 +319,8 @@ protected:
     bool readRepositories(QHash<QString, bool> const& repoStates);
     bool collectPackages();
     bool collectGroupData();
-    /// Asks a script that knows for what a transaction has left. Nothing of it fails the collection.
+    /// Ask a script that knows: for what the collection had to do without, and for what a transaction has
+    /// left. Nothing of it fails the collection.
     void collectIncomplete();
     void collectUnfinished();
     void useRepos(PyObject* reposObject, QHash<QString, bool> const& repoStates);

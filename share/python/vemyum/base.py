@@ -246,8 +246,8 @@ def open_base(
 ) -> Base:
     """A Base with repositories, nothing loaded yet.
 
-    They are those of the sections, else those of the configuration as it is now. A plugin that fails is left out, unless
-    `strict`: then it raises, where the command line would end.
+    They are those of the sections, else those of the configuration as it is now. A plugin that fails is left out,
+    unless `strict`: then it raises, where the command line would end.
     Raises dnf's errors and OSError; nothing stays open then.
     """
     with contextlib.ExitStack() as on_failure:

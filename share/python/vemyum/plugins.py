@@ -98,8 +98,8 @@ class Plugins(dnf.plugin.Plugins):
 
     @contextlib.contextmanager
     def _guarded(self, plugin: Any, step: str, stops: bool = False) -> Iterator[None]:
-        """Tells of a failure in the block. The command line ends with an error that a plugin gives as dnf's; if `stops`,
-        with any. Behind a transaction there is nothing left to stop."""
+        """Tells of a failure in the block. The command line ends with an error that a plugin gives as dnf's; if
+        `stops`, with any. Behind a transaction there is nothing left to stop."""
         try:
             yield
         except (Exception, SystemExit) as error:  # noqa: BLE001 - whatever somebody else's code comes to

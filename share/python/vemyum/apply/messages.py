@@ -3,8 +3,8 @@
 
 Each message is one line, a JSON object of the fields of one of the classes below and "is", the name of the class.
 The child begins with `Hello`, the parent answers with `Request`. Then the child talks, up to `Ended`; the parent only
-gives the `Answer` to `Plan` and to each `KeyWanted`, and says `Leave` in the end, or earlier to end what has not begun. Texts may hold what is
-no valid Unicode, as file names do.
+gives the `Answer` to `Plan` and to each `KeyWanted`, and says `Leave` in the end, or earlier to end what has not
+begun. Texts may hold what is no valid Unicode, as file names do.
 """
 
 from __future__ import annotations
