@@ -8,7 +8,6 @@ line does when it is asked in another way, or what the rule's own function looks
 from __future__ import annotations
 
 import fnmatch
-import re
 from typing import Callable, Dict, List, NamedTuple, Optional, Set, Tuple
 
 from case import Case
@@ -85,21 +84,22 @@ def _installs_by_policy(outcome: Outcome) -> bool:
     return outcome.case.main.get("multilib_policy") == "all" and bool(wish.installs or wish.updates)
 
 
-def _gone(before: State, after: State) -> Set[str]:
-    return _names(before) - _names(after)
-
-
-def _names(state: State) -> Set[str]:
-    """Without versions, but with architectures."""
-    return {re.sub(r"-\d+:.*\.", ".", package) for package in state["packages"]}
-
-
 def _pushed_out(outcome: Outcome, again: Again) -> bool:
-    """Whether the command line has more removed than the marks, and than what goes with them."""
-    # It may have solved it so, to stumble over a signature later.
-    solved = again(Asked(options=("--nogpgcheck",))) if outcome.ran.status else outcome
-    removed = again(Asked(removals_only=True))
-    return bool(_gone(outcome.before, solved.theirs) - _gone(outcome.before, removed.theirs))
+    """Whether the command line wants more removed than the marks, and than what goes with them. It may stumble over a
+    signature or a file later, which nobody gets to see here."""
+    return bool(_to_be_removed(outcome.ran) - _to_be_removed(again(Asked(removals_only=True)).ran))
+
+
+def _to_be_removed(ran: Ran) -> Set[str]:
+    """Names with architectures, from the table that stands before the question."""
+    found: Set[str] = set()
+    removing = False
+    for line in ran.words.splitlines():
+        if not line.startswith(" "):
+            removing = line.startswith("Removing")
+        elif removing:
+            found.add(".".join(line.split()[:2]))
+    return found
 
 
 _LATE = "Error in POSTIN scriptlet"

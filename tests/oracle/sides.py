@@ -21,7 +21,6 @@ import dnf.cli.main
 import dnf.exceptions
 import dnf.util
 import libdnf.transaction
-import rpm  # noqa: F401 - reads its configuration, which is the same for both sides
 
 from case import Case, Row, Wish
 
