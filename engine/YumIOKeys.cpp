@@ -19,9 +19,10 @@ PyObject* YumIO::confirmKey(PyObject*, PyObject* args)
     char const* keyId = nullptr;
     long long created = 0;
     long long expires = 0;
+    int verified = 1;
     if (!PyArg_ParseTuple(
-            args, "ssssssLL", &location, &repository, &packages, &userId, &fingerprint, &keyId, &created,
-            &expires)) {
+            args, "ssssssLL|p", &location, &repository, &packages, &userId, &fingerprint, &keyId, &created,
+            &expires, &verified)) {
         return nullptr;
     }
     if (!progress || !dialogs) {
@@ -35,7 +36,8 @@ PyObject* YumIO::confirmKey(PyObject*, PyObject* args)
         QString::fromUtf8(fingerprint),
         QString::fromUtf8(keyId),
         created,
-        expires};
+        expires,
+        verified != 0};
     // Nobody needs to wait for the interpreter as long as the user thinks.
     PyThreadState* const state = PyEval_SaveThread();
     bool const agreed = dialogs->key(question) == QDialog::Accepted;

@@ -119,12 +119,17 @@ KeyDialog::KeyDialog(KeyQuestion const& question, QWidget* parent)
     QString const scheme = QUrl(question.location).scheme();
     if (scheme.isEmpty() || scheme == QLatin1String("file")) {
         rows.add(tr("Transport:"), tr("a file of this system"));
-    } else if (scheme == QLatin1String("https")) {
+    } else if (scheme == QLatin1String("https") && question.verified) {
         rows.add(tr("Transport:"), tr("https: encrypted, from a server that has proved its name"));
     } else {
-        WrappedText* const open = rows.add(
-            tr("Transport:"),
-            tr("%1: not encrypted. Whoever is on the way can have exchanged the key.").arg(scheme));
+        bool const encrypted = scheme == QLatin1String("https");
+        QString const words =
+            encrypted
+                ? tr("https: encrypted, but any server may answer, since sslverify is switched off. Whoever "
+                     "is "
+                     "on the way can have exchanged the key.")
+                : tr("%1: not encrypted. Whoever is on the way can have exchanged the key.").arg(scheme);
+        WrappedText* const open = rows.add(tr("Transport:"), words);
         open->setFont(Fonts::makeBold(open->font()));
         open->setPalette(Colors::makeWarning(open->palette()));
     }

@@ -15,4 +15,5 @@ struct KeyQuestion
     QString keyId;         ///< the 16 hexadecimal digits by which signatures tell it
     long long created = 0; ///< seconds since 1970
     long long expires = 0; ///< the same; 0: never
+    bool verified = true;  ///< whether a server has to prove its name where it can (sslverify)
 };

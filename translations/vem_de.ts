@@ -140,6 +140,10 @@
         <source>Cancel</source>
         <translation>Abbrechen</translation>
     </message>
+    <message>
+        <source>https: encrypted, but any server may answer, since sslverify is switched off. Whoever is on the way can have exchanged the key.</source>
+        <translation>https: verschlüsselt, aber jeder Server kann antworten, da sslverify ausgeschaltet ist. Wer auf dem Weg sitzt, kann den Schlüssel ausgetauscht haben.</translation>
+    </message>
 </context>
 <context>
     <name>Log::Window</name>

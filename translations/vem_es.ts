@@ -140,6 +140,10 @@
         <source>Cancel</source>
         <translation>Cancelar</translation>
     </message>
+    <message>
+        <source>https: encrypted, but any server may answer, since sslverify is switched off. Whoever is on the way can have exchanged the key.</source>
+        <translation>https: cifrado, pero puede responder cualquier servidor, porque sslverify está desactivado. Quien esté en el camino puede haber cambiado la clave.</translation>
+    </message>
 </context>
 <context>
     <name>Log::Window</name>

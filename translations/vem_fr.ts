@@ -140,6 +140,10 @@
         <source>Cancel</source>
         <translation>Annuler</translation>
     </message>
+    <message>
+        <source>https: encrypted, but any server may answer, since sslverify is switched off. Whoever is on the way can have exchanged the key.</source>
+        <translation>https : chiffré, mais n’importe quel serveur peut répondre, puisque sslverify est désactivé. Quiconque se trouve sur le chemin peut avoir échangé la clé.</translation>
+    </message>
 </context>
 <context>
     <name>Log::Window</name>

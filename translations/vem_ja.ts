@@ -140,6 +140,10 @@
         <source>Cancel</source>
         <translation>キャンセル</translation>
     </message>
+    <message>
+        <source>https: encrypted, but any server may answer, since sslverify is switched off. Whoever is on the way can have exchanged the key.</source>
+        <translation>https: 暗号化されていますが、sslverify が無効なため、どのサーバーでも応答できます。経路上の誰かが鍵をすり替えている可能性があります。</translation>
+    </message>
 </context>
 <context>
     <name>Log::Window</name>

@@ -140,6 +140,10 @@
         <source>Cancel</source>
         <translation>取消</translation>
     </message>
+    <message>
+        <source>https: encrypted, but any server may answer, since sslverify is switched off. Whoever is on the way can have exchanged the key.</source>
+        <translation>https：已加密，但由于 sslverify 已关闭，任何服务器都可以应答。途中的任何人都可能调换了密钥。</translation>
+    </message>
 </context>
 <context>
     <name>Log::Window</name>

@@ -118,9 +118,9 @@ class FakeHost(types.ModuleType):
         return self.answer
 
     def confirmKey(self, *question: Any) -> int:
-        *texts, created, expires = question
+        *texts, created, expires, verified = question
         assert len(texts) == 6
-        self._note("confirmKey", *map(self._s, texts), self._l(created), self._l(expires))
+        self._note("confirmKey", *map(self._s, texts), self._l(created), self._l(expires), verified)
         return self.key_answer(*question)
 
     def reportDownloadSize(self, packages: Any) -> None:

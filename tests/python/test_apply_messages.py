@@ -36,7 +36,7 @@ ONE_OF_EACH: List[Any] = [
     messages.ErrorOutput(""),
     messages.Solving(),
     messages.Plan([CHANGE], ["lamp:1"], [1 << 40]),
-    messages.KeyWanted("file:///key", "base", "lamp, lone", "An <owner>", "ABCD", "CD", 1, 1 << 40),
+    messages.KeyWanted("file:///key", "base", "lamp, lone", "An <owner>", "ABCD", "CD", 1, 1 << 40, True),
     messages.FileStarted("lamp.rpm", 6000),
     messages.FileProgress(0),
     messages.FileEnded(6000),

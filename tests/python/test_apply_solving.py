@@ -28,6 +28,18 @@ def test_removal_takes_along_what_needs_it_and_brings_nothing_in_instead(
     assert estate.installed() == {"battery-1.0-1.noarch"}
 
 
+def test_dependency_of_an_excluded_package_goes_along_with_it(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
+) -> None:
+    estate.repository("base", rpms.some("lib-1.0", "app-1.0"))
+    found = program.collect()
+    found.yumio.apply([found.offered("app")], [], [])
+    estate.write_main_config(excludepkgs="app")
+    found = program.collect()
+    found.yumio.apply([], [], [found.there("app")])
+    assert estate.installed() == set()
+
+
 def test_removal_of_one_of_several_versions_side_by_side_takes_along_what_needs_it(
     estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
 ) -> None:

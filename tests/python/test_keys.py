@@ -71,7 +71,8 @@ def test_key_that_is_agreed_to_is_imported_and_the_package_goes_in(
     apply(program)
     assert estate.installed() == {"lone-1.0-1.noarch"}
     assert keys_of(estate) == [key.id[-8:].lower()]
-    ((location, repo, packages, user, fingerprint, key_id, created, expires),) = questions(host)
+    ((location, repo, packages, user, fingerprint, key_id, created, expires, verified),) = questions(host)
+    assert verified is True
     assert (location, repo, packages, user) == (key.public.as_uri(), "base", "lone-1.0-1.noarch", UID)
     assert (fingerprint, key_id, expires) == (key.fingerprint, key.id, 0)
     assert abs(created - key.public.stat().st_mtime) < 60
@@ -126,9 +127,19 @@ def test_address_is_shown_before_a_server_is_asked(
     apply(program)
     assert asked_before == [False, True]
     fetch, trust = questions(host)
-    assert fetch == (address, "base", "lone-1.0-1.noarch", "", "", "", 0, 0)
+    assert fetch == (address, "base", "lone-1.0-1.noarch", "", "", "", 0, 0, True)
     assert trust[:5] == (address, "base", "lone-1.0-1.noarch", UID, key.fingerprint)
     assert estate.installed() == {"lone-1.0-1.noarch"}
+
+
+def test_server_that_need_not_prove_its_name_is_told_as_such(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost, key: Key, tmp_path: Path
+) -> None:
+    repository(estate, [key.sign(rpms["lone-1.0"], tmp_path)], key.public.as_uri())
+    estate.write_main_config(sslverify="0")
+    agree(host)
+    apply(program)
+    assert [question[8] for question in questions(host)] == [False]
 
 
 def test_nothing_is_fetched_where_the_address_is_refused(

@@ -72,7 +72,7 @@ def test_key_is_asked_about_once_and_for_all(
     agree(host)
     found = program.collect()
     assert found.merged() == {"lone": "Available", "lib": "Available"}
-    ((location, repo, packages, user, fingerprint, key_id, _created, expires),) = questions(host)
+    ((location, repo, packages, user, fingerprint, key_id, _created, expires, _verified),) = questions(host)
     assert (location, repo, packages, user) == (key.public.as_uri(), "base", "", UID)
     assert (fingerprint, key_id, expires) == (key.fingerprint, key.id, 0)
     assert f"Imported the key {key.fingerprint}" in host.text("log")
@@ -122,7 +122,7 @@ def test_address_is_shown_before_a_server_is_asked(
     address = f"{web.url}/keys/one"
     seal(estate, rpms, key, gpgkey=address, baseurl=f"{web.url}/base")
     left_out(program, f"{address}: it was not agreed to fetch the key")
-    assert questions(host) == [(address, "base", "", "", "", "", 0, 0)]
+    assert questions(host) == [(address, "base", "", "", "", "", 0, 0, True)]
     assert "/keys/one" not in web.requests()
     host.reset()
     agree(host)

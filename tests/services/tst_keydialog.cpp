@@ -27,12 +27,13 @@ KeyQuestion aKey()
         QStringLiteral("653b6a0b10617ed25c453619458762d05376e0cd"),
         QStringLiteral("458762d05376e0cd"),
         1709294400,
-        0};
+        0,
+        true};
 }
 
 KeyQuestion anAddress(QString const& location)
 {
-    return {location, QStringLiteral("base"), QString(), QString(), QString(), QString(), 0, 0};
+    return {location, QStringLiteral("base"), QString(), QString(), QString(), QString(), 0, 0, true};
 }
 
 /// A row's field, by the name that stands before it; null if there is no such row.
@@ -84,6 +85,7 @@ private Q_SLOTS:
     void questionBeforeTheFetchKnowsTheAddressAlone();
     void onlyWhatNothingProtectsIsWarnedOf_data();
     void onlyWhatNothingProtectsIsWarnedOf();
+    void serverThatNeedNotProveItsNameIsWarnedOf();
     void onlyTheFirstButtonAgrees_data();
     void onlyTheFirstButtonAgrees();
     void cancelHasTheFocus();
@@ -225,6 +227,25 @@ void TestKeyDialog::onlyWhatNothingProtectsIsWarnedOf()
         QCOMPARE(color != usual, warns);
     }
     QApplication::setPalette(QPalette());
+}
+
+void TestKeyDialog::serverThatNeedNotProveItsNameIsWarnedOf()
+{
+    for (auto const& [location, words] : std::initializer_list<std::pair<char const*, char const*>>{
+             {"https://host/key", "https: encrypted, but any server may answer"},
+             {"http://host/key", "http: not encrypted"},
+             {"file:///key", "a file of this system"}}) {
+        KeyQuestion question = anAddress(QString::fromLatin1(location));
+        question.verified = false;
+        KeyDialog const dialog(question, nullptr);
+        QTextEdit const* const transport = field(dialog, "Transport");
+        QVERIFY(transport);
+        QVERIFY2(transport->toPlainText().startsWith(QLatin1String(words)), location);
+        QColor const usual = dialog.palette().color(QPalette::WindowText);
+        QCOMPARE(
+            transport->palette().color(QPalette::Text) != usual,
+            question.location.startsWith(QLatin1String("http")));
+    }
 }
 
 void TestKeyDialog::onlyTheFirstButtonAgrees_data()

@@ -296,7 +296,8 @@ private Q_SLOTS:
             QString(),
             QString(),
             0,
-            0};
+            0,
+            true};
         auto const show = [&] {
             KeyDialog dialog(question, window);
             dialog.show();

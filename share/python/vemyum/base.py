@@ -102,7 +102,13 @@ class Base(dnf.Base):
     def load_system(self) -> None:
         """Reads the rpm database alone: what is then removed takes along what needs it, and nothing comes in instead.
         Raises as `load_everything`."""
-        self._fill(True, available=False)
+        disabled = list(self.conf.disable_excludes)
+        # The solver doesn't see what a hidden package needs, and what nothing needs any more without it.
+        self.conf.disable_excludes = ["all"]
+        try:
+            self._fill(True, available=False)
+        finally:
+            self.conf.disable_excludes = disabled
 
     def load_metadata(self, read: Callable[[dnf.repo.Repo], None]) -> None:
         """Fetches what the enabled repositories are asked for, and gives each to `read`; the sack stays empty.

@@ -93,15 +93,17 @@ def confirm_key(
     key_id: str = "",
     created: int = 0,
     expires: int = 0,
+    verified: bool = True,
 ) -> bool:
     """Asks whether a key is to be trusted, or, as long as it has no fingerprint, whether it is to be fetched; blocks
     until the answer is there. Whoever cannot ask agrees to nothing.
 
-    `packages` are what is signed with it, empty for the metadata of the repository; times are seconds since 1970.
+    `packages` are what is signed with it, empty for the metadata of the repository; times are seconds since 1970;
+    `verified` tells whether a server on the way must prove its name where it can.
     """
     ask = getattr(yumIOC, "confirmKey", None)
     texts = (masked(valid(text)) for text in (location, repository, packages, user_id, fingerprint, key_id))
-    return ask is not None and bool(ask(*texts, created, expires))
+    return ask is not None and bool(ask(*texts, created, expires, verified))
 
 
 def report_download_size(packages: Iterable[Any]) -> None:

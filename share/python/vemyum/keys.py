@@ -94,6 +94,7 @@ class Search:
             primary.key_id,
             primary.created,
             primary.expires,
+            bool(repo.sslverify),
         ):
             self._tell(location, _("the key {key} was not agreed to").format(key=primary.fingerprint))
             self._give_up()
@@ -101,7 +102,9 @@ class Search:
     def _keys_at(self, location: str, repo: dnf.repo.Repo, packages: Sequence[str]) -> List[openpgp.Key]:
         if location not in self._files:
             self._files[location] = []
-            if not _is_local(location) and not host.confirm_key(location, repo.id, _named(packages)):
+            if not _is_local(location) and not host.confirm_key(
+                location, repo.id, _named(packages), verified=bool(repo.sslverify)
+            ):
                 self._tell(location, _("it was not agreed to fetch the key"))
                 self._give_up()
             try:

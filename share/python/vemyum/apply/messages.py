@@ -158,6 +158,7 @@ class KeyWanted:
     key_id: str
     created: int
     expires: int
+    verified: bool
 
 
 @dataclasses.dataclass(frozen=True)
