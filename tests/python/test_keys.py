@@ -208,13 +208,20 @@ def test_key_that_has_not_signed_is_not_asked_about(
     assert not questions(host)
 
 
-def test_key_that_has_expired_or_been_revoked_is_told(
+def test_key_that_has_expired_is_told(
     estate: Estate, rpms: Catalogue, program: Program, host: FakeHost, tmp_path: Path
 ) -> None:
     agree(host)
     with Key("2d", at="20240301T120000") as expired:
         repository(estate, [expired.sign(rpms["lone-1.0"], tmp_path)], expired.public.as_uri())
         refused(estate, program, f"the key {expired.fingerprint} has expired (03/03/24)")
+    assert not questions(host)
+
+
+def test_key_that_has_been_revoked_is_told(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost, tmp_path: Path
+) -> None:
+    agree(host)
     with Key() as revoked:
         repository(estate, [revoked.sign(rpms["lone-1.0"], tmp_path)], revoked.public.as_uri())
         revoked.revoke()
