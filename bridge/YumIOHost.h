@@ -50,8 +50,8 @@ public:
     virtual PyObject* dsTsCheck(PyObject* self, PyObject* args) = 0;
     virtual PyObject* dsRestartLoop(PyObject* self, PyObject* args) = 0;
     virtual PyObject* userconfirm(PyObject* self, PyObject* args) = 0;
-    /// "ssssssLL|p": location, repository, packages, user id, fingerprint, key id, created, expires, verified;
-    /// see KeyQuestion. Answers the int 1 or 0. Downloads and reading of repositories ask it too.
+    /// "ssssssLL|p": location, repository, packages, user id, fingerprint, key id, created, expires,
+    /// verified; see KeyQuestion. Answers the int 1 or 0. Downloads and reading of repositories ask it too.
     virtual PyObject* confirmKey(PyObject* self, PyObject* args) = 0;
     /// "O": packages
     virtual PyObject* reportDownloadSize(PyObject* self, PyObject* args) = 0;

@@ -124,11 +124,9 @@ KeyDialog::KeyDialog(KeyQuestion const& question, QWidget* parent)
     } else {
         bool const encrypted = scheme == QLatin1String("https");
         QString const words =
-            encrypted
-                ? tr("https: encrypted, but any server may answer, since sslverify is switched off. Whoever "
-                     "is "
-                     "on the way can have exchanged the key.")
-                : tr("%1: not encrypted. Whoever is on the way can have exchanged the key.").arg(scheme);
+            encrypted ? tr("https: encrypted, but any server may answer, since sslverify is switched off. "
+                           "Anybody on the way may have exchanged the key.")
+                      : tr("%1: not encrypted. Anybody on the way may have exchanged the key.").arg(scheme);
         WrappedText* const open = rows.add(tr("Transport:"), words);
         open->setFont(Fonts::makeBold(open->font()));
         open->setPalette(Colors::makeWarning(open->palette()));

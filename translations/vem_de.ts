@@ -121,7 +121,7 @@
         <translation>https: verschlüsselt, von einem Server, der seinen Namen nachgewiesen hat</translation>
     </message>
     <message>
-        <source>%1: not encrypted. Whoever is on the way can have exchanged the key.</source>
+        <source>%1: not encrypted. Anybody on the way may have exchanged the key.</source>
         <translation>%1: nicht verschlüsselt. Wer auf dem Weg dazwischen ist, kann den Schlüssel ausgetauscht haben.</translation>
     </message>
     <message>
@@ -141,8 +141,8 @@
         <translation>Abbrechen</translation>
     </message>
     <message>
-        <source>https: encrypted, but any server may answer, since sslverify is switched off. Whoever is on the way can have exchanged the key.</source>
-        <translation>https: verschlüsselt, aber jeder Server kann antworten, da sslverify ausgeschaltet ist. Wer auf dem Weg sitzt, kann den Schlüssel ausgetauscht haben.</translation>
+        <source>https: encrypted, but any server may answer, since sslverify is switched off. Anybody on the way may have exchanged the key.</source>
+        <translation>https: verschlüsselt, aber jeder Server kann antworten, da sslverify ausgeschaltet ist. Wer auf dem Weg dazwischen ist, kann den Schlüssel ausgetauscht haben.</translation>
     </message>
 </context>
 <context>

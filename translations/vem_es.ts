@@ -121,7 +121,7 @@
         <translation>https: cifrado, de un servidor que ha demostrado su nombre</translation>
     </message>
     <message>
-        <source>%1: not encrypted. Whoever is on the way can have exchanged the key.</source>
+        <source>%1: not encrypted. Anybody on the way may have exchanged the key.</source>
         <translation>%1: sin cifrar. Cualquiera que esté en el camino puede haber cambiado la clave.</translation>
     </message>
     <message>
@@ -141,7 +141,7 @@
         <translation>Cancelar</translation>
     </message>
     <message>
-        <source>https: encrypted, but any server may answer, since sslverify is switched off. Whoever is on the way can have exchanged the key.</source>
+        <source>https: encrypted, but any server may answer, since sslverify is switched off. Anybody on the way may have exchanged the key.</source>
         <translation>https: cifrado, pero puede responder cualquier servidor, porque sslverify está desactivado. Quien esté en el camino puede haber cambiado la clave.</translation>
     </message>
 </context>

@@ -121,7 +121,7 @@
         <translation>https&#xa0;: chiffré, depuis un serveur qui a prouvé son nom</translation>
     </message>
     <message>
-        <source>%1: not encrypted. Whoever is on the way can have exchanged the key.</source>
+        <source>%1: not encrypted. Anybody on the way may have exchanged the key.</source>
         <translation>%1&#xa0;: non chiffré. Quiconque se trouve sur le trajet peut avoir remplacé la clé.</translation>
     </message>
     <message>
@@ -141,7 +141,7 @@
         <translation>Annuler</translation>
     </message>
     <message>
-        <source>https: encrypted, but any server may answer, since sslverify is switched off. Whoever is on the way can have exchanged the key.</source>
+        <source>https: encrypted, but any server may answer, since sslverify is switched off. Anybody on the way may have exchanged the key.</source>
         <translation>https : chiffré, mais n’importe quel serveur peut répondre, puisque sslverify est désactivé. Quiconque se trouve sur le chemin peut avoir échangé la clé.</translation>
     </message>
 </context>

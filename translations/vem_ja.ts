@@ -121,7 +121,7 @@
         <translation>https: 暗号化されており、サーバー名も確認済み</translation>
     </message>
     <message>
-        <source>%1: not encrypted. Whoever is on the way can have exchanged the key.</source>
+        <source>%1: not encrypted. Anybody on the way may have exchanged the key.</source>
         <translation>%1: 暗号化されていません。途中の誰かが鍵をすり替えている可能性があります。</translation>
     </message>
     <message>
@@ -141,7 +141,7 @@
         <translation>キャンセル</translation>
     </message>
     <message>
-        <source>https: encrypted, but any server may answer, since sslverify is switched off. Whoever is on the way can have exchanged the key.</source>
+        <source>https: encrypted, but any server may answer, since sslverify is switched off. Anybody on the way may have exchanged the key.</source>
         <translation>https: 暗号化されていますが、sslverify が無効なため、どのサーバーでも応答できます。経路上の誰かが鍵をすり替えている可能性があります。</translation>
     </message>
 </context>

@@ -121,7 +121,7 @@
         <translation>https：已加密，且服务器已证明其名称</translation>
     </message>
     <message>
-        <source>%1: not encrypted. Whoever is on the way can have exchanged the key.</source>
+        <source>%1: not encrypted. Anybody on the way may have exchanged the key.</source>
         <translation>%1：未加密。传输途中的任何人都可能已替换该密钥。</translation>
     </message>
     <message>
@@ -141,8 +141,8 @@
         <translation>取消</translation>
     </message>
     <message>
-        <source>https: encrypted, but any server may answer, since sslverify is switched off. Whoever is on the way can have exchanged the key.</source>
-        <translation>https：已加密，但由于 sslverify 已关闭，任何服务器都可以应答。途中的任何人都可能调换了密钥。</translation>
+        <source>https: encrypted, but any server may answer, since sslverify is switched off. Anybody on the way may have exchanged the key.</source>
+        <translation>https：已加密，但由于 sslverify 已关闭，任何服务器都可以应答。传输途中的任何人都可能已替换该密钥。</translation>
     </message>
 </context>
 <context>
