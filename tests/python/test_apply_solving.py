@@ -53,6 +53,18 @@ def test_removal_of_one_of_several_versions_side_by_side_takes_along_what_needs_
     assert estate.installed() == {"core-2.0-1.noarch"}
 
 
+def test_one_of_several_versions_side_by_side_is_as_protected_as_all(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
+) -> None:
+    estate.rpm("-i", *install_options(), *rpms.some("core-1.0", "core-2.0"))
+    estate.write_main_config(protected_packages="core")
+    estate.repository("base", rpms.some("lone-1.0"))
+    found = program.collect()
+    (first,) = [package for package in found.installed if str(package.po).startswith("core-1.0")]
+    with pytest.raises(program.errors.YumBaseError, match="protected packages: core"):
+        found.yumio.apply([], [], [first])
+
+
 def test_removal_needs_no_repository(
     estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
 ) -> None:

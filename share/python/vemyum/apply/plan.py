@@ -72,11 +72,12 @@ def _put(base: Base, marks: Marks, along: Sequence[dnf.package.Package] = ()) ->
 def _unprotect_doubled(base: Base, marks: Marks) -> None:
     """Lets go of the older versions of a protected package, which a transaction that was cut off has left. The library
     protects each version."""
+    several = set(map(_pkgtup, base._get_installonly_query(base.sack.query().installed())))
     newest = {(package.name, package.arch): package for package in sorted(_staying(base, marks))}
     marks.doubled = {
         package.name
         for package in marks.removed
-        if (package.name, package.arch) in newest and newest[package.name, package.arch] > package
+        if _pkgtup(package) not in several and package < newest.get((package.name, package.arch), package)
     }
     if marks.doubled:
         kept = [name for name in base.conf.protected_packages if name not in marks.doubled]
