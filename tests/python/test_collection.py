@@ -57,7 +57,7 @@ def test_obsoleting_package_tells_what_it_replaces(estate: Estate, rpms: Catalog
     ]
     offered = [
         spec("led", "1.0", obsoletes=("candle", "torch < 2", "lantern < 3", "nothing")),
-        spec("bulb", "1.0", obsoletes=("torch",)),
+        spec("bulb", "1.0", obsoletes=("torch", "glim")),
         spec("wick", "2.0", obsoletes=("torch",)),
     ]
     estate.install(estate.build(installed))
@@ -65,7 +65,7 @@ def test_obsoleting_package_tells_what_it_replaces(estate: Estate, rpms: Catalog
     estate.write_main_config(excludepkgs="torch")
     found = program.collect()
     told = {update.name: sorted(replaced(update)) for update in found.updates}
-    assert told == {"led": ["candle", "torch"], "bulb": ["torch"], "wick": []}
+    assert told == {"led": ["candle", "torch"], "bulb": ["glim", "torch"], "wick": []}
 
 
 def vendors_estate(estate: Estate) -> None:
@@ -130,6 +130,15 @@ def test_update_of_a_vendor_that_the_solver_refuses_is_not_offered(
         base.upgrade_all()
         base.resolve()
         assert sorted(map(str, base.transaction.install_set)) == sorted(names(found.updates))
+
+
+def test_what_would_replace_an_excluded_package_alone_is_no_update(
+    estate: Estate, rpms: Catalogue, program: Program
+) -> None:
+    estate.install(rpms.some("oldlamp-1.0"))
+    estate.repository("base", rpms.some("newlamp-1.0"))
+    estate.write_main_config(excludepkgs="oldlamp")
+    assert program.collect().merged() == {"newlamp": "Available", "oldlamp": "UpToDate"}
 
 
 def test_obsoleting_package_is_no_update_when_the_configuration_says_so(

@@ -124,9 +124,10 @@ class Collector:
 
     def _obsoleters(self, query: hawkey.Query, updates: Set[str]) -> Dict[Any, List[Any]]:
         """Packages that make installed ones of other names obsolete, each with those."""
-        installed, by_name = self._installed()
+        _all, by_name = self._installed()
         arches = self._base.sack.list_arches()
-        found = query.available().filter(obsoletes_by_priority=installed, arch=arches)
+        # Who excludes an installed package wants it left alone.
+        found = query.available().filter(obsoletes_by_priority=query.installed(), arch=arches)
         # An installed package that makes others obsolete in a newer version is an upgrade already.
         covered = updates.union(by_name)
         new = [package for package in found.filter(latest_per_arch=True) if package.name not in covered]
