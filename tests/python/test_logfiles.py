@@ -47,6 +47,8 @@ def dnf(estate: Estate, *words: str) -> None:
     # The command line reads another main file where it is told none, and then nothing of the other's defaults.
     options = [f"--installroot={estate.root}", f"--config={estate.root}/etc/yum.conf", "--releasever=1"]
     options += [f"--setopt=reposdir={estate.root}/etc/yum.repos.d", "--setopt=cachedir=/var/cache/yum", "-y"]
+    # It would load this machine's for another root, too.
+    options.append("--noplugins")
     subprocess.run(
         [sys.executable, "-c", COMMAND_LINE, *options, *words],
         check=True,
