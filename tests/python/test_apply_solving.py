@@ -40,6 +40,30 @@ def test_dependency_of_an_excluded_package_goes_along_with_it(
     assert estate.installed() == set()
 
 
+def test_excluded_package_that_nothing_needs_any_more_stays(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
+) -> None:
+    estate.repository("base", rpms.some("lib-1.0", "app-1.0"))
+    found = program.collect()
+    found.yumio.apply([found.offered("app")], [], [])
+    estate.write_main_config(excludepkgs="lib")
+    found = program.collect()
+    found.yumio.apply([], [], [found.there("app")])
+    assert estate.installed() == {"lib-1.0-1.noarch"}
+
+
+def test_excluded_package_is_not_taken_along(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
+) -> None:
+    estate.install(rpms.some("lib-1.0", "app-1.0"))
+    estate.write_main_config(excludepkgs="app")
+    estate.repository("base", rpms.some("lone-1.0"))
+    found = program.collect()
+    with pytest.raises(program.errors.YumBaseError, match="app-1.0-1.noarch requires lib"):
+        found.yumio.apply([], [], [found.there("lib")])
+    assert len(estate.installed()) == 2
+
+
 def test_removal_of_one_of_several_versions_side_by_side_takes_along_what_needs_it(
     estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
 ) -> None:

@@ -99,12 +99,13 @@ class Base(dnf.Base):
         """
         self._fill(True)
 
-    def load_system(self) -> None:
+    def load_system(self, excludes: bool = True) -> None:
         """Reads the rpm database alone: what is then removed takes along what needs it, and nothing comes in instead.
-        Raises as `load_everything`."""
+
+        Without `excludes` it hides nothing. Raises as `load_everything`.
+        """
         disabled = list(self.conf.disable_excludes)
-        # The solver doesn't see what a hidden package needs, and what nothing needs any more without it.
-        self.conf.disable_excludes = ["all"]
+        self.conf.disable_excludes = disabled if excludes else ["all"]
         try:
             self._fill(True, available=False)
         finally:

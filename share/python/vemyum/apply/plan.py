@@ -102,6 +102,12 @@ def _require_doubled(base: Base, marks: Marks) -> None:
         )
 
 
+def hides_any(base: Base, removes: Sequence[Wish]) -> bool:
+    """Whether one of the packages that are to go is excluded by the configuration."""
+    found = _of_names(base.sack.query().installed(), removes)
+    return any(one not in found for one in removes)
+
+
 def only_doubled(base: Base, removes: Sequence[Wish]) -> bool:
     """Whether nothing is to go but versions that a newer one, which stays, has taken the place of. Of install-only
     packages each has a place of its own."""

@@ -29,7 +29,7 @@ from ..signatures import check_signatures
 from ..surroundings import load_needed_later
 from ..texts import _
 from .messages import Change, Plan, Request
-from .plan import NOT_INSTALLED, enabled_streams, mark, only_doubled, solve
+from .plan import NOT_INSTALLED, enabled_streams, hides_any, mark, only_doubled, solve
 
 _ONLY_TESTED = _(
     "This was only a test: tsflags=test is set in the configuration. The transaction has been checked and would work; "
@@ -83,6 +83,9 @@ class Work:
                 repo._repo.setSyncStrategy(dnf.repo.SYNC_LAZY)
             if not self._request.incoming:
                 base.load_system()
+                if hides_any(base, self._request.removes):
+                    # The solver doesn't see what a hidden package needs, and what nothing needs any more without it.
+                    base.load_system(excludes=False)
             if self._request.incoming or only_doubled(base, self._request.removes):
                 for repo in enabled:
                     # Which the reading of the system alone has switched off.
