@@ -59,7 +59,7 @@ def test_excluded_package_is_not_taken_along(
     estate.write_main_config(excludepkgs="app")
     estate.repository("base", rpms.some("lone-1.0"))
     found = program.collect()
-    with pytest.raises(program.errors.YumBaseError, match="app-1.0-1.noarch requires lib"):
+    with pytest.raises(program.errors.YumBaseError, match="app-1.0-1.noarch.* requires lib"):
         found.yumio.apply([], [], [found.there("lib")])
     assert len(estate.installed()) == 2
 
