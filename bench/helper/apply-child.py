@@ -73,7 +73,7 @@ def _tell(end: Callable[..., None]) -> Callable[..., None]:
 def _measured(work: Callable[..., Any]) -> Callable[..., Any]:
     def measured(*arguments: Any) -> Any:
         # Not before: these want the host module, which is made when the process begins.
-        from vemyum import display
+        from vemyum.dnf4 import display
 
         for name in _DNF_WORK:
             setattr(dnf.Base, name, _dnf.timed(getattr(dnf.Base, name), True))

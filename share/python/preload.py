@@ -14,5 +14,7 @@ sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 
 import rpm  # noqa: E402,F401
 
-from vemyum import clean, messages, session, streams, surroundings  # noqa: E402,F401
+from vemyum import backend, clean, messages, session, streams, surroundings  # noqa: E402,F401
 from vemyum.apply import parent  # noqa: E402,F401
+
+backend.library()

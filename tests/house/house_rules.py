@@ -1,11 +1,12 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: GPL-2.0-or-later
-"""Rules of the house: who may include whom, licence lines, and who may know the interpreter.
+"""Rules of the house: who may include and import whom, licence lines, and who may know the interpreter.
 
 Usage: house_rules.py RULE SOURCE_DIRECTORY. Prints each breach and ends with status 1 when there is one.
 """
 from __future__ import annotations
 
+import ast
 import re
 import sys
 from pathlib import Path
@@ -23,6 +24,9 @@ EDGES: dict[str, set[str]] = {
 }
 INCLUDE = re.compile(r'^\s*#\s*include\s+["<]([a-z]+)/', re.MULTILINE)
 PYTHON_API = re.compile(r'^\s*#\s*include\s+["<](Python\.h|bridge/PythonApi\.h)[">]', re.MULTILINE)
+# What drives a package library: folder of the script package -> the modules that nobody else imports.
+LIBRARIES: dict[str, set[str]] = {"dnf4": {"dnf", "hawkey", "libdnf"}, "dnf5": {"libdnf5"}}
+SCRIPTS = Path("share/python/vemyum")
 SOURCES = {".cpp", ".h", ".py", ".sh", ".svg", ".spec", ".cmake", ".adoc", ".po", ".toml"}
 NAMES = {"CMakeLists.txt", "run", "check", "packages.list", ".clang-format", ".clang-tidy"}
 
@@ -52,6 +56,29 @@ def interpreter_folders(root: Path) -> list[str]:
     return breaches
 
 
+def library_imports(root: Path) -> list[str]:
+    """A process holds one package library: what isn't about it imports neither it nor what drives it."""
+    breaches = []
+    for path in sorted((root / SCRIPTS).rglob("*.py")):
+        inside = path.relative_to(root / SCRIPTS).parts
+        own = inside[0] if len(inside) > 1 else ""
+        foreign = {folder: modules for folder, modules in LIBRARIES.items() if folder != own}
+        for node in ast.walk(ast.parse(path.read_text(encoding="utf-8"))):
+            for name in _imported(node):
+                parts = name.split(".")
+                if any(parts[0] in modules or folder in parts for folder, modules in foreign.items()):
+                    breaches.append(f"{path.relative_to(root)} imports {name}")
+    return breaches
+
+
+def _imported(node: ast.AST) -> list[str]:
+    if isinstance(node, ast.Import):
+        return [alias.name for alias in node.names]
+    if isinstance(node, ast.ImportFrom):
+        return [".".join(filter(None, (node.module, alias.name))) for alias in node.names]
+    return []
+
+
 def licence_lines(root: Path) -> list[str]:
     breaches = []
     for path in sorted(root.rglob("*")):
@@ -66,7 +93,7 @@ def licence_lines(root: Path) -> list[str]:
 
 
 def main() -> int:
-    rules = {rule.__name__: rule for rule in (include_edges, interpreter_folders, licence_lines)}
+    rules = {rule.__name__: rule for rule in (include_edges, interpreter_folders, library_imports, licence_lines)}
     breaches = rules[sys.argv[1]](Path(sys.argv[2]))
     for breach in breaches:
         print(breach)

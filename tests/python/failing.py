@@ -27,8 +27,10 @@ import os, sys
 from vemyum.apply import child
 do = child._work
 def changed(parent):
+    from vemyum import backend
     from vemyum.apply import work
     import dnf.db.history
+    Transaction = backend.library().Transaction
     {line}
     return do(parent)
 child._work = changed

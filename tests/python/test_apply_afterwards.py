@@ -18,7 +18,7 @@ ALL_DONE = (
 )
 REFRESH = "A part of the transaction may have been done: please refresh the list of packages."
 NO_SPACE = "OSError(28, os.strerror(28), '/var/lib/dnf/history.sqlite')"
-CLOSE = "\n    work.Base.close = fail"
+CLOSE = "\n    Transaction.close = fail"
 HISTORY_END = "\n    dnf.db.history.SwdbInterface.end = fail"
 SECOND_LOOK = """
     looks = []

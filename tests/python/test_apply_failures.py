@@ -85,7 +85,7 @@ def test_rpm_file_that_vanishes_late_is_named(
     directory = estate.repository("base", rpms.some("lone-1.0"))
     found = program.collect()
     (rpm,) = directory.glob("*.rpm")
-    in_work(in_child, f"work.check_signatures = lambda base, packages: os.unlink({str(rpm)!r})")
+    in_work(in_child, f"Transaction.check_signatures = lambda transaction: os.unlink({str(rpm)!r})")
     text = fails(program, lambda: found.yumio.apply([found.offered("lone")], [], []), str(rpm))
     assert "No such file" in text
 
@@ -401,7 +401,7 @@ def test_operating_system_errors_name_path_and_cause(
 ) -> None:
     found = lamp[1].collect()
     error = "OSError(28, os.strerror(28), '/var/cache/yum/lamp.rpm')"
-    in_work(in_child, fail_with(error) + "\n    work.solve = fail")
+    in_work(in_child, fail_with(error) + "\n    Transaction.solve = fail")
     fails(
         lamp[1],
         lambda: found.yumio.apply([], [found.pair("lamp")], []),
@@ -413,7 +413,7 @@ def test_broken_pipe_reaches_the_engine_as_it_is(
     lamp: Tuple[Estate, Program], host: FakeHost, in_child: Callable[[str], None]
 ) -> None:
     found = lamp[1].collect()
-    in_work(in_child, fail_with("BrokenPipeError(32, os.strerror(32))") + "\n    work.solve = fail")
+    in_work(in_child, fail_with("BrokenPipeError(32, os.strerror(32))") + "\n    Transaction.solve = fail")
     with pytest.raises(BrokenPipeError):
         found.yumio.apply([], [found.pair("lamp")], [])
 

@@ -16,8 +16,8 @@ from fake_host import FakeHost
 from program import Program
 from rpmestate import Estate, install_options, spec
 
-from vemyum.base import open_base
-from vemyum.configuration import read_configuration
+from vemyum.dnf4.base import open_base
+from vemyum.dnf4.configuration import Settings
 
 
 def names(packages: list) -> list:
@@ -124,7 +124,7 @@ def test_update_of_a_vendor_that_the_solver_refuses_is_not_offered(
     if allowed == "0":
         assert (merged["other"], merged["core"], merged["newlamp"]) == ("UpToDate", "UpToDate", "Available")
     # The library itself updates the same, no more and no less.
-    base = open_base(read_configuration(), progress=False)
+    base = open_base(Settings().conf, progress=False)
     with contextlib.closing(base):
         base.load_everything()
         base.upgrade_all()
@@ -368,15 +368,15 @@ def test_many_collections_leave_nothing_open(lamp: Tuple[Estate, Program]) -> No
 def test_cleared_session_is_freed(lamp: Tuple[Estate, Program]) -> None:
     import weakref
 
-    import vemyum.base
+    import vemyum.dnf4.base
 
     program = lamp[1]
     found = program.collect()
-    base = weakref.ref(found.yumio._session.base)
+    base = weakref.ref(found.yumio._session.system._base)
     del found
     program.clear()
     assert base() is None
-    assert not [thing for thing in gc.get_objects() if type(thing) is vemyum.base.Base]
+    assert not [thing for thing in gc.get_objects() if type(thing) is vemyum.dnf4.base.Base]
 
 
 def test_collector_works_again_after_a_collection(lamp: Tuple[Estate, Program]) -> None:
@@ -421,7 +421,7 @@ def test_texts_beyond_ascii(estate: Estate, rpms: Catalogue, program: Program, h
 def test_deltas_are_off_whatever_the_configuration_says(lamp: Tuple[Estate, Program]) -> None:
     estate, program = lamp
     estate.write_main_config(deltarpm="1")
-    assert not program.start()._session._conf.deltarpm
+    assert not program.start()._session._settings.conf.deltarpm
 
 
 def test_first_configuration_that_cannot_be_read_ends_the_program(

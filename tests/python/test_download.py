@@ -177,7 +177,7 @@ def test_part_of_a_file_is_still_to_be_downloaded(
 def test_no_section_asks_for_deltas(served: Estate, program: Program) -> None:
     served.write_repo_file("base", extra={"deltarpm": "1"})
     yumio = program.start()
-    assert [repo.deltarpm for repo in yumio._session._base.repos.values()] == [False]
+    assert [repo.deltarpm for repo in yumio._session._system._base.repos.values()] == [False]
 
 
 @pytest.mark.parametrize(("blocks", "told"), [(1, True), (1 << 20, False)])
@@ -209,7 +209,7 @@ class Payload:
 
 
 def run_meter(host: FakeHost, *steps: Tuple[str, Any]) -> List[Tuple[str, int, List[int]]]:
-    from vemyum.download import DownloadMeter
+    from vemyum.dnf4.download import DownloadMeter
 
     payloads: Dict[str, Payload] = {name: Payload(name, 100) for name in "abc"}
     meter = DownloadMeter()

@@ -193,7 +193,7 @@ def test_lock_changes_hands_and_comes_back(lamp: Tuple[Estate, Program]) -> None
         assert all(file.read_text() == str(os.getpid()) for file in lock_files(estate))
     held_by(estate, os.getppid())
     taker = ProcessLock()
-    taker.take_over(yumio._session._conf, os.getppid())
+    taker.take_over(yumio._session._settings, os.getppid())
     assert all(file.read_text() == str(os.getpid()) for file in lock_files(estate))
     taker.give_over(os.getppid())
     assert all(file.read_text() == str(os.getppid()) for file in lock_files(estate))
@@ -210,7 +210,7 @@ def test_lock_of_a_third_process_is_never_taken(lamp: Tuple[Estate, Program]) ->
         with pytest.raises(program.errors.LockError, match="metadata_lock.pid has been changed"):
             LOCK.take_back(os.getppid())
         with pytest.raises(program.errors.LockError, match="has been changed"):
-            ProcessLock().take_over(yumio._session._conf, os.getppid())
+            ProcessLock().take_over(yumio._session._settings, os.getppid())
         assert all(file.read_text() == str(third.pid) for file in lock_files(estate))
         third.kill()
     held_by(estate, os.getpid())
@@ -262,13 +262,13 @@ def test_malformed_lock_file_is_told(lamp: Tuple[Estate, Program]) -> None:
 def test_full_disk_is_told_with_the_file(
     lamp: Tuple[Estate, Program], monkeypatch: pytest.MonkeyPatch
 ) -> None:
-    import dnf.lock
+    from vemyum import lock
 
     def refuse(*_: Any) -> None:
         raise OSError(errno.ENOSPC, os.strerror(errno.ENOSPC))
 
     with monkeypatch.context() as patch:
-        patch.setattr(dnf.lock.os, "write", refuse)
+        patch.setattr(lock.os, "pwrite", refuse)
         with pytest.raises(lamp[1].errors.LockError, match="metadata_lock.pid: No space left on device"):
             lamp[1].start()
 

@@ -199,9 +199,9 @@ def test_packages_of_the_table_have_no_dictionary_and_know_their_repository(
     for package in (found.offered("lamp"), found.there("lamp")):
         # In 66,000 rows a dictionary each would be 22 MB.
         assert not vars(package.po)
-        assert package.po.base is found.yumio._session.base
+        assert package.po.base is found.yumio._session.system._base
     offered = found.offered("lamp").po
-    assert offered.repo is found.yumio._session.base.repos[offered.reponame]
+    assert offered.repo is found.yumio._session.system._base.repos[offered.reponame]
 
 
 def test_shorter_way_to_the_values_tells_the_same(lamp: Tuple[Estate, Program]) -> None:
@@ -233,17 +233,18 @@ def test_lists_are_read_when_they_are_used_and_not_before(lamp: Tuple[Estate, Pr
 
 
 def test_directories_are_no_files() -> None:
+    from vemyum.details import PackageDetails
     from vemyum.packages import AvailablePackage
 
-    class Po:
-        files = ["/a", "/a/b", "/a/b/c", "/d"]
-
-    class NotLoaded:
+    class System:
         @staticmethod
-        def files(po: Any) -> None:
-            return None
+        def files(_row: Any) -> List[str]:
+            return ["/a", "/a/b", "/a/b/c", "/d"]
 
-    package = AvailablePackage(Po(), NotLoaded())  # type: ignore[arg-type]
+    class Row:
+        reponame = "base"
+
+    package = AvailablePackage(Row(), PackageDetails(System()))  # type: ignore[arg-type]
     assert package.returnFileEntries("file") == ["/a/b/c", "/d"]
 
 

@@ -101,10 +101,10 @@ def test_configuration_may_switch_them_off(house: House, host: FakeHost) -> None
 
 
 def test_this_machines_plugins_are_used_where_nothing_is_said(house: House) -> None:
-    from vemyum.configuration import read_configuration
+    from vemyum.dnf4.configuration import Settings
 
     house.estate.write_main_config()
-    conf = read_configuration()
+    conf = Settings().conf
     assert conf.plugins and list(conf.pluginpath) == [dnf.const.PLUGINPATH]
     assert list(conf.pluginconfpath) == [f"{house.estate.root}/etc/dnf/plugins"]
 
@@ -197,7 +197,7 @@ def test_nothing_of_them_is_left_when_a_base_is_closed(house: House) -> None:
 
     house.hook("sack", "pass")
     house.collect()
-    base = house.program.yumio._session.base
+    base = house.program.yumio._session.system._base
     (plugin,) = map(weakref.ref, base._plugins.plugins)
     gone = weakref.ref(base)
     del base

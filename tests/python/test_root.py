@@ -223,7 +223,7 @@ def test_protected_packages_are_those_of_the_root(estate: Estate, tmp_path: Path
     (tmp_path / "outside.conf").write_text("outside\n")
     (folder / "b.conf").symlink_to(tmp_path / "outside.conf")
     move(estate, "etc/dnf")
-    assert configuration._protected_packages(str(estate.root)) == ["dnf", "yum", "inside"]
+    assert configuration.protected_packages(str(estate.root)) == ["dnf", "yum", "inside"]
 
 
 def test_database_is_the_one_inside(estate: Estate, rpms: Catalogue) -> None:

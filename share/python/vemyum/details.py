@@ -4,17 +4,13 @@
 from __future__ import annotations
 
 import html
+import os
 import re
 import sys
-from typing import Dict, Iterator, List, Optional, Sequence, Tuple
+from typing import Any, Dict, Iterator, List, Optional, Sequence, Tuple
 
-import dnf.conf
-import dnf.package
-import dnf.repo
-
-from . import host
-from .base import Base, open_base
-from .metadata import reading_reported
+from . import backend, host
+from .backend import CHANGELOGS, FILE_LISTS, PRIMARY, Dependency, Row, Settings, System
 from .records import Recognition, Records, Unrecognised, changes, chunks, files
 from .sections import RepositorySection
 from .text import valid
@@ -26,78 +22,95 @@ _HOSTS = re.compile(rb"""<checksum[^>]*\bpkgid=["']YES["'][^>]*>\s*([0-9a-f]+)\s
 class PackageDetails:
     """The details of one session's packages. `close` must be called; any thread."""
 
-    def __init__(self, base: Base) -> None:
-        self._base = base
+    def __init__(self, system: System) -> None:
+        # For as long as there are packages: their rows rest on it.
+        self._system = system
         self._file_lists: Dict[str, Records] = {}
         self._changelogs: Dict[str, Records] = {}
         self._hosts: Dict[str, Dict[str, str]] = {}
-        self._metadata_files: Dict[str, Optional[str]] = {}
+        self._primary_files: Dict[str, Optional[str]] = {}
 
     def load_file_lists(self) -> None:
         """Makes the file lists of the enabled repositories quick to reach, with progress.
 
-        They came with the repositories. What cannot be read here is left to the sack, which is slow.
+        They came with the repositories. What cannot be read here is left to the library, which is slow.
         """
         _close_all(self._file_lists)
-        for repo in self._base.repos.iter_enabled():
-            with reading_reported(repo):
-                path = repo.get_metadata_path("filelists")
-                try:
-                    if path:
-                        self._file_lists[repo.id] = Records(path)
-                except OSError as error:
-                    host.errorlog(
-                        host.LEVEL_NOTICE,
-                        _("The file lists of {repository} are read slowly: {error}").format(
-                            repository=repo.id, error=error
-                        ),
-                    )
+        for repository in self._system.repositories():
+            if not repository.enabled:
+                continue
+            host.collect_progress(0, 1, repository.id)
+            path = self._system.metadata_file(repository.id, FILE_LISTS)
+            try:
+                if path:
+                    self._file_lists[repository.id] = Records(path)
+            except OSError as error:
+                host.errorlog(
+                    host.LEVEL_NOTICE,
+                    _("The file lists of {repository} are read slowly: {error}").format(
+                        repository=repository.id, error=error
+                    ),
+                )
+            host.collect_progress(1, 1, repository.id)
 
-    def load_changelogs(self, conf: dnf.conf.MainConf, sections: Sequence[RepositorySection]) -> None:
-        """Loads the changelogs of those repositories that are enabled, with progress. Raises as Base does, and OSError.
+    def load_changelogs(self, settings: Settings, sections: Sequence[RepositorySection]) -> None:
+        """Loads the changelogs of those repositories that are enabled, with progress. Raises as System does, and
+        OSError.
 
-        A Base of its own fetches them: dnf does so only when a repository is first loaded.
+        A System of its own fetches them: a library does so only when a repository is first loaded.
         """
         _close_all(self._changelogs)
-        base = open_base(conf, sections)
+        system = backend.library().open_system(settings, sections)
         try:
-            for repo in base.repos.iter_enabled():
-                repo.load_metadata_other = True
-            base.load_metadata(self._read_changelogs)
+            system.load_changelogs(self._read_changelogs)
         finally:
-            base.close()
+            system.close()
 
-    def _read_changelogs(self, repo: dnf.repo.Repo) -> None:
-        path = repo.get_metadata_path("other")
+    def _read_changelogs(self, repository: str, path: Optional[str]) -> None:
         try:
             if path:
-                self._changelogs[repo.id] = Records(path)
+                self._changelogs[repository] = Records(path)
         except (FileNotFoundError, Unrecognised) as error:
             # Also of a program that reads it. The other repositories' are none the worse for it.
-            host.errorlog(host.LEVEL_NOTICE, _unreadable(repo.id, error))
+            host.errorlog(host.LEVEL_NOTICE, _unreadable(repository, error))
 
-    def files(self, package: dnf.package.Package) -> Optional[List[str]]:
-        """The names of a package's files, without directories; None where only the sack knows them."""
-        record = _record(self._file_lists, package)
-        return None if record is None else files(record)
+    def files(self, row: Row) -> List[str]:
+        """The names of a package's files, without directories. The library, asked before the file lists are loaded,
+        tells directories by what they hold."""
+        record = self._record(self._file_lists, row)
+        if record is not None:
+            return files(record)
+        names = self._system.files(row)
+        # It keeps bare names; what other names lie below cannot be a file.
+        directories = {os.path.dirname(name) for name in names}
+        return [valid(name) for name in names if name not in directories]
 
-    def changelog(self, package: dnf.package.Package) -> List[Tuple[int, str, str]]:
-        record = _record(self._changelogs, package)
+    def changelog(self, row: Row) -> List[Tuple[int, str, str]]:
+        record = self._record(self._changelogs, row)
         return [] if record is None else changes(record)
 
-    def build_host(self, package: dnf.package.Package) -> Optional[str]:
+    def dependencies(self, row: Row, kind: str) -> List[Dependency]:
+        return self._system.dependencies(row, kind)
+
+    def header(self, row: Row) -> Any:
+        return self._system.header(row)
+
+    def local_path(self, row: Row) -> Optional[str]:
+        return self._system.local_path(row)
+
+    def build_host(self, row: Row) -> Optional[str]:
         """The build host of an available package, None where the metadata doesn't tell it.
 
         libsolv leaves it out, so the first question for a repository reads its metadata through.
         """
-        repository = package.reponame
+        repository = row.reponame
         hosts = self._hosts.get(repository)
         if hosts is None:
-            file = self.metadata_file(repository)
+            file = self.primary_file(repository)
             hosts = self._hosts_of(repository, file) if file else {}
             self._hosts[repository] = hosts
-        _, checksum = package.returnIdSum()
-        return hosts.get(checksum)
+        checksum = self._system.checksum(row)
+        return None if checksum is None else hosts.get(checksum)
 
     @staticmethod
     def _hosts_of(repository: str, file: str) -> Dict[str, str]:
@@ -108,23 +121,21 @@ class PackageDetails:
             host.log(host.LEVEL_NOTICE, _unreadable(repository, error))
             return {}
 
-    def metadata_file(self, repository: str) -> Optional[str]:
+    def primary_file(self, repository: str) -> Optional[str]:
         """The file of the repository's package metadata, None for one that is not loaded."""
-        if repository not in self._metadata_files:
-            repo = self._base.repos.get(repository)
-            loaded = repo is not None and repo.metadata is not None
-            self._metadata_files[repository] = repo.get_metadata_path("primary") or None if loaded else None
-        return self._metadata_files[repository]
+        if repository not in self._primary_files:
+            self._primary_files[repository] = self._system.metadata_file(repository, PRIMARY)
+        return self._primary_files[repository]
+
+    def _record(self, records: Dict[str, Records], row: Row) -> Optional[bytes]:
+        found = records.get(row.reponame)
+        checksum = self._system.checksum(row) if found is not None else None
+        return found.record(checksum) if found is not None and checksum is not None else None
 
     def close(self) -> None:
         _close_all(self._file_lists)
         _close_all(self._changelogs)
         self._hosts.clear()
-
-
-def _record(records: Dict[str, Records], package: dnf.package.Package) -> Optional[bytes]:
-    found, checksum = records.get(package.reponame), package.chksum
-    return found.record(checksum[1]) if found is not None and checksum is not None else None
 
 
 def _close_all(records: Dict[str, Records]) -> None:

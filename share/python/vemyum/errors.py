@@ -1,27 +1,50 @@
 # SPDX-License-Identifier: GPL-2.0-or-later
 """Exceptions as the engine expects them: `yum.Errors`' classes with complete texts.
 
-The classes are dnf's own, so that an exception of dnf which passes through is caught all the same.
+Which classes they are is the library's matter.
 """
 
 from __future__ import annotations
 
 import os
 from types import TracebackType
-from typing import Optional, Type
-
-import dnf.exceptions
-import hawkey
-import libdnf.error
-import rpm
+from typing import TYPE_CHECKING, Optional, Tuple, Type
 
 from .credentials import masked
 from .texts import _
 
-YumBaseError = dnf.exceptions.Error
-RepoError = dnf.exceptions.RepoError
-LockError = dnf.exceptions.LockError
-GroupsError = dnf.exceptions.CompsError
+
+if TYPE_CHECKING:
+
+    class YumBaseError(Exception):
+        """Anything that fails. The engine shows `value`."""
+
+        value: str
+
+    class RepoError(YumBaseError):
+        """A repository cannot be read."""
+
+    class LockError(YumBaseError):
+        """The lock cannot be had."""
+
+    class GroupsError(YumBaseError):
+        """There are no groups."""
+
+    FAILURES: Tuple[Type[Exception], ...]
+    """What the library raises, these included."""
+
+    def words(error: Exception) -> str:
+        """All that a failure says."""
+
+else:
+    from .backend import exceptions
+
+    YumBaseError = exceptions.YumBaseError
+    RepoError = exceptions.RepoError
+    LockError = exceptions.LockError
+    GroupsError = exceptions.GroupsError
+    FAILURES = exceptions.FAILURES
+    words = exceptions.words
 
 REFRESH = _("A part of the transaction may have been done: please refresh the list of packages.")
 """Ends the text of a failure behind which the table may no longer be right."""
@@ -31,16 +54,6 @@ ALL_DONE = _(
     "packages."
 )
 """Ends the text of a failure behind a transaction that has done all it was to do."""
-
-LIBRARY_ERRORS = (
-    dnf.exceptions.Error,
-    hawkey.Exception,
-    libdnf.error.Error,
-    rpm.error,
-    # libdnf's C++ exceptions (its databases, the configuration's parsers) arrive as RuntimeError.
-    RuntimeError,
-)
-
 
 def os_error_text(error: OSError) -> str:
     """Names the path (both, where two are concerned) and the cause."""
@@ -63,7 +76,7 @@ class reported_as:
     # Not a generator: contextlib's frames would tie an exception to itself, and with it everything that
     # the frames below hold, until the garbage collector comes by.
 
-    def __init__(self, kind: Type[dnf.exceptions.Error], doing: str = "") -> None:
+    def __init__(self, kind: Type[YumBaseError], doing: str = "") -> None:
         self._kind = kind
         self._doing = doing
 
@@ -77,10 +90,10 @@ class reported_as:
             return
         if isinstance(error, OSError):
             raise self._kind(_text(self._doing, os_error_text(error))) from error
-        if isinstance(error, LIBRARY_ERRORS):
-            # The engine shows `value`, which some of dnf's classes leave empty.
+        if isinstance(error, FAILURES):
+            # The engine shows `value`, which some of the library's classes leave empty.
             if not (isinstance(error, self._kind) and error.value == masked(str(error))):
-                raise self._kind(_text(self._doing, str(error))) from error
+                raise self._kind(_text(self._doing, words(error))) from error
 
 
 def _text(doing: str, cause: str) -> str:

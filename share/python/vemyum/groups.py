@@ -6,7 +6,7 @@ from __future__ import annotations
 from typing import AbstractSet, Dict, Iterable, List
 
 from . import host
-from .base import Base
+from .backend import GROUPS, System
 from .comps import CONDITIONAL, DEFAULT, MANDATORY, OPTIONAL, Comps, CompsError, CompsGroup, Member
 from .comps import in_the_users_language as translated
 from .errors import GroupsError
@@ -51,21 +51,23 @@ def _by_name(members: Iterable[Member]) -> Dict[str, str]:
     return {member.name: member.name for member in members if member.name}
 
 
-def read_groups(base: Base) -> List[CompsGroup]:
+def read_groups(system: System) -> List[CompsGroup]:
     """Reads the group files of the loaded repositories. GroupsError when there is none.
 
     A file that cannot be read is told with its repository, and the others count.
     """
     comps = Comps()
-    for repo in base.repos.iter_enabled():
-        path = repo._repo.getCompsFn() if repo.enablegroups and repo.metadata else ""
+    for repository in system.repositories():
+        path = system.metadata_file(repository.id, GROUPS) if repository.enabled else None
         if path:
             try:
                 comps.add(chunks(path))
             except (CompsError, OSError) as error:
                 host.errorlog(
                     host.LEVEL_ERROR,
-                    _("The groups of repository {id} cannot be read: {error}").format(id=repo.id, error=error),
+                    _("The groups of repository {id} cannot be read: {error}").format(
+                        id=repository.id, error=error
+                    ),
                 )
     if not comps.groups:
         raise GroupsError(NO_GROUPS)

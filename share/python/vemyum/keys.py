@@ -7,33 +7,21 @@ Nothing is trusted, and nothing fetched from a server, before the user has agree
 from __future__ import annotations
 
 import contextlib
-import html
-import itertools
 import os
-import re
 import tempfile
 import time
 import urllib.parse
 from typing import Callable, Dict, Iterator, List, NamedTuple, Optional, Sequence
 
-import dnf.crypto
-import dnf.repo
-import libdnf.repo
-
 from . import host, openpgp
-from .errors import RepoError, YumBaseError, os_error_text
+from .backend import KeySource
+from .errors import YumBaseError, os_error_text
 from .root import below, managed_root
 from .texts import _, ngettext
 
 _FEW = 10
 """Packages that a question names."""
 
-_SIGNATURE_OF_METADATA = "repodata/repomd.xml.asc"
-_MIRRORS_OF_METALINK = re.compile(r">\s*([^<>\s]+)/repodata/repomd\.xml\s*<")
-_MIRROR = re.compile(r"(?:https?|ftp|file)://")
-_TRIES = 5
-"""Servers that are asked for the signature of the metadata."""
-_ABOUT_SIGNATURES = re.compile(r"\bGPG\b|\bsignature\b", re.I)
 
 
 class Missing(YumBaseError):
@@ -57,7 +45,7 @@ class Search:
     def find(
         self,
         issuers: Sequence[str],
-        repos: Sequence[dnf.repo.Repo],
+        repos: Sequence[KeySource],
         packages: Sequence[str],
         refusal: Callable[[openpgp.Key], Optional[str]] = lambda key: None,
     ) -> None:
@@ -83,7 +71,7 @@ class Search:
                 return
         self._give_up()
 
-    def _ask(self, key: openpgp.Key, location: str, repo: dnf.repo.Repo, packages: Sequence[str]) -> None:
+    def _ask(self, key: openpgp.Key, location: str, repo: KeySource, packages: Sequence[str]) -> None:
         primary = key.primary
         if not host.confirm_key(
             location,
@@ -94,16 +82,16 @@ class Search:
             primary.key_id,
             primary.created,
             primary.expires,
-            bool(repo.sslverify),
+            repo.verified,
         ):
             self._tell(location, _("the key {key} was not agreed to").format(key=primary.fingerprint))
             self._give_up()
 
-    def _keys_at(self, location: str, repo: dnf.repo.Repo, packages: Sequence[str]) -> List[openpgp.Key]:
+    def _keys_at(self, location: str, repo: KeySource, packages: Sequence[str]) -> List[openpgp.Key]:
         if location not in self._files:
             self._files[location] = []
             if not _is_local(location) and not host.confirm_key(
-                location, repo.id, _named(packages), verified=bool(repo.sslverify)
+                location, repo.id, _named(packages), verified=repo.verified
             ):
                 self._tell(location, _("it was not agreed to fetch the key"))
                 self._give_up()
@@ -128,7 +116,7 @@ class Search:
         raise Missing("\n".join(self._told))
 
 
-def _places(repos: Sequence[dnf.repo.Repo]) -> List[tuple[dnf.repo.Repo, str]]:
+def _places(repos: Sequence[KeySource]) -> List[tuple[KeySource, str]]:
     """Each repository with each address of its keys, those first that need no network."""
     places = [(repo, location) for repo in repos for location in repo.gpgkey]
     return sorted(places, key=lambda place: not _is_local(place[1]))
@@ -138,7 +126,7 @@ def _is_local(location: str) -> bool:
     return urllib.parse.urlsplit(location).scheme.lower() in ("", "file")
 
 
-def _content(location: str, repo: dnf.repo.Repo) -> bytes:
+def _content(location: str, repo: KeySource) -> bytes:
     """OSError, RuntimeError with the library's words."""
     if _is_local(location):
         path = urllib.parse.unquote(urllib.parse.urlsplit(location).path)
@@ -146,15 +134,7 @@ def _content(location: str, repo: dnf.repo.Repo) -> bytes:
         # A file of the managed system, else one of this one, as dnf has it for any root.
         with open(place if os.path.exists(place) else path, "rb") as file:
             return file.read()
-    return _downloaded(location, repo)
-
-
-def _downloaded(address: str, repo: dnf.repo.Repo) -> bytes:
-    """RuntimeError with the library's words."""
-    with open(os.memfd_create("key"), "w+b") as file:
-        repo._repo.downloadUrl(address, file.fileno())
-        file.seek(0)
-        return file.read()
+    return repo.fetch(location)
 
 
 def _fault(key: openpgp.Key, part: openpgp.Part) -> Optional[str]:
@@ -187,89 +167,7 @@ def key_file(keys: Sequence[openpgp.Key]) -> Iterator[str]:
         yield file.name
 
 
-# Keys of metadata ------------------------------------------------------------------------------------------------
-
-
-class _KeyImport:
-    """dnf's library asks it about each key of a repository that it is about to trust."""
-
-    def __init__(self, answer: bool) -> None:
-        self._answer = answer
-
-    def _confirm(self, *_about: object) -> bool:
-        return self._answer
-
-
-def load(repo: dnf.repo.Repo, may_ask: bool) -> None:
-    """Loads the metadata of a repository. RepoError, also for a signature by a key that isn't trusted: the user is
-    asked about it, if that may be."""
-    try:
-        _load_with(repo, [], False)
-    except RepoError as error:
-        if not (may_ask and repo.repo_gpgcheck and repo.gpgkey and _ABOUT_SIGNATURES.search(str(error))):
-            raise
-        issuers = _issuers(repo)
-        if issuers is None or _trusted(repo, issuers):
-            raise
-        search = Search()
-        try:
-            search.find(issuers, [repo], [])
-        except Missing as missing:
-            raise RepoError(_untrusted(str(error), str(missing))) from error
-    else:
-        return
-    (agreed,) = search.agreed.values()
-    with key_file([agreed.key]) as path:
-        _load_with(repo, [f"file://{path}"], True)
-    host.log(host.LEVEL_NOTICE, imported(agreed))
-
-
 def imported(agreed: Agreed) -> str:
     return _("Imported the key {key}, {user}, from {location}").format(
         key=agreed.key.primary.fingerprint, user=agreed.key.user_id, location=agreed.location
     )
-
-
-def _untrusted(text: str, told: str) -> str:
-    return "\n".join([text, _("No key of this signature is trusted:"), *(f"    {line}" for line in told.splitlines())])
-
-
-def _load_with(repo: dnf.repo.Repo, keys: List[str], trusted: bool) -> None:
-    """Without addresses of keys the library has none to fetch; it would do so before it asks."""
-    configured = list(repo.gpgkey)
-    repo._set_key_import(_KeyImport(trusted))
-    repo.gpgkey = keys
-    try:
-        repo.load()
-    finally:
-        repo.gpgkey = configured
-        repo._set_key_import(_KeyImport(False))
-
-
-def _issuers(repo: dnf.repo.Repo) -> Optional[List[str]]:
-    """Who has signed the metadata, by the first server that tells; None for no signature."""
-    for base in itertools.islice(_bases(repo), _TRIES):
-        with contextlib.suppress(RuntimeError, openpgp.Unreadable):
-            issuers = openpgp.issuers_of(_downloaded(f"{base.rstrip('/')}/{_SIGNATURE_OF_METADATA}", repo))
-            if issuers:
-                return issuers
-    return None
-
-
-def _bases(repo: dnf.repo.Repo) -> Iterator[str]:
-    """The addresses of a repository. The library forgets its mirrors where it could not use what they gave."""
-    yield from repo.baseurl
-    for address in filter(None, (repo.metalink, repo.mirrorlist)):
-        with contextlib.suppress(RuntimeError):
-            text = _downloaded(address, repo).decode("utf-8", "replace")
-            # A metalink may be given where a list of mirrors is asked for.
-            found = map(html.unescape, _MIRRORS_OF_METALINK.findall(text)) if "<metalink" in text else text.split()
-            yield from (mirror for mirror in found if _MIRROR.match(mirror))
-
-
-def _trusted(repo: dnf.repo.Repo, issuers: Sequence[str]) -> bool:
-    """Whether the signature is wrong for another reason than the lack of one of these keys."""
-    # dnf's own function is an older form of its library's.
-    known = getattr(libdnf.repo, "keyidsFromPubring", None) or dnf.crypto.keyids_from_pubring
-    ids = [key_id.upper() for key_id in known(repo._pubring_dir)]
-    return any(issuer.endswith(key_id) or issuer.startswith(key_id) for issuer in issuers for key_id in ids)

@@ -9,27 +9,17 @@ from __future__ import annotations
 
 from functools import cmp_to_key
 from operator import attrgetter
-from typing import Any, Dict, FrozenSet, Iterable, List, Set, Tuple
+from typing import Dict, FrozenSet, Iterable, List, Tuple
 
-import hawkey
+import rpm
 
-from .base import Base
+from .backend import Row, System
 from .database import require_sound
-from .packages import AvailablePackage, Details, InstalledPackage, ReplacingPackage, stated_vendor
+from .packages import AvailablePackage, Details, InstalledPackage, ReplacingPackage
 
 
-def _names(packages: Iterable[Any]) -> FrozenSet[str]:
-    return frozenset(map(attrgetter("name"), packages))
-
-
-def _same_vendor(package: Any, other: Any) -> bool:
-    return (stated_vendor(package) or "") == (stated_vendor(other) or "")
-
-
-def _updates(package: Any, installed: Any) -> bool:
-    """Whether a package of the same name is to take the place of an installed one."""
-    arches = (package.arch, installed.arch)
-    return package.evr_gt(installed) and (package.arch == installed.arch or "noarch" in arches)
+def _names(rows: Iterable[Row]) -> FrozenSet[str]:
+    return frozenset(map(attrgetter("name"), rows))
 
 
 class PackageLists:
@@ -41,13 +31,13 @@ class PackageLists:
 
 
 class Collector:
-    """Queries one loaded Base and remembers what the table will show."""
+    """Asks one loaded System and remembers what the table will show."""
 
     _known_installed: Dict[str, int] = {}
     """By root: how many installed packages this process has seen last."""
 
-    def __init__(self, base: Base, details: Details) -> None:
-        self._base = base
+    def __init__(self, system: System, details: Details) -> None:
+        self._system = system
         self._details = details
         self.updatable: FrozenSet[str] = frozenset()
         self.installed_names: FrozenSet[str] = frozenset()
@@ -55,35 +45,31 @@ class Collector:
 
     def updates(self) -> List[AvailablePackage]:
         """Newer versions of installed packages, and packages that make installed ones obsolete."""
-        query = self._changeable(self._base.sack.query())
-        upgrades = query.filter(upgrades_by_priority=True)
-        packages = list(upgrades.filter(latest_per_arch=True))
-        replaced: Dict[Any, List[Any]] = {}
-        if self._base.conf.obsoletes:
-            replaced = self._obsoleters(query, {package.name for package in packages})
-            packages += replaced.keys()
-        packages = self._best_first(packages)
-        self.updatable = _names(packages)
-        return [self._update(package, replaced.get(package, [])) for package in packages]
+        upgrades = self._system.upgrades()
+        replacing = self._system.replacing({row.name for row in upgrades})
+        replaced = {id(row): olds for row, olds in replacing}
+        rows = self._best_first([*upgrades, *(row for row, _olds in replacing)])
+        self.updatable = _names(rows)
+        return [self._update(row, replaced.get(id(row), [])) for row in rows]
 
-    def _update(self, package: Any, replaced: List[Any]) -> AvailablePackage:
+    def _update(self, row: Row, replaced: List[Row]) -> AvailablePackage:
         if not replaced:
-            return AvailablePackage(package, self._details)
-        return ReplacingPackage(package, self._details, [InstalledPackage(old, self._details) for old in replaced])
+            return AvailablePackage(row, self._details)
+        return ReplacingPackage(row, self._details, [InstalledPackage(old, self._details) for old in replaced])
 
     def everything(self) -> PackageLists:
         """All installed packages and the newest available ones.
 
         Raises YumBaseError when the rpm database lists less than it should.
         """
-        installed = self._best_first(self._base.sack.query(flags=hawkey.IGNORE_EXCLUDES).installed())
+        installed = self._best_first(self._system.installed())
         self.installed_names = _names(installed)
         self._check_installed(len(installed))
-        available = self._available()
+        available = self._best_first(self._system.available())
         self.available_names = _names(available)
         return PackageLists(
-            [InstalledPackage(package, self._details) for package in installed],
-            [AvailablePackage(package, self._details) for package in available],
+            [InstalledPackage(row, self._details) for row in installed],
+            [AvailablePackage(row, self._details) for row in available],
         )
 
     @classmethod
@@ -96,81 +82,29 @@ class Collector:
         """Tells how many packages a transaction of this program has left in the root."""
         cls._known_installed[root] = count
 
-    def _changeable(self, query: hawkey.Query) -> hawkey.Query:
-        """The query without the updates that the solver refuses, since a vendor may not change. dnf's query for
-        updates doesn't ask for that."""
-        if self._base.conf.allow_vendor_change:
-            return query
-        installed, by_name = self._installed()
-        refused = [
-            package
-            for package in query.filter(upgrades=True)
-            if not any(_same_vendor(package, old) and _updates(package, old) for old in by_name[package.name])
-        ]
-        refused += [
-            package
-            for package in query.available().filter(obsoletes=installed)
-            if not all(_same_vendor(package, old) for old in self._replaced(package, by_name))
-        ]
-        return query.filter(pkg__neq=refused)
-
-    def _installed(self) -> Tuple[hawkey.Query, Dict[str, List[Any]]]:
-        """The installed packages, and the same by their names."""
-        installed = self._base.sack.query(flags=hawkey.IGNORE_EXCLUDES).installed()
-        by_name: Dict[str, List[Any]] = {}
-        for package in installed:
-            by_name.setdefault(package.name, []).append(package)
-        return installed, by_name
-
-    def _obsoleters(self, query: hawkey.Query, updates: Set[str]) -> Dict[Any, List[Any]]:
-        """Packages that make installed ones of other names obsolete, each with those."""
-        _all, by_name = self._installed()
-        arches = self._base.sack.list_arches()
-        # Who excludes an installed package wants it left alone.
-        found = query.available().filter(obsoletes_by_priority=query.installed(), arch=arches)
-        # An installed package that makes others obsolete in a newer version is an upgrade already.
-        covered = updates.union(by_name)
-        new = [package for package in found.filter(latest_per_arch=True) if package.name not in covered]
-        return {package: self._replaced(package, by_name) for package in new}
-
-    def _replaced(self, package: Any, installed: Dict[str, List[Any]]) -> List[Any]:
-        """Those of the installed packages, by their names, that a package of another name makes obsolete."""
-        names = dict.fromkeys(reldep.name for reldep in package.obsoletes if reldep.name != package.name)
-        itself = self._base.sack.query().filter(pkg=[package])
-        return [old for name in names for old in installed.get(name, []) if itself.filter(obsoletes=[old])]
-
-    def _native(self) -> List[str]:
-        return [self._base.conf.substitutions["basearch"], self._base.conf.substitutions["arch"], "noarch"]
-
-    def _available(self) -> List[Any]:
-        sack = self._base.sack
-        query = sack.query().available().filter(latest_per_arch_by_priority=True)
-        return self._best_first(query.filter(arch=sack.list_arches()))
-
-    def _best_first(self, found: Iterable[Any]) -> List[Any]:
-        """The packages with those of one name side by side: native ones first, newest ones first."""
-        packages = list(found)
-        names = list(map(attrgetter("name"), packages))
-        last = dict(zip(names, packages))
-        if len(last) == len(packages):
-            return packages
+    def _best_first(self, rows: List[Row]) -> List[Row]:
+        """The rows with those of one name side by side: native ones first, newest ones first."""
+        names = list(map(attrgetter("name"), rows))
+        last = dict(zip(names, rows))
+        if len(last) == len(rows):
+            return rows
         # Most names stand for one package even so; only the others are compared.
-        several: Dict[str, List[Any]] = {}
-        for name, package in zip(names, packages):
-            if last[name] is not package:
-                several.setdefault(name, []).append(package)
-        native = set(self._native())
+        several: Dict[str, List[Row]] = {}
+        for name, row in zip(names, rows):
+            if last[name] is not row:
+                several.setdefault(name, []).append(row)
+        native = set(self._system.native())
 
-        def compare(a: Any, b: Any) -> int:
-            return (a.arch not in native) - (b.arch not in native) or b.evr_cmp(a)
+        def compare(a: Row, b: Row) -> int:
+            return (a.arch not in native) - (b.arch not in native) or rpm.labelCompare(_evr(b), _evr(a))
 
         for name, same in several.items():
             same.append(last[name])
             same.sort(key=cmp_to_key(compare))
-        ordered: List[Any] = []
-        for name, package in zip(names, packages):
+        ordered: List[Row] = []
+        for name, row in zip(names, rows):
             if name not in several:
-                ordered.append(package)
+                ordered.append(row)
             elif several[name]:
                 # At the place of the first.
                 ordered += several[name]
@@ -178,6 +112,10 @@ class Collector:
         return ordered
 
     def _check_installed(self, count: int) -> None:
-        root = self._base.conf.installroot
+        root = self._system.settings.root
         require_sound(root, self.installed_names, count, self.known_installed(root))
         self._known_installed[root] = count
+
+
+def _evr(row: Row) -> Tuple[str, str, str]:
+    return (str(row.epoch), row.version, row.release)

@@ -2,9 +2,8 @@
 """The lock: held from the first collection to the end of the process, across all YumIO objects.
 
 dnf locks its cache and the rpm database for a moment at a time, with three pid files. They are taken
-here once and for good, and dnf's own lock builders then give locks that do nothing: a second lock
-object of the same process would succeed and remove the pid file when it is left. A running dnf and a
-second copy of this program meet the same files.
+here once and for good, whichever library does the work; what that has for locks of its own goes along. A running dnf
+and a second copy of this program meet the same files.
 
 While a process of its own applies changes, the files name that process: it may outlive the program.
 """
@@ -14,20 +13,12 @@ from __future__ import annotations
 import contextlib
 import fcntl
 import os
-from typing import Any, ContextManager, Iterator, List, Optional
+from typing import Iterator, List, Optional
 
-import dnf.conf
-import dnf.exceptions
-import dnf.lock
-
-from . import processes
+from . import backend, processes
+from .backend import Settings
 from .errors import LockError, reported_as
 from .texts import _
-
-_BUILDERS = {
-    name: getattr(dnf.lock, name) for name in ("build_metadata_lock", "build_download_lock", "build_rpmdb_lock")
-}
-"""dnf's own, by their names."""
 
 
 class HeldError(LockError):
@@ -40,10 +31,6 @@ class HeldError(LockError):
         self.pid = pid
 
 
-def _no_lock(*_: Any) -> ContextManager[None]:
-    return contextlib.nullcontext()
-
-
 class ProcessLock:
     """The one lock of the process. Not to be used from two threads at once."""
 
@@ -54,7 +41,7 @@ class ProcessLock:
     def held(self) -> bool:
         return bool(self._held)
 
-    def acquire(self, conf: dnf.conf.MainConf) -> None:
+    def acquire(self, settings: Settings) -> None:
         """Takes the lock, or raises HeldError that names the process which holds it, LockError for other faults.
 
         Holding it already is fine. The pid file of a process that is dead, or that is younger than the file, doesn't
@@ -65,25 +52,23 @@ class ProcessLock:
         taken: List[str] = []
         try:
             with reported_as(LockError):
-                for lock in self._locks(conf):
-                    _forget_dead_holder(lock.target)
-                    _enter(lock)
-                    taken.append(lock.target)
-        except dnf.exceptions.ProcessLockError as error:
-            self._leave(taken)
-            raise HeldError(error.pid) from error
+                for target in backend.library().lock_files(settings):
+                    _take(target)
+                    taken.append(target)
+                backend.library().hold(settings)
         except LockError:
             self._leave(taken)
             raise
-        self._hold(taken)
+        self._held = taken
 
-    def take_over(self, conf: dnf.conf.MainConf, holder: int) -> None:
+    def take_over(self, settings: Settings, holder: int) -> None:
         """Makes the lock of another process, which lets it happen, this one's. LockError if that one holds none."""
-        targets = [lock.target for lock in self._locks(conf)]
+        targets = backend.library().lock_files(settings)
         with reported_as(LockError):
             for target in targets:
                 _change_holder(target, holder, os.getpid())
-        self._hold(targets)
+        self._held = targets
+        backend.library().take_over(settings)
 
     def give_over(self, holder: int) -> None:
         """Makes the lock that process's. Never raises: whoever gets it looks for itself."""
@@ -109,26 +94,14 @@ class ProcessLock:
         with reported_as(LockError):
             self._leave(taken)
 
-    def _locks(self, conf: dnf.conf.MainConf) -> Iterator[Any]:
-        for name, builder in _BUILDERS.items():
-            yield builder(conf.persistdir if name == "build_rpmdb_lock" else conf.cachedir, True)
-
-    def _hold(self, targets: List[str]) -> None:
-        self._held = targets
-        for name in _BUILDERS:
-            setattr(dnf.lock, name, _no_lock)
-
     def _give_up(self) -> List[str]:
         taken, self._held = self._held, []
         if taken:
-            for name, builder in _BUILDERS.items():
-                setattr(dnf.lock, name, builder)
+            backend.library().let_go()
         return taken
 
     @staticmethod
     def _leave(taken: List[str]) -> None:
-        # A lock object may only be left on the thread that entered it, and the engine unlocks on
-        # another one; what counts for others is the file.
         for target in reversed(taken):
             with contextlib.suppress(FileNotFoundError, NotADirectoryError):
                 with _opened(target) as file:
@@ -136,39 +109,49 @@ class ProcessLock:
                         os.unlink(target)
 
 
-def _enter(lock: Any) -> None:
-    try:
-        lock.__enter__()
-    except OSError as error:
-        # A full disk is met where no path is told.
-        if error.filename is None:
-            error.filename = lock.target
-        raise
+def _take(target: str) -> None:
+    """Writes this process's number into a pid file. HeldError; OSError."""
+    os.makedirs(os.path.dirname(target), mode=0o755, exist_ok=True)
+    with _opened(target, os.O_CREAT) as file:
+        pid = _holder(file)
+        if pid is None and os.fstat(file).st_size:
+            raise LockError(
+                _(
+                    "The lock file {file} does not hold the number of a process. If no other program changes packages, "
+                    "remove it."
+                ).format(file=target)
+            )
+        # The number of a process that cannot have written it may be anybody's by now.
+        if pid not in (None, os.getpid()) and processes.lives_since(pid, os.fstat(file).st_mtime):
+            raise HeldError(pid)
+        os.ftruncate(file, 0)
+        os.pwrite(file, str(os.getpid()).encode(), 0)
 
 
 @contextlib.contextmanager
 def _opened(target: str, flags: int = 0) -> Iterator[int]:
-    """The pid file, locked as dnf locks it while it reads and writes there. OSError."""
-    file = os.open(target, os.O_RDWR | os.O_CLOEXEC | flags, 0o644)
-    try:
-        fcntl.flock(file, fcntl.LOCK_EX)
-        yield file
-    finally:
-        os.close(file)
+    """The pid file, locked as dnf locks it while it reads and writes there. OSError with its path."""
+    while True:
+        file = os.open(target, os.O_RDWR | os.O_CLOEXEC | flags, 0o644)
+        try:
+            fcntl.flock(file, fcntl.LOCK_EX)
+            # Whoever had it locked may have removed it meanwhile.
+            if os.fstat(file).st_nlink:
+                yield file
+                return
+        except OSError as error:
+            # A full disk is met where no path is told.
+            if error.filename is None:
+                error.filename = target
+            raise
+        finally:
+            os.close(file)
 
 
 def _holder(file: int) -> Optional[int]:
     with contextlib.suppress(ValueError):
         return int(os.pread(file, 20, 0))
     return None
-
-
-def _forget_dead_holder(target: str) -> None:
-    """Empties the file of a process that cannot have written it, which dnf takes for anybody who has its number."""
-    with contextlib.suppress(FileNotFoundError, NotADirectoryError), _opened(target) as file:
-        pid = _holder(file)
-        if pid not in (None, os.getpid()) and not processes.lives_since(pid, os.fstat(file).st_mtime):
-            os.ftruncate(file, 0)
 
 
 def _change_holder(target: str, before: int, after: int) -> None:

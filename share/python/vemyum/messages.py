@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: GPL-2.0-or-later
-"""dnf's log messages: into the engine's log, and at hand for the texts of exceptions.
+"""The library's log messages: into the engine's log, and at hand for the texts of exceptions.
 
-dnf puts the causes of many failures (curl's words, rpm's lines) only into its log.
+A library puts the causes of many failures (curl's words, rpm's lines) only into its log.
 """
 
 from __future__ import annotations
@@ -12,19 +12,23 @@ import sys
 from contextlib import contextmanager
 from typing import Callable, Iterator, List
 
-import dnf.logging
 import rpm
 
 from . import host
 from .root import as_configured
 from .text import valid
 
+LOGGER = "dnf"
+"""Everything that a library or this package has to say goes to this logger, or one below it."""
 RPM_LOGGER = "dnf.rpm"
 ONLY_IN_FILES = "dnf.vem"
 """The logger of what stands in dnf's log files and not in the engine's log, which has words of its own for it."""
 
 PYTHONS_WARNINGS = "py.warnings"
 """The logger of what Python warns of, such as something in a plugin. dnf takes it from the standard error."""
+
+_ALL = 2
+"""The lowest level that dnf uses; Python's own begin at 10."""
 
 
 class HostHandler(logging.Handler):
@@ -71,9 +75,9 @@ class _Hearing(logging.Handler):
 
 @contextmanager
 def heard() -> Iterator[list[str]]:
-    """Collects the lines of dnf's warnings and errors while the block runs."""
+    """Collects the lines of warnings and errors while the block runs."""
     hearing = _Hearing()
-    logger = logging.getLogger("dnf")
+    logger = logging.getLogger(LOGGER)
     logger.addHandler(hearing)
     try:
         yield hearing.lines
@@ -83,8 +87,8 @@ def heard() -> Iterator[list[str]]:
 
 @contextmanager
 def unheard() -> Iterator[None]:
-    """Keeps dnf's log quiet while the block runs, for what is told otherwise."""
-    logger = logging.getLogger("dnf")
+    """Keeps the log quiet while the block runs, for what is told otherwise."""
+    logger = logging.getLogger(LOGGER)
     before = logger.level
     logger.setLevel(logging.CRITICAL + 1)
     try:
@@ -114,13 +118,13 @@ def rpms_words() -> Iterator[Callable[[], List[str]]]:
             yield said
         finally:
             for line in said():
-                logging.getLogger("dnf").warning("%s", line)
+                logging.getLogger(LOGGER).warning("%s", line)
 
 
 def install_handler() -> None:
-    """Makes the `dnf` logger talk to the engine, and that of Python's warnings; a second call changes nothing."""
-    logging.getLogger("dnf").setLevel(dnf.logging.ALL)
-    for logger in map(logging.getLogger, ("dnf", PYTHONS_WARNINGS)):
+    """Makes the logger talk to the engine, and that of Python's warnings; a second call changes nothing."""
+    logging.getLogger(LOGGER).setLevel(_ALL)
+    for logger in map(logging.getLogger, (LOGGER, PYTHONS_WARNINGS)):
         logger.propagate = False
         if not any(isinstance(handler, HostHandler) for handler in logger.handlers):
             logger.addHandler(HostHandler())

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: GPL-2.0-or-later
-"""Package objects as the engine reads them, over dnf's packages.
+"""Package objects as the engine reads them, over the rows of the library.
 
 Some ten thousand are made and read in one go, so the members that every row of the table needs are
 plain attribute look-ups. All texts are as libsolv gives them; what it cannot hold is read on demand.
@@ -12,19 +12,15 @@ package is an object whose attributes name, arch, size and evr are what the pack
 
 from __future__ import annotations
 
-import os
 from operator import attrgetter
 from typing import Any, Callable, Dict, Iterable, Iterator, List, Optional, Protocol, Tuple
 
-import dnf.exceptions
-import dnf.package
 import rpm
 
+from .backend import Dependency, PkgTup, Row
+from .errors import YumBaseError, reported_as
 from .headers import Header
 from .text import valid
-
-PkgTup = Tuple[str, str, str, str, str]
-Dependency = Tuple[str, Optional[str], Tuple[Optional[str], Optional[str], Optional[str]]]
 
 INSTALLED = "installed"
 """The repository name that yum gives to installed packages."""
@@ -36,13 +32,19 @@ _KINDS = ("provides", "requires", "conflicts", "obsoletes")
 class Details(Protocol):
     """What a package asks of the session that it belongs to, for members outside the sack."""
 
-    def files(self, package: dnf.package.Package) -> Optional[List[str]]: ...
+    def files(self, row: Row) -> List[str]: ...
 
-    def changelog(self, package: dnf.package.Package) -> List[Tuple[int, str, str]]: ...
+    def changelog(self, row: Row) -> List[Tuple[int, str, str]]: ...
 
-    def build_host(self, package: dnf.package.Package) -> Optional[str]: ...
+    def build_host(self, row: Row) -> Optional[str]: ...
 
-    def metadata_file(self, repository: str) -> Optional[str]: ...
+    def primary_file(self, repository: str) -> Optional[str]: ...
+
+    def dependencies(self, row: Row, kind: str) -> List[Dependency]: ...
+
+    def header(self, row: Row) -> Any: ...
+
+    def local_path(self, row: Row) -> Optional[str]: ...
 
 
 class Package:
@@ -50,7 +52,7 @@ class Package:
 
     __slots__ = ("po", "_details")
 
-    def __init__(self, po: dnf.package.Package, details: Details) -> None:
+    def __init__(self, po: Row, details: Details) -> None:
         self.po = po
         self._details = details
 
@@ -69,7 +71,7 @@ class Package:
 
     @property
     def pkgtup(self) -> PkgTup:
-        return (self.po.name, self.po.arch, str(self.po.epoch), self.po.version, self.po.release)
+        return pkgtup(self.po)
 
     _fields: Dict[str, Callable[[Any], Any]] = {}
 
@@ -110,23 +112,15 @@ class AvailablePackage(Package):
         """Tuples of name, flag and (epoch, version, release); KeyError for an unknown kind."""
         if kind not in _KINDS:
             raise KeyError(kind)
-        return [dependency(reldep) for reldep in getattr(self.po, kind)]
+        return self._details.dependencies(self.po, kind)
 
     @property
     def files(self) -> "Listed":
         return Listed(lambda: self.returnFileEntries("file"))
 
     def returnFileEntries(self, kind: str) -> List[str]:
-        """The file names; the sack, asked before the file lists are loaded, tells directories by what they hold."""
-        if kind != "file":
-            return []
-        listed = self._details.files(self.po)
-        if listed is not None:
-            return listed
-        names = list(self.po.files)
-        # The sack keeps bare names; what other names lie below cannot be a file.
-        directories = {os.path.dirname(name) for name in names}
-        return [valid(name) for name in names if name not in directories]
+        """The file names."""
+        return self._details.files(self.po) if kind == "file" else []
 
     @property
     def changelog(self) -> "Listed":
@@ -138,18 +132,14 @@ class AvailablePackage(Package):
 
     def localPkg(self) -> Optional[str]:
         """Where the package's file is, or will be once it is downloaded."""
-        try:
-            return self.po.localPkg()
-        except KeyError:
-            # The session is over, and its repositories with it.
-            return None
+        return self._details.local_path(self.po)
 
     def localHdr(self) -> Optional[str]:
         """The local file that holds the package's header data: the repository's metadata.
 
         There is nothing to download per package, so the solver's progress plans nothing for it.
         """
-        return self._details.metadata_file(self.po.reponame)
+        return self._details.primary_file(self.po.reponame)
 
 
 AvailablePackage._fields = {
@@ -168,7 +158,7 @@ class ReplacingPackage(AvailablePackage):
 
     __slots__ = ("replaces",)
 
-    def __init__(self, po: dnf.package.Package, details: Details, replaces: List["InstalledPackage"]) -> None:
+    def __init__(self, po: Row, details: Details, replaces: List["InstalledPackage"]) -> None:
         super().__init__(po, details)
         self.replaces = replaces
 
@@ -184,8 +174,9 @@ class InstalledPackage(Package):
     def hdr(self) -> Header:
         """The header, read anew each time. AttributeError when the package is gone from the database."""
         try:
-            return Header(self.po.get_header())
-        except (dnf.exceptions.Error, rpm.error, OSError) as error:
+            with reported_as(YumBaseError):
+                return Header(self._details.header(self.po))
+        except YumBaseError as error:
             raise AttributeError(f"{self.po}: {error}") from error
 
     def localPkg(self) -> Optional[str]:
@@ -202,8 +193,8 @@ def _installed_build_host(package: InstalledPackage) -> Optional[str]:
         return None
 
 
-def stated_vendor(po: dnf.package.Package) -> Optional[str]:
-    """The vendor that a package of the sack states; None where it states none."""
+def stated_vendor(po: Row) -> Optional[str]:
+    """The vendor that a row states; None where it states none."""
     vendor = po.vendor
     # libsolv's word for a header without a vendor.
     return None if vendor == "<NULL>" else vendor
@@ -251,14 +242,22 @@ class Listed:
         return iter(self._tell())
 
 
-def dependency(reldep: Any) -> Dependency:
+def pkgtup(row: Row) -> PkgTup:
+    return (row.name, row.arch, str(row.epoch), row.version, row.release)
+
+
+def shown(package: PkgTup) -> str:
+    """As the libraries write it: "name-[epoch:]version-release.arch"."""
+    name, arch, epoch, version, release = package
+    return f"{name}-{'' if epoch == '0' else epoch + ':'}{version}-{release}.{arch}"
+
+
+def dependency(text: str, name: str, relation: str, version: str) -> Dependency:
     """One of libsolv's dependencies as yum tells it. A rich dependency is one long name."""
-    operator = reldep.relation.strip()
-    if not operator:
-        return (valid(str(reldep)), None, (None, None, None))
+    operator = relation.strip()
     if operator not in _OPERATORS:
-        return (valid(str(reldep)), None, (None, None, None))
-    return (valid(reldep.name), _OPERATORS[operator], split_evr(reldep.version))
+        return (valid(text), None, (None, None, None))
+    return (valid(name), _OPERATORS[operator], split_evr(version))
 
 
 def split_evr(text: str) -> Tuple[Optional[str], Optional[str], Optional[str]]:

@@ -129,9 +129,10 @@ class Records:
         while data:
             data = data[self._file.write(data) :]
 
-    def record(self, checksum: bytes) -> Optional[bytes]:
-        """What the file says of the package with this checksum, as XML; None where it says nothing."""
-        place = self._places.get(checksum.hex().encode())
+    def record(self, checksum: str) -> Optional[bytes]:
+        """What the file says of the package with this checksum, in hexadecimal digits, as XML; None where it says
+        nothing."""
+        place = self._places.get(checksum.encode())
         if place is None:
             return None
         start = self._starts[place]

@@ -5,8 +5,7 @@ from __future__ import annotations
 
 from typing import Dict, Iterable
 
-import dnf.repo
-
+from .backend import RepositoryState
 from .errors import RepoError
 from .texts import _
 
@@ -25,9 +24,9 @@ class Repository:
 class Repositories:
     """Holds the dictionary `repos` and switches repositories on and off, before they are read."""
 
-    def __init__(self, repos: Iterable[dnf.repo.Repo]) -> None:
+    def __init__(self, repositories: Iterable[RepositoryState]) -> None:
         self.repos: Dict[str, Repository] = {
-            repo.id: Repository(repo.id, repo.name, bool(repo.enabled)) for repo in repos
+            state.id: Repository(state.id, state.name, state.enabled) for state in repositories
         }
 
     def enableRepo(self, id: str) -> None:

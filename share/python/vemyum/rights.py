@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: GPL-2.0-or-later
 """Whether the system can be changed and by whom, and where the program keeps things for who may only look.
 
-dnf locks, caches and logs in directories of the system. For anybody but the administrator they all lie in a
+The library locks, caches and logs in directories of the system. For anybody but the administrator they all lie in a
 folder of the user's own, one for each root that is looked at, and nothing of the system is touched.
 """
 
@@ -12,10 +12,6 @@ import errno
 import hashlib
 import os
 from typing import Optional
-
-import dnf.conf
-import dnf.util
-import dnf.yum.misc
 
 from .errors import YumBaseError, os_error_text
 from .root import below
@@ -32,15 +28,13 @@ READ_ONLY = _("{directory} is read-only: packages can be looked at, not changed.
 _BOOTED_IMAGE = "/run/ostree-booted"
 """There on a running system that was made from an image, by bootc too, even while its /usr is unlocked for a try."""
 
-SYSTEM_DIRECTORY = "vem_system_persistdir"
-"""The attribute of a configuration with the system's own persistdir, where the user's stands in its place."""
-
-_DIRECTORIES = {"cachedir": "cache", "persistdir": "persist", "logdir": "log"}
+OWN_FOLDERS = {"cachedir": "cache", "persistdir": "persist", "logdir": "log"}
+"""What lies in the user's folder, by the configuration's names for these directories."""
 
 
 def is_administrator() -> bool:
     """rpm lets nobody else change a system, not even one whose files belong to the user."""
-    return bool(dnf.util.am_i_root())
+    return os.geteuid() == 0
 
 
 def require_administrator(refusal: str) -> None:
@@ -88,7 +82,7 @@ def own_directory(root: str) -> str:
     name = hashlib.sha256(os.fsencode(os.path.realpath(root))).hexdigest()[:16]
     own = os.path.join(caches, "vem", name)
     try:
-        for kind in _DIRECTORIES.values():
+        for kind in OWN_FOLDERS.values():
             folder = os.path.join(own, kind)
             _make_private(folder)
             if not os.access(folder, os.W_OK | os.X_OK):
@@ -98,16 +92,7 @@ def own_directory(root: str) -> str:
             _("Without administrator rights the program needs a cache of the user's own, which cannot be used:")
             + f"\n{os_error_text(error)}"
         ) from error
-    # What dnf itself keeps for a user, its locks above all; it would make a folder of a random name.
-    dnf.yum.misc.getCacheDir = lambda: own
     return own
-
-
-def use_directories(conf: dnf.conf.MainConf, own: str) -> None:
-    """Puts cache, persistent data and log below the user's folder, whatever the configuration says."""
-    setattr(conf, SYSTEM_DIRECTORY, conf.persistdir)
-    for option, kind in _DIRECTORIES.items():
-        conf._set_value(option, os.path.join(own, kind))
 
 
 def _make_private(folder: str) -> None:

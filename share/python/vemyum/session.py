@@ -11,13 +11,11 @@ import dataclasses
 import gc
 from typing import Any, Iterator, List, Optional, Sequence
 
-import dnf.conf
-
-from . import host, rights
+from . import backend, host, rights
 from .apply.journal import await_transaction, tell_last
-from .base import Base, open_base
+from .backend import Settings, System
 from .comps import CompsGroup
-from .configuration import Configuration, existing_main_file, main_file, read_configuration
+from .configuration import Configuration, existing_main_file, main_file
 from .credentials import masked
 from .details import PackageDetails
 from .errors import LockError, RepoError, YumBaseError, reported_as
@@ -27,7 +25,6 @@ from .lock import LOCK
 from .packages import InstalledPackage
 from .repositories import Repositories, UnreadableRepositories
 from .root import as_configured, managed_root
-from .sack import light_packages
 from .sections import RepositorySection
 from .text import valid
 from .texts import _
@@ -62,17 +59,17 @@ class Session:
     """What the log was told last of a transaction that was cut off."""
 
     def __init__(self, lenient: bool) -> None:
-        self._conf: Optional[dnf.conf.MainConf] = None
-        self._base: Optional[Base] = None
+        self._settings: Optional[Settings] = None
+        self._system: Optional[System] = None
         self._details: Optional[PackageDetails] = None
         self._collector: Optional[Collector] = None
         self._comps: List[CompsGroup] = []
         self._fault: Optional[YumBaseError] = None
         try:
             with reported_as(YumBaseError, _("Unable to read the configuration")):
-                self._conf = read_configuration()
-                self._base = open_base(self._conf)
-                self.repositories = Repositories(self._base.repos.values())
+                self._settings = backend.library().read_settings()
+                self._system = backend.library().open_system(self._settings)
+                self.repositories = Repositories(self._system.repositories())
         except YumBaseError as error:
             self.close()
             self._fault = YumBaseError(as_configured(str(error)))
@@ -80,7 +77,7 @@ class Session:
                 raise self._fault from error
             self.repositories = UnreadableRepositories(main_file(managed_root()).path)
         self.main_file = existing_main_file(managed_root())
-        self.conf = Configuration(self._conf.substitutions if self._conf is not None else {})
+        self.conf = Configuration(self._settings.variables if self._settings is not None else {})
 
     # Lock ------------------------------------------------------------------------------------------------
 
@@ -88,11 +85,11 @@ class Session:
         """LockError, also for a configuration that cannot be read: it says where the lock's files lie."""
         if LOCK.held:
             return
-        if self._conf is None:
+        if self._settings is None:
             raise LockError(str(self._fault))
-        await_transaction(self._conf)
-        LOCK.acquire(self._conf)
-        Session._failed_unheard = tell_last(self._conf)
+        await_transaction(self._settings)
+        LOCK.acquire(self._settings)
+        Session._failed_unheard = tell_last(self._settings)
         reason = rights.unchangeable(managed_root())
         if reason is None and not rights.is_administrator():
             reason = rights.LOOK_ONLY
@@ -105,9 +102,9 @@ class Session:
     @contextlib.contextmanager
     def locked(self) -> Iterator[None]:
         """Holds the lock for a block at least. LockError; a configuration that cannot be read has nothing to lock."""
-        took = self._conf is not None and not LOCK.held
+        took = self._settings is not None and not LOCK.held
         if took:
-            LOCK.acquire(self._conf)
+            LOCK.acquire(self._settings)
         try:
             yield
         finally:
@@ -120,15 +117,14 @@ class Session:
         """Reads all enabled repositories and the rpm database. RepoError, whatever fails."""
         if self._fault is not None:
             raise RepoError(str(self._fault))
-        if self._base is None or self._conf is None or self._collector is not None:
+        if self._system is None or self._collector is not None:
             raise RepoError(_("The repositories can be read once only"))
-        for repo in self._base.repos.values():
-            (repo.enable if self.repositories.repos[repo.id].enabled else repo.disable)()
-        self._base.asks_for_keys = True
-        with reported_as(RepoError), _nothing_is_garbage(), light_packages():
-            self._base.load_everything()
-        self._details = PackageDetails(self._base)
-        self._collector = Collector(self._base, self._details)
+        for state in self._system.repositories():
+            self._system.enable(state.id, bool(self.repositories.repos[state.id].enabled))
+        with reported_as(RepoError), _nothing_is_garbage():
+            self._system.load()
+        self._details = PackageDetails(self._system)
+        self._collector = Collector(self._system, self._details)
 
     def updates(self) -> Sequence[Any]:
         with _nothing_is_garbage():
@@ -141,18 +137,18 @@ class Session:
     def read_groups(self) -> None:
         """GroupsError when there are none."""
         self._comps = []
-        self._comps = read_groups(self.base)
+        self._comps = read_groups(self.system)
 
     def groups(self) -> List[Group]:
         return groups_of(self._comps, self.collector.installed_names)
 
     def incomplete(self) -> List[str]:
         """What is configured and the collection had to do without, each with its reason; the log has it, too."""
-        return [masked(valid(as_configured(text))) for text in dict.fromkeys(self.base.lacking)]
+        return [masked(valid(as_configured(text))) for text in dict.fromkeys(self.system.lacking)]
 
     def unfinished(self) -> Optional[Unfinished]:
         """What a transaction that was cut off has left; told in the log, too."""
-        found = unfinished(self.base)
+        found = unfinished(self.system)
         failure, Session._failed_unheard = Session._failed_unheard, ""
         if found is None and failure:
             found = Unfinished("", {}, [])
@@ -173,25 +169,25 @@ class Session:
         self._details.load_file_lists()
 
     def load_changelogs(self) -> None:
-        if self._details is None or self._conf is None:
+        if self._details is None or self._settings is None:
             raise YumBaseError(_NOT_READ)
-        self._details.load_changelogs(self._conf, self.repository_sections())
+        self._details.load_changelogs(self._settings, self.repository_sections())
 
     # What has been read ---------------------------------------------------------------------------------
 
     @property
-    def base(self) -> Base:
-        """The Base on which the table's packages rest. YumBaseError before the repositories are read."""
-        if self._base is None or self._collector is None:
+    def system(self) -> System:
+        """What the table's packages rest on. YumBaseError before the repositories are read."""
+        if self._system is None or self._collector is None:
             raise YumBaseError(_NOT_READ)
-        return self._base
+        return self._system
 
     def repository_sections(self) -> List[RepositorySection]:
         """The repositories that the lists rest on; one that had to be left out counts as switched off. YumBaseError
         before they are read."""
-        repos = self.base.repos
-        sections = [(repos[id], section) for id, section in self.base.sections.items() if id in repos]
-        return [dataclasses.replace(section, enabled=bool(repo.enabled)) for repo, section in sections]
+        enabled = {state.id: state.enabled for state in self.system.repositories()}
+        sections = [(id, section) for id, section in self.system.sections.items() if id in enabled]
+        return [dataclasses.replace(section, enabled=enabled[id]) for id, section in sections]
 
     @property
     def collector(self) -> Collector:
@@ -201,20 +197,20 @@ class Session:
 
     @property
     def cache_directory(self) -> Optional[str]:
-        return None if self._conf is None else self._conf.cachedir
+        return None if self._settings is None else self._settings.cache_directory
 
     # End -------------------------------------------------------------------------------------------------
 
     def close(self) -> None:
-        """Gives up memory and files; the lock stays. Packages still tell what their sack knows.
+        """Gives up memory and files; the lock stays. Packages still tell what their rows know.
 
         Never raises: there is nobody left to tell. A second call does nothing.
         """
         details, self._details = self._details, None
-        base, self._base = self._base, None
+        system, self._system = self._system, None
         self._collector = None
         self._comps = []
-        for closable in (details, base):
+        for closable in (details, system):
             if closable is not None:
                 try:
                     with reported_as(YumBaseError):

@@ -1,22 +1,23 @@
 # SPDX-License-Identifier: GPL-2.0-or-later
-"""Signatures: nothing is installed whose key the rpm database doesn't hold, where gpgcheck asks for it."""
+"""Signatures: nothing is installed whose key the rpm database doesn't hold, where gpgcheck asks for it.
+
+A library checks; what it finds is told here, the user is asked about keys that are missing, and rpm's own program
+gets those that are agreed to.
+"""
 
 from __future__ import annotations
 
-import contextlib
 import os
 import re
 import shutil
 import subprocess
 import tempfile
-from typing import Any, Dict, Iterator, List, NamedTuple, Optional, Tuple
+from typing import Any, Callable, Dict, List, NamedTuple, Optional
 
-import dnf.package
-import dnf.rpm.miscutils
 import rpm
 
 from . import host
-from .base import Base
+from .backend import KeySource
 from .database import database_directory
 from .errors import YumBaseError
 from .keys import Agreed, Missing, Search, imported, key_file
@@ -26,111 +27,72 @@ from .texts import _
 
 _SIGNATURES = ("OPENPGP", "RSAHEADER", "DSAHEADER", "SIGPGP", "SIGGPG")
 """rpm's tags of signatures; the first one came with its sixth version."""
-_FATAL = 2
-_MAY_LACK_A_KEY = 1
-_DAMAGED = re.compile(r": BAD\b|^error:")
+DAMAGED = re.compile(r": BAD\b|^error:")
+"""Stands in what rpmkeys says of a package that isn't as it was signed."""
 _LACKS_A_KEY = re.compile(r"\b([0-9a-f]{8,64}): NO(?:KEY|TTRUSTED)$", re.I)
 _ISSUER = re.compile(r"\b[0-9a-f]{16,64}\b", re.I)
 
 
-class _Fault(NamedTuple):
-    """A package without a good signature, what dnf says of it, and what rpm says. `missing` are the keys that the rpm
-    database lacks, as rpm calls them."""
+class Fault(NamedTuple):
+    """A package without a good signature: its name and version, file and repository, what the library says of it, and
+    what rpm says. `missing` are the keys that the rpm database lacks, as rpm calls them; `lacks_key` tells whether one
+    would help."""
 
-    package: dnf.package.Package
-    result: int
+    package: str
+    path: str
+    source: KeySource
+    lacks_key: bool
     message: str
     wrong: List[str]
     missing: List[str]
 
 
-def check_signatures(base: Base, packages: List[dnf.package.Package]) -> None:
+def require_signatures(root: str, check: Callable[[], List[Fault]]) -> None:
     """Raises YumBaseError that names each package without a good signature, its key and the locations
-    of the repository's keys. The user is asked about keys that are missing, about each before the first is imported."""
-    faults = _faults(base, packages)
+    of the repository's keys. The user is asked about keys that are missing, about each before the first is imported;
+    then `check` is called again."""
+    faults = check()
     told: List[str] = []
     # Where something else is wrong as well, no key would help.
-    if faults and all(fault.result == _MAY_LACK_A_KEY for fault in faults):
+    if faults and all(fault.lacks_key for fault in faults):
         try:
-            keys = _agreed_keys(base, faults)
+            keys = _agreed_keys(faults)
         except Missing as missing:
             told = str(missing).splitlines()
         else:
             for key in keys:
-                _import(base.conf.installroot, key)
-            faults = _faults(base, packages)
+                _import(root, key)
+            faults = check()
     if faults:
-        lines = [line for fault in faults for line in _text(base, fault)]
+        lines = [line for fault in faults for line in _text(fault)]
         lines += [f"    {line}" for line in told]
         raise YumBaseError("\n".join([*lines, _("Nothing was installed.")]))
 
 
-def _text(base: Base, fault: _Fault) -> List[str]:
-    package = fault.package
+def _text(fault: Fault) -> List[str]:
     if fault.wrong:
-        # dnf calls it a problem of opening the file.
-        damaged = _("Package {package} is damaged: {file}").format(package=package, file=package.localPkg())
+        # A library calls it a problem of opening the file.
+        damaged = _("Package {package} is damaged: {file}").format(package=fault.package, file=fault.path)
         return [damaged, *(f"    {line}" for line in fault.wrong)]
-    locations = ", ".join(base.repos[package.reponame].gpgkey) or _("none")
-    key = next(iter(_signatures(package.localPkg())), _("not signed"))
+    locations = ", ".join(fault.source.gpgkey) or _("none")
+    key = next(iter(_signatures(fault.path)), _("not signed"))
     return [
-        _("Package {package}: {message}").format(package=package, message=fault.message),
+        _("Package {package}: {message}").format(package=fault.package, message=fault.message),
         "    " + _("key: {key}").format(key=key),
-        "    " + _("gpgkey of repository {id}: {locations}").format(id=package.reponame, locations=locations),
+        "    " + _("gpgkey of repository {id}: {locations}").format(id=fault.source.id, locations=locations),
     ]
 
 
-# The check -------------------------------------------------------------------------------------------------------
-
-
-def _faults(base: Base, packages: List[dnf.package.Package]) -> List[_Fault]:
-    found = []
-    with _checking_below(base.conf.installroot) as (wrong, missing):
-        for package in packages:
-            wrong.clear()
-            missing.clear()
-            result, message = base.package_signature_check(package)
-            if result != 0:
-                found.append(_Fault(package, result, message, list(wrong), list(missing)))
-    return found
-
-
-@contextlib.contextmanager
-def _checking_below(root: str) -> Iterator[Tuple[List[str], List[str]]]:
-    """Lets dnf's check look for keys where the root's database is. The lists that it gives are filled with what is
-    wrong with a damaged package, and with the keys that are missing.
-
-    dnf leaves the check to the program rpmkeys, which doesn't know of this process's settings, and doesn't tell what
-    that says of damage.
-    """
-    where = ["--root", root, "--dbpath", database_directory(root)]
-    wrong: List[str] = []
-    missing: List[str] = []
-
-    def check(_: Any, path: str) -> int:
-        verdict, said = _verdict(where, path)
-        if verdict == _FATAL:
-            wrong.extend([line for line in said if _DAMAGED.search(line)] or said)
-        missing.extend(_missing(said))
-        return verdict
-
-    original = dnf.rpm.miscutils.checkSig
-    dnf.rpm.miscutils.checkSig = check
-    try:
-        yield wrong, missing
-    finally:
-        dnf.rpm.miscutils.checkSig = original
-
-
-def _verdict(where: List[str], path: str) -> Tuple[int, List[str]]:
-    """What rpm says of a package: dnf's number for that, and the lines."""
+def checksig(where: List[str], path: str) -> "subprocess.CompletedProcess[bytes]":
+    """What rpm's program says of a package and its signatures; `where` are its options for the database of keys."""
     options = ["--define=_pkgverify_level signature", "--define=_pkgverify_flags 0x0"]
     with open(path, "rb") as package:
-        done = _rpmkeys([*where, "--checksig", "--verbose", *options, "-"], package)
-    verdict = int(dnf.rpm.miscutils._process_rpm_output(done.stdout.split(b"\n")))
-    if done.returncode not in (0, 1) or (done.returncode and not verdict):
-        verdict = _FATAL
-    return verdict, _lines(done)
+        return _rpmkeys([*where, "--checksig", "--verbose", *options, "-"], package)
+
+
+def keys_below(root: str) -> List[str]:
+    """rpmkeys' options for the database of a root: it doesn't know of this process's settings."""
+    return ["--root", root, "--dbpath", database_directory(root)]
 
 
 def _rpmkeys(arguments: List[str], package: Any = subprocess.DEVNULL) -> "subprocess.CompletedProcess[bytes]":
@@ -142,11 +104,11 @@ def _rpmkeys(arguments: List[str], package: Any = subprocess.DEVNULL) -> "subpro
     return subprocess.run([rpmkeys, *arguments], stdin=package, stdout=pipe, stderr=pipe, env=environment, cwd="/")
 
 
-def _lines(done: "subprocess.CompletedProcess[bytes]") -> List[str]:
+def lines(done: "subprocess.CompletedProcess[bytes]") -> List[str]:
     return list(filter(None, (line.strip() for line in valid(done.stdout + done.stderr).splitlines())))
 
 
-def _missing(said: List[str]) -> List[str]:
+def missing_keys(said: List[str]) -> List[str]:
     """The keys, by id or fingerprint, that rpm's lines call missing or not trusted."""
     return [found.group(1) for found in map(_LACKS_A_KEY.search, said) if found]
 
@@ -168,25 +130,23 @@ def _signatures(path: str) -> List[str]:
 # Keys that are missing -------------------------------------------------------------------------------------------
 
 
-def _agreed_keys(base: Base, faults: List[_Fault]) -> List[Agreed]:
+def _agreed_keys(faults: List[Fault]) -> List[Agreed]:
     """The keys that these packages want; all of them are agreed to. Raises Missing."""
-    wanting: Dict[str, List[_Fault]] = {}
+    wanting: Dict[str, List[Fault]] = {}
     for fault in faults:
         for issuer in _issuers(fault):
             wanting.setdefault(issuer, []).append(fault)
     search = Search()
     for issuer, signed in wanting.items():
-        repos = list({fault.package.reponame: base.repos[fault.package.reponame] for fault in signed}.values())
-        path = signed[0].package.localPkg()
-        search.find(
-            [issuer], repos, [str(fault.package) for fault in signed], lambda key: _refusal(key, issuer, path)
-        )
+        sources = list({fault.source.id: fault.source for fault in signed}.values())
+        path = signed[0].path
+        search.find([issuer], sources, [fault.package for fault in signed], lambda key: _refusal(key, issuer, path))
     return list(search.agreed.values())
 
 
-def _issuers(fault: _Fault) -> List[str]:
+def _issuers(fault: Fault) -> List[str]:
     """Whose signatures cannot be checked: what rpm says is missing, as long as the package's own words for it."""
-    found = [issuer for text in _signatures(fault.package.localPkg()) for issuer in _ISSUER.findall(text)]
+    found = [issuer for text in _signatures(fault.path) for issuer in _ISSUER.findall(text)]
     missing = [issuer for issuer in found if any(_same(issuer, key) for key in fault.missing)]
     if not missing:
         raise Missing("")
@@ -203,11 +163,11 @@ def _refusal(key: Key, issuer: str, path: str) -> Optional[str]:
     """Why rpm would not accept the package though it had this key, None if it would. A database of its own is used."""
     with tempfile.TemporaryDirectory(prefix="vem-keys-") as database, key_file([key]) as file:
         done = _rpmkeys(["--dbpath", database, "--import", file])
-        said = _lines(done)
+        said = lines(done)
         if done.returncode == 0:
-            _number, said = _verdict(["--dbpath", database], path)
-            missing = any(_same(issuer, one) for one in _missing(said))
-            damaged = [line for line in said if _DAMAGED.search(line)]
+            said = lines(checksig(["--dbpath", database], path))
+            missing = any(_same(issuer, one) for one in missing_keys(said))
+            damaged = [line for line in said if DAMAGED.search(line)]
             if not missing and not damaged:
                 return None
     words = "; ".join(line for line in said if line != "-:" and not line.endswith(": OK"))
@@ -216,9 +176,9 @@ def _refusal(key: Key, issuer: str, path: str) -> Optional[str]:
 
 def _import(root: str, agreed: Agreed) -> None:
     with key_file([agreed.key]) as file:
-        done = _rpmkeys(["--root", root, "--dbpath", database_directory(root), "--import", file])
+        done = _rpmkeys([*keys_below(root), "--import", file])
     if done.returncode != 0:
         key = agreed.key.primary.fingerprint
         refused = _("The key {key} could not be imported:").format(key=key)
-        raise YumBaseError("\n".join([refused, *_lines(done), _("Nothing was installed.")]))
+        raise YumBaseError("\n".join([refused, *lines(done), _("Nothing was installed.")]))
     host.log(host.LEVEL_NOTICE, imported(agreed))

@@ -8,9 +8,7 @@ import importlib
 import sys
 import types
 
-import dnf.const
-
-from . import errors
+from . import backend, errors
 
 NEEDED_LATER = (
     "bdb",
@@ -30,24 +28,13 @@ NEEDED_LATER = (
     "traceback",
     "unicodedata",
     "_strptime",
-    "dnf.crypto",
-    "dnf.db.group",
-    "dnf.db.history",
-    "dnf.drpm",
-    "dnf.module.module_base",
-    "dnf.persistor",
-    "dnf.rpm.miscutils",
-    "dnf.rpm.transaction",
-    "dnf.yum.misc",
-    "dnf.yum.rpmtrans",
-    "libdnf.transaction",
 )
 
 
 def make_yum_module() -> types.ModuleType:
     """The module `yum` with its submodule `Errors`, put into sys.modules; `exceptions` beside it."""
     yum = types.ModuleType("yum", "The package library's version and exceptions, under yum's names.")
-    yum.__dict__["__version__"] = dnf.const.VERSION
+    yum.__dict__["__version__"] = backend.library().VERSION
     yum_errors = types.ModuleType("yum.Errors", "The exceptions that the engine expects.")
     for name in ("YumBaseError", "RepoError", "LockError", "GroupsError"):
         setattr(yum_errors, name, getattr(errors, name))
@@ -64,7 +51,7 @@ def load_needed_later() -> None:
     While rpm works on another root it changes the root directory of the whole process, and nothing can
     be imported then. Modules that this system lacks are passed over.
     """
-    for name in NEEDED_LATER:
+    for name in (*NEEDED_LATER, *backend.library().NEEDED_LATER):
         try:
             importlib.import_module(name)
         except ImportError:

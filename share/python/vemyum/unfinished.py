@@ -1,26 +1,18 @@
 # SPDX-License-Identifier: GPL-2.0-or-later
-"""What a transaction that was cut off has left: told by dnf's history and by the rpm database.
+"""What a transaction that was cut off has left: told by the library's history and by the rpm database.
 
-rpm puts the new version of a package in before it takes the old one out, and dnf closes the entry in its history
+rpm puts the new version of a package in before it takes the old one out, and a library closes the entry in its history
 behind both. Whoever cuts that off leaves an open entry and packages that are there twice.
 """
 
 from __future__ import annotations
 
-import contextlib
-import sqlite3
 import time
-from typing import Any, Dict, List, NamedTuple, Optional, Set, Tuple
-
-import dnf.conf
-import dnf.transaction
-import hawkey
-import libdnf.transaction as lt
+from typing import Any, Dict, List, NamedTuple, Optional, Tuple
 
 from . import host
-from .base import Base
+from .backend import OpenEntry, Row, System
 from .database import transaction_is_at_work
-from .history import open_history, system_history_path
 from .rights import is_administrator, unchangeable
 from .texts import _
 
@@ -35,32 +27,21 @@ class Unfinished(NamedTuple):
 
     text: str
     versions: Dict[str, str]
-    older: List[Any]
+    older: List[Row]
 
 
-class _Entry(NamedTuple):
-    """An open entry of the history: its head, and what was to go in and to go out, as name, "epoch:version-release" and
-    architecture."""
-
-    number: int
-    begun: int
-    command: str
-    incoming: Set[Tuple[str, str, str]]
-    outgoing: Set[Tuple[str, str, str]]
-
-
-def unfinished(base: Base) -> Optional[Unfinished]:
-    """What is to be told of the system of a loaded Base; None where every transaction has come to its end."""
-    if transaction_is_at_work(base.conf.installroot):
+def unfinished(system: System) -> Optional[Unfinished]:
+    """What is to be told of a loaded System; None where every transaction has come to its end."""
+    root = system.settings.root
+    if transaction_is_at_work(root):
         # It puts everything new in first.
         host.log(host.LEVEL_NOTICE, _("A transaction is at work: what it has not done yet is not told."))
         return None
-    installed = base.sack.query(flags=hawkey.IGNORE_EXCLUDES).installed()
-    doubled = _doubled(base, installed)
-    entry = _open_entry(base.conf)
+    doubled = {(rows[0].name, rows[0].arch): rows for rows in system.duplicated()}
+    entry = system.open_entry()
     if entry is None and not doubled:
         return None
-    lines = _told(entry, installed) if entry is not None else []
+    lines = _told(entry, system.installed()) if entry is not None else []
     if doubled:
         lines.append(
             _("Installed in more than one version, as a transaction leaves it that is cut off:")
@@ -71,8 +52,8 @@ def unfinished(base: Base) -> Optional[Unfinished]:
     versions: Dict[str, str] = {}
     for (name, _arch), found in sorted(doubled.items()):
         versions[name] = ", ".join(filter(None, (versions.get(name), _versions(found))))
-    changeable = is_administrator() and unchangeable(base.conf.installroot) is None
-    older = [package for found in doubled.values() for package in found[:-1]] if changeable else []
+    changeable = is_administrator() and unchangeable(root) is None
+    older = [row for found in doubled.values() for row in found[:-1]] if changeable else []
     if entry is None and not older:
         # There is nothing to be done about it; the rows tell it.
         for line in lines:
@@ -81,46 +62,11 @@ def unfinished(base: Base) -> Optional[Unfinished]:
     return Unfinished("\n".join(lines), versions, older)
 
 
-def _versions(packages: List[Any]) -> str:
-    return ", ".join(package.evr for package in packages)
+def _versions(rows: List[Row]) -> str:
+    return ", ".join(row.evr for row in rows)
 
 
-def _doubled(base: Base, installed: hawkey.Query) -> Dict[Tuple[str, str], List[Any]]:
-    """By name and architecture, oldest first, as the command line tells duplicates: without those that are meant to be
-    there several times."""
-    found: Dict[Tuple[str, str], List[Any]] = {}
-    for package in installed.duplicated().difference(base._get_installonly_query(installed)):
-        found.setdefault((package.name, package.arch), []).append(package)
-    return {key: sorted(packages) for key, packages in found.items() if len(packages) > 1}
-
-
-def _open_entry(conf: dnf.conf.MainConf) -> Optional[_Entry]:
-    """The last entry of the history if it has no end. The history is only looked at: dnf's own class would make one
-    where there is none, and bring an old one up to date."""
-    # Whoever wants to write into a history that cannot be read is told then.
-    path = system_history_path(conf)
-    with contextlib.suppress(sqlite3.Error), contextlib.closing(open_history(path, "ro")) as database:
-        database.text_factory = lambda content: content.decode("utf-8", "replace")
-        last = database.execute("select id, dt_begin, cmdline, state from trans order by id desc limit 1").fetchone()
-        if last is None or last[3] != lt.TransactionState_UNKNOWN:
-            return None
-        incoming: Set[Tuple[str, str, str]] = set()
-        outgoing: Set[Tuple[str, str, str]] = set()
-        for name, epoch, version, release, arch, action in database.execute(
-            "select name, epoch, version, release, arch, action from trans_item join rpm using (item_id) "
-            "where trans_id = ?",
-            last[:1],
-        ):
-            package = (name, f"{epoch}:{version}-{release}", arch)
-            if action in dnf.transaction.FORWARD_ACTIONS:
-                incoming.add(package)
-            elif action in dnf.transaction.BACKWARD_ACTIONS:
-                outgoing.add(package)
-        return _Entry(last[0], last[1] or 0, last[2] or "", incoming, outgoing - incoming)
-    return None
-
-
-def _told(entry: _Entry, installed: hawkey.Query) -> List[str]:
+def _told(entry: OpenEntry, installed: List[Row]) -> List[str]:
     lines = [
         _("The last transaction was cut off before its end: number {number}, of {time}, begun by {command}.").format(
             number=entry.number,
@@ -129,10 +75,7 @@ def _told(entry: _Entry, installed: hawkey.Query) -> List[str]:
         )
     ]
     names = {name for name, _evr, _arch in entry.incoming | entry.outgoing}
-    present = {
-        (package.name, f"{package.epoch}:{package.version}-{package.release}", package.arch)
-        for package in installed.filter(name=list(names))
-    }
+    present = {(row.name, f"{row.epoch}:{row.version}-{row.release}", row.arch) for row in installed if row.name in names}
     for heading, packages in (
         (_("Still to be installed:"), entry.incoming - present),
         (_("Still to be removed:"), entry.outgoing & present),

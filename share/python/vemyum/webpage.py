@@ -4,12 +4,9 @@
 from __future__ import annotations
 
 import contextlib
-import os
 import re
 from html.parser import HTMLParser
-from typing import List, Optional, Tuple
-
-import dnf.repo
+from typing import Callable, List, Optional, Sequence, Tuple
 
 from .texts import _
 
@@ -58,17 +55,14 @@ def told(address: str, content: bytes) -> Optional[str]:
     )
 
 
-def asked(repo: dnf.repo.Repo) -> Optional[str]:
+def asked(mirrors: str, bases: Sequence[str], fetch: Callable[[str], bytes]) -> Optional[str]:
     """Asks once more for what begins the reading of a repository, where a program cannot read the answer, and tells
-    of a web page. None for anything else, and where there is no answer any more."""
-    bases = [f"{address.rstrip('/')}/repodata/repomd.xml" for address in repo.baseurl]
-    address = repo.metalink or repo.mirrorlist or next(iter(bases), "")
-    if not address.startswith(("http://", "https://")):
-        return None
-    with open(os.memfd_create("page"), "w+b") as file:
-        try:
-            repo._repo.downloadUrl(address, file.fileno())
-        except RuntimeError:
-            return None
-        file.seek(0)
-        return told(address, file.read(_ENOUGH))
+    of a web page. None for anything else, and where there is no answer any more.
+
+    `mirrors` is the address of a metalink or a list of mirrors, empty for none; `fetch` may raise RuntimeError.
+    """
+    address = mirrors or next((f"{base.rstrip('/')}/repodata/repomd.xml" for base in bases), "")
+    if address.startswith(("http://", "https://")):
+        with contextlib.suppress(RuntimeError):
+            return told(address, fetch(address))
+    return None

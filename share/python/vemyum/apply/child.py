@@ -60,17 +60,17 @@ def _settle() -> None:
 
 
 def _work(parent: "_Parent") -> messages.Ended:
-    from .. import streams
-    from ..configuration import read_configuration, require_main_file
+    from .. import backend, streams
+    from ..configuration import require_main_file
     from ..credentials import masked
     from ..errors import YumBaseError, reported_as
     from ..lock import LOCK
-    from ..logfiles import open_log_files, tell_end
     from ..messages import install_handler
     from .work import Work
 
     streams.replace_streams()
     install_handler()
+    library = backend.library()
     gc.freeze()
     parent.send(messages.Hello(messages.PROTOCOL))
     work: Optional[Work] = None
@@ -79,11 +79,11 @@ def _work(parent: "_Parent") -> messages.Ended:
             request = parent.request()
             # Without the file that it rests on, nothing may ask for signatures any more.
             require_main_file(request.main_file)
-            conf = read_configuration()
-            LOCK.take_over(conf, parent.pid)
-            open_log_files(conf)
-            work = Work(conf, request)
-            done = work.do(parent.agreed, lambda changes: parent.commit(conf, changes))
+            settings = library.read_settings()
+            LOCK.take_over(settings, parent.pid)
+            library.open_log_files(settings)
+            work = Work(settings, request)
+            done = work.do(parent.agreed, lambda changes: parent.commit(settings, changes))
         outcome, text = (messages.DONE, "") if done else (messages.REFUSED, "")
     except YumBaseError as error:
         outcome, text = messages.FAILED, str(error)
@@ -91,7 +91,7 @@ def _work(parent: "_Parent") -> messages.Ended:
         outcome, text = messages.BROKEN_PIPE, str(error)
     except BaseException:  # noqa: BLE001 - told to whoever asked for the work
         outcome, text = messages.INTERNAL, masked(traceback.format_exc())
-    tell_end(outcome == messages.DONE, text)
+    library.tell_end(outcome == messages.DONE, text)
     return messages.Ended(outcome, text, work.installed if work is not None else -1)
 
 
@@ -132,7 +132,7 @@ class _Parent:
         answer = self._said.get()
         return isinstance(answer, messages.Answer) and answer.confirmed
 
-    def commit(self, conf: Any, changes: List[messages.Change]) -> None:
+    def commit(self, settings: Any, changes: List[messages.Change]) -> None:
         """rpm begins: from here on nothing ends this process but its work."""
         from .. import host, processes
         from .journal import Journal
@@ -142,7 +142,7 @@ class _Parent:
             signal.pthread_sigmask(signal.SIG_BLOCK, _KEPT_OFF)
         pid = os.getpid()
         begun = messages.Begun(messages.PROTOCOL, pid, processes.start_of(pid), self.pid, changes)
-        self._journal = Journal(conf, begun)
+        self._journal = Journal(settings, begun)
         host.transaction_init(True)
         # What happens from here on is told otherwise than what happened before, so the program has to know.
         self._channel.flush(_PATIENCE)

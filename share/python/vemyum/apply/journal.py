@@ -2,7 +2,7 @@
 """The running transaction on the disk: for a program that starts while the process which works has no window, and
 for the one that starts after a transaction was cut off.
 
-A file beside dnf's lock of the rpm database, lines as `messages` has them: `Begun`, an `Event` for each element that
+A file beside the lock of the rpm database, lines as `messages` has them: `Begun`, an `Event` for each element that
 begins, and `Ended`. It is removed once somebody has heard the end.
 """
 
@@ -13,9 +13,9 @@ import os
 import time
 from typing import BinaryIO, Iterator, Optional
 
-import dnf.conf
 
 from .. import host, processes
+from ..backend import Settings
 from ..errors import os_error_text
 from ..root import as_configured
 from ..texts import _
@@ -26,15 +26,15 @@ _POLL = 0.1
 """Seconds between two looks at what has been added."""
 
 
-def journal_path(conf: dnf.conf.MainConf) -> str:
-    return os.path.join(conf.persistdir, _NAME)
+def journal_path(settings: Settings) -> str:
+    return os.path.join(settings.persistent_directory, _NAME)
 
 
 class Journal:
     """Written by the process that works. A disk that takes no more ends the journal, not the transaction."""
 
-    def __init__(self, conf: dnf.conf.MainConf, begun: Begun) -> None:
-        self._path = journal_path(conf)
+    def __init__(self, settings: Settings, begun: Begun) -> None:
+        self._path = journal_path(settings)
         self._file: Optional[int] = None
         self._ordinal = 0
         with self._best_effort():
@@ -125,10 +125,10 @@ class Reader:
         self._file.close()
 
 
-def open_journal(conf: dnf.conf.MainConf) -> Optional[Reader]:
+def open_journal(settings: Settings) -> Optional[Reader]:
     """The journal that lies there; None without one that can be understood."""
     try:
-        file = open(journal_path(conf), "rb")
+        file = open(journal_path(settings), "rb")
     except OSError:
         return None
     try:
@@ -141,12 +141,12 @@ def open_journal(conf: dnf.conf.MainConf) -> Optional[Reader]:
     return None
 
 
-def await_transaction(conf: dnf.conf.MainConf) -> None:
+def await_transaction(settings: Settings) -> None:
     """Where a transaction is at work whose program is gone: says so, and shows it up to its end.
 
     One of a program that is there is left to it. Any thread; sleeps without the interpreter lock.
     """
-    reader = open_journal(conf)
+    reader = open_journal(settings)
     if reader is None:
         return
     with contextlib.closing(reader):
@@ -166,11 +166,11 @@ def await_transaction(conf: dnf.conf.MainConf) -> None:
                 )
 
 
-def tell_last(conf: dnf.conf.MainConf) -> str:
+def tell_last(settings: Settings) -> str:
     """Tells once how a transaction ended that nobody listened to; gives what is to be told of one that failed. To be
     called by who holds the lock."""
     failure = ""
-    reader = open_journal(conf)
+    reader = open_journal(settings)
     if reader is None:
         return failure
     with contextlib.closing(reader):
@@ -194,5 +194,5 @@ def tell_last(conf: dnf.conf.MainConf) -> str:
             failure = _("A transaction whose window was gone has failed: {cause}").format(cause=heard[-1].text)
             host.errorlog(host.LEVEL_ERROR, failure)
     with contextlib.suppress(OSError):
-        os.unlink(journal_path(conf))
+        os.unlink(journal_path(settings))
     return failure

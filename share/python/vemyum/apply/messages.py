@@ -28,9 +28,13 @@ class ProtocolError(Exception):
 # From the parent ---------------------------------------------------------------------------------------------
 
 
+SYSTEM = "@System"
+"""Stands for a repository where a package is installed."""
+
+
 @dataclasses.dataclass(frozen=True)
 class Wish:
-    """A package that is marked. `repository` is "@System" for one that is to go; `evr` is as dnf writes it."""
+    """A package that is marked. `repository` is SYSTEM for one that is to go; `evr` is "[epoch:]version-release"."""
 
     repository: str
     name: str

@@ -12,8 +12,6 @@ import subprocess
 import sys
 from typing import Any, Optional, Sequence
 
-import hawkey
-
 from .. import host, processes
 from ..errors import ALL_DONE, REFRESH, LockError, YumBaseError
 from ..lists import Collector
@@ -57,7 +55,7 @@ class Apply:
             messages.PROTOCOL,
             self._session.repository_sections(),
             [_wish(package, package.po.reponame) for package in (*installs, *(pair[0] for pair in updates))],
-            [_wish(package, hawkey.SYSTEM_REPO_NAME) for package in removes],
+            [_wish(package, messages.SYSTEM) for package in removes],
             Collector.known_installed(root),
             self._session.main_file,
             processes.command_line(os.getpid()),
@@ -169,7 +167,7 @@ def _wish(package: Any, repository: str) -> messages.Wish:
 
 
 def _comment(installs: Sequence[Any], updates: Sequence[Any], removes: Sequence[Any]) -> str:
-    """The marks as dnf's history shows them, in its own words."""
+    """The marks as the library's history shows them, in its own words."""
     marked = {"install": installs, "upgrade": [pair[0] for pair in updates], "remove": removes}
     return "; ".join(
         f"{verb} {', '.join(str(package.po) for package in packages)}" for verb, packages in marked.items() if packages

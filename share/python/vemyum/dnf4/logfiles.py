@@ -19,12 +19,12 @@ import dnf.lock
 import dnf.logging
 from dnf.i18n import _ as in_dnfs_words
 
-from .credentials import masked
-from .errors import os_error_text
-from .messages import ONLY_IN_FILES, PYTHONS_WARNINGS, RPM_LOGGER
-from .root import as_configured
-from .text import valid
-from .texts import _
+from ..credentials import masked
+from ..errors import os_error_text
+from ..messages import ONLY_IN_FILES, PYTHONS_WARNINGS, RPM_LOGGER
+from ..root import as_configured
+from ..text import valid
+from ..texts import _
 
 _log = logging.getLogger(ONLY_IN_FILES)
 

@@ -11,11 +11,11 @@ import dnf.callback
 import dnf.exceptions
 import dnf.package
 
-from . import host
+from .. import host
 from .base import Base
-from .errors import YumBaseError
-from .space import scarce_space
-from .texts import _
+from ..errors import YumBaseError
+from ..space import scarce_space
+from ..texts import _
 
 
 _GOOD_ENDS = (

@@ -8,16 +8,15 @@ dnf doesn't tell which file it fetches; the files that stand in its temporary di
 
 from __future__ import annotations
 
-import contextlib
 import os
 import re
 import time
-from typing import Any, Dict, Iterator, Optional
+from typing import Any, Dict, Optional
 
 import dnf.callback
 import dnf.repo
 
-from . import host
+from .. import host
 
 _REPOMD = "repomd.xml"
 _ENTRY = re.compile(r"<data\b.*?</data>", re.DOTALL)
@@ -145,11 +144,3 @@ class ReadingProgress:
         except OSError:
             return True
         return converted < fetched
-
-
-@contextlib.contextmanager
-def reading_reported(repo: dnf.repo.Repo) -> Iterator[None]:
-    """Reports what is done in this block as the reading of data that has been fetched."""
-    host.collect_progress(0, 1, repo.id)
-    yield
-    host.collect_progress(1, 1, repo.id)

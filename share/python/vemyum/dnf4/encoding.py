@@ -22,11 +22,11 @@ import dnf.util
 import libdnf.conf
 
 from .configuration import check_signatures_unless_told, library_words
-from .errors import os_error_text
-from .root import files, within
-from .sections import RepositorySection
-from .text import valid
-from .texts import _
+from ..errors import os_error_text
+from ..root import files, within
+from ..sections import RepositorySection
+from ..text import valid
+from ..texts import _
 
 _UTF8_ELSE_LATIN1 = "vem.latin1"
 

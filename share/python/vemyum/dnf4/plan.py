@@ -12,14 +12,15 @@ import dnf.sack
 import hawkey
 import libdnf.transaction as lt
 
-from ..base import Base
+from ..apply.messages import INSTALL, OBSOLETED, REMOVE, REPLACED, UPGRADE, Change, Wish
+from ..apply.work import NOT_INSTALLED
+from ..backend import PkgTup
 from ..errors import YumBaseError
-from ..packages import PkgTup
+from ..packages import pkgtup as _pkgtup
 from ..texts import _
-from .messages import INSTALL, OBSOLETED, REMOVE, REPLACED, UPGRADE, Change, Wish
+from .base import Base
 
 _NOT_OFFERED = _("{package} is no longer in the repository {repository}. Please refresh the list of packages.")
-NOT_INSTALLED = _("{package} is no longer installed. Please refresh the list of packages.")
 
 
 class Marks:
@@ -258,7 +259,3 @@ def enabled_streams(base: Base) -> List[str]:
         return []
     enabled = modules.getEnabledStreams()
     return sorted(f"{name}:{enabled[name]}" for name in enabled)
-
-
-def _pkgtup(package: dnf.package.Package) -> PkgTup:
-    return (package.name, package.arch, str(package.epoch), package.version, package.release)

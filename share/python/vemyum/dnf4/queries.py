@@ -19,11 +19,11 @@ from typing import Any, Dict, Iterable, List, NamedTuple, Optional
 from xml.etree import ElementTree
 
 import dnf.repo
+from dnf.exceptions import RepoError
 
-from . import host
-from .errors import RepoError
-from .texts import _
-from .webpage import told
+from .. import host
+from ..texts import _
+from ..webpage import told
 
 _NAMESPACE = "{http://linux.duke.edu/metadata/repo}"
 _FOLDER = "repodata"

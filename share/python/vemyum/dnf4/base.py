@@ -17,22 +17,23 @@ import dnf.conf
 import dnf.exceptions
 import dnf.repo
 import libdnf.error
+from dnf.exceptions import RepoError
 
+from ..database import point_rpm_at
+from ..errors import YumBaseError
+from ..inhibitor import inhibited
+from ..messages import heard, rpms_words
+from ..sections import RepositorySection
+from ..space import scarce_space
+from ..texts import _
+from ..webpage import asked
 from . import keys
 from .configuration import misread
-from .database import point_rpm_at
 from .encoding import RepositoryReader
-from .errors import RepoError, YumBaseError
-from .inhibitor import inhibited
 from .logfiles import tell_transaction
-from .messages import heard, rpms_words
 from .metadata import ReadingProgress, RepositoryProgress
 from .plugins import Plugins
 from .queries import MetadataFetcher, ask_by_complete_address, base_addresses, rounds
-from .sections import RepositorySection
-from .space import scarce_space
-from .texts import _
-from .webpage import asked
 
 _UNREADABLE = re.compile(r"\bpars(e|er|ing)\b|no urls in mirrorlist|not found in metalink", re.I)
 """Stands in the library's words for an answer that isn't what was asked for."""
@@ -179,7 +180,9 @@ class Base(dnf.Base):
                 if error.__context__ is not None:
                     causes.append(str(error.__context__))
                 if _UNREADABLE.search(str(error)):
-                    causes += filter(None, [asked(repo)])
+                    mirrors = repo.metalink or repo.mirrorlist or ""
+                    page = asked(mirrors, repo.baseurl, lambda address: keys.fetched(address, repo))
+                    causes += filter(None, [page])
                 raise RepoError(_repository_text(repo, str(error), causes, self.conf.cachedir)) from error
             except OSError as error:
                 raise RepoError(_repository_text(repo, str(error), causes, self.conf.cachedir)) from error

@@ -12,25 +12,20 @@ from typing import Iterator, Optional
 import dnf.conf
 import libdnf.transaction
 
-from .errors import LIBRARY_ERRORS, YumBaseError
-from .messages import unheard
-from .rights import SYSTEM_DIRECTORY
-from .root import as_configured
-from .space import scarce_space
-from .texts import _
+from ..errors import YumBaseError
+from ..messages import unheard
+from ..root import as_configured
+from ..space import scarce_space
+from ..texts import _
+from .exceptions import FAILURES
 
 _NAME = "history.sqlite"
 _BESIDE = ("", "-wal", "-shm", "-journal")
 """What SQLite puts beside a database."""
 
 
-def history_path(conf: dnf.conf.MainConf) -> str:
-    return os.path.join(conf.persistdir, _NAME)
-
-
-def system_history_path(conf: dnf.conf.MainConf) -> str:
-    """The managed system's, whoever looks at it."""
-    return os.path.join(getattr(conf, SYSTEM_DIRECTORY, conf.persistdir), _NAME)
+def history_path(directory: str) -> str:
+    return os.path.join(directory, _NAME)
 
 
 def open_history(path: str, mode: str) -> sqlite3.Connection:
@@ -43,7 +38,7 @@ def usable_history(conf: dnf.conf.MainConf) -> Iterator[None]:
     """Lets a block use the history, which is made if there is none. YumBaseError where it cannot be used, which dnf
     would find out late and tell several times; also when that fails in the block. One that was made for nothing, since
     there was no room for more, is removed again."""
-    path = history_path(conf)
+    path = history_path(conf.persistdir)
     existed = os.path.exists(path)
     made_for_nothing = not existed
     try:
@@ -55,7 +50,7 @@ def usable_history(conf: dnf.conf.MainConf) -> Iterator[None]:
         try:
             yield
             made_for_nothing = False
-        except LIBRARY_ERRORS as error:
+        except (YumBaseError, *FAILURES) as error:
             first, *rest = str(error).split("\n")
             if path not in first:
                 raise
@@ -80,7 +75,7 @@ def _make(path: str) -> None:
     with unheard():
         try:
             libdnf.transaction.Swdb(path)
-        except LIBRARY_ERRORS as error:
+        except FAILURES as error:
             words = _("The history of transactions, {file}, cannot be made.").format(file=as_configured(path))
             # On a full disk the library finds that there is no error.
             causes = scarce_space(os.path.dirname(path)) or [_cause(str(error))]

@@ -9,10 +9,10 @@ from typing import Any, Dict, List, Set
 import dnf.yum.rpmtrans
 import libdnf.transaction as lt
 
-from . import host
+from .. import host
 from .base import Base
-from .host import TS_ERASE, TS_INSTALL, TS_OBSOLETED, TS_OBSOLETING, TS_TRUEINSTALL, TS_UPDATE, TS_UPDATED
-from .text import valid
+from ..host import TS_ERASE, TS_INSTALL, TS_OBSOLETED, TS_OBSOLETING, TS_TRUEINSTALL, TS_UPDATE, TS_UPDATED
+from ..text import valid
 
 _CODES: Dict[int, int] = {
     lt.TransactionItemAction_INSTALL: TS_INSTALL,

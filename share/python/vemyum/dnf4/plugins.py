@@ -25,9 +25,9 @@ import dnf.plugin
 import libdnf.conf
 from dnf.i18n import _ as in_dnfs_words
 
-from .errors import YumBaseError
-from .root import below, within
-from .texts import _
+from ..errors import YumBaseError
+from ..root import below, within
+from ..texts import _
 
 _PACKAGE = dnf.plugin.DYNAMIC_PACKAGE
 _AFTERWARDS = "transaction"

@@ -1,0 +1,302 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""Which package library does the work, and what it must give.
+
+There are two, and a process uses one of them: each keeps rpm's macros, signal handlers and classes of the same name
+to itself. `use` chooses, before anything of a library is imported, and imports the package that drives it. All other
+modules here know a library by the protocols below alone; the packages `dnf4` and `dnf5` use these modules, and
+neither knows of the other.
+
+Every method runs on whatever thread calls it, one at a time. It may raise one of `errors.FAILURES` and OSError,
+beside what its text names.
+"""
+
+from __future__ import annotations
+
+import functools
+import importlib
+from typing import (
+    Any,
+    Callable,
+    Collection,
+    ContextManager,
+    Dict,
+    List,
+    Mapping,
+    NamedTuple,
+    Optional,
+    Protocol,
+    Sequence,
+    Set,
+    Tuple,
+    cast,
+)
+
+from .sections import RepositorySection
+
+PkgTup = Tuple[str, str, str, str, str]
+"""Name, architecture, epoch ("0" for none), version, release."""
+
+Dependency = Tuple[str, Optional[str], Tuple[Optional[str], Optional[str], Optional[str]]]
+"""Name, flag ("GT", "GE", "LT", "LE", "EQ"; None for any version), and epoch, version, release."""
+
+PRIMARY, FILE_LISTS, CHANGELOGS, GROUPS = "primary", "filelists", "other", "group"
+"""Kinds of a repository's metadata, as repomd.xml calls them."""
+
+
+class Row(Protocol):
+    """A package of a library, as the table reads it: plain attributes, each quick. Texts may raise UnicodeDecodeError
+    or hold lone surrogates, where a header isn't UTF-8. Two rows of one package compare equal."""
+
+    name: str
+    arch: str
+    epoch: int
+    version: str
+    release: str
+    evr: str
+    """"[epoch:]version-release", the epoch only where it isn't 0."""
+    size: int
+    """Bytes to download, of an installed package those that it takes."""
+    reponame: str
+    summary: str
+    description: str
+    group: str
+    vendor: Optional[str]
+    sourcerpm: Optional[str]
+    license: Optional[str]
+    packager: Optional[str]
+    url: Optional[str]
+    buildtime: int
+    location: Optional[str]
+    """The file's path below the repository's address."""
+
+
+class Settings(Protocol):
+    """The configuration of the managed system, with all directories as paths of this process."""
+
+    root: str
+    variables: Mapping[str, str]
+    """The variables that addresses may hold, with their values."""
+    cache_directory: str
+    persistent_directory: str
+    """Where what outlives a start of the machine is kept: the journal of a transaction, locks."""
+
+
+class RepositoryState(NamedTuple):
+    """A configured repository."""
+
+    id: str
+    name: str
+    enabled: bool
+
+
+class OpenEntry(NamedTuple):
+    """The last transaction of the library's history, where that has no end: its head, and what was to go in and to go
+    out, as name, "epoch:version-release" and architecture."""
+
+    number: int
+    begun: int
+    """Seconds since the epoch."""
+    command: str
+    incoming: Set[Tuple[str, str, str]]
+    outgoing: Set[Tuple[str, str, str]]
+
+
+class KeySource(Protocol):
+    """A repository, as far as its keys are concerned."""
+
+    id: str
+    gpgkey: Sequence[str]
+    verified: bool
+    """Whether a server must prove its name where it can."""
+
+    def fetch(self, address: str) -> bytes:
+        """By the repository's own settings: proxy, certificates, time limits. RuntimeError with the library's words."""
+
+
+class System(Protocol):
+    """One view of the managed system: configured repositories, and once they are loaded, packages.
+
+    Whoever opens one closes it. Rows answer as long as somebody holds the System, closed or not.
+    """
+
+    settings: Settings
+    lacking: List[str]
+    """What is configured and had to be left out, each with its reason."""
+    sections: Dict[str, RepositorySection]
+    """What the repositories were built of, by their ids."""
+
+    def repositories(self) -> List[RepositoryState]: ...
+
+    def enable(self, id: str, enabled: bool) -> None:
+        """Before `load`."""
+
+    def load(self) -> None:
+        """Reads the enabled repositories and the rpm database, with progress; asks about keys of metadata that are
+        missing. RepoError that names the repository, its address and the cause. Of no use after a failure."""
+
+    def load_changelogs(self, read: Callable[[str, Optional[str]], None]) -> None:
+        """Instead of `load`: fetches the enabled repositories' changelogs, with progress, and gives each repository's
+        id and file, None where it has none, to `read`. Raises as `load`, and what `read` raises."""
+
+    def installed(self) -> List[Row]:
+        """All there are, excluded or not."""
+
+    def available(self) -> List[Row]:
+        """The newest of each name and architecture that fits this machine, by the repositories' priorities, without
+        what is excluded."""
+
+    def upgrades(self) -> List[Row]:
+        """The newest of those that would take the place of an installed version, as the solver allows it."""
+
+    def replacing(self, upgrades: Set[str]) -> List[Tuple[Row, List[Row]]]:
+        """Packages that make installed ones of other names obsolete, each with those; without what is installed
+        itself, and without these names. Nothing where the configuration switches that off."""
+
+    def duplicated(self) -> List[List[Row]]:
+        """Installed packages of which there is more than one version for one architecture and there may be only one;
+        each with all of them, oldest first."""
+
+    def native(self) -> Sequence[str]:
+        """The architectures that go before others."""
+
+    def metadata_file(self, repository: str, kind: str) -> Optional[str]:
+        """The file of a loaded repository's metadata; None where there is none, for groups also where the
+        configuration wants none of it."""
+
+    def checksum(self, row: Row) -> Optional[str]:
+        """By which the metadata tells an available package, in lower-case hexadecimal digits."""
+
+    def files(self, row: Row) -> List[str]:
+        """What the metadata in memory tells; directories may be among them."""
+
+    def dependencies(self, row: Row, kind: str) -> List[Dependency]:
+        """`kind` is "provides", "requires", "conflicts" or "obsoletes"."""
+
+    def header(self, row: Row) -> Any:
+        """The rpm header of an installed package. rpm.error, OSError or a failure when it is gone."""
+
+    def local_path(self, row: Row) -> Optional[str]:
+        """Where an available package's file is, or will be once it is fetched."""
+
+    def open_entry(self) -> Optional[OpenEntry]:
+        """None where the last transaction has come to its end, and for a history that cannot be read."""
+
+    def close(self) -> None:
+        """A second call does nothing."""
+
+
+class Wish(Protocol):
+    """A package that is marked. `repository` is "@System" for one that is to go."""
+
+    repository: str
+    name: str
+    arch: str
+    evr: str
+
+
+class Transaction(Protocol):
+    """The packages' way into the system, in the process that works. In the order of the methods."""
+
+    def load(self) -> None:
+        """Reads what the marks rest on: no newer metadata than the table shows, no plugin left out."""
+
+    def installed_names(self) -> List[str]:
+        """The name of every installed package, as often as there are versions of it."""
+
+    def solve(self) -> List[Any]:
+        """The changes (`messages.Change`) that the marks come to. YumBaseError with the solver's problems, or for a
+        marked package that isn't there any more or that nothing is done about."""
+
+    def streams(self) -> List[str]:
+        """The module streams that it enables, each as "name:stream"."""
+
+    def downloads(self) -> List[int]:
+        """The sizes of the files that are still to be fetched."""
+
+    def download(self) -> None:
+        """With progress. YumBaseError names each package that failed, and why."""
+
+    def check_signatures(self) -> None:
+        """Asks about keys that are missing. YumBaseError names each package without a good signature."""
+
+    def incoming(self) -> List[PkgTup]: ...
+
+    def outgoing(self) -> List[PkgTup]:
+        """Everything that leaves, for a newer version too."""
+
+    def run(self, begins: Callable[[], None]) -> None:
+        """The test transaction and the real one, with progress; `begins` is called between the two."""
+
+    def faults(self) -> List[str]:
+        """The library's sentences about elements that failed in `run`."""
+
+    def warnings(self) -> List[str]:
+        """rpm's own error and warning lines, as far as it said any in `run`."""
+
+    def failed(self) -> List[PkgTup]:
+        """The elements that the library itself calls failed."""
+
+    def only_tested(self) -> bool:
+        """Whether the configuration wants `run` to be a test alone."""
+
+    def close(self) -> None: ...
+
+
+class Library(Protocol):
+    """A package library: the module `library` of the package that drives it."""
+
+    NAME: str
+    VERSION: str
+    NEEDED_LATER: Tuple[str, ...]
+    """Modules that it would import while rpm works, when nothing can be imported."""
+
+    def read_settings(self) -> Settings:
+        """Makes the log and cache directories where they are missing; whoever isn't the administrator has them below a
+        folder of the user. YumBaseError for a configuration that cannot be used."""
+
+    def open_system(
+        self, settings: Settings, sections: Optional[Sequence[RepositorySection]] = None
+    ) -> System:
+        """The repositories are those of the sections, else those of the configuration as it is now."""
+
+    def open_transaction(self, settings: Settings, request: Any) -> Transaction:
+        """`request` is a `messages.Request`."""
+
+    def usable_history(self, settings: Settings) -> ContextManager[None]:
+        """Lets a block use the history. YumBaseError where it cannot be used, by then or in the block."""
+
+    def lock_files(self, settings: Settings) -> List[str]:
+        """The pid files by which programs keep each other off."""
+
+    def hold(self, settings: Settings) -> None:
+        """The pid files are this process's: the library's own locks are taken, or give way. LockError names the holder
+        of one that somebody has."""
+
+    def take_over(self, settings: Settings) -> None:
+        """The same in the process that works: the program that started it holds the library's own locks still."""
+
+    def let_go(self) -> None:
+        """The other way round."""
+
+    def open_log_files(self, settings: Settings) -> None:
+        """From here on the library's logs have what is done, to the end of the process. Never raises."""
+
+    def tell_command(self, settings: Settings, command: str) -> None: ...
+
+    def tell_end(self, done: bool, fault: str) -> None:
+        """How the apply ended; without a fault, and not done, the user didn't agree."""
+
+    def clean(self, cache_directory: str, kinds: Collection[str]) -> int:
+        """Removes these kinds ("packages", "metadata", "dbcache") from the cache; how many files that were."""
+
+
+_NAME = "dnf4"
+
+exceptions: Any = importlib.import_module(f"{__package__}.{_NAME}.exceptions")
+"""What it raises, as `errors` tells it; by itself, since everything else that drives a library rests on that."""
+
+
+@functools.lru_cache(maxsize=None)
+def library() -> Library:
+    """The library of this process, imported by the first call."""
+    return cast(Library, importlib.import_module(f"{__package__}.{_NAME}.library"))
