@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: GPL-2.0-or-later
 """Stands before the process that applies changes where the benchmark wants to know how long dnf itself works there.
 
-    apply-child.py DESCRIPTOR PID
+    apply-child.py DESCRIPTOR PID BACKEND
 
 VEM_BENCH_SCRIPT names the program's helper script, VEM_BENCH_TIMES the file for the seconds.
 """
@@ -18,6 +18,10 @@ from typing import Any, Callable, List
 sys.path[0] = os.path.dirname(os.environ["VEM_BENCH_SCRIPT"])
 
 import dnf  # noqa: E402
+from vemyum import choice  # noqa: E402
+
+choice.settle(sys.argv[3])
+
 from vemyum.apply import child  # noqa: E402
 
 _DNF_WORK = (
@@ -87,4 +91,4 @@ def _measured(work: Callable[..., Any]) -> Callable[..., Any]:
 
 child._work = _measured(child._work)
 child._Parent.end = _tell(child._Parent.end)  # type: ignore[method-assign]
-child.main(*map(int, sys.argv[1:]))
+child.main(*map(int, sys.argv[1:3]))

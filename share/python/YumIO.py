@@ -28,7 +28,7 @@ streams.replace_streams()
 
 import bdb  # noqa: E402,F401
 
-from vemyum import clean, host, messages, rights, surroundings  # noqa: E402
+from vemyum import choice, clean, host, messages, rights, surroundings  # noqa: E402
 from vemyum.apply.parent import Apply  # noqa: E402
 from vemyum.errors import LockError, RepoError, YumBaseError, reported_as  # noqa: E402
 from vemyum.root import managed_root  # noqa: E402
@@ -48,6 +48,11 @@ def usesSqlite() -> bool:
     return False
 
 
+def packageLibrary() -> str:
+    """The package library that does the work, and its version, as people name them."""
+    return f"{choice.MODULES[choice.chosen().backend]} {yum.__dict__['__version__']}"
+
+
 def whyOnlyLooking() -> Optional[str]:
     """Why nobody can change the packages of the managed system, in one sentence; None where they can be."""
     return rights.unchangeable(managed_root())
@@ -56,8 +61,9 @@ def whyOnlyLooking() -> Optional[str]:
 class YumIO:
     """One session. The lock is the process's and outlives it.
 
-    The constructor raises SystemExit when the very first configuration cannot be used, with the reason
-    in the log. Later ones leave it to `setupRepos` to tell, so that there is always an object.
+    The constructor raises SystemExit when there is no package library to be used, or when the very first
+    configuration cannot be used, with the reason in the log. Later ones leave it to `setupRepos` to
+    tell, so that there is always an object.
     """
 
     _latest: Optional[Session] = None
@@ -68,8 +74,11 @@ class YumIO:
             # Its object is gone or will go; nothing of it may stay in memory beside the new one.
             before.close()
         try:
+            library = choice.chosen()
+            if before is None and library.doubt:
+                host.warninglog(host.LEVEL_NOTICE, library.doubt)
             self._session = Session(lenient=before is not None)
-        except YumBaseError as error:
+        except (choice.Unusable, YumBaseError) as error:
             host.errorlog(host.LEVEL_ERROR, str(error))
             raise SystemExit(1) from error
         YumIO._latest = self._session

@@ -17,4 +17,4 @@ import rpm  # noqa: E402,F401
 from vemyum import backend, clean, messages, session, streams, surroundings  # noqa: E402,F401
 from vemyum.apply import parent  # noqa: E402,F401
 
-backend.library()
+backend.version()

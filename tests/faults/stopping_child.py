@@ -82,6 +82,9 @@ def main() -> None:
     stop = _Stop(os.environ["VEM_STOP_IN"]) if moment else None
     if stop is not None and moment == "start":
         stop()
+    from vemyum import choice
+
+    choice.settle(sys.argv[3])
     from vemyum.apply import child
 
     work = child._work

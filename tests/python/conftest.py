@@ -77,7 +77,8 @@ def in_child(program: Program, tmp_path: Path, monkeypatch: pytest.MonkeyPatch) 
 
     def run_first(lines: str) -> None:
         lead = f"import sys\nsys.path.insert(0, {str(TOP / 'share/python')!r})\n"
-        script.write_text(f"{lead}{lines}\nfrom vemyum.apply import child\nchild.main(*map(int, sys.argv[1:]))\n")
+        lead += "from vemyum import choice\nchoice.settle(sys.argv[3])\n"
+        script.write_text(f"{lead}{lines}\nfrom vemyum.apply import child\nchild.main(*map(int, sys.argv[1:3]))\n")
         monkeypatch.setattr(parent, "COMMAND", [sys.executable, "-B", str(script)])
 
     return run_first

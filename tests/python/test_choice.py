@@ -9,9 +9,13 @@ import subprocess
 import sys
 from importlib.machinery import ModuleSpec
 from pathlib import Path
-from typing import Callable, Iterable, Optional
+from typing import Callable, Iterable, Optional, Tuple
 
 import pytest
+from catalogue import Catalogue
+from fake_host import FakeHost
+from program import Program
+from rpmestate import Estate
 
 SHARE = Path(__file__).resolve().parents[2] / "share/python"
 sys.path.insert(0, str(SHARE))
@@ -170,7 +174,7 @@ def test_the_libraries_that_need_not_be_named(machine: Callable[..., None], monk
     ],
 )
 def test_a_system_tells_by_its_command_or_its_state(
-    root: Path, paths: Iterable[tuple[str, str]], expected: Optional[str]
+    root: Path, paths: Iterable[Tuple[str, str]], expected: Optional[str]
 ) -> None:
     for path, target in paths:
         if target:
@@ -333,6 +337,50 @@ def test_what_is_there_is_told_without_importing_it(tmp_path: Path) -> None:
 def test_a_module_without_a_place_is_none(monkeypatch: pytest.MonkeyPatch) -> None:
     monkeypatch.setattr("importlib.util.find_spec", lambda name: ModuleSpec(name, None))
     assert not choice.can_be_imported("dnf4")
+
+
+# What the engine sees of it ----------------------------------------------------------------------------------
+
+
+def test_a_library_that_cannot_be_used_ends_the_start_with_its_sentence_in_the_log(
+    program: Program, host: FakeHost, monkeypatch: pytest.MonkeyPatch
+) -> None:
+    monkeypatch.setenv("VEMBACKEND", "yum")
+    with pytest.raises(SystemExit):
+        program.namespace["YumIO"]()
+    assert host.text("errorlog").startswith('VEMBACKEND: "yum" is none of')
+
+
+def test_a_doubt_is_logged_once(
+    estate: Estate, program: Program, host: FakeHost, machine: Callable[..., None]
+) -> None:
+    machine("dnf4")
+    uses(estate.root, "dnf5")
+    for _ in range(2):
+        program.collect()
+    assert host.text("warninglog").count("install the package python3-libdnf5") == 1
+
+
+def test_the_library_is_named_with_its_version(program: Program) -> None:
+    version = program.namespace["yum"].__version__
+    for backend, name in (("dnf4", "dnf"), ("dnf5", "libdnf5")):
+        choice.settle(backend)
+        assert program.namespace["packageLibrary"]() == f"{name} {version}"
+
+
+def test_the_process_that_applies_is_told_and_does_not_choose(
+    estate: Estate, rpms: Catalogue, program: Program, in_child: Callable[[str], None], tmp_path: Path,
+    monkeypatch: pytest.MonkeyPatch,
+) -> None:
+    estate.repository("base", rpms.some("lone-1.0"))
+    told = tmp_path / "told"
+    in_child(f"open({str(told)!r}, 'w').write(choice.chosen().backend)")
+    found = program.collect()
+    # It would not take this for an answer.
+    monkeypatch.setenv("VEMBACKEND", "yum")
+    found.yumio.apply([found.offered("lone")], [], [])
+    assert told.read_text() == choice.chosen().backend
+    assert estate.installed() == {"lone-1.0-1.noarch"}
 
 
 if __name__ == "__main__":

@@ -1,10 +1,9 @@
 # SPDX-License-Identifier: GPL-2.0-or-later
 """Which package library does the work, and what it must give.
 
-There are two, and a process uses one of them: each keeps rpm's macros, signal handlers and classes of the same name
-to itself. `use` chooses, before anything of a library is imported, and imports the package that drives it. All other
-modules here know a library by the protocols below alone; the packages `dnf4` and `dnf5` use these modules, and
-neither knows of the other.
+There are two, and a process uses one of them, which `choice` has chosen before anything of a library is imported.
+All other modules here know a library by the protocols below alone; the packages that drive the two use these modules,
+and neither knows of the other.
 
 Every method runs on whatever thread calls it, one at a time. It may raise one of `errors.FAILURES` and OSError,
 beside what its text names.
@@ -31,6 +30,7 @@ from typing import (
     cast,
 )
 
+from . import choice
 from .sections import RepositorySection
 
 PkgTup = Tuple[str, str, str, str, str]
@@ -290,13 +290,27 @@ class Library(Protocol):
         """Removes these kinds ("packages", "metadata", "dbcache") from the cache; how many files that were."""
 
 
-_NAME = "dnf4"
+def _part(name: str) -> Any:
+    return importlib.import_module(f"{__package__}.{choice.chosen().backend}.{name}")
 
-exceptions: Any = importlib.import_module(f"{__package__}.{_NAME}.exceptions")
-"""What it raises, as `errors` tells it; by itself, since everything else that drives a library rests on that."""
+
+try:
+    exceptions: Any = _part("exceptions")
+    """What it raises, as `errors` tells it; by itself, since everything else that drives a library rests on that."""
+except choice.Unusable:
+    # `library` says why, to somebody who listens.
+    exceptions = importlib.import_module(f"{__package__}.exceptions")
 
 
 @functools.lru_cache(maxsize=None)
 def library() -> Library:
-    """The library of this process, imported by the first call."""
-    return cast(Library, importlib.import_module(f"{__package__}.{_NAME}.library"))
+    """The library of this process, imported by the first call. choice.Unusable."""
+    return cast(Library, _part("library"))
+
+
+def version() -> str:
+    """The library's; "0" where there is none, whatever the reason."""
+    try:
+        return library().VERSION
+    except choice.Unusable:
+        return "0"

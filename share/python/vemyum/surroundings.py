@@ -34,7 +34,7 @@ NEEDED_LATER = (
 def make_yum_module() -> types.ModuleType:
     """The module `yum` with its submodule `Errors`, put into sys.modules; `exceptions` beside it."""
     yum = types.ModuleType("yum", "The package library's version and exceptions, under yum's names.")
-    yum.__dict__["__version__"] = backend.library().VERSION
+    yum.__dict__["__version__"] = backend.version()
     yum_errors = types.ModuleType("yum.Errors", "The exceptions that the engine expects.")
     for name in ("YumBaseError", "RepoError", "LockError", "GroupsError"):
         setattr(yum_errors, name, getattr(errors, name))

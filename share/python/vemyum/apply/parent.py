@@ -12,7 +12,7 @@ import subprocess
 import sys
 from typing import Any, Optional, Sequence
 
-from .. import host, processes
+from .. import choice, host, processes
 from ..errors import ALL_DONE, REFRESH, LockError, YumBaseError
 from ..lists import Collector
 from ..lock import LOCK
@@ -27,7 +27,8 @@ COMMAND = [
     sys.executable or "/usr/bin/python3",
     os.path.join(os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__)))), "apply-child.py"),
 ]
-"""What starts the process; the descriptor of its connection and this process's number are added."""
+"""What starts the process; the descriptor of its connection, this process's number and the name of the package library
+are added."""
 
 
 class ChildFault(Exception):
@@ -186,7 +187,7 @@ class _Child:
             # Its standard output and error are the ones that the engine captures. In a session of its own, so that
             # what is typed on the terminal isn't meant for it.
             self._process = subprocess.Popen(
-                [*COMMAND, str(theirs.fileno()), str(os.getpid())],
+                [*COMMAND, str(theirs.fileno()), str(os.getpid()), choice.chosen().backend],
                 stdin=subprocess.DEVNULL,
                 pass_fds=(theirs.fileno(),),
                 env=os.environ if root == "/" else {**os.environ, "VEMROOT": root},
