@@ -145,6 +145,7 @@ bool YumIO::initialize()
     if (!yumIO) {
         return fail("Internal error: cannot create python yumIO");
     }
+    libraryName = toldByScript("packageLibrary");
     return true;
 }
 

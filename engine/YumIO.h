@@ -113,6 +113,10 @@ public:
     /// changed. GUI thread, after `initialize`.
     [[nodiscard]] bool offerLooking();
 
+    /// The package library that the script works with, and its version; empty before `initialize`, and for
+    /// scripts that don't tell.
+    [[nodiscard]] QString const& packageLibrary() const { return libraryName; }
+
     /// Job: drops all entries and replaces the script's object, so that the next collection starts afresh.
     void clear();
 
@@ -535,7 +539,12 @@ protected:
     Blocker blocker;
 
 private:
+    /// What a function of the script answers that scripts for older releases lack; null then, for None, and
+    /// after the report of a failure. With the interpreter lock.
+    QString toldByScript(char const* function);
+
     YumIODialogs* ownDialogs = nullptr; ///< the front for use outside jobs
+    QString libraryName;                ///< what the script said at the start
     QString lastReportText;             ///< words of the last report, for the exception of a host function
 };
 

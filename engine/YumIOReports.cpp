@@ -39,18 +39,23 @@ void YumIO::warning(char const* message)
     warning(QString::fromUtf8(message));
 }
 
+QString YumIO::toldByScript(char const* function)
+{
+    if (!PyDict_GetItemString(main_dict, function)) {
+        return {};
+    }
+    pyExceptStart();
+    PyRef const answer = pyCall(function, "()");
+    pyExceptClear();
+    return answer ? pyString(answer.get()) : QString();
+}
+
 bool YumIO::offerLooking()
 {
     QString reason;
     {
         PyGILStateWrapper const lock(initialized);
-        // Scripts for older releases don't know the question.
-        if (initialized && PyDict_GetItemString(main_dict, "whyOnlyLooking")) {
-            pyExceptStart();
-            PyRef const answer = pyCall("whyOnlyLooking", "()");
-            pyExceptClear();
-            reason = answer ? pyString(answer.get()) : QString();
-        }
+        reason = initialized ? toldByScript("whyOnlyLooking") : QString();
     }
     constexpr int look = 0;
     constexpr int quit = 1;

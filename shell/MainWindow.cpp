@@ -301,8 +301,7 @@ void MainWindow::runShareCommand(QStringList const& words)
 
 void MainWindow::about()
 {
-    QMessageBox::about(
-        this, tr("About"),
+    QString const text =
         tr("<h3>VEM %1</h3><hr><p>VEM, Verified Estate Manager, is a graphical user interface which allows a "
            "user "
            "to make modifications to the installed rpm packages on a "
@@ -313,9 +312,15 @@ void MainWindow::about()
            "obtain new and updated packages.</li><li>Examine installed packages or packages available for "
            "installation or update</li><li>Install, update, or remove groups of packages</li><li>Install or "
            "update "
-           "suites of packages</li></ul><p>Web page: <a "
-           "href=\"https://vem.example.org/\">https://vem.example.org/</a></p>")
-            .arg(QStringLiteral("1.7.2")));
+           "suites of packages</li></ul>")
+            .arg(QStringLiteral("1.7.2"));
+    // The entry is there while the program starts, and scripts may not tell.
+    QString const library = yumIO ? yumIO->packageLibrary() : QString();
+    QString const works =
+        library.isEmpty() ? QString() : tr("<p>Package library: %1</p>").arg(library.toHtmlEscaped());
+    QString const page =
+        tr("<p>Web page: <a href=\"https://vem.example.org/\">https://vem.example.org/</a></p>");
+    QMessageBox::about(this, tr("About"), text + works + page);
 }
 
 bool MainWindow::isSearching() const

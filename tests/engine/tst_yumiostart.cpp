@@ -31,6 +31,9 @@ private Q_SLOTS:
     void changeableSystemIsNotAskedAbout();
     void unchangeableSystemIsOfferedForLooking();
     void questionThatFailsIsNoObstacle();
+    void scriptThatDoesNotTellItsLibrary();
+    void scriptTellsItsLibrary();
+    void libraryThatCannotBeToldIsNoObstacle();
 };
 
 void TestYumIOStart::startGivesTheScriptItsSurroundings()
@@ -228,6 +231,29 @@ void TestYumIOStart::questionThatFailsIsNoObstacle()
     writeScript("whyOnlyLooking = lambda: 1/0");
     QVERIFY(engine->initialize());
     QVERIFY(engine->offerLooking());
+    QCOMPARE(boxes->takeTexts(), QStringList{"Internal error: python exception occurred from C code\n"});
+}
+
+void TestYumIOStart::scriptThatDoesNotTellItsLibrary()
+{
+    QCOMPARE(engine->packageLibrary(), QString());
+    writeScript();
+    QVERIFY(engine->initialize());
+    QCOMPARE(engine->packageLibrary(), QString());
+}
+
+void TestYumIOStart::scriptTellsItsLibrary()
+{
+    writeScript("packageLibrary = lambda: 'pantry 3.4'");
+    QVERIFY(engine->initialize());
+    QCOMPARE(engine->packageLibrary(), QStringLiteral("pantry 3.4"));
+}
+
+void TestYumIOStart::libraryThatCannotBeToldIsNoObstacle()
+{
+    writeScript("packageLibrary = lambda: 1/0");
+    QVERIFY(engine->initialize());
+    QCOMPARE(engine->packageLibrary(), QString());
     QCOMPARE(boxes->takeTexts(), QStringList{"Internal error: python exception occurred from C code\n"});
 }
 

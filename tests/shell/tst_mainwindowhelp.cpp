@@ -22,6 +22,7 @@ class MainWindowHelpTest : public ShellTest
 private Q_SLOTS:
     void initTestCase()
     {
+        qputenv("VEM_TEST_STATEMENTS", "packageLibrary = lambda: 'pantry <3.4>'\n");
         makeWindow();
         QVERIFY(openWindow());
         launches.add(QStringLiteral("webbrowser"));
@@ -56,6 +57,18 @@ private Q_SLOTS:
             launches.started(),
             (QByteArrayList{
                 command("mimeviewer"), "application/pdf", "/usr/share/doc/vem-1.7.2/manual.pdf"}));
+    }
+
+    void aboutTellsWhatTheProgramWorksWith()
+    {
+        action(QStringLiteral("About"))->trigger();
+        QString const text = boxes->takeTexts().value(0);
+        QVERIFY(text.contains(QStringLiteral("<h3>VEM 1.7.2</h3>")));
+        QVERIFY(text.endsWith(
+            QStringLiteral("<li>Install or update suites of packages</li></ul>"
+                           "<p>Package library: pantry &lt;3.4&gt;</p>"
+                           "<p>Web page: <a "
+                           "href=\"https://vem.example.org/\">https://vem.example.org/</a></p>")));
     }
 
     // A command that isn't there is told on the terminal; the window goes on.
