@@ -19,12 +19,12 @@ from fake_host import FakeHost
 from program import Program
 from rpmestate import Estate, spec
 
-ONE, TWO, THREE = (bytes([number]) * 32 for number in (1, 2, 3))
+ONE, TWO, THREE = ((bytes([number]) * 32).hex() for number in (1, 2, 3))
 
 
-def metadata(records: Dict[bytes, str]) -> str:
+def metadata(records: Dict[str, str]) -> str:
     packages = "\n".join(
-        f'<package pkgid="{checksum.hex()}" name="n" arch="noarch"><version epoch="0" ver="1" rel="1"/>{content}</package>'
+        f'<package pkgid="{checksum}" name="n" arch="noarch"><version epoch="0" ver="1" rel="1"/>{content}</package>'
         for checksum, content in records.items()
     )
     return f'<?xml version="1.0" encoding="UTF-8"?>\n<metadata packages="{len(records)}">\n{packages}\n</metadata>\n'
@@ -91,7 +91,7 @@ def test_each_package_has_its_record(tmp_path: Path, ending: str) -> None:
     WRITERS[ending](text.encode(), path)
     records = Records(str(path))
     path.unlink()
-    found = [records.record(checksum) for checksum in (ONE, TWO, THREE, b"unknown")]
+    found = [records.record(checksum) for checksum in (ONE, TWO, THREE, "unknown")]
     records.close()
     assert [None if record is None else files(record) for record in found] == [["/one"], [], ["/a"], None]
     assert [None if record is None else changes(record) for record in found] == [[], [], [(7, "A", "t")], None]
@@ -302,11 +302,11 @@ def test_repository_of_any_compression_tells_groups_files_changes_and_build_host
 def test_a_checksum_with_a_digit_too_few_harms_no_other_package(tmp_path: Path) -> None:
     from vemyum.records import Records, files
 
-    text = metadata({ONE: "<file>/one</file>", TWO: "<file>/two</file>", b"\xab" * 32: "<file>/three</file>"})
+    text = metadata({ONE: "<file>/one</file>", TWO: "<file>/two</file>", "ab" * 32: "<file>/three</file>"})
     path = tmp_path / "filelists.xml"
-    path.write_text(text.replace(TWO.hex(), TWO.hex()[1:]).replace("ab" * 32, "AB" * 32))
+    path.write_text(text.replace(TWO, TWO[1:]).replace("ab" * 32, "AB" * 32))
     records = Records(str(path))
-    found = [records.record(checksum) for checksum in (ONE, TWO, b"\xab" * 32)]
+    found = [records.record(checksum) for checksum in (ONE, TWO, "ab" * 32)]
     records.close()
     assert [None if record is None else files(record) for record in found] == [["/one"], None, ["/three"]]
 
