@@ -96,7 +96,6 @@ class Base:
         without: List[str] = []
         while not self._set_up(without):
             pass
-        # Python would drop them while the library still calls them.
         self._callbacks: List[Any] = []
         self.downloads = _Downloads()
         self.library.set_download_callbacks(libdnf5.repo.DownloadCallbacksUniquePtr(self.downloads))
@@ -146,9 +145,7 @@ class Base:
                 reader.rebuild(sections)
             self.library.notify_repos_configured()
             for repo in self.repositories():
-                keys = _NoKeys()
-                self._callbacks.append(keys)
-                repo.set_callbacks(libdnf5.repo.RepoCallbacksUniquePtr(keys))
+                self.answer_with(repo, _NoKeys())
         except FAILURES as error:
             raise YumBaseError(as_configured(words(error))) from error
         finally:
@@ -160,6 +157,12 @@ class Base:
                 (repo.enable if section.enabled else repo.disable)()
         self.sections = reader.sections
         self.lacking += reader.refused
+
+    def answer_with(self, repo: libdnf5.repo.Repo, callbacks: libdnf5.repo.RepoCallbacks) -> None:
+        """Lets these answer what the library asks about a repository."""
+        # Python would drop them while the library still calls them.
+        self._callbacks.append(callbacks)
+        repo.set_callbacks(libdnf5.repo.RepoCallbacksUniquePtr(callbacks))
 
     def repositories(self, enabled_only: bool = False) -> Iterator[libdnf5.repo.Repo]:
         """All that are configured, in their order."""

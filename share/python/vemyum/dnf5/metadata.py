@@ -1,0 +1,323 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""The repositories' metadata: brought into the library's cache, repository by repository, before it reads them all.
+
+The library would fetch everything at once, tell of the first repository that fails without its causes, and fetch all
+files of a repository again for the sake of one that is missing.
+
+Of repositories whose address ends in a query, as in "http://host/buffet?login=me&key=secret&path=/os", everything is
+fetched here: what is asked for stands behind the whole address ("…&path=/os/repodata/repomd.xml"), and the library would
+put it in front of the question mark.
+"""
+
+from __future__ import annotations
+
+import contextlib
+import html
+import itertools
+import logging
+import os
+import re
+import shutil
+import tempfile
+from typing import Callable, Collection, Dict, Iterable, Iterator, List, Optional
+
+import libdnf5.exception
+import libdnf5.repo
+
+from ..backend import CHANGELOGS, FILE_LISTS
+from ..errors import RepoError, os_error_text
+from ..repomd import FOLDER, NAME, File, join, listed, verify
+from ..space import scarce_space
+from ..texts import _
+from ..webpage import told
+from .base import Base
+from .failures import FAILURES, words
+from .log import LOGGER
+from .progress import FetchingProgress
+
+_UNREADABLE = re.compile(r"\bpars(e|er|ing)\b|no urls in mirrorlist|not found in metalink", re.I)
+"""Stands in the library's words for an answer that isn't what was asked for."""
+
+_DURATION = re.compile(r" after \d+ m(?:illi)?s(?:econds)?\b")
+_MIRROR_LISTS = ("metalink.xml", "mirrorlist")
+"""As the library keeps them beside the metadata."""
+_MIRRORS_OF_METALINK = re.compile(r">\s*([^<>\s]+)/repodata/repomd\.xml\s*<")
+_MIRROR = re.compile(r"(?:https?|ftp|file)://")
+TRIES = 5
+"""Servers that are asked for one file."""
+_ALWAYS = frozenset(("primary", "group", "group_gz", "modules"))
+_OPTIONAL = frozenset((FILE_LISTS, CHANGELOGS, "updateinfo"))
+"""Kinds of which a cache that another program has filled may lack one."""
+_ENOUGH = 1 << 16
+"""Bytes of a page that are looked at."""
+
+
+def without_durations(text: str) -> str:
+    """A failure's text as it is each time that it happens."""
+    return _DURATION.sub("", text)
+
+
+def addresses(repo: libdnf5.repo.Repo) -> List[str]:
+    """Where a repository is configured to be: its base addresses, metalink and mirror list."""
+    config = repo.get_config()
+    lists = (config.get_metalink_option(), config.get_mirrorlist_option())
+    found = [*config.baseurl, *(option.get_value() for option in lists if not option.empty())]
+    return [str(address) for address in found if address]
+
+
+def base_addresses(repo: libdnf5.repo.Repo) -> List[str]:
+    """The base addresses of a repository if one has a query and the library would use them; else none."""
+    config = repo.get_config()
+    bases = [str(address) for address in config.baseurl]
+    if len(addresses(repo)) > len(bases) or not any("?" in address for address in bases):
+        return []
+    return bases
+
+
+def servers(repo: libdnf5.repo.Repo) -> Iterator[str]:
+    """The addresses below which the files of a repository lie, those of mirrors as far as the cache tells them."""
+    yield from (str(address) for address in repo.get_config().baseurl)
+    mirrors = list(repo.get_mirrors())
+    yield from mirrors
+    if not mirrors:
+        for name in _MIRROR_LISTS:
+            with contextlib.suppress(OSError):
+                yield from mirrors_in(_content(os.path.join(repo.get_cachedir(), name)))
+
+
+def mirrors_in(content: bytes) -> Iterator[str]:
+    """The addresses in a list of mirrors. A metalink may be given where a plain list is asked for."""
+    text = content.decode("utf-8", "replace")
+    found = map(html.unescape, _MIRRORS_OF_METALINK.findall(text)) if "<metalink" in text else iter(text.split())
+    return (mirror for mirror in found if _MIRROR.match(mirror))
+
+
+def failure_text(repo: libdnf5.repo.Repo, text: str, causes: Iterable[str], directory: str) -> str:
+    where = next(iter(addresses(repo)), _("no address"))
+    lines = [_("Unable to read repository {id} ({address}):").format(id=repo.get_id(), address=where)]
+    said: Dict[str, str] = {}
+    for line in (*text.strip().splitlines(), *(cause for cause in causes if cause not in text)):
+        # The library tries several times, and tells each time how long that took.
+        said.setdefault(without_durations(line), line)
+    return "\n".join([*lines, *said.values(), *scarce_space(directory)])
+
+
+def downloaded(base: Base, repo: libdnf5.repo.Repo, address: str, target: str) -> None:
+    """Fetches one file by the repository's settings; an address without a scheme is one of the repository's files.
+    The library's failures."""
+    downloader = libdnf5.repo.FileDownloader(base.library)
+    downloader.add(repo.get_weak_ptr(), address, target)
+    downloader.download()
+
+
+def content_of(base: Base, repo: libdnf5.repo.Repo, address: str) -> bytes:
+    """RuntimeError with the library's words."""
+    listener, base.downloads.listener = base.downloads.listener, None
+    try:
+        with tempfile.TemporaryDirectory(prefix="vem-") as folder:
+            target = os.path.join(folder, "file")
+            downloaded(base, repo, address, target)
+            with open(target, "rb") as file:
+                return file.read()
+    except FAILURES as error:
+        raise RuntimeError(words(error)) from error
+    finally:
+        base.downloads.listener = listener
+
+
+class Metadata:
+    """Brings metadata of a Base's repositories into the cache. Blocks; any thread."""
+
+    def __init__(
+        self,
+        base: Base,
+        kinds: Collection[str],
+        progress: bool,
+        load: Callable[[libdnf5.repo.Repo, Callable[[], None]], None],
+    ) -> None:
+        """`kinds` are those that are wanted beside what the library itself wants; `load` is given each repository
+        that has to be fetched, with what does it."""
+        self._base = base
+        self._kinds = kinds
+        self._meter = base.settings.cache_directory if progress else None
+        self._load = load
+
+    def bring(self, repo: libdnf5.repo.Repo, lazy: bool = False) -> None:
+        """Fetches what is missing, or older than the configuration allows unless `lazy`. RepoError names the
+        repository, its address and every cause."""
+        progress = FetchingProgress(repo, self._meter)
+        self._base.downloads.listener = progress
+        try:
+            self._bring(repo, progress, lazy or repo.get_sync_strategy() != repo.SyncStrategy_TRY_CACHE)
+        except (*FAILURES, RepoError, OSError) as error:
+            text = os_error_text(error) if isinstance(error, OSError) else words(error)
+            if _UNREADABLE.search(text):
+                progress.causes += filter(None, [self._page(repo)])
+            directory = self._base.settings.cache_directory
+            raise RepoError(failure_text(repo, text, progress.causes, directory)) from error
+        finally:
+            self._base.downloads.listener = None
+            progress.close()
+            self._base.log.tell()
+
+    def path(self, repo: libdnf5.repo.Repo, kind: str) -> Optional[str]:
+        """The file of a repository's metadata in the cache; None where there is none."""
+        found = str(repo.get_metadata_path(kind))
+        if not found:
+            with_name = [file.href for file in _listed_in(repo.get_cachedir()) if file.kind == kind]
+            found = next((os.path.join(repo.get_cachedir(), href) for href in with_name), "")
+        return found if found and os.path.exists(found) else None
+
+    def _bring(self, repo: libdnf5.repo.Repo, progress: FetchingProgress, lazy: bool) -> None:
+        cached = self._is_cached(repo, progress)
+        if cached and (lazy or not repo.is_expired()):
+            return
+        if base_addresses(repo):
+            self._bring_by_query(repo, progress, cached)
+        elif cached and repo.is_in_sync():
+            # The library tells the age by this file.
+            os.utime(repo.get_metadata_path("primary"))
+        else:
+            self._load(repo, lambda: repo.download_metadata(repo.get_cachedir()))
+        repo.read_metadata_cache()
+        self._supplement(repo, progress)
+
+    def _is_cached(self, repo: libdnf5.repo.Repo, progress: FetchingProgress) -> bool:
+        if not os.path.exists(os.path.join(repo.get_cachedir(), FOLDER, NAME)):
+            return False
+        try:
+            self._supplement(repo, progress)
+            repo.read_metadata_cache()
+        except (*FAILURES, RepoError, OSError) as error:
+            logging.getLogger(LOGGER).debug("%s", words(error))
+            progress.causes.clear()
+            return False
+        return True
+
+    def _supplement(self, repo: libdnf5.repo.Repo, progress: FetchingProgress) -> None:
+        """Fetches those wanted files that the cache lacks; the library would fetch them all."""
+        cache = repo.get_cachedir()
+        wanted = _OPTIONAL.intersection((*self._base.config.optional_metadata_types, *self._kinds))
+        for file in listed(os.path.join(cache, FOLDER, NAME)):
+            target = os.path.join(cache, file.href)
+            if file.kind not in wanted or self._has(cache, file):
+                continue
+            part = target + ".part"
+            try:
+                self._fetch_file(repo, progress, file, part)
+                os.rename(part, target)
+            finally:
+                if os.path.exists(part):
+                    os.unlink(part)
+
+    @staticmethod
+    def _has(cache: str, file: File) -> bool:
+        """Whether the cache holds it, in one form or another."""
+        if os.path.exists(os.path.join(cache, file.href)):
+            return True
+        # A form of it that can be fetched in parts stands under a name of its own.
+        return any(
+            os.path.exists(os.path.join(cache, other.href))
+            for other in listed(os.path.join(cache, FOLDER, NAME), left_out=())
+            if other.kind == f"{file.kind}_zck"
+        )
+
+    def _fetch_file(self, repo: libdnf5.repo.Repo, progress: FetchingProgress, file: File, target: str) -> None:
+        if self._meter is not None:
+            progress.open("primary", file.size)
+        self._base.downloads.listener = None
+        fault: Optional[Exception] = None
+        try:
+            for address in itertools.islice(servers(repo), TRIES):
+                try:
+                    self._fresh(repo, join(address, file.href), target)
+                    verify(file, target)
+                    return
+                except (*FAILURES, RepoError) as error:
+                    fault = error
+            raise RepoError(words(fault) if fault is not None else _("no address")) from fault
+        finally:
+            self._base.downloads.listener = progress
+            progress.close()
+
+    # Addresses with a query ----------------------------------------------------------------------------------------
+
+    def _bring_by_query(self, repo: libdnf5.repo.Repo, progress: FetchingProgress, cached: bool) -> None:
+        if repo.get_config().repo_gpgcheck:
+            raise RepoError(_("repo_gpgcheck is not possible for an address with a query"))
+        cache = repo.get_cachedir()
+        os.makedirs(cache, exist_ok=True)
+        stage = tempfile.mkdtemp(prefix="tmpdir.", dir=cache)
+        # The acts are those of the files, which are known here.
+        self._base.downloads.listener = None
+        try:
+            os.mkdir(os.path.join(stage, FOLDER))
+            fault: Optional[Exception] = None
+            for address in base_addresses(repo):
+                try:
+                    self._bring_from(address, repo, progress, stage, cached)
+                    return
+                except (*FAILURES, RepoError) as error:
+                    fault = error
+            raise RepoError(words(fault) if fault is not None else "") from fault
+        finally:
+            shutil.rmtree(stage, ignore_errors=True)
+
+    def _bring_from(
+        self, address: str, repo: libdnf5.repo.Repo, progress: FetchingProgress, stage: str, cached: bool
+    ) -> None:
+        repomd = os.path.join(stage, FOLDER, NAME)
+        kept = os.path.join(repo.get_cachedir(), FOLDER)
+        progress.open(NAME, 0)
+        self._fresh(repo, join(address, f"{FOLDER}/{NAME}"), repomd)
+        page = told(join(address, f"{FOLDER}/{NAME}"), _content(repomd))
+        if page is not None:
+            raise RepoError(page)
+        progress.close()
+        if cached and _content(repomd) == _content(os.path.join(kept, NAME)):
+            os.utime(repo.get_metadata_path("primary"))
+            return
+        wanted = _ALWAYS.union(self._base.config.optional_metadata_types, self._kinds)
+        files = [file for file in listed(repomd) if file.kind in wanted]
+        progress.open("primary", sum(file.size for file in files))
+        for file in files:
+            target = os.path.join(stage, file.href)
+            self._fresh(repo, join(address, file.href), target)
+            verify(file, target)
+        progress.close()
+        shutil.rmtree(kept, ignore_errors=True)
+        os.rename(os.path.join(stage, FOLDER), kept)
+
+    def _fresh(self, repo: libdnf5.repo.Repo, address: str, target: str) -> None:
+        # What an earlier address gave would be gone on with.
+        if os.path.exists(target):
+            os.unlink(target)
+        downloaded(self._base, repo, address, target)
+
+    def _page(self, repo: libdnf5.repo.Repo) -> Optional[str]:
+        """Asks once more for what begins the reading of a repository, where the library cannot read the answer, and
+        tells of a web page."""
+        config = repo.get_config()
+        bases = len(config.baseurl)
+        # Lists of mirrors stand behind the base addresses.
+        address = next(iter(addresses(repo)[bases:]), "")
+        if not address and bases:
+            address = f"{addresses(repo)[0].rstrip('/')}/{FOLDER}/{NAME}"
+        if not address.startswith(("http://", "https://")):
+            return None
+        try:
+            return told(address, content_of(self._base, repo, address)[:_ENOUGH])
+        except (RuntimeError, OSError):
+            return None
+
+
+def _listed_in(cache: str) -> List[File]:
+    try:
+        return listed(os.path.join(cache, FOLDER, NAME))
+    except (RepoError, OSError):
+        return []
+
+
+def _content(path: str) -> bytes:
+    with open(path, "rb") as file:
+        return file.read()
