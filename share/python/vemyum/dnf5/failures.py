@@ -6,28 +6,9 @@ from __future__ import annotations
 from types import TracebackType
 from typing import Optional, Type
 
-import libdnf5.exception
-import rpm
-
 from ..errors import YumBaseError
-
-FAILURES = (
-    libdnf5.exception.Error,
-    # Beside that one, not below it.
-    libdnf5.exception.NonLibdnf5Exception,
-    libdnf5.exception.UserAssertionError,
-    libdnf5.exception.AssertionError,
-    rpm.error,
-    # Some of what C++ throws arrives without a class of its own.
-    RuntimeError,
-)
-
-
-def words(error: BaseException) -> str:
-    """What went wrong, with every cause, a line each; str() of an exception of the library tells the first alone."""
-    in_full = getattr(error, "format", None)
-    text = in_full(libdnf5.exception.FormatDetailLevel_Plain) if in_full is not None else str(error)
-    return "\n".join(filter(None, (line.strip() for line in text.splitlines())))
+from .exceptions import FAILURES as FAILURES
+from .exceptions import words as words
 
 
 class in_full:

@@ -23,7 +23,7 @@ from ..sections import RepositorySection
 from ..text import valid
 from .failures import FAILURES, words
 from .log import LOGGER
-from .settings import Settings, unclear
+from .settings import Settings, options, unclear
 
 _OVERRIDES = ("/usr/share/dnf5/repos.override.d", "/etc/dnf/repos.override.d")
 """Where the command line keeps what it is told to change about repositories, apart from their files."""
@@ -161,7 +161,7 @@ def _parsed(path: str, content: bytes, odd: bool) -> List[_Section]:
 
 
 def _sections_in(parser: libdnf5.conf.ConfigParser, path: str) -> List[_Section]:
-    return [_Section(name, dict(section), path) for name, section in parser.get_data()]
+    return [_Section(name, options(section), path) for name, section in parser.get_data()]
 
 
 def _parser_of(section: _Section) -> libdnf5.conf.ConfigParser:

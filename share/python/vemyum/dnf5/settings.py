@@ -7,9 +7,10 @@ the configuration editor takes them to be, so that both speak of the same files.
 
 from __future__ import annotations
 
+import itertools
 import logging
 import os
-from typing import Dict, Iterable, List, Optional
+from typing import Dict, Iterable, List, Optional, Tuple
 
 import libdnf5.base
 import libdnf5.conf
@@ -37,6 +38,7 @@ _CHECKS = {
 METADATA = ("comps", "updateinfo", "filelists")
 """What is fetched beside the packages, unless the configuration says something else."""
 _PROTECTED = "dnf5"
+_COMMENT = "#"
 _CLASSIC_VARIABLES = "/etc/yum/vars"
 _BUILT_IN = ("arch", "basearch", "releasever", "releasever_major", "releasever_minor")
 _FROM_ENVIRONMENT = "DNF_VAR_"
@@ -186,13 +188,18 @@ def unclear(parser: libdnf5.conf.ConfigParser, section: str, variables: Optional
     return found
 
 
+def options(section: Iterable[Tuple[str, str]]) -> Dict[str, str]:
+    """What a section of a parsed file states. Its comments stand among that, each under a name of the parser's own."""
+    return {name: value for name, value in section if not name.startswith(_COMMENT)}
+
+
 def _main_section(path: str) -> libdnf5.conf.ConfigParser:
     """What the main file states. YumBaseError for a section that isn't UTF-8."""
     parser = libdnf5.conf.ConfigParser()
     if os.path.exists(path):
         parser.read(path)
         for name, section in parser.get_data():
-            if name == "main" and not all(_is_text(part) for option in section for part in option):
+            if name == "main" and not all(map(_is_text, itertools.chain(*options(section).items()))):
                 # Paths may be among what it says; they are not to be guessed.
                 _require_utf8(path)
     return parser

@@ -8,7 +8,7 @@ import glob
 import logging
 import os
 import re
-from typing import Any, Callable, Dict, List, Optional, Sequence, Set, Tuple
+from typing import Any, Callable, Dict, Iterable, List, Optional, Sequence, Set, Tuple
 
 import libdnf5.repo
 import libdnf5.rpm
@@ -16,7 +16,7 @@ import rpm
 
 from ..backend import CHANGELOGS, GROUPS, Dependency, OpenEntry, RepositoryState
 from ..database import point_rpm_at
-from ..errors import RepoError, YumBaseError
+from ..errors import RepoError, YumBaseError, os_error_text
 from ..messages import rpms_words
 from ..sections import RepositorySection
 from ..texts import _
@@ -121,7 +121,7 @@ class System:
                 # One Base reads once.
                 self._reopen()
 
-    def load_changelogs(self, read: Callable[[str, str], None]) -> None:
+    def load_changelogs(self, read: Callable[[str, Optional[str]], None]) -> None:
         base = self.base
         metadata = self._metadata(base, (CHANGELOGS,))
         reading = ReadingProgress()
@@ -129,13 +129,13 @@ class System:
             # Those of the packages that have been read, not of newer ones.
             if not self._brought(metadata, repo, lazy=True):
                 continue
-            path = metadata.path(repo, CHANGELOGS)
             reading.begin(repo, False)
             try:
-                if path is not None:
-                    read(repo.get_id(), path)
+                read(repo.get_id(), metadata.path(repo, CHANGELOGS))
             except OSError as error:
-                raise RepoError(failure_text(repo, str(error), [], self.settings.cache_directory)) from error
+                raise RepoError(
+                    failure_text(repo, os_error_text(error), [], self.settings.cache_directory)
+                ) from error
             finally:
                 reading.end(repo)
 
@@ -255,7 +255,7 @@ class System:
 
     def upgrades(self) -> List[Row]:
         base = self.base
-        query = self._offered(base)
+        query = self._changeable(base, self._offered(base))
         query.filter_upgrades()
         query.filter_latest_evr()
         return rows(query, base)
@@ -264,15 +264,13 @@ class System:
         base = self.base
         if not base.config.obsoletes:
             return []
-        query = self._offered(base)
+        query = self._changeable(base, self._offered(base))
         # Who excludes an installed package wants it left alone.
         present = libdnf5.rpm.PackageQuery(base.library)
         present.filter_installed()
         query.filter_obsoletes(present)
         query.filter_latest_evr()
-        by_name: Dict[str, List[Any]] = {}
-        for row in self._installed:
-            by_name.setdefault(row.name, []).append(row)
+        by_name = self._by_name()
         # An installed package that makes others obsolete in a newer version is an upgrade already.
         covered = upgrades.union(by_name)
         new = [row for row in rows(query, base) if row.name not in covered]
@@ -286,11 +284,7 @@ class System:
         found: Dict[Tuple[str, str], List[Any]] = {}
         for row in self._installed:
             found.setdefault((row.name, row.arch), []).append(row)
-        return [
-            sorted(same)
-            for same in found.values()
-            if len(same) > 1 and not meant.intersection(same)
-        ]
+        return [sorted(same) for same in found.values() if len(same) > 1 and not meant.intersection(same)]
 
     def native(self) -> Sequence[str]:
         variables = self.settings.variables
@@ -304,6 +298,35 @@ class System:
         query.filter_arch(_fitting())
         return query
 
+    def _by_name(self) -> Dict[str, List[Any]]:
+        by_name: Dict[str, List[Any]] = {}
+        for row in self._installed:
+            by_name.setdefault(row.name, []).append(row)
+        return by_name
+
+    def _changeable(self, base: Base, query: libdnf5.rpm.PackageQuery) -> libdnf5.rpm.PackageQuery:
+        """The query without the updates that the solver refuses, since a vendor may not change. The library's query
+        for updates doesn't ask for that."""
+        if base.config.allow_vendor_change:
+            return query
+        by_name = self._by_name()
+        newer = libdnf5.rpm.PackageQuery(query)
+        newer.filter_upgrades()
+        refused = [
+            row
+            for row in rows(newer, base)
+            if not any(_same_vendor(row, old) and _updates(row, old) for old in by_name.get(row.name, []))
+        ]
+        replacing = libdnf5.rpm.PackageQuery(query)
+        replacing.filter_obsoletes(_set(base, self._installed))
+        refused += [
+            row
+            for row in rows(replacing, base)
+            if not all(_same_vendor(row, old) for old in self._replaced(row, by_name))
+        ]
+        query.difference(_set(base, refused))
+        return query
+
     @staticmethod
     def _query_installed(base: Base) -> List[Any]:
         query = libdnf5.rpm.PackageQuery(base.library)
@@ -312,15 +335,13 @@ class System:
 
     def _replaced(self, row: Any, installed: Dict[str, List[Any]]) -> List[Any]:
         """Those of the installed packages, by their names, that a package of another name makes obsolete."""
+        base = self.base
         names = dict.fromkeys(reldep.get_name() for reldep in row.get_obsoletes())
         found = []
         for old in (old for name in names if name != row.name for old in installed.get(name, [])):
-            query = libdnf5.rpm.PackageQuery(self.base.library)
-            query.filter_name([row.name])
-            one = libdnf5.rpm.PackageSet(self.base.library)
-            one.add(old)
-            query.filter_obsoletes(one)
-            if row in set(query):
+            query = libdnf5.rpm.PackageQuery(_set(base, [row]))
+            query.filter_obsoletes(_set(base, [old]))
+            if not query.empty():
                 found.append(old)
         return found
 
@@ -380,3 +401,21 @@ def _fitting() -> List[str]:
     """The architectures of packages that this machine can run."""
     known = libdnf5.rpm.get_supported_arches()
     return [arch for arch in known if arch == "noarch" or rpm.archscore(arch)]
+
+
+def _set(base: Base, packages: Iterable[Any]) -> libdnf5.rpm.PackageSet:
+    found = libdnf5.rpm.PackageSet(base.library)
+    for package in packages:
+        found.add(package)
+    return found
+
+
+def _same_vendor(row: Any, other: Any) -> bool:
+    return (row.vendor or "") == (other.vendor or "")
+
+
+def _updates(row: Any, installed: Any) -> bool:
+    """Whether a package of the same name is to take the place of an installed one."""
+    fits = row.arch == installed.arch or "noarch" in (row.arch, installed.arch)
+    versions = [(str(one.epoch), one.version, one.release) for one in (row, installed)]
+    return fits and rpm.labelCompare(*versions) > 0
