@@ -167,23 +167,25 @@ class System:
         metadata = self._metadata(base, ())
         reading = ReadingProgress()
         converts = False
-        ready: List[libdnf5.repo.Repo] = []
+        latest: Optional[libdnf5.repo.Repo] = None
+        unread = False
         for repo in list(base.repositories(enabled_only=True)):
-            if self._brought(metadata, repo):
-                if ready and self._progress:
-                    # The library reads all of them in one go, behind the last one.
-                    reading.begin(ready[-1], False)
-                    reading.end(ready[-1])
-                ready.append(repo)
+            if latest is not None and unread and self._progress:
+                # The library reads all of them in one go, behind the last one.
+                reading.begin(latest, False)
+                reading.end(latest)
+            unread = self._brought(metadata, repo)
+            if unread:
+                latest = repo
                 converts = converts or must_convert(repo)
                 repo.set_sync_strategy(repo.SyncStrategy_ONLY_CACHE)
-        if ready and self._progress:
-            reading.begin(ready[-1], converts)
+        if latest is not None and self._progress:
+            reading.begin(latest, converts)
         try:
             self._read(base)
         finally:
-            if ready and self._progress:
-                reading.end(ready[-1])
+            if latest is not None and self._progress:
+                reading.end(latest)
         self._loaded = True
 
     def _read(self, base: Base) -> None:
