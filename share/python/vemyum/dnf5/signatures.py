@@ -1,0 +1,44 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""The library's check of packages' signatures, and what rpm's own program says of those that fail it."""
+
+from __future__ import annotations
+
+from typing import Any, Dict, List
+
+import libdnf5.rpm
+
+from ..signatures import DAMAGED, Fault, checksig, keys_below, lines, missing_keys
+from ..text import valid
+from .base import Base
+from .download import shown
+from .keys import Source
+
+_Signature = libdnf5.rpm.RpmSignature
+
+_GOOD = (_Signature.CheckResult_OK, _Signature.CheckResult_SKIPPED)
+_MAY_LACK_A_KEY = (_Signature.CheckResult_FAILED_KEY_MISSING, _Signature.CheckResult_FAILED_NOT_TRUSTED)
+
+
+def signature_faults(base: Base, packages: List[Any]) -> List[Fault]:
+    """Those of the packages that have no good signature where the configuration asks for one."""
+    check = _Signature(base.library)
+    where = keys_below(base.settings.root)
+    sources: Dict[str, Source] = {}
+    found = []
+    for package in packages:
+        result = check.check_package_signature(package)
+        if result in _GOOD:
+            continue
+        path = package.get_package_path()
+        said = lines(checksig(where, path))
+        missing = missing_keys(said)
+        damaged = [line for line in said if DAMAGED.search(line)]
+        lacks_key = result in _MAY_LACK_A_KEY and not damaged
+        if result == _Signature.CheckResult_FAILED and not damaged and not missing:
+            damaged = said
+        id = package.get_repo_id()
+        if id not in sources:
+            sources[id] = Source(base, base.repository(id))
+        message = valid(_Signature.check_result_to_string(result))
+        found.append(Fault(shown(package), path, sources[id], lacks_key, message, damaged, missing))
+    return found
