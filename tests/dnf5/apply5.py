@@ -76,7 +76,7 @@ def kinds(changes: Sequence[Any]) -> Dict[str, str]:
 def command_line(estate: Estate, *arguments: str) -> "subprocess.CompletedProcess[str]":
     """`dnf5` on the estate's root."""
     root = estate.root
-    command = ["dnf5", "--installroot", str(root), "--use-host-config", "-y", "-c", f"{root}/etc/yum.conf"]
+    command = ["dnf5", "--refresh", "--installroot", str(root), "--use-host-config", "-y", "-c", f"{root}/etc/yum.conf"]
     command += [f"--setopt=reposdir={root}/etc/yum.repos.d", "--setopt=pluginpath=/nowhere", "--setopt=plugins=0"]
     command += [f"--setopt=cachedir={root}/var/cache/command", f"--setopt=system_cachedir={root}/var/cache/command"]
     done = subprocess.run(

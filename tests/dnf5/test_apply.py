@@ -184,6 +184,39 @@ def test_a_history_that_breaks_meanwhile_is_told(lib: Estate, rpms: Catalogue) -
     assert lib.installed() == {"lib-1.0-1.noarch"}
 
 
+def test_shutdown_is_held_off_once(lib: Estate) -> None:
+    """By this program, not by the library's plugin as well."""
+    from vemyum.dnf5.base import Base
+    from vemyum.dnf5.settings import read_settings
+
+    folder = lib.root / "etc/dnf/libdnf5-plugins"
+    folder.mkdir(parents=True)
+    for name in ("systemd-inhibit", "actions"):
+        (folder / f"{name}.conf").write_text(f"[main]\nname={name}\nenabled=1\n")
+    plugins = Base(read_settings()).library.get_plugins_info()
+    assert {plugin.get_name(): plugin.is_loaded() for plugin in plugins} == {"systemd-inhibit": False, "actions": True}
+
+
+def test_the_inhibitor_is_there_while_rpm_works(
+    lib: Estate, rpms: Catalogue, monkeypatch: pytest.MonkeyPatch
+) -> None:
+    import contextlib
+
+    from vemyum.dnf5 import transaction
+
+    steps: List[str] = []
+
+    @contextlib.contextmanager
+    def inhibited() -> Any:
+        steps.append("held")
+        yield
+        steps.append(" ".join(sorted(lib.installed())))
+
+    monkeypatch.setattr(transaction, "inhibited", inhibited)
+    Apply([rpms["lib-2.0"]]).run(lambda: steps.append("begins"))
+    assert steps == ["begins", "held", "lib-2.0-1.noarch"]
+
+
 def test_the_log_file_is_the_command_lines(lib: Estate, rpms: Catalogue) -> None:
     import logging
     import re

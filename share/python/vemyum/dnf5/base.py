@@ -25,6 +25,10 @@ from .settings import Settings
 _PLUGIN = re.compile(r"Cannot load libdnf plugin enabled from: (?P<file>\S.*)")
 
 
+_DONE_HERE = ("systemd-inhibit",)
+"""Plugins whose work this program does itself: `inhibitor` holds shutdown and sleep off."""
+
+
 class Listener(Protocol):
     """Hears of downloads, all on the thread that asked for them. What it raises is logged and dropped."""
 
@@ -93,7 +97,7 @@ class Base:
         self.sections: Dict[str, RepositorySection] = {}
         """What the repositories were built of, by their ids."""
         self._strict = strict
-        without: List[str] = []
+        without = list(_DONE_HERE)
         while not self._set_up(without):
             pass
         self._callbacks: List[Any] = []
@@ -111,8 +115,7 @@ class Base:
             raise YumBaseError(as_configured(words(error))) from error
         # What is odd about the configuration has been told when the settings were read.
         self.log = Log(self.library)
-        if without:
-            self.library.enable_disable_plugins(without, False)
+        self.library.enable_disable_plugins(without, False)
         try:
             self.library.setup()
         except FAILURES as error:
