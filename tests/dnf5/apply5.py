@@ -33,14 +33,14 @@ class Apply:
     def __init__(self, incoming: Sequence[Path] = (), removes: Sequence[Path] = (), repository: str = "base") -> None:
         from vemyum.apply.messages import PROTOCOL, Request
         from vemyum.dnf5 import library
-        from vemyum.dnf5.base import open_base
+        from vemyum.dnf5.system import System
 
         self.settings = library.read_settings()
-        table = open_base(self.settings)
-        for repo in table.repositories():
+        table = System(self.settings, progress=False)
+        for repo in table.base.repositories():
             # A repository that a test has made anew is read anew.
             repo.expire()
-        table.library.get_repo_sack().load_repos()
+        table.load()
         self.request = Request(
             PROTOCOL,
             list(table.sections.values()),
