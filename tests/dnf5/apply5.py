@@ -4,6 +4,7 @@
 from __future__ import annotations
 
 import re
+import shutil
 import subprocess
 from pathlib import Path
 from typing import Any, Callable, Dict, List, Sequence
@@ -76,7 +77,9 @@ def kinds(changes: Sequence[Any]) -> Dict[str, str]:
 def command_line(estate: Estate, *arguments: str) -> "subprocess.CompletedProcess[str]":
     """`dnf5` on the estate's root."""
     root = estate.root
-    command = ["dnf5", "--refresh", "--installroot", str(root), "--use-host-config", "-y", "-c", f"{root}/etc/yum.conf"]
+    # It takes a repository that was made anew within a second for the same.
+    shutil.rmtree(root / "var/cache/command", ignore_errors=True)
+    command = ["dnf5", "--installroot", str(root), "--use-host-config", "-y", "-c", f"{root}/etc/yum.conf"]
     command += [f"--setopt=reposdir={root}/etc/yum.repos.d", "--setopt=pluginpath=/nowhere", "--setopt=plugins=0"]
     command += [f"--setopt=cachedir={root}/var/cache/command", f"--setopt=system_cachedir={root}/var/cache/command"]
     done = subprocess.run(

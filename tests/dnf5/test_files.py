@@ -66,8 +66,16 @@ def test_each_file_has_its_meter(estate: Estate, rpms: Catalogue, host: Any, web
     assert apply.transaction.downloads() == []
 
 
-def test_what_the_cache_has_is_not_told(estate: Estate, rpms: Catalogue, host: Any) -> None:
+def test_what_lies_on_this_machine_is_no_download(estate: Estate, rpms: Catalogue, host: Any) -> None:
+    """The library copies it."""
     estate.repository("base", rpms.some("battery-1.0", "lone-1.0"))
+    Apply(rpms.some("battery-1.0", "lone-1.0")).run()
+    assert meters(host) == []
+    assert estate.installed() == {"battery-1.0-1.noarch", "lone-1.0-1.noarch"}
+
+
+def test_what_the_cache_has_is_not_told(estate: Estate, rpms: Catalogue, host: Any, web: Web) -> None:
+    estate.repository("base", rpms.some("battery-1.0", "lone-1.0"), baseurl=f"{web.url}/base")
     first = Apply([rpms["lone-1.0"]])
     first.plan()
     first.transaction.download()

@@ -6,7 +6,7 @@ from __future__ import annotations
 import hashlib
 import os
 from collections import OrderedDict
-from typing import Any, Dict, List, Optional
+from typing import Any, Collection, Dict, List, Optional
 
 import libdnf5.repo
 
@@ -25,7 +25,9 @@ _FAILED = libdnf5.repo.DownloadCallbacks.TransferStatus_ERROR
 
 
 class _File:
-    def __init__(self, package: Any) -> None:
+    def __init__(self, package: Any, fetched: bool) -> None:
+        """`fetched` is False for one that the library copies from this machine, which is quick, and no download."""
+        self.fetched = fetched
         self.package = shown(package)
         self.name = valid(os.path.basename(package.get_location()))
         self.size = int(package.get_download_size())
@@ -43,8 +45,9 @@ class DownloadMeter:
     tells files by what they were given to it with: here their places in the list of packages, counted from 1.
     """
 
-    def __init__(self, packages: List[Any]) -> None:
-        self._files = [_File(package) for package in packages]
+    def __init__(self, packages: List[Any], local: Collection[str] = ()) -> None:
+        """`local` are the repositories that lie on this machine."""
+        self._files = [_File(package, package.get_repo_id() not in local) for package in packages]
         self._waiting: "OrderedDict[int, _File]" = OrderedDict()
         self._shown = 0
 
@@ -54,7 +57,7 @@ class DownloadMeter:
     def progress(self, place: int, _size: int, done: int) -> None:
         file = self._file(place)
         # Each file begins with nothing, be it there already.
-        if file is not None and (done or file.begun):
+        if file is not None and file.fetched and (done or file.begun):
             file.done = done
             self._tell(place, file)
 
@@ -66,7 +69,7 @@ class DownloadMeter:
         file.good = status != _FAILED
         if not file.good and not file.causes:
             file.causes[message.strip()] = None
-        if not file.begun and status in (_EXISTS, _FAILED):
+        if not file.fetched or (not file.begun and status in (_EXISTS, _FAILED)):
             # In the cache already: the engine's plan of the download leaves it out, too.
             return
         if file.good:
@@ -117,7 +120,8 @@ class DownloadMeter:
 
 def download(base: Base, packages: List[Any]) -> None:
     """Fetches what isn't on this machine yet. YumBaseError names each package that failed, and why."""
-    meter = DownloadMeter(packages)
+    local = {repo.get_id() for repo in base.repositories(enabled_only=True) if repo.is_local()}
+    meter = DownloadMeter(packages, local)
     try:
         _fetch_by_query(base, packages, meter)
         _fetch(base, packages, meter)
