@@ -45,15 +45,20 @@ manuals_lack() {
     rpm_system && ! rpm -q --quiet --whatprovides rubygem-asciidoctor rubygem-asciidoctor-pdf
 }
 
-# packages_of SYSTEM LIST [REPOSITORY]: the names that a system (debian, fedora or el) has for what a list names, one a
-# line; with a repository (crb or epel) only those that may lie there.
+# packages_of SYSTEM LIST [WHERE]: the names that a system (debian, fedora or el) has for what a list names, one a line;
+# with a repository (crb or epel) only those that may lie there, with "?" those that a Debian may lack.
 packages_of() {
     local system=$1 list=$2 wanted=${3-} debian fedora el repository name
     while read -r debian fedora el repository; do
         case $debian in '' | '#'*) continue ;; esac
-        name=$debian
-        [[ $system == debian ]] || name=$fedora
-        [[ $system != el || $el == "=" ]] || name=$el
+        name=${debian%\?}
+        if [[ $system == debian ]]; then
+            repository=${debian#"$name"}
+        elif [[ $system == el && $el != "=" ]]; then
+            name=$el
+        else
+            name=$fedora
+        fi
         [[ $name == - || -n $wanted && $wanted != "$repository" ]] || printf '%s\n' "$name"
     done <"$list" | sort -u
 }
@@ -82,23 +87,61 @@ become_root() {
     fi
 }
 
+# wanted_packages SYSTEM LIST: those of the missing ones that no earlier run had to do without. They are noted in a file,
+# so that they aren't looked for every time.
+wanted_packages() {
+    comm -23 <(missing_packages "$1" "$2") <(sort -u "${2%/*}/build/left-out" 2>/dev/null)
+}
+
+# leave_out LIST [PACKAGE...]: notes them there, with a word.
+leave_out() {
+    local left_out=${1%/*}/build/left-out
+    (($# > 1)) || return 0
+    mkdir -p "${left_out%/*}"
+    printf '%s\n' "${@:2}" >>"$left_out"
+    say "No repository has these, going on without: ${*:2}. Remove $left_out to have them looked for again."
+}
+
+# Whether a repository has this package.
+apt_knows() {
+    [[ -n $(apt-cache madison "$1") ]]
+}
+
 install_by_apt() {
-    local list=$1 missing as_root
-    mapfile -t missing < <(missing_packages debian "$list")
+    local list=$1 missing certain may_lack lacking as_root
+    mapfile -t missing < <(wanted_packages debian "$list")
     ((${#missing[@]} > 0)) || return 0
+    mapfile -t may_lack < <(comm -12 <(printf '%s\n' "${missing[@]}") <(packages_of debian "$list" "?"))
+    mapfile -t certain < <(comm -23 <(printf '%s\n' "${missing[@]}") <(packages_of debian "$list" "?"))
+    # New folders and images come without lists, and no release is without apt.
+    if ((${#certain[@]} > 0)) || ! apt_knows apt; then
+        become_root "${missing[@]}"
+        "${as_root[@]}" apt-get -q update \
+            || printf '%s\n' "The package lists could not be renewed; trying with those that are here." >&2
+    fi
+    mapfile -t lacking < <(
+        for name in "${may_lack[@]}"; do
+            apt_knows "$name" || printf '%s\n' "$name"
+        done
+    )
+    mapfile -t missing < <(comm -23 <(printf '%s\n' "${missing[@]}") <(printf '%s\n' "${lacking[@]}"))
+    ((${#missing[@]} == 0)) || apt_install
+    leave_out "$list" "${lacking[@]}"
+}
+
+# Installs the missing ones, a variable of the function above.
+apt_install() {
     become_root "${missing[@]}"
-    printf 'Installing: %s\n' "${missing[*]}"
-    "${as_root[@]}" apt-get -q update \
-        || printf '%s\n' "The package lists could not be renewed; trying with those that are here." >&2
+    say "Installing: ${missing[*]}"
     "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q -y --no-install-recommends install "${missing[@]}" \
         || die "apt-get could not install: ${missing[*]}"
 }
 
-# install_by_dnf DNF SYSTEM LIST: dnf 4 or 5. What no repository has is left out with a word, and noted in a file, so
-# that it isn't looked for every time. The functions below work on the variables of this one.
+# install_by_dnf DNF SYSTEM LIST: dnf 4 or 5. What no repository has is left out. The functions below work on the
+# variables of this one.
 install_by_dnf() {
-    local dnf=$1 system=$2 list=$3 left_out=${3%/*}/build/left-out missing as_root more=() lenient=--setopt=strict=0
-    mapfile -t missing < <(comm -23 <(missing_packages "$system" "$list") <(sort -u "$left_out" 2>/dev/null))
+    local dnf=$1 system=$2 list=$3 missing as_root more=() lenient=--setopt=strict=0
+    mapfile -t missing < <(wanted_packages "$system" "$list")
     ((${#missing[@]} > 0)) || return 0
     become_root "${missing[@]}"
     [[ $("$dnf" --version) != dnf5* ]] || lenient=--skip-unavailable
@@ -107,10 +150,7 @@ install_by_dnf() {
         use_crb
         use_epel
     fi
-    ((${#missing[@]} > 0)) || return 0
-    mkdir -p "${left_out%/*}"
-    printf '%s\n' "${missing[@]}" >>"$left_out"
-    say "No repository has these, going on without: ${missing[*]}. Remove $left_out to have them looked for again."
+    leave_out "$list" "${missing[@]}"
 }
 
 # Installs what can be had of the missing packages; the others stay missing.

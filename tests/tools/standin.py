@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: GPL-2.0-or-later
 """Stands in for the package managers' commands, under whose names it is linked. A folder, VEM_STANDINS, holds what a
-system would: `installed`, names; `repository.ID`, the names that lie there, first of all its state (enabled or
+system would: `installed`, names; `archive`, names that a Debian can have; `repository.ID`, the names that lie there, first of all its state (enabled or
 disabled); `version`, what dnf says of itself; `fails`, words of commands that fail. Each call is noted in `calls`.
 """
 from __future__ import annotations
@@ -78,6 +78,14 @@ def dpkg_query(words: list[str]) -> int:
     return int(not set(asked) <= set(installed))
 
 
+def apt_cache(words: list[str]) -> int:
+    """madison answers in silence for what it doesn't know."""
+    for name in words[1:]:
+        if name in lines("archive"):
+            print(f" {name} | 1.0-1 | http://archive/debian forky/main amd64 Packages")
+    return 0
+
+
 def apt_get(words: list[str]) -> int:
     if "install" in words:
         asked = words[words.index("install") + 1:]
@@ -96,7 +104,8 @@ def main() -> int:
         os.execvp(words[0], words)
     if any(word in words for word in lines("fails")):
         return 1
-    answers = {"rpm": rpm, "dnf": dnf, "dnf5": dnf, "dpkg-query": dpkg_query, "apt-get": apt_get}
+    answers = {"rpm": rpm, "dnf": dnf, "dnf5": dnf, "dpkg-query": dpkg_query, "apt-get": apt_get,
+               "apt-cache": apt_cache}
     return answers[command](words)
 
 

@@ -19,6 +19,7 @@ oars       oars         sculls             crb
 sail       sail         =                  epel
 -          keel         =
 dinghy     -            -
+anchor?    -            -
 pennant    pennant      /usr/bin/pennant
 """
 SYSTEMS = {
@@ -79,7 +80,7 @@ class System:
         """The calls of commands, but for those that only ask, in which all these words stand."""
         file = self.state / "calls"
         calls = file.read_text().splitlines() if file.exists() else []
-        asking = ("id ", "rpm ", "dpkg-query ")
+        asking = ("id ", "rpm ", "dpkg-query ", "apt-cache ")
         return [call for call in calls if not call.startswith(asking) and all(word in call for word in with_word)]
 
     def installed(self) -> list[str]:

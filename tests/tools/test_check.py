@@ -10,7 +10,7 @@ import pytest
 from system import HOUSE, RPM_NAMES, System
 
 COMMANDS = {
-    "debian": ["apt-get", "dpkg-query"],
+    "debian": ["apt-cache", "apt-get", "dpkg-query"],
     "fedora": ["dnf", "rpm"],
 }
 MANUAL_TOOLS = ["rubygem-asciidoctor", "rubygem-asciidoctor-pdf"]

@@ -15,7 +15,9 @@ EVERY_MAKE = pytest.mark.parametrize("enterprise", ["rhel", "rocky", "ol"], indi
 @pytest.fixture
 def debian(tmp_path: Path) -> System:
     # dnf can be had on a Debian, too.
-    return System(tmp_path, "debian", ["apt-get", "dpkg-query", "sudo", "dnf", "rpm"])
+    system = System(tmp_path, "debian", ["apt-cache", "apt-get", "dpkg-query", "sudo", "dnf", "rpm"])
+    system.has("archive", "apt")
+    return system
 
 
 @pytest.fixture
@@ -60,7 +62,8 @@ def test_each_system_has_its_own_names(debian: System) -> None:
     def names(*words: str) -> list[str]:
         return debian.run(f'packages_of {words[0]} "{debian.list}" {" ".join(words[1:])}').split()
 
-    assert names("debian") == ["dinghy", "oars", "pennant", "rudder-dev", "sail"]
+    assert names("debian") == ["anchor", "dinghy", "oars", "pennant", "rudder-dev", "sail"]
+    assert names("debian", '"?"') == ["anchor"]
     assert names("fedora") == RPM_NAMES["fedora"]
     assert names("el") == RPM_NAMES["el"]
     assert names("el", "crb") == ["sculls"]
@@ -76,6 +79,36 @@ def test_apt_installs_what_a_debian_lacks(debian: System) -> None:
     ]
     assert debian.install() == ""
     assert len(debian.calls()) == 2
+
+
+def test_what_not_every_debian_has_is_left_out_where_it_lacks(debian: System) -> None:
+    note = debian.list.parent / "build/left-out"
+    # Nothing else lacks, so nobody's password is asked for.
+    debian.has("installed", "dinghy", "oars", "pennant", "rudder-dev", "sail")
+    debian.has("user", "1000")
+    assert debian.install() == (
+        f"No repository has these, going on without: anchor. Remove {note} to have them looked for again.\n"
+    )
+    assert debian.calls() == []
+    # Once told, it isn't looked for again.
+    debian.has("archive", "apt", "anchor")
+    assert debian.install() == ""
+    note.unlink()
+    assert debian.install() == "Installing: anchor\n"
+    assert debian.calls("apt-get", "install anchor") and "anchor" in debian.installed()
+
+
+def test_what_not_every_debian_has_is_installed_with_the_others_where_it_is(debian: System) -> None:
+    debian.has("archive", "apt", "anchor")
+    assert "Installing: anchor dinghy oars pennant rudder-dev sail\n" in debian.install()
+    assert not (debian.list.parent / "build/left-out").exists()
+
+
+def test_lists_are_fetched_where_there_are_none_before_anything_is_left_out(debian: System) -> None:
+    debian.has("installed", "dinghy", "oars", "pennant", "rudder-dev", "sail")
+    debian.has("archive")
+    assert "going on without: anchor." in debian.install()
+    assert debian.calls() == ["apt-get -q update"]
 
 
 def test_a_failure_of_apt_is_told(debian: System) -> None:
