@@ -117,7 +117,8 @@ def test_rpm_requires_what_the_program_starts_and_imports(rpm_file: Path) -> Non
     libraries = {name for name in required if re.search(r"\.so(\.|\()|^rtld\(", name)}
     own = {name for name in required if name.startswith("rpmlib(")}
     assert required - libraries - own == {
-        "/bin/sh", "hicolor-icon-theme", "polkit", "python3", "python3-dnf", "python3-rpm", "qt6-qtbase-gui",
+        "(python3-libdnf5 or python3-dnf >= 4)", "/bin/sh", "hicolor-icon-theme", "polkit", "python3", "python3-rpm",
+        "qt6-qtbase-gui",
         "rpm",
     }
     plain = {re.sub(r"[\d.]*\.so.*", "", name) for name in libraries}
@@ -153,8 +154,19 @@ def test_deb_names_itself(deb_file: Path) -> None:
     assert int(control["Installed-Size"]) > 500
 
 
+def test_rpm_prefers_the_library_by_which_the_system_is_managed() -> None:
+    def weak(*defines: str) -> set[str]:
+        words = [word for define in defines for word in ("-D", define)]
+        asked = ["rpmspec", *words, "-q", "--qf", "[r %{RECOMMENDNAME}\n][s %{SUGGESTNAME}\n]", TOP / "packaging/vem.spec"]
+        return {line for line in output_of(asked).splitlines() if "dnf" in line}
+
+    assert weak("fedora 43") == {"r python3-libdnf5"}
+    assert weak("fedora 40") == weak("rhel 10") == {"s python3-dnf"}
+
+
 def test_deb_depends_on_what_the_program_starts_and_imports(deb_file: Path) -> None:
     names = {re.split(r"[ (|]", word.strip())[0] for word in fields(deb_file)["Depends"].split(",")}
+    assert "python3-dnf (>= 4) | python3-libdnf5, " in fields(deb_file)["Depends"]
     names = {re.sub(r"^libpython3\.\d+$", "libpython3", name) for name in names}
     # Libraries that were built anew for 64 bits of time.
     names = {name.removesuffix("t64") for name in names}

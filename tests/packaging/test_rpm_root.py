@@ -122,6 +122,14 @@ def test_no_requirement_may_lack(system: Estate, rpm_file: Path) -> None:
             system.rpm("--erase", "--test", name)
 
 
+def test_either_package_library_is_enough(system: Estate, rpm_file: Path) -> None:
+    system.install([rpm_file])
+    system.install(system.build(spec("python3-libdnf5", "5.2.0")))
+    system.rpm("--erase", "python3-dnf")
+    with pytest.raises(EstateError, match=r"is needed by \(installed\) vem-1\.7\.2"):
+        system.rpm("--erase", "--test", "python3-libdnf5")
+
+
 def test_erasing_leaves_nothing(system: Estate, rpm_file: Path) -> None:
     before = files_of(system)
     system.install([rpm_file])

@@ -62,7 +62,9 @@ def lines() -> list[Line]:
 
 def spec_names(tag: str) -> set[str]:
     text = (HOUSE / "packaging/vem.spec").read_text(encoding="utf-8")
-    return set(re.findall(rf"^{tag}: +(\S+)", text, re.MULTILINE))
+    values = re.findall(rf"^{tag}: +(.+)", text, re.MULTILINE)
+    # A value may be one name, or several in brackets, each with a version or without.
+    return {name for value in values for name in re.findall(r"[A-Za-z][^\s()]*", value)} - {"or"}
 
 
 FEDORA = {line.fedora for line in lines()} - {"-"}
