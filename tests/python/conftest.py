@@ -8,7 +8,7 @@ import os
 import subprocess
 import sys
 from pathlib import Path
-from typing import Callable, ContextManager, Iterator, Tuple
+from typing import Callable, ContextManager, Iterator, List, Tuple
 
 import pytest
 
@@ -18,15 +18,28 @@ for folder in (TOP / "estate", TOP / "share" / "python", HERE):
     sys.path.insert(0, str(folder))
 
 import fake_host  # noqa: E402
+import libraries  # noqa: E402
 from catalogue import Catalogue  # noqa: E402
 from program import Program  # noqa: E402
 from rpmestate import Estate  # noqa: E402
 from users import use_reachable_folder  # noqa: E402
+from vemyum import choice  # noqa: E402
 from web import Web  # noqa: E402
 
 
-def pytest_configure() -> None:
+def pytest_configure(config: pytest.Config) -> None:
     use_reachable_folder()
+    # Whatever a test starts works with the same one.
+    os.environ[choice.VARIABLE] = libraries.BACKEND
+    for backend, name in choice.NAMES.items():
+        config.addinivalue_line("markers", f"{backend}: about {name} alone, not for the other library")
+
+
+def pytest_collection_modifyitems(items: List[pytest.Item]) -> None:
+    for item in items:
+        for backend in choice.BACKENDS:
+            if backend != libraries.BACKEND and item.get_closest_marker(backend):
+                item.add_marker(pytest.mark.skip(reason=f"about {choice.NAMES[backend]}"))
 
 
 @pytest.fixture(scope="session")

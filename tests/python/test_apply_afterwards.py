@@ -12,6 +12,9 @@ from fake_host import FakeHost
 from program import Program
 from rpmestate import Estate
 
+# The steps that are made to fail are those of this library.
+pytestmark = pytest.mark.dnf4
+
 ALL_DONE = (
     "The packages have been changed as asked, and only what comes after that has failed: please refresh the list of "
     "packages."

@@ -157,6 +157,7 @@ def test_database_that_was_damaged_since_the_table_was_filled_stops_the_apply(
 
 
 @pytest.mark.parametrize("content", [b"", b"no history" * 1000, b"SQLite format 3\0" + bytes(84)])
+@pytest.mark.dnf4
 def test_history_that_cannot_be_used_is_told_once_with_its_remedy(
     estate: Estate, rpms: Catalogue, program: Program, host: FakeHost, content: bytes
 ) -> None:
@@ -177,6 +178,7 @@ def test_history_that_cannot_be_used_is_told_once_with_its_remedy(
     assert estate.installed() == {"lone-1.0-1.noarch"} and history.stat().st_size
 
 
+@pytest.mark.dnf4
 def test_locked_history_is_told_and_not_to_be_moved(
     estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
 ) -> None:
@@ -193,6 +195,7 @@ def test_locked_history_is_told_and_not_to_be_moved(
 
 
 @pytest.mark.parametrize("kib", [8, 64, 124, 160])
+@pytest.mark.dnf4
 def test_full_disk_leaves_no_half_made_history(
     estate: Estate,
     rpms: Catalogue,

@@ -8,7 +8,6 @@ import shutil
 import sqlite3
 from typing import Dict, List, Optional
 
-import dnf.yum.misc
 import pytest
 from catalogue import Catalogue
 from fake_host import FakeHost
@@ -284,9 +283,11 @@ def test_module_stream_that_an_install_enables_is_told(
 # The history ----------------------------------------------------------------------------------------------
 
 
+@pytest.mark.dnf4
 def test_history_tells_who_did_it_with_which_command_and_what_was_marked(
     estate: Estate, rpms: Catalogue, program: Program, host: FakeHost, monkeypatch: pytest.MonkeyPatch
 ) -> None:
+    import dnf.yum.misc
     from vemyum import processes
 
     monkeypatch.setattr(processes, "command_line", lambda pid: "vem --enablerepo=extra")

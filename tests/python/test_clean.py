@@ -97,6 +97,7 @@ def test_repository_on_this_machine_keeps_its_files(
     assert sorted(directory.glob("**/*")) == before
 
 
+@pytest.mark.dnf4
 def test_file_that_cannot_be_removed_is_told(
     yumio: Any, host: FakeHost, monkeypatch: pytest.MonkeyPatch
 ) -> None:

@@ -10,6 +10,10 @@ from __future__ import annotations
 import inspect
 import logging
 
+from libraries import only_with
+
+only_with("dnf4")
+
 import dnf
 import dnf.callback
 import dnf.cli.commands.clean

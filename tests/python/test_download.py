@@ -7,7 +7,6 @@ import os
 from pathlib import Path
 from typing import Any, Callable, Dict, List, Tuple
 
-import dnf.callback
 import pytest
 from catalogue import Catalogue
 from fake_host import FakeHost
@@ -223,17 +222,24 @@ def run_meter(host: FakeHost, *steps: Tuple[str, Any]) -> List[Tuple[str, int, L
     return meters(host)
 
 
+@pytest.mark.dnf4
 def test_files_fetched_side_by_side_are_told_one_after_the_other(program: Program, host: FakeHost) -> None:
     begun = ("a", 10.0), ("b", 20.0), ("a", 50.0), ("c", 5.0)
     told = run_meter(host, *begun, ("b", None), ("a", None), ("c", 60.0), ("c", None))
     assert told == [("a", 100, [10, 50, 100, 100]), ("b", 100, [100, 100]), ("c", 100, [5, 60, 100, 100])]
 
 
+@pytest.mark.dnf4
 def test_failed_file_ends_where_it_stood(program: Program, host: FakeHost) -> None:
+    import dnf.callback
+
     told = run_meter(host, ("a", 10.0), ("b", 20.0), ("a", dnf.callback.STATUS_FAILED))
     assert told == [("a", 100, [10, 10, 10]), ("b", 100, [20, 20])]
 
 
+@pytest.mark.dnf4
 def test_failed_mirror_is_no_end(program: Program, host: FakeHost) -> None:
+    import dnf.callback
+
     told = run_meter(host, ("a", 10.0), ("a", dnf.callback.STATUS_MIRROR), ("a", 40.0), ("a", None))
     assert told == [("a", 100, [10, 40, 100, 100])]

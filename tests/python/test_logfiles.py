@@ -17,6 +17,9 @@ from fake_host import FakeHost
 from program import Program
 from rpmestate import Estate
 
+# dnf 5 keeps logs of its own form.
+pytestmark = pytest.mark.dnf4
+
 COMMAND_LINE = "import sys; from dnf.cli.main import user_main; user_main(sys.argv[1:], exit_code=True)"
 STAMP = re.compile(r"^\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d[+-]\d{4} ")
 STARTED = "INFO --- logging initialized ---"

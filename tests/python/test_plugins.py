@@ -7,6 +7,10 @@ import shutil
 from pathlib import Path
 from typing import List, Optional
 
+from libraries import only_with
+
+only_with("dnf4")
+
 import dnf.const
 import pytest
 from catalogue import Catalogue

@@ -204,6 +204,7 @@ def test_metadata_whose_reader_is_missing_cost_no_more_than_they_tell(
 LOG = "* Sat Nov 21 2026 Ada <ada@estate.example> - 1.0-1\n- First"
 
 
+@pytest.mark.dnf4
 def test_repository_whose_metadata_is_not_recognised_costs_only_itself(
     estate: Estate, program: Program, host: FakeHost, tmp_path: Path, monkeypatch: pytest.MonkeyPatch
 ) -> None:
@@ -233,6 +234,7 @@ def test_repository_whose_metadata_is_not_recognised_costs_only_itself(
 
 
 @pytest.mark.usefixtures("unzck")
+@pytest.mark.dnf4
 def test_zchunk_metadata_tell_files_changes_and_build_host(
     estate: Estate, program: Program, host: FakeHost, monkeypatch: pytest.MonkeyPatch
 ) -> None:

@@ -155,6 +155,7 @@ def test_who_may_only_look_gets_nothing_to_remove(
     assert "lib.noarch: 1.0-1, 2.0-1" in host.text("log")
 
 
+@pytest.mark.dnf4
 def test_who_may_only_look_is_told_of_the_systems_own_history(
     lamp: Tuple[Estate, Program], monkeypatch: pytest.MonkeyPatch
 ) -> None:
@@ -169,6 +170,7 @@ def test_who_may_only_look_is_told_of_the_systems_own_history(
     assert told(program)[0].startswith("The last transaction was cut off before its end: number 1, ")
 
 
+@pytest.mark.dnf4
 def test_entry_of_the_history_without_an_end_is_told_with_what_is_missing(
     estate: Estate, rpms: Catalogue, program: Program
 ) -> None:
@@ -198,6 +200,7 @@ def test_entry_of_the_history_without_an_end_is_told_with_what_is_missing(
     ]
 
 
+@pytest.mark.dnf4
 def test_next_transaction_ends_the_telling(estate: Estate, rpms: Catalogue, program: Program) -> None:
     estate.repository("base", rpms.some("lone-1.0", "battery-1.0"))
     found = program.collect()
@@ -210,6 +213,7 @@ def test_next_transaction_ends_the_telling(estate: Estate, rpms: Catalogue, prog
 
 
 @pytest.mark.parametrize("content", [None, b"", b"no database", b"SQLite format 3\0" + bytes(84)])
+@pytest.mark.dnf4
 def test_history_that_cannot_be_read_is_left_alone(
     lamp: Tuple[Estate, Program], content: Any, host: FakeHost
 ) -> None:

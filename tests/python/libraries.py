@@ -1,0 +1,23 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""The package library that the tests run on: VEMBACKEND names it. One process uses one of them, tests too."""
+
+from __future__ import annotations
+
+import os
+import sys
+from pathlib import Path
+
+import pytest
+
+sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "share/python"))
+
+from vemyum import choice  # noqa: E402
+
+BACKEND = os.environ.get(choice.VARIABLE) or next(iter(choice.complete()), choice.DNF4)
+"""Without a word, the first of those that this machine has."""
+
+
+def only_with(backend: str) -> None:
+    """Leaves out the file that calls it, before it imports what must not be imported beside the other library."""
+    if backend != BACKEND:
+        pytest.skip(f"about {choice.NAMES[backend]}, not about {choice.NAMES[BACKEND]}", allow_module_level=True)
