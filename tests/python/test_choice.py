@@ -342,26 +342,43 @@ def test_a_module_without_a_place_is_none(monkeypatch: pytest.MonkeyPatch) -> No
 # What the engine sees of it ----------------------------------------------------------------------------------
 
 
-def test_a_library_that_cannot_be_used_ends_the_start_with_its_sentence_in_the_log() -> None:
-    code = (
-        "import fake_host, program, sys\n"
-        "one = program.Program(sys.argv[1])\n"
-        "try: one.namespace['YumIO']()\n"
-        "except SystemExit as end: sys.__stdout__.write(f\"{end.code}: {fake_host.HOST.text('errorlog')}\")\n"
+def test_a_library_that_cannot_be_used_ends_the_start_with_its_sentence_in_the_log(
+    program: Program, host: FakeHost, monkeypatch: pytest.MonkeyPatch
+) -> None:
+    monkeypatch.setenv("VEMBACKEND", "yum")
+    # As if the script were only now read.
+    monkeypatch.setattr(choice, "_chosen", None)
+    with pytest.raises(SystemExit):
+        program.namespace["YumIO"]()
+    assert host.text("errorlog").startswith('VEMBACKEND: "yum" is none of')
+
+
+@pytest.mark.parametrize(("backends", "start"), [("()", "There is no library"), ("('dnf4',)", "The library of dnf 5")])
+def test_a_program_without_a_library_starts_far_enough_to_tell_it(estate: Estate, backends: str, start: str) -> None:
+    lines = (
+        "import sys; sys.path[:0] = sys.argv[1:3]\n"
+        "from vemyum import choice\n"
+        f"choice.can_be_imported = lambda backend: backend in {backends}\n"
+        "import fake_host, pathlib, program\n"
+        "script = program.Program(pathlib.Path(sys.argv[1], 'YumIO.py'))\n"
+        "try: script.namespace['YumIO']()\n"
+        "except SystemExit: sys.__stdout__.write(fake_host.HOST.text('errorlog'))\n"
+        "assert not {'dnf', 'libdnf5'} & set(sys.modules)\n"
     )
-    environment = {**os.environ, "VEMBACKEND": "yum", "PYTHONPATH": str(Path(__file__).parent)}
-    command = [sys.executable, "-B", "-c", code, str(SHARE / "YumIO.py")]
-    done = subprocess.run(command, env=environment, capture_output=True, text=True, check=True)
-    assert done.stdout.startswith('1: VEMBACKEND: "yum" is none of')
+    done = subprocess.run(
+        [sys.executable, "-B", "-c", lines, str(SHARE), str(Path(__file__).parent)],
+        env={**os.environ, choice.VARIABLE: "dnf5" if "dnf4" in backends else ""}, capture_output=True, text=True,
+        check=True,
+    )
+    assert done.stdout.startswith(start) and "\n" not in done.stdout
 
 
 def test_a_doubt_is_logged_once(
     estate: Estate, program: Program, host: FakeHost, machine: Callable[..., None], monkeypatch: pytest.MonkeyPatch
 ) -> None:
-    # The script has come to one, when it was run.
-    monkeypatch.setattr(choice, "_chosen", None)
     machine("dnf4")
     uses(estate.root, "dnf5")
+    monkeypatch.setattr(choice, "_chosen", None)
     for _ in range(2):
         program.collect()
     assert host.text("warninglog").count("install the package python3-libdnf5") == 1
