@@ -11,7 +11,7 @@ import fnmatch
 from typing import Callable, Dict, List, NamedTuple, Optional, Set, Tuple
 
 from case import Case
-from sides import Applied, Asked, Ran
+from sides import Applied, Asked, Ran, planned
 from state import State
 
 
@@ -39,8 +39,8 @@ class Rule(NamedTuple):
     """Whether the case is one of those that the rule speaks of."""
     ask: Optional[Callable[[Asked], Asked]] = None
     """How else the command line is asked then, which leaves no difference."""
-    explains: Optional[Callable[[Outcome, Again], bool]] = None
-    """Without another way to ask: whether the rule explains all that differs."""
+    explains: Optional[Callable[[Outcome, Again], Set[str]]] = None
+    """Without another way to ask: the kinds of differences that the rule explains, each as a whole."""
 
 
 def _marks_updates(outcome: Outcome) -> bool:
@@ -56,8 +56,8 @@ def _scriptlet_failed(outcome: Outcome) -> bool:
     return _LATE in outcome.ran.words and _LATE in outcome.applied.refused
 
 
-def _only_told(outcome: Outcome, _again: Again) -> bool:
-    return set(outcome.differences) == {"outcome"} and outcome.ran.status == 0
+def _told_as_done(outcome: Outcome, _again: Again) -> Set[str]:
+    return {"outcome"} if outcome.ran.status == 0 else set()
 
 
 def _fewer_keys(outcome: Outcome) -> bool:
@@ -65,12 +65,13 @@ def _fewer_keys(outcome: Outcome) -> bool:
     return bool(lines) and all(line.startswith("+") for line in lines)
 
 
-def _both_refused(outcome: Outcome, _again: Again) -> bool:
-    return set(outcome.differences) == {"keys"} and outcome.ours == outcome.before and outcome.ran.status != 0
+def _both_refused(outcome: Outcome, _again: Again) -> Set[str]:
+    return {"keys"} if outcome.ours == outcome.before and outcome.ran.status != 0 else set()
 
 
-def _both_done(outcome: Outcome, _again: Again) -> bool:
-    return set(outcome.differences) == {"keys"} and not outcome.applied.refused and outcome.ran.status == 0
+def _both_began(outcome: Outcome, _again: Again) -> Set[str]:
+    """Whether it comes to its end is another question: the keys are imported before."""
+    return {"keys"} if outcome.ours != outcome.before and "packages" not in outcome.differences else set()
 
 
 def _refuses_mixture(outcome: Outcome) -> bool:
@@ -84,22 +85,11 @@ def _installs_by_policy(outcome: Outcome) -> bool:
     return outcome.case.main.get("multilib_policy") == "all" and bool(wish.installs or wish.updates)
 
 
-def _pushed_out(outcome: Outcome, again: Again) -> bool:
+def _pushed_out(outcome: Outcome, again: Again) -> Set[str]:
     """Whether the command line wants more removed than the marks, and than what goes with them. It may stumble over a
     signature or a file later, which nobody gets to see here."""
-    return bool(_to_be_removed(outcome.ran) - _to_be_removed(again(Asked(removals_only=True)).ran))
-
-
-def _to_be_removed(ran: Ran) -> Set[str]:
-    """Names with architectures, from the table that stands before the question."""
-    found: Set[str] = set()
-    removing = False
-    for line in ran.words.splitlines():
-        if not line.startswith(" "):
-            removing = line.startswith("Removing")
-        elif removing:
-            found.add(".".join(line.split()[:2]))
-    return found
+    alone = again(Asked(removals_only=True)).ran
+    return set(outcome.differences) if planned(outcome.ran, "Removing") - planned(alone, "Removing") else set()
 
 
 _LATE = "Error in POSTIN scriptlet"
@@ -110,7 +100,7 @@ RULES = (
         "dnf writes a line about it and succeeds; the package is in, but may not work, which nobody is to find out by "
         "chance.",
         _scriptlet_failed,
-        explains=_only_told,
+        explains=_told_as_done,
     ),
     Rule(
         "a mark for removal pushes nothing else out",
@@ -131,7 +121,7 @@ RULES = (
         "Once dnf lacks a key, it imports all that the repository names. Here each is asked for, and those that no "
         "package wants are not.",
         _fewer_keys,
-        explains=_both_done,
+        explains=_both_began,
     ),
     Rule(
         "a marked update is insisted upon",
@@ -165,10 +155,16 @@ def explanation(outcome: Outcome, again: Again) -> Tuple[str, Outcome]:
     names: List[str] = []
     nearest = outcome
     while True:
+        left = set(nearest.differences)
+        explaining: List[str] = []
         for rule in RULES:
-            if rule.explains is not None and rule.concerns(nearest) and rule.explains(nearest, again):
-                return " + ".join([*names, rule.name]), nearest
-        rest = [rule for rule in RULES if rule.ask is not None and rule.name not in names and rule.concerns(outcome)]
+            explained = left & rule.explains(nearest, again) if rule.explains and rule.concerns(nearest) else set()
+            if explained:
+                left -= explained
+                explaining.append(rule.name)
+        if not left:
+            return " + ".join([*names, *explaining]), nearest
+        rest = [rule for rule in RULES if rule.ask is not None and rule.name not in names and rule.concerns(nearest)]
         if not rest:
             return "", nearest
         names.append(rest[0].name)

@@ -14,7 +14,7 @@ import signal
 import sys
 import traceback
 from pathlib import Path
-from typing import Any, Callable, Dict, List, NamedTuple, Optional, Sequence, Tuple
+from typing import Any, Callable, Dict, List, NamedTuple, Optional, Sequence, Set, Tuple
 
 import dnf
 import dnf.cli.main
@@ -199,6 +199,21 @@ class Ran(NamedTuple):
     status: int
     words: str
     """All that was written."""
+
+
+def planned(ran: Ran, *headings: str) -> Set[str]:
+    """The packages below these headings of the table that stands before the question, each with whatever else the
+    heading may say ("Installing weak dependencies")."""
+    found: Set[str] = set()
+    below = False
+    for line in ran.words.splitlines():
+        columns = line.split()
+        if not line.startswith(" "):
+            below = line.startswith(headings)
+        elif below and len(columns) >= 5:
+            name, arch, evr = columns[:3]
+            found.add(f"{name}-{evr if ':' in evr else f'0:{evr}'}.{arch}")
+    return found
 
 
 def command_line(
