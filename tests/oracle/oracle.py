@@ -6,7 +6,7 @@ from __future__ import annotations
 import os
 import shutil
 from pathlib import Path
-from typing import Dict, List, NamedTuple, Tuple
+from typing import Dict, List, NamedTuple, Sequence, Tuple
 
 import rpm
 
@@ -15,7 +15,7 @@ from case import Case, name_of
 from pool import Pool
 from rpmestate import Estate
 from rules import Outcome, explanation, unexplained
-from sides import Applied, Asked, Ran, begin, carry_out, command_line, helper_package, in_process
+from sides import Applied, Asked, Ran, begin, carry_out, command_line, helper_package, in_process, planned
 from state import State, differences, state_of
 
 
@@ -42,13 +42,12 @@ def judge(seed: int, pool: Pool, directory: Path) -> Verdict:
     lists = reading.told(case, theirs, directory / "list.log")
     lines = reading.differences(case, applied.read, before["packages"], lists)
 
-    def can_be_had(command: str, package: str) -> bool:
-        place = _copy(root, directory / "asked/root")
-        asked = name_of(package) if command == "upgrade" else package
-        command_line(case, [command, asked], place, directory / "asked.log")
-        return package in state_of(place)["packages"]
+    def would_bring(package: str, arguments: Sequence[str]) -> bool:
+        # It may stumble over a signature or a scriptlet later, which are no matter of the table.
+        ran = command_line(case, arguments, _copy(root, directory / "asked/root"), directory / "asked.log")
+        return package in planned(ran, "Installing", "Upgrading")
 
-    lines, reading_rules = unexplained(case, before, lines, can_be_had)
+    lines, reading_rules = unexplained(case, before, lines, would_bring)
     found: Dict[str, List[str]] = {"reading": lines} if lines else {}
     kind = "/".join(name for name in ("installs", "updates", "removes") if getattr(applied.wish, name)) or "nothing"
     rules = ""

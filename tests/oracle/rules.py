@@ -8,9 +8,10 @@ line does when it is asked in another way, or what the rule's own function looks
 from __future__ import annotations
 
 import fnmatch
-from typing import Callable, Dict, List, NamedTuple, Optional, Set, Tuple
+import re
+from typing import Callable, Dict, List, NamedTuple, Optional, Sequence, Set, Tuple
 
-from case import Case
+from case import Case, name_of
 from sides import Applied, Asked, Ran, planned
 from state import State
 
@@ -174,8 +175,8 @@ def explanation(outcome: Outcome, again: Again) -> Tuple[str, Outcome]:
             return " + ".join(names), nearest
 
 
-CanBeHad = Callable[[str, str], bool]
-"""Whether the command line brings this version by that command, "install" of it or "upgrade" of its name."""
+WouldBring = Callable[[str, Sequence[str]], bool]
+"""Whether this version is in what the command line would do with these arguments."""
 
 
 class ReadingRule(NamedTuple):
@@ -183,20 +184,38 @@ class ReadingRule(NamedTuple):
 
     name: str
     reason: str
-    explains: Callable[[Case, State, str, CanBeHad], bool]
+    explains: Callable[[Case, State, str, WouldBring], bool]
     """Whether it explains this line; the state is that of the root."""
 
 
-def _other_vendor(case: Case, there: State, line: str, can_be_had: CanBeHad) -> bool:
-    sign_and_kind, package = line.split()[:2]
-    if case.main.get("allow_vendor_change") != "0" or sign_and_kind[1:] not in ("update", "replacing"):
+def _other_vendor(case: Case, there: State, line: str, would_bring: WouldBring) -> bool:
+    sign_and_kind, nevra = line.split()[:2]
+    kind = sign_and_kind[1:]
+    if case.main.get("allow_vendor_change") != "0" or kind not in ("update", "replacing"):
         return False
-    vendors = {package.nevra: package.vendor for package in case.pool.packages}
-    if line.startswith("-"):
-        # An older one than the newest, which is of another vendor.
-        return can_be_had("upgrade", package)
-    others = any(vendors[installed] != vendors[package] for installed in there["packages"])
-    return others and not can_be_had("install", package)
+    name = name_of(nevra)
+    if line.startswith("+"):
+        # "install" takes another vendor's update beside a package that replaces what it would update.
+        asked = ["--best", "upgrade", name] if kind == "update" else ["install", nevra]
+        return _changes_vendor(case, there, nevra) and not would_bring(nevra, asked)
+    # One that "dnf list" leaves out in favour of what the solver must refuse.
+    rivals = {package.nevra for offered in case.repositories for package in offered.packages if package.name == name}
+    refused = [
+        rival
+        for rival in sorted(rivals - {nevra})
+        if _changes_vendor(case, there, rival) and not would_bring(rival, ["install", rival])
+    ]
+    without = [f"--exclude={rival}" for rival in refused]
+    return would_bring(nevra, ["--best", "--allowerasing", *without, "upgrade", name])
+
+
+def _changes_vendor(case: Case, there: State, nevra: str) -> bool:
+    """Whether it would take the place of a package of another vendor, for all that is known without versions."""
+    packages = {package.nevra: package for package in case.pool.packages}
+    package = packages[nevra]
+    gives_way = {package.name, *re.findall(r"(?m)^Obsoletes: *(\S+)", package.text)}
+    olds = [packages[installed] for installed in there["packages"] if packages[installed].name in gives_way]
+    return any(old.vendor != package.vendor for old in olds)
 
 
 READING_RULES = (
@@ -209,12 +228,12 @@ READING_RULES = (
 )
 
 
-def unexplained(case: Case, there: State, lines: List[str], can_be_had: CanBeHad) -> Tuple[List[str], Set[str]]:
+def unexplained(case: Case, there: State, lines: List[str], would_bring: WouldBring) -> Tuple[List[str], Set[str]]:
     """The lines of a comparison of the table that no rule explains, and the rules that explain the rest."""
     left: List[str] = []
     names: Set[str] = set()
     for line in lines:
-        rule = next((rule for rule in READING_RULES if rule.explains(case, there, line, can_be_had)), None)
+        rule = next((rule for rule in READING_RULES if rule.explains(case, there, line, would_bring)), None)
         if rule is None:
             left.append(line)
         else:
