@@ -39,6 +39,19 @@ def test_dependency_of_an_excluded_package_goes_along_with_it(
     assert estate.installed() == set()
 
 
+@pytest.mark.parametrize("option, names", [("excludepkgs", "app"), ("includepkgs", "lib lone")])
+def test_dependency_of_an_excluded_package_goes_along_where_something_comes_in(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost, option: str, names: str
+) -> None:
+    estate.repository("base", rpms.some("lib-1.0", "app-1.0", "lone-1.0"))
+    found = program.collect()
+    found.yumio.apply([found.offered("app")], [], [])
+    estate.write_main_config(**{option: names})
+    found = program.collect()
+    found.yumio.apply([found.offered("lone")], [], [found.there("app")])
+    assert estate.installed() == {"lone-1.0-1.noarch"}
+
+
 def test_excluded_package_that_nothing_needs_any_more_stays(
     estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
 ) -> None:

@@ -239,6 +239,12 @@ def test_filters_exist() -> None:
         assert list(query.filter(**{name: query})) == []
 
 
+def test_excludes_can_be_taken_back() -> None:
+    sack = hawkey.Sack()
+    for method in (sack.remove_excludes, sack.add_includes):
+        method(hawkey.Query(sack))
+
+
 def test_loggers_are_named_so() -> None:
     assert dnf.util.logger.name == "dnf"
     assert dnf.yum.rpmtrans.LoggingTransactionDisplay().rpm_logger.name == "dnf.rpm"

@@ -16,6 +16,7 @@ import dnf.cli.output
 import dnf.conf
 import dnf.exceptions
 import dnf.repo
+import hawkey
 import libdnf.error
 from dnf.exceptions import RepoError
 
@@ -100,17 +101,18 @@ class Base(dnf.Base):
         """
         self._fill(True)
 
-    def load_system(self, excludes: bool = True) -> None:
+    def load_system(self) -> None:
         """Reads the rpm database alone: what is then removed takes along what needs it, and nothing comes in instead.
 
-        Without `excludes` it hides nothing. Raises as `load_everything`.
+        Raises as `load_everything`.
         """
-        disabled = list(self.conf.disable_excludes)
-        self.conf.disable_excludes = disabled if excludes else ["all"]
-        try:
-            self._fill(True, available=False)
-        finally:
-            self.conf.disable_excludes = disabled
+        self._fill(True, available=False)
+
+    def show_installed(self) -> None:
+        """Lets the solver see the installed packages that the configuration excludes."""
+        installed = self.sack.query(flags=hawkey.IGNORE_EXCLUDES).installed()
+        self.sack.remove_excludes(installed)
+        self.sack.add_includes(installed)
 
     def load_metadata(self, read: Callable[[dnf.repo.Repo], None]) -> None:
         """Fetches what the enabled repositories are asked for, and gives each to `read`; the sack stays empty.

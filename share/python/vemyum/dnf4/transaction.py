@@ -50,14 +50,14 @@ class Transaction:
             repo._repo.setSyncStrategy(dnf.repo.SYNC_LAZY)
         if not request.incoming:
             base.load_system()
-            if hides_any(base, request.removes):
-                # The solver doesn't see what a hidden package needs, and what nothing needs any more without it.
-                base.load_system(excludes=False)
         if request.incoming or only_doubled(base, request.removes):
             for repo in enabled:
                 # Which the reading of the system alone has switched off.
                 repo.enable()
             base.load_everything()
+        if hides_any(base, request.removes):
+            # The solver doesn't see what a hidden package needs, and what nothing needs any more without it.
+            base.show_installed()
 
     def installed_names(self) -> List[str]:
         return [package.name for package in self._base.sack.query(flags=hawkey.IGNORE_EXCLUDES).installed()]
