@@ -308,6 +308,33 @@ def test_two_packages_of_one_key_are_one_question(
     assert estate.installed() == {"lone-1.0-1.noarch", "lib-1.0-1.noarch"}
 
 
+def test_key_holds_for_the_packages_of_a_repository_that_names_none(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost, key: Key, tmp_path: Path
+) -> None:
+    """Whichever comes first."""
+    repository(estate, [key.sign(rpms["lib-1.0"], tmp_path)], key.public.as_uri())
+    silent = [key.sign(rpms[name], tmp_path) for name in ("lone-1.0", "battery-1.0")]
+    repository(estate, silent, id="silent")
+    agree(host)
+    apply(program, "lone", "lib", "battery")
+    ((location, repo, packages, *_),) = questions(host)
+    assert (location, repo) == (key.public.as_uri(), "base")
+    assert set(packages.split(", ")) == {"lone-1.0-1.noarch", "lib-1.0-1.noarch", "battery-1.0-1.noarch"}
+    assert estate.installed() == {"lone-1.0-1.noarch", "lib-1.0-1.noarch", "battery-1.0-1.noarch"}
+
+
+def test_nobody_is_asked_where_no_repository_names_a_key_of_one_package(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost, key: Key, other: Key, tmp_path: Path
+) -> None:
+    repository(estate, [key.sign(rpms["lone-1.0"], tmp_path)], key.public.as_uri(), other.public.as_uri())
+    repository(estate, [other.sign(rpms["lib-1.0"], tmp_path)], id="silent")
+    agree(host)
+    with pytest.raises(program.errors.YumBaseError, match="gpgkey of repository silent: none\n"):
+        apply(program, "lone", "lib")
+    assert not questions(host)
+    assert keys_of(estate) == []
+
+
 def test_nothing_is_imported_before_the_last_question_is_answered(
     estate: Estate, rpms: Catalogue, program: Program, host: FakeHost, key: Key, other: Key, tmp_path: Path
 ) -> None:

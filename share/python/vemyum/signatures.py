@@ -35,16 +35,20 @@ _ISSUER = re.compile(r"\b[0-9a-f]{16,64}\b", re.I)
 
 class Fault(NamedTuple):
     """A package without a good signature: its name and version, file and repository, what the library says of it, and
-    what rpm says. `missing` are the keys that the rpm database lacks, as rpm calls them; `lacks_key` tells whether one
-    would help."""
+    what rpm says. `missing` are the keys that the rpm database lacks, as rpm calls them."""
 
     package: str
     path: str
     source: KeySource
-    lacks_key: bool
     message: str
     wrong: List[str]
     missing: List[str]
+
+    @property
+    def lacks_keys_alone(self) -> bool:
+        """A library may give up where the package's own repository names none; one for a package of another
+        repository may be the same."""
+        return bool(self.missing) and not self.wrong
 
 
 def require_signatures(root: str, check: Callable[[], List[Fault]]) -> None:
@@ -54,7 +58,7 @@ def require_signatures(root: str, check: Callable[[], List[Fault]]) -> None:
     faults = check()
     told: List[str] = []
     # Where something else is wrong as well, no key would help.
-    if faults and all(fault.lacks_key for fault in faults):
+    if faults and all(fault.lacks_keys_alone for fault in faults):
         try:
             keys = _agreed_keys(faults)
         except Missing as missing:
@@ -131,16 +135,23 @@ def _signatures(path: str) -> List[str]:
 
 
 def _agreed_keys(faults: List[Fault]) -> List[Agreed]:
-    """The keys that these packages want; all of them are agreed to. Raises Missing."""
+    """The keys that these packages want, from the repositories that have packages of theirs; all of them are agreed to.
+    Raises Missing."""
     wanting: Dict[str, List[Fault]] = {}
     for fault in faults:
         for issuer in _issuers(fault):
             wanting.setdefault(issuer, []).append(fault)
+    places = {
+        issuer: list({fault.source.id: fault.source for fault in signed}.values())
+        for issuer, signed in wanting.items()
+    }
+    if not all(any(source.gpgkey for source in sources) for sources in places.values()):
+        # Nobody is asked about the other keys.
+        raise Missing("")
     search = Search()
     for issuer, signed in wanting.items():
-        sources = list({fault.source.id: fault.source for fault in signed}.values())
         path = signed[0].path
-        search.find([issuer], sources, [fault.package for fault in signed], lambda key: _refusal(key, issuer, path))
+        search.find([issuer], places[issuer], [fault.package for fault in signed], lambda key: _refusal(key, issuer, path))
     return list(search.agreed.values())
 
 

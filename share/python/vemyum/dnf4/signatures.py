@@ -14,7 +14,6 @@ from .base import Base
 from .keys import RepositoryKeys
 
 _FATAL = 2
-_MAY_LACK_A_KEY = 1
 
 
 def signature_faults(base: Base, packages: List[dnf.package.Package]) -> List[Fault]:
@@ -27,10 +26,7 @@ def signature_faults(base: Base, packages: List[dnf.package.Package]) -> List[Fa
             result, message = base.package_signature_check(package)
             if result != 0:
                 source = RepositoryKeys(base.repos[package.reponame])
-                lacks_key = result == _MAY_LACK_A_KEY
-                found.append(
-                    Fault(str(package), package.localPkg(), source, lacks_key, message, list(wrong), list(missing))
-                )
+                found.append(Fault(str(package), package.localPkg(), source, message, list(wrong), list(missing)))
     return found
 
 

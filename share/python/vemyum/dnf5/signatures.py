@@ -16,7 +16,6 @@ from .keys import Source
 _Signature = libdnf5.rpm.RpmSignature
 
 _GOOD = (_Signature.CheckResult_OK, _Signature.CheckResult_SKIPPED)
-_MAY_LACK_A_KEY = (_Signature.CheckResult_FAILED_KEY_MISSING, _Signature.CheckResult_FAILED_NOT_TRUSTED)
 
 
 def signature_faults(base: Base, packages: List[Any]) -> List[Fault]:
@@ -33,12 +32,11 @@ def signature_faults(base: Base, packages: List[Any]) -> List[Fault]:
         said = lines(checksig(where, path))
         missing = missing_keys(said)
         damaged = [line for line in said if DAMAGED.search(line)]
-        lacks_key = result in _MAY_LACK_A_KEY and not damaged
         if result == _Signature.CheckResult_FAILED and not damaged and not missing:
             damaged = said
         id = package.get_repo_id()
         if id not in sources:
             sources[id] = Source(base, base.repository(id))
         message = valid(_Signature.check_result_to_string(result))
-        found.append(Fault(shown(package), path, sources[id], lacks_key, message, damaged, missing))
+        found.append(Fault(shown(package), path, sources[id], message, damaged, missing))
     return found
