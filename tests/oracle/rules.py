@@ -9,11 +9,14 @@ from __future__ import annotations
 
 import fnmatch
 import re
+from pathlib import Path
 from typing import Callable, Dict, List, NamedTuple, Optional, Sequence, Set, Tuple
+from urllib.parse import urlsplit
 
 from case import Case, name_of
 from sides import Applied, Asked, Ran, planned
 from state import State
+from vemyum import openpgp
 
 
 class Outcome(NamedTuple):
@@ -93,7 +96,30 @@ def _pushed_out(outcome: Outcome, again: Again) -> Set[str]:
     return set(outcome.differences) if planned(outcome.ran, "Removing") - planned(alone, "Removing") else set()
 
 
+def _lacks_keys(outcome: Outcome) -> bool:
+    return outcome.ours == outcome.before and bool(_LACKS_A_KEY.search(outcome.applied.refused))
+
+
+def _named_elsewhere(outcome: Outcome, _again: Again) -> Set[str]:
+    """Whether the command line has imported a key that is missing here, which none of the repositories names whose
+    packages it has signed."""
+    imported = {line[1:].partition("-")[0] for line in outcome.differences.get("keys", []) if line.startswith("+")}
+    places: Dict[str, Set[str]] = {}
+    for issuer, locations in _LACKS_A_KEY.findall(outcome.applied.refused):
+        places.setdefault(issuer, set()).update(one for one in locations.split(", ") if one.startswith("file:"))
+    for issuer, files in places.items():
+        keys = [key for file in files for key in openpgp.keys_in(Path(urlsplit(file).path).read_bytes())]
+        if issuer[-8:].lower() in imported and not any(key.part(issuer) for key in keys):
+            return set(outcome.differences)
+    return set()
+
+
+def _refuses_by_order(outcome: Outcome) -> bool:
+    return not outcome.applied.refused and "GPG check FAILED" in outcome.ran.words
+
+
 _LATE = "Error in POSTIN scriptlet"
+_LACKS_A_KEY = re.compile(r"Public key for .*\n    key: .*\b([0-9a-fA-F]{16,64})\n    gpgkey of repository \S+: (.*)")
 
 RULES = (
     Rule(
@@ -123,6 +149,20 @@ RULES = (
         "package wants are not.",
         _fewer_keys,
         explains=_both_began,
+    ),
+    Rule(
+        "a missing key comes from a repository with a package that it has signed",
+        "dnf looks at one package after the other. All keys that the repository of one names let in whatever comes "
+        "behind it, from any repository.",
+        _lacks_keys,
+        explains=_named_elsewhere,
+    ),
+    Rule(
+        "no package depends on its place among others",
+        "dnf refuses a package whose repository doesn't name the key, though the key comes with a package behind it; "
+        "asked once more, it takes both. Here all are looked at first.",
+        _refuses_by_order,
+        lambda asked: asked._replace(once_more=True),
     ),
     Rule(
         "a marked update is insisted upon",

@@ -247,10 +247,14 @@ class Asked(NamedTuple):
     """Updates by "install", which takes a version or fails, and not by "upgrade"."""
     options: Tuple[str, ...] = ()
     removals_only: bool = False
+    once_more: bool = False
+    """After a first time, which may have left keys behind."""
 
 
 def carry_out(case: Case, applied: Applied, root: Path, said: Path, asked: Asked) -> Ran:
     """The same wish on the command line."""
+    if asked.once_more:
+        carry_out(case, applied, root, said, asked._replace(once_more=False))
     rows = {row.name: row for row in applied.read.rows}
     wish = Wish(removes=applied.wish.removes) if asked.removals_only else applied.wish
     # What replaces a package of another name is no newer version of anything, so that nothing could be upgraded to it.
