@@ -40,6 +40,12 @@ rpm_system() {
     [[ $(system_kind) == @(fedora|el) ]]
 }
 
+# The name of the newest package library that VEM can be tried with here, if there is one.
+newest_backend() {
+    /usr/bin/python3 -B -c 'import sys; sys.path.insert(0, sys.argv[1]); from vemyum import choice
+print(*choice.complete()[-1:])' "$(dirname "${BASH_SOURCE[0]}")/../share/python"
+}
+
 # Status 0 where no package of an rpm system holds what makes the manuals: builds do without them there.
 manuals_lack() {
     rpm_system && ! rpm -q --quiet --whatprovides rubygem-asciidoctor rubygem-asciidoctor-pdf
