@@ -54,7 +54,7 @@ def run(test: str, folder: Path) -> int:
         "VEMSHARE": str(copy / "share"),
         "VEM_SYSTEMS": str(systems),
     }
-    for name in ("VEM_SCREEN", "VEM_SHOTS"):
+    for name in ("VEM_SCREEN", "VEM_SHOTS", "VEMBACKEND"):
         if name in os.environ:
             environment[name] = os.environ[name]
     command = [sys.executable, "-B", "-m", "pytest", "-p", "no:cacheprovider", "-q", "--basetemp", str(home / "tmp")]
