@@ -3,6 +3,8 @@
 
 from __future__ import annotations
 
+import re
+import shutil
 import sqlite3
 import subprocess
 import sys
@@ -144,6 +146,32 @@ def test_an_rpm_that_vanishes_is_told(lib: Estate, rpms: Catalogue) -> None:
     assert lib.installed() == {"lib-1.0-1.noarch"}
 
 
+@pytest.mark.parametrize("kib", [8, 64, 124, 250])
+def test_a_full_disk_leaves_no_half_made_history(lib: Estate, rpms: Catalogue, kib: int) -> None:
+    from vemyum.dnf5.historyfile import usable_history
+    from vemyum.errors import YumBaseError
+
+    folder = lib.root / STATE
+    folder.mkdir(parents=True)
+    began: List[bool] = []
+    if shutil.which("mount") is None:
+        pytest.skip("no mount here")
+    if subprocess.run(["mount", "-t", "tmpfs", "-o", f"size={kib + 4}k", "tmpfs", str(folder)]).returncode != 0:
+        pytest.skip("no right to mount")
+    try:
+        apply = Apply([rpms["lib-2.0"]])
+        with pytest.raises(YumBaseError) as error, usable_history(apply.settings):
+            apply.run(lambda: began.append(True))
+        left = [path.name for path in folder.glob("*.sqlite*")]
+    finally:
+        subprocess.run(["umount", "--lazy", str(folder)], check=True)
+    first, last = str(error.value).splitlines()
+    assert first.startswith(f"The history of transactions, /{STATE}/transaction_history.sqlite, cannot be used: ")
+    assert re.fullmatch(rf"Only \d+ KiB are free in /{STATE}\.", last)
+    assert lib.installed() == {"lib-2.0-1.noarch" if began else "lib-1.0-1.noarch"}
+    assert bool(left) == bool(began)
+
+
 def test_the_history_tells_what_was_asked_for(lib: Estate, rpms: Catalogue) -> None:
     lib.write_main_config(comment="always")
     Apply([rpms["lib-2.0"]]).run()
@@ -219,7 +247,6 @@ def test_the_inhibitor_is_there_while_rpm_works(
 
 def test_the_log_file_is_the_command_lines(lib: Estate, rpms: Catalogue) -> None:
     import logging
-    import re
 
     from vemyum.dnf5 import logfiles
 

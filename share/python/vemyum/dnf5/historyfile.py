@@ -25,6 +25,8 @@ _BESIDE = ("", "-wal", "-shm", "-journal")
 
 
 _ABOUT_HISTORY = re.compile(r"\bSQL")
+_STATEMENT = re.compile(r'(\bSQL\b[^"]*?): ".*"', re.S)
+"""What the library quotes of its own, a hundred lines at times."""
 
 
 def history_path(settings: Settings) -> str:
@@ -57,11 +59,13 @@ def usable_history(settings: Settings) -> Iterator[None]:
             made_for_nothing = False
         except (YumBaseError, *FAILURES) as error:
             # The library doesn't name the file.
-            text = words(error)
+            text = _STATEMENT.sub(r"\1", words(error))
             fault = _fault(path) if os.path.exists(path) else None
-            if fault is None and _ABOUT_HISTORY.search(text) is None:
+            about_history = _ABOUT_HISTORY.search(text) is not None
+            if fault is None and not about_history:
                 raise
-            raise YumBaseError("\n".join([_told(path, fault or text, False), *([text] if fault else [])])) from error
+            lines = [_told(path, fault or text, False), *([] if about_history else [text])]
+            raise YumBaseError("\n".join(lines)) from error
     finally:
         if made_for_nothing and os.path.exists(path) and _fault(path) is not None and not _holds_anything(path):
             for ending in _BESIDE:
