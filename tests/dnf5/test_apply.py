@@ -5,6 +5,7 @@ from __future__ import annotations
 
 import re
 import shutil
+import signal
 import sqlite3
 import subprocess
 import sys
@@ -223,6 +224,23 @@ def test_shutdown_is_held_off_once(lib: Estate) -> None:
         (folder / f"{name}.conf").write_text(f"[main]\nname={name}\nenabled=1\n")
     plugins = Base(read_settings()).library.get_plugins_info()
     assert {plugin.get_name(): plugin.is_loaded() for plugin in plugins} == {"systemd-inhibit": False, "actions": True}
+
+
+def test_no_thread_of_the_library_takes_a_signal(lib: Estate, rpms: Catalogue) -> None:
+    """Nor before rpm begins, when this one still does."""
+    masks: List[int] = []
+
+    def begins() -> None:
+        for status in Path("/proc/self/task").glob("*/status"):
+            words = status.read_text().split()
+            masks.append(int(words[words.index("SigBlk:") + 1], 16))
+
+    Apply([rpms["lib-2.0"]]).run(begins)
+    ours, *others = sorted(masks)
+    assert ours == 0 and len(others) == 1
+    for number in (signal.SIGINT, signal.SIGTERM, signal.SIGHUP, signal.SIGQUIT, signal.SIGPIPE):
+        assert others[0] & 1 << number - 1
+    assert signal.pthread_sigmask(signal.SIG_BLOCK, ()) == set()
 
 
 def test_the_inhibitor_is_there_while_rpm_works(

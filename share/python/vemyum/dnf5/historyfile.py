@@ -38,7 +38,7 @@ def history_path(settings: Settings) -> str:
 
 
 def open_history(path: str, mode: str) -> sqlite3.Connection:
-    """`mode` is SQLite's: "ro" or "rw". sqlite3.Error."""
+    """`mode` is SQLite's: "ro" or "rw", with more of its parameters. sqlite3.Error."""
     return sqlite3.connect(f"file:{urllib.parse.quote(path)}?mode={mode}", uri=True)
 
 
@@ -76,7 +76,9 @@ def usable_history(settings: Settings) -> Iterator[None]:
 def _holds_anything(path: str) -> bool:
     """Whether there is an entry; where nobody can tell, there may be one."""
     try:
-        with contextlib.closing(open_history(path, "ro")) as database:
+        # Else SQLite wants room for what it puts beside it.
+        alone = not os.path.exists(path + "-wal") or os.path.getsize(path + "-wal") == 0
+        with contextlib.closing(open_history(path, "ro&immutable=1" if alone else "ro")) as database:
             return database.execute("select count(*) from trans").fetchone() != (0,)
     except sqlite3.Error as error:
         return "no such table" not in str(error)

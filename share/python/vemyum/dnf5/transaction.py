@@ -9,7 +9,8 @@ from __future__ import annotations
 
 import contextlib
 import logging
-from typing import Any, Callable, List, Optional, Set, Tuple
+import signal
+from typing import Any, Callable, Iterator, List, Optional, Set, Tuple
 
 import libdnf5.base
 import libdnf5.rpm
@@ -164,9 +165,10 @@ class Transaction:
         assert self._log is not None
         transaction = self._resolved.transaction
         config = self._loaded.config
-        with contextlib.ExitStack() as while_rpm_works:
+        with contextlib.ExitStack() as until_rpm_begins, contextlib.ExitStack() as while_rpm_works:
 
             def begin() -> None:
+                until_rpm_begins.close()
                 begins()
                 while_rpm_works.enter_context(inhibited())
 
@@ -176,6 +178,7 @@ class Transaction:
             transaction.set_comment("; ".join(filter(None, (config.comment, self._request.comment))))
             point_rpm_at(self._settings.root)
             self._log.rpm_said.clear()
+            until_rpm_begins.enter_context(_signals_waiting())
             try:
                 with in_full():
                     # The library would note down as done what is only to be tested.
@@ -231,6 +234,20 @@ class Transaction:
         if self._system is not None:
             self._system.close()
         self._system = None
+
+
+@contextlib.contextmanager
+def _signals_waiting() -> Iterator[None]:
+    """Lets all signals wait while the block runs, on the threads that are made there for good.
+
+    The library makes one for the output of scriptlets before rpm begins. What this process keeps off from then on
+    would end it there.
+    """
+    before = signal.pthread_sigmask(signal.SIG_BLOCK, signal.valid_signals())
+    try:
+        yield
+    finally:
+        signal.pthread_sigmask(signal.SIG_SETMASK, before)
 
 
 def _show_installed(system: System) -> None:
