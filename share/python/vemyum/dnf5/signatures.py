@@ -3,12 +3,14 @@
 
 from __future__ import annotations
 
+import os
 from typing import Any, Dict, List
 
 import libdnf5.rpm
 
 from ..signatures import DAMAGED, Fault, checksig, keys_below, lines, missing_keys
 from ..text import valid
+from ..texts import _
 from .base import Base
 from .download import shown
 from .keys import Source
@@ -37,6 +39,17 @@ def signature_faults(base: Base, packages: List[Any]) -> List[Fault]:
         id = package.get_repo_id()
         if id not in sources:
             sources[id] = Source(base, base.repository(id))
-        message = valid(_Signature.check_result_to_string(result))
-        found.append(Fault(shown(package), path, sources[id], message, damaged, missing))
+        file = valid(os.path.basename(path))
+        found.append(Fault(shown(package), path, sources[id], _message(result, file), damaged, missing))
     return found
+
+
+def _message(result: int, file: str) -> str:
+    """The library's words for it don't name the file."""
+    if result == _Signature.CheckResult_FAILED_KEY_MISSING:
+        return _("The public key for {file} is not installed").format(file=file)
+    if result == _Signature.CheckResult_FAILED_NOT_TRUSTED:
+        return _("The public key for {file} is not trusted").format(file=file)
+    if result == _Signature.CheckResult_FAILED_NOT_SIGNED:
+        return _("{file} is not signed").format(file=file)
+    return valid(_Signature.check_result_to_string(result))
