@@ -112,7 +112,8 @@ def downloaded(base: Base, repo: libdnf5.repo.Repo, address: str, target: str) -
 
 def content_of(base: Base, repo: libdnf5.repo.Repo, address: str) -> bytes:
     """RuntimeError with the library's words."""
-    listener, base.downloads.listener = base.downloads.listener, None
+    causes = _Causes()
+    listener, base.downloads.listener = base.downloads.listener, causes
     try:
         with tempfile.TemporaryDirectory(prefix="vem-") as folder:
             target = os.path.join(folder, "file")
@@ -120,9 +121,26 @@ def content_of(base: Base, repo: libdnf5.repo.Repo, address: str) -> bytes:
             with open(target, "rb") as file:
                 return file.read()
     except FAILURES as error:
-        raise RuntimeError(words(error)) from error
+        raise RuntimeError("; ".join(dict.fromkeys(causes.told)) or words(error)) from error
     finally:
         base.downloads.listener = listener
+
+
+class _Causes:
+    """Hears why a file couldn't be had, which the library's failure doesn't tell."""
+
+    def __init__(self) -> None:
+        self.told: List[str] = []
+
+    def begin(self, _repository: int, _what: str, _size: int) -> int:
+        return 0
+
+    def progress(self, number: int, size: int, done: int) -> None: ...
+
+    def end(self, number: int, status: int, message: str) -> None: ...
+
+    def mirror_failed(self, _number: int, message: str, _address: str) -> None:
+        self.told.append(message.strip())
 
 
 class Metadata:
