@@ -124,3 +124,13 @@ def test_a_step_back_is_told_as_a_replacement(estate: Estate, rpms: Catalogue) -
     estate.repository("base", [rpms["lib-1.0"]])
     planned = Apply([rpms["lib-1.0"]]).plan()
     assert kinds(planned) == {"lib-1.0": "install", "lib-2.0": "(replaced)"}
+
+
+def test_metadata_are_no_newer_than_the_table(estate: Estate, rpms: Catalogue) -> None:
+    estate.write_main_config(metadata_expire="0")
+    estate.repository("base", [rpms["lib-1.0"]])
+    apply = Apply([rpms["lib-1.0"]])
+    estate.repository("base", [rpms["lib-2.0"]])
+    assert kinds(apply.plan()) == {"lib-1.0": "install"}
+    # It is what a new table shows.
+    assert kinds(Apply([rpms["lib-2.0"]]).plan()) == {"lib-2.0": "install"}
