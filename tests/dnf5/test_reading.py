@@ -3,6 +3,8 @@
 
 from __future__ import annotations
 
+import contextlib
+import gc
 import hashlib
 import os
 import re
@@ -50,7 +52,7 @@ def test_acts_come_repository_by_repository(two: Estate, host: FakeHost, loaded:
     assert acts(host) == [
         "base/repomd.xml",
         "base/primary",
-        "base 0",
+        "MD Read 0",
         "base 1",
         "more/repomd.xml",
         "more/primary",
@@ -89,7 +91,7 @@ def test_repository_without_an_address_is_told(two: Estate, loaded: Callable[...
 
 
 def test_optional_repository_is_done_without_and_its_cause_told(
-    two: Estate, web: Web, loaded: Callable[..., Any]  # noqa: F811
+    two: Estate, host: FakeHost, web: Web, loaded: Callable[..., Any]  # noqa: F811
 ) -> None:
     two.write_repo_file("more", baseurl=f"{web.url}/nowhere", extra={"skip_if_unavailable": "1"})
     system = loaded()
@@ -97,6 +99,8 @@ def test_optional_repository_is_done_without_and_its_cause_told(
     (told,) = system.lacking
     assert "Unable to read repository more" in told and "Status code: 404" in told
     assert [state.enabled for state in system.repositories()] == [True, False]
+    # Its acts come to an end, too.
+    assert "more 1" in acts(host)
     assert not system.sections["more"].enabled
 
 
@@ -270,3 +274,26 @@ def test_damaged_rpm_database_is_told_with_rpms_words(two: Estate, loaded: Calla
         loaded()
     assert str(caught.value).startswith(f"The rpm database of {two.root} cannot be read: ")
     assert "file is not a database" in str(caught.value)
+
+
+@pytest.mark.parametrize("kind", ["metalink", "mirrorlist"])
+def test_list_of_mirrors_that_cannot_be_used_costs_nobody_an_open_file(
+    two: Estate, web: Web, opened: Callable[..., Any], kind: str  # noqa: F811
+) -> None:
+    from vemyum.errors import RepoError
+
+    web.page("/page", b"<html><head><title>Please log in</title></head></html>")
+    two.write_repo_file("base", extra={"baseurl": None, kind: f"{web.url}/page"})
+    before = len(os.listdir("/proc/self/fd"))
+    system = opened()
+    with pytest.raises(RepoError) as caught:
+        system.load()
+    with contextlib.ExitStack() as files:
+        others = [files.enter_context(open("/dev/null")) for _ in range(20)]
+        system.close()
+        # The exception holds it, too.
+        del system, caught
+        gc.collect()
+        for file in others:
+            os.fstat(file.fileno())
+    assert len(os.listdir("/proc/self/fd")) <= before

@@ -3,7 +3,9 @@
 
 from __future__ import annotations
 
+import contextlib
 import logging
+import os
 import re
 import traceback
 from typing import Any, Dict, Iterator, List, Optional, Protocol, Sequence
@@ -82,6 +84,25 @@ class _NoKeys(libdnf5.repo.RepoCallbacks):  # type: ignore[misc]
         return False
 
 
+class _Placeholders:
+    """Descriptors that stand where another one may be closed that isn't there any more."""
+
+    _MANY = 16
+    """As many as the library has open at a time, and more."""
+
+    def __init__(self) -> None:
+        first = os.memfd_create("placeholder")
+        self._file = os.fstat(first)
+        self._descriptors = [first, *(os.dup(first) for _ in range(self._MANY - 1))]
+
+    def __del__(self) -> None:
+        for descriptor in self._descriptors:
+            # Somebody else may have got the number of one that was closed.
+            with contextlib.suppress(OSError):
+                if os.path.samestat(os.fstat(descriptor), self._file):
+                    os.close(descriptor)
+
+
 class Base:
     """One view of the system: a Base of the library that has its settings, nothing loaded yet.
 
@@ -101,6 +122,7 @@ class Base:
         while not self._set_up(without):
             pass
         self._callbacks: List[Any] = []
+        self._placeholders: List[_Placeholders] = []
         self.downloads = _Downloads()
         self.library.set_download_callbacks(libdnf5.repo.DownloadCallbacksUniquePtr(self.downloads))
 
@@ -166,6 +188,15 @@ class Base:
         # Python would drop them while the library still calls them.
         self._callbacks.append(callbacks)
         repo.set_callbacks(libdnf5.repo.RepoCallbacksUniquePtr(callbacks))
+
+    def take_vacant_descriptors(self) -> None:
+        """To be called behind a failed download. The library closes the file of a list of mirrors that it could not use
+        once more when the Base goes: whatever has that number by then."""
+        self._placeholders.append(_Placeholders())
+
+    def __del__(self) -> None:
+        # Before the placeholders.
+        self.__dict__.pop("library", None)
 
     def repositories(self, enabled_only: bool = False) -> Iterator[libdnf5.repo.Repo]:
         """All that are configured, in their order."""

@@ -90,6 +90,9 @@ def _load_trusting(base: Base, repo: libdnf5.repo.Repo, path: str, fingerprint: 
     other.downloads.listener = base.downloads.listener
     try:
         other.library.get_repo_sack().load_repos(libdnf5.repo.Repo.Type_AVAILABLE)
+    except FAILURES:
+        other.take_vacant_descriptors()
+        raise
     finally:
         other.downloads.listener = None
         other.log.tell()

@@ -168,6 +168,7 @@ class Metadata:
         try:
             self._bring(repo, progress, lazy or repo.get_sync_strategy() != repo.SyncStrategy_TRY_CACHE)
         except (*FAILURES, RepoError, OSError) as error:
+            self._base.take_vacant_descriptors()
             text = os_error_text(error) if isinstance(error, OSError) else words(error)
             if _UNREADABLE.search(text):
                 progress.causes += filter(None, [self._page(repo)])
@@ -181,10 +182,12 @@ class Metadata:
     def path(self, repo: libdnf5.repo.Repo, kind: str) -> Optional[str]:
         """The file of a repository's metadata in the cache; None where there is none."""
         found = str(repo.get_metadata_path(kind))
-        if not found:
-            with_name = [file.href for file in _listed_in(repo.get_cachedir()) if file.kind == kind]
-            found = next((os.path.join(repo.get_cachedir(), href) for href in with_name), "")
-        return found if found and os.path.exists(found) else None
+        if found:
+            return found
+        # One that the library doesn't read.
+        cache = repo.get_cachedir()
+        places = [os.path.join(cache, file.href) for file in _listed_in(cache) if file.kind == kind]
+        return next(filter(os.path.exists, places), None)
 
     def _bring(self, repo: libdnf5.repo.Repo, progress: FetchingProgress, lazy: bool) -> None:
         cached = self._is_cached(repo, progress)

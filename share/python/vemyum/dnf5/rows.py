@@ -21,9 +21,14 @@ _functions = libdnf5.rpm._rpm
 _OPERATORS = {">": "GT", ">=": "GE", "<": "LT", "<=": "LE", "=": "EQ"}
 
 
+def _text(function: Callable[[Any], str]) -> property:
+    """Old headers hold bytes of any encoding."""
+    return property(lambda row: valid(function(row)))
+
+
 def _optional(function: Callable[[Any], str]) -> property:
     """None for what isn't stated, which is an empty text to the library."""
-    return property(lambda row: function(row) or None)
+    return property(lambda row: valid(function(row)) or None)
 
 
 class Row(libdnf5.rpm.Package):  # type: ignore[misc]
@@ -37,9 +42,9 @@ class Row(libdnf5.rpm.Package):  # type: ignore[misc]
     evr = property(_functions.Package_get_evr)
     size = property(_functions.Package_get_download_size)
     reponame = property(_functions.Package_get_repo_id)
-    summary = property(_functions.Package_get_summary)
-    description = property(_functions.Package_get_description)
-    group = property(_functions.Package_get_group)
+    summary = _text(_functions.Package_get_summary)
+    description = _text(_functions.Package_get_description)
+    group = _text(_functions.Package_get_group)
     vendor = _optional(_functions.Package_get_vendor)
     sourcerpm = _optional(_functions.Package_get_sourcerpm)
     license = _optional(_functions.Package_get_license)
@@ -62,7 +67,7 @@ class InstalledRow(Row):
 
 def _stated(vendor: str) -> Optional[str]:
     # The library's word for a header without a vendor.
-    return None if vendor in ("", "<NULL>") else vendor
+    return None if vendor in ("", "<NULL>") else valid(vendor)
 
 
 def rows(packages: Iterable[Any], base: Base, kind: type = Row) -> List[Any]:

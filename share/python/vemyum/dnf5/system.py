@@ -4,10 +4,12 @@
 from __future__ import annotations
 
 import dataclasses
+import errno
 import glob
 import logging
 import os
 import re
+import urllib.parse
 from typing import Any, Callable, Dict, Iterable, List, Optional, Sequence, Set, Tuple
 
 import libdnf5.repo
@@ -154,6 +156,8 @@ class System:
             if not repo.get_config().skip_if_unavailable:
                 raise
             self._leave_out(repo, str(error))
+            if self._progress:
+                ReadingProgress().end(repo)
             return False
 
     def _leave_out(self, repo: libdnf5.repo.Repo, text: str) -> None:
@@ -172,7 +176,7 @@ class System:
         for repo in list(base.repositories(enabled_only=True)):
             if latest is not None and unread and self._progress:
                 # The library reads all of them in one go, behind the last one.
-                reading.begin(latest, False)
+                reading.begin(latest, must_convert(latest))
                 reading.end(latest)
             unread = self._brought(metadata, repo)
             if unread:
@@ -350,7 +354,9 @@ class System:
     # Of a package ------------------------------------------------------------------------------------------------
 
     def metadata_file(self, repository: str, kind: str) -> Optional[str]:
-        base = self.base
+        base = self._base
+        if base is None:
+            return None
         try:
             repo = base.repository(repository)
         except KeyError:
@@ -378,10 +384,19 @@ class System:
                 return header
         finally:
             transaction.closeDB()
-        raise YumBaseError(_("{package} is no longer installed").format(package=row))
+        raise FileNotFoundError(errno.ENOENT, os.strerror(errno.ENOENT), str(row))
 
     def local_path(self, row: Any) -> Optional[str]:
-        return None if self._base is None else str(row.get_package_path()) or None
+        if self._base is None:
+            return None
+        repo = row.get_repo()
+        if repo.is_local():
+            # It is there already; the library copies it.
+            base = next(iter(repo.get_config().baseurl), "")
+            path = os.path.join(urllib.parse.unquote(urllib.parse.urlsplit(base).path), row.location or "")
+            if os.path.exists(path):
+                return path
+        return str(row.get_package_path()) or None
 
     def open_entry(self) -> Optional[OpenEntry]:
         return open_entry(self.base)
