@@ -12,6 +12,7 @@ put it in front of the question mark.
 from __future__ import annotations
 
 import contextlib
+import functools
 import html
 import itertools
 import logging
@@ -29,7 +30,7 @@ from ..errors import RepoError, os_error_text
 from ..repomd import FOLDER, NAME, File, join, listed, verify
 from ..space import scarce_space
 from ..texts import _
-from ..webpage import told
+from ..webpage import asked, told
 from .base import Base
 from .failures import FAILURES, words
 from .log import LOGGER
@@ -48,8 +49,6 @@ TRIES = 5
 _ALWAYS = frozenset(("primary", "group", "group_gz", "modules"))
 _OPTIONAL = frozenset((FILE_LISTS, CHANGELOGS, "updateinfo"))
 """Kinds of which a cache that another program has filled may lack one."""
-_ENOUGH = 1 << 16
-"""Bytes of a page that are looked at."""
 
 
 def without_durations(text: str) -> str:
@@ -316,20 +315,11 @@ class Metadata:
         downloaded(self._base, repo, address, target)
 
     def _page(self, repo: libdnf5.repo.Repo) -> Optional[str]:
-        """Asks once more for what begins the reading of a repository, where the library cannot read the answer, and
-        tells of a web page."""
-        config = repo.get_config()
-        bases = len(config.baseurl)
+        bases = len(repo.get_config().baseurl)
+        found = addresses(repo)
         # Lists of mirrors stand behind the base addresses.
-        address = next(iter(addresses(repo)[bases:]), "")
-        if not address and bases:
-            address = f"{addresses(repo)[0].rstrip('/')}/{FOLDER}/{NAME}"
-        if not address.startswith(("http://", "https://")):
-            return None
-        try:
-            return told(address, content_of(self._base, repo, address)[:_ENOUGH])
-        except (RuntimeError, OSError):
-            return None
+        mirrors = next(iter(found[bases:]), "")
+        return asked(mirrors, found[:bases], functools.partial(content_of, self._base, repo))
 
 
 def _listed_in(cache: str) -> List[File]:

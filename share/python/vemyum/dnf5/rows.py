@@ -13,12 +13,11 @@ from typing import Any, Callable, Iterable, List, Optional
 import libdnf5.rpm
 
 from ..backend import Dependency
-from ..packages import split_evr
+from ..packages import dependency
 from ..text import valid
 from .base import Base
 
 _functions = libdnf5.rpm._rpm
-_OPERATORS = {">": "GT", ">=": "GE", "<": "LT", "<=": "LE", "=": "EQ"}
 
 
 def _text(function: Callable[[Any], str]) -> property:
@@ -80,15 +79,9 @@ def rows(packages: Iterable[Any], base: Base, kind: type = Row) -> List[Any]:
 
 
 def dependencies(found: Iterable[Any]) -> List[Dependency]:
-    return [_dependency(reldep) for reldep in found]
-
-
-def _dependency(reldep: Any) -> Dependency:
-    """As yum tells it. A rich dependency is one long name."""
-    operator = _OPERATORS.get(reldep.get_relation().strip())
-    if operator is None:
-        return (valid(str(reldep)), None, (None, None, None))
-    return (valid(reldep.get_name()), operator, split_evr(reldep.get_version()))
+    return [
+        dependency(str(reldep), reldep.get_name(), reldep.get_relation(), reldep.get_version()) for reldep in found
+    ]
 
 
 def checksum(row: Any) -> Optional[str]:

@@ -10,17 +10,26 @@ from __future__ import annotations
 import itertools
 import logging
 import os
-from typing import Dict, Iterable, List, Optional, Tuple
+from typing import Dict, Iterable, List, Optional, Sequence, Tuple
 
 import libdnf5.base
 import libdnf5.conf
 import libdnf5.exception
 
 from .. import rights
-from ..configuration import LOG_DIRECTORY, MainFile, _protected_packages, main_file
+from ..configuration import (
+    LOG_DIRECTORY,
+    MainFile,
+    main_file,
+    protected_packages,
+    regular_main_file,
+    require_utf8,
+    variable,
+    variable_files,
+)
 from ..database import point_rpm_at
 from ..errors import YumBaseError
-from ..root import as_configured, below, files, managed_root
+from ..root import as_configured, below, managed_root
 from ..texts import _
 from .failures import FAILURES, words
 from .log import LOGGER, Log
@@ -100,8 +109,9 @@ class Settings:
             _define(variables, name, value)
 
     def _set_defaults(self, config: libdnf5.conf.ConfigMain) -> None:
-        # Whoever can't remove packages may not even be able to read which ones are protected.
-        protected = [_PROTECTED, *_protected_packages(self.root)] if rights.is_administrator() else []
+        protected = protected_packages(self.root)
+        if protected:
+            protected.append(_PROTECTED)
         config.get_protected_packages_option().set(_DEFAULT, protected)
         config.get_reposdir_option().set(_DEFAULT, list(self._main.repository_directories))
         config.get_logdir_option().set(_DEFAULT, LOG_DIRECTORY)
@@ -124,11 +134,8 @@ def read_settings() -> Settings:
     root = managed_root()
     own = rights.own_directory(root) if rights.keeps_own_directory(root) else None
     main = main_file(root)
+    path = regular_main_file(root)
     settings = Settings(root, main)
-    path = settings.main_path
-    if os.path.exists(path) and not (os.path.isfile(path) or os.path.isdir(path)):
-        # To open a pipe would wait for ever.
-        raise YumBaseError(_("{file} is not a regular file").format(file=main.path))
     point_rpm_at(root)
     library = libdnf5.base.Base()
     log = Log(library)
@@ -137,7 +144,7 @@ def read_settings() -> Settings:
         settings.checks = unclear(stated, "main", None)
         settings.load_into(library)
         config = library.get_config()
-        variables = _variable_files(root, config.varsdir)
+        variables = _variables(root, config.varsdir)
         directories = {name: getattr(config, name) for name in ("persistdir", "logdir")}
         # The library passes over what the main file states, for the administrator.
         directories["cachedir"] = (
@@ -160,7 +167,7 @@ def read_settings() -> Settings:
     places = {name: below(root, substituted(path)) for name, path in directories.items()}
     settings.repository_directories = [below(root, substituted(path)) for path in settings.repository_directories]
     if own is not None:
-        places = {name: os.path.join(own, rights._DIRECTORIES[name]) for name in places}
+        places = {name: os.path.join(own, rights.OWN_FOLDERS[name]) for name in places}
     settings.cache_directory = places["cachedir"]
     settings.persistent_directory = places["persistdir"]
     settings.log_directory = places["logdir"]
@@ -201,7 +208,7 @@ def _main_section(path: str) -> libdnf5.conf.ConfigParser:
         for name, section in parser.get_data():
             if name == "main" and not all(map(_is_text, itertools.chain(*options(section).items()))):
                 # Paths may be among what it says; they are not to be guessed.
-                _require_utf8(path)
+                require_utf8(path, ValueError(name))
     return parser
 
 
@@ -210,31 +217,15 @@ def _is_text(text: str) -> bool:
     return text.isascii() or not any("\udc80" <= character <= "\udcff" for character in text)
 
 
-def _require_utf8(file: str) -> None:
-    """YumBaseError names the first line that isn't."""
-    with open(file, "rb") as stream:
-        content = stream.read()
-    try:
-        content.decode("utf-8")
-    except UnicodeDecodeError as fault:
-        line = content.count(b"\n", 0, fault.start) + 1
-        text = _("{file}, line {line}: the text is not in UTF-8").format(file=file, line=line)
-        raise YumBaseError(text) from fault
-
-
 # Variables -------------------------------------------------------------------------------------------------------
 
 
-def _variable_files(root: str, directories: Iterable[str]) -> Dict[str, str]:
-    """The variables that the managed system defines, a file each. YumBaseError names one that isn't UTF-8."""
+def _variables(root: str, directories: Sequence[str]) -> Dict[str, str]:
+    """Those that the managed system defines. YumBaseError names a file that isn't UTF-8."""
     found: Dict[str, str] = {}
-    # The library would follow links of the managed system out of the root.
-    for path, place in (pair for directory in directories for pair in files(root, directory, "*")):
+    for name, file in variable_files(root, directories):
         try:
-            with open(place, encoding="utf-8") as stream:
-                found[os.path.basename(path)] = stream.readline().removesuffix("\n")
-        except UnicodeDecodeError:
-            _require_utf8(place)
+            found[name] = variable(file)
         except OSError as error:
             # One that may not be read.
             logging.getLogger(LOGGER).warning("%s", error)
