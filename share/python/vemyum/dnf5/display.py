@@ -22,6 +22,8 @@ from .plan import Solved, pkgtup
 _NOT_CRITICAL = 1
 """A scriptlet's end that keeps its package neither out nor in."""
 
+_RPM_PREFIXES = ("error: ", "warning: ")
+
 _CODES: Dict[int, int] = {
     kinds.TransactionItemAction_INSTALL: TS_INSTALL,
     kinds.TransactionItemAction_UPGRADE: TS_UPDATE,
@@ -172,5 +174,5 @@ def _script_text(nevra: Any, kind: int) -> str:
 
 def rpms_lines(said: Iterable[Tuple[int, str]]) -> List[str]:
     """rpm's warnings and errors, as it would print them."""
-    prefixes = {False: locale.dgettext("rpm", "error: "), True: locale.dgettext("rpm", "warning: ")}
-    return [f"{prefixes[level <= logging.WARNING]}{text}" for level, text in said]
+    error, warning = (locale.dgettext("rpm", prefix) for prefix in _RPM_PREFIXES)
+    return [f"{warning if level <= logging.WARNING else error}{text}" for level, text in said]
