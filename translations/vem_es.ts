@@ -239,10 +239,6 @@ Corresponde a la opción debuglevel (-d) de yum.</translation>
         <translation>Acerca de</translation>
     </message>
     <message>
-        <source>&lt;h3&gt;VEM %1&lt;/h3&gt;&lt;hr&gt;&lt;p&gt;VEM, Verified Estate Manager, is a graphical user interface which allows a user to make modifications to the installed rpm packages on a system.&lt;/p&gt;&lt;p&gt;Capabilities:&lt;p&gt;&lt;ul&gt;&lt;li&gt;Install new packages or update existing packages by downloading them from a yum package repository&lt;/li&gt;&lt;li&gt;Remove existing packages.&lt;/li&gt;&lt;li&gt;Configure sets of repositories from which to obtain new and updated packages.&lt;/li&gt;&lt;li&gt;Examine installed packages or packages available for installation or update&lt;/li&gt;&lt;li&gt;Install, update, or remove groups of packages&lt;/li&gt;&lt;li&gt;Install or update suites of packages&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;Web page: &lt;a href=&quot;https://vem.example.org/&quot;&gt;https://vem.example.org/&lt;/a&gt;&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;VEM %1&lt;/h3&gt;&lt;hr&gt;&lt;p&gt;VEM, Verified Estate Manager, es una interfaz gráfica que permite modificar los paquetes rpm instalados en un sistema.&lt;/p&gt;&lt;p&gt;Funciones:&lt;p&gt;&lt;ul&gt;&lt;li&gt;Instalar paquetes nuevos o actualizar los existentes descargándolos de un repositorio de paquetes yum&lt;/li&gt;&lt;li&gt;Eliminar paquetes existentes&lt;/li&gt;&lt;li&gt;Configurar los repositorios de los que se obtienen paquetes nuevos y actualizados&lt;/li&gt;&lt;li&gt;Examinar los paquetes instalados o disponibles para instalar o actualizar&lt;/li&gt;&lt;li&gt;Instalar, actualizar o eliminar grupos de paquetes&lt;/li&gt;&lt;li&gt;Instalar o actualizar suites de paquetes&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;Página web: &lt;a href=&quot;https://vem.example.org/&quot;&gt;https://vem.example.org/&lt;/a&gt;&lt;/p&gt;</translation>
-    </message>
-    <message>
         <source>Search</source>
         <translation>Buscar</translation>
     </message>
@@ -511,6 +507,18 @@ La ventana permanece abierta hasta que termine.</translation>
     <message>
         <source>Incomplete Table</source>
         <translation>Tabla incompleta</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;VEM %1&lt;/h3&gt;&lt;hr&gt;&lt;p&gt;VEM, Verified Estate Manager, is a graphical user interface which allows a user to make modifications to the installed rpm packages on a system.&lt;/p&gt;&lt;p&gt;Capabilities:&lt;p&gt;&lt;ul&gt;&lt;li&gt;Install new packages or update existing packages by downloading them from a yum package repository&lt;/li&gt;&lt;li&gt;Remove existing packages.&lt;/li&gt;&lt;li&gt;Configure sets of repositories from which to obtain new and updated packages.&lt;/li&gt;&lt;li&gt;Examine installed packages or packages available for installation or update&lt;/li&gt;&lt;li&gt;Install, update, or remove groups of packages&lt;/li&gt;&lt;li&gt;Install or update suites of packages&lt;/li&gt;&lt;/ul&gt;</source>
+        <translation>&lt;h3&gt;VEM %1&lt;/h3&gt;&lt;hr&gt;&lt;p&gt;VEM, Verified Estate Manager, es una interfaz gráfica que permite modificar los paquetes rpm instalados en un sistema.&lt;/p&gt;&lt;p&gt;Funciones:&lt;p&gt;&lt;ul&gt;&lt;li&gt;Instalar paquetes nuevos o actualizar los existentes descargándolos de un repositorio de paquetes yum&lt;/li&gt;&lt;li&gt;Eliminar paquetes existentes&lt;/li&gt;&lt;li&gt;Configurar los repositorios de los que se obtienen paquetes nuevos y actualizados&lt;/li&gt;&lt;li&gt;Examinar los paquetes instalados o disponibles para instalar o actualizar&lt;/li&gt;&lt;li&gt;Instalar, actualizar o eliminar grupos de paquetes&lt;/li&gt;&lt;li&gt;Instalar o actualizar suites de paquetes&lt;/li&gt;&lt;/ul&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;Package library: %1&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Biblioteca de paquetes: %1&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;Web page: &lt;a href=&quot;https://vem.example.org/&quot;&gt;https://vem.example.org/&lt;/a&gt;&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Página web: &lt;a href=&quot;https://vem.example.org/&quot;&gt;https://vem.example.org/&lt;/a&gt;&lt;/p&gt;</translation>
     </message>
 </context>
 <context>

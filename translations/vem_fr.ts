@@ -239,10 +239,6 @@ Correspond à l’option debuglevel (-d) de yum.</translation>
         <translation>À propos</translation>
     </message>
     <message>
-        <source>&lt;h3&gt;VEM %1&lt;/h3&gt;&lt;hr&gt;&lt;p&gt;VEM, Verified Estate Manager, is a graphical user interface which allows a user to make modifications to the installed rpm packages on a system.&lt;/p&gt;&lt;p&gt;Capabilities:&lt;p&gt;&lt;ul&gt;&lt;li&gt;Install new packages or update existing packages by downloading them from a yum package repository&lt;/li&gt;&lt;li&gt;Remove existing packages.&lt;/li&gt;&lt;li&gt;Configure sets of repositories from which to obtain new and updated packages.&lt;/li&gt;&lt;li&gt;Examine installed packages or packages available for installation or update&lt;/li&gt;&lt;li&gt;Install, update, or remove groups of packages&lt;/li&gt;&lt;li&gt;Install or update suites of packages&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;Web page: &lt;a href=&quot;https://vem.example.org/&quot;&gt;https://vem.example.org/&lt;/a&gt;&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;VEM %1&lt;/h3&gt;&lt;hr&gt;&lt;p&gt;VEM, Verified Estate Manager, est une interface graphique qui permet de modifier les paquets rpm installés sur un système.&lt;/p&gt;&lt;p&gt;Fonctionnalités&#xa0;:&lt;p&gt;&lt;ul&gt;&lt;li&gt;Installer de nouveaux paquets ou mettre à jour les paquets existants en les téléchargeant depuis un dépôt de paquets yum&lt;/li&gt;&lt;li&gt;Supprimer des paquets existants&lt;/li&gt;&lt;li&gt;Configurer les dépôts qui fournissent les nouveaux paquets et les mises à jour&lt;/li&gt;&lt;li&gt;Examiner les paquets installés ou ceux qui peuvent être installés ou mis à jour&lt;/li&gt;&lt;li&gt;Installer, mettre à jour ou supprimer des groupes de paquets&lt;/li&gt;&lt;li&gt;Installer ou mettre à jour des suites de paquets&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;Page web&#xa0;: &lt;a href=&quot;https://vem.example.org/&quot;&gt;https://vem.example.org/&lt;/a&gt;&lt;/p&gt;</translation>
-    </message>
-    <message>
         <source>Search</source>
         <translation>Rechercher</translation>
     </message>
@@ -511,6 +507,18 @@ La fenêtre reste ouverte jusqu’à la fin de l’opération.</translation>
     <message>
         <source>Incomplete Table</source>
         <translation>Tableau incomplet</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;VEM %1&lt;/h3&gt;&lt;hr&gt;&lt;p&gt;VEM, Verified Estate Manager, is a graphical user interface which allows a user to make modifications to the installed rpm packages on a system.&lt;/p&gt;&lt;p&gt;Capabilities:&lt;p&gt;&lt;ul&gt;&lt;li&gt;Install new packages or update existing packages by downloading them from a yum package repository&lt;/li&gt;&lt;li&gt;Remove existing packages.&lt;/li&gt;&lt;li&gt;Configure sets of repositories from which to obtain new and updated packages.&lt;/li&gt;&lt;li&gt;Examine installed packages or packages available for installation or update&lt;/li&gt;&lt;li&gt;Install, update, or remove groups of packages&lt;/li&gt;&lt;li&gt;Install or update suites of packages&lt;/li&gt;&lt;/ul&gt;</source>
+        <translation>&lt;h3&gt;VEM %1&lt;/h3&gt;&lt;hr&gt;&lt;p&gt;VEM, Verified Estate Manager, est une interface graphique qui permet de modifier les paquets rpm installés sur un système.&lt;/p&gt;&lt;p&gt;Fonctionnalités&#xa0;:&lt;p&gt;&lt;ul&gt;&lt;li&gt;Installer de nouveaux paquets ou mettre à jour les paquets existants en les téléchargeant depuis un dépôt de paquets yum&lt;/li&gt;&lt;li&gt;Supprimer des paquets existants&lt;/li&gt;&lt;li&gt;Configurer les dépôts qui fournissent les nouveaux paquets et les mises à jour&lt;/li&gt;&lt;li&gt;Examiner les paquets installés ou ceux qui peuvent être installés ou mis à jour&lt;/li&gt;&lt;li&gt;Installer, mettre à jour ou supprimer des groupes de paquets&lt;/li&gt;&lt;li&gt;Installer ou mettre à jour des suites de paquets&lt;/li&gt;&lt;/ul&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;Package library: %1&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Bibliothèque de paquets&#xa0;: %1&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;Web page: &lt;a href=&quot;https://vem.example.org/&quot;&gt;https://vem.example.org/&lt;/a&gt;&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Page web&#xa0;: &lt;a href=&quot;https://vem.example.org/&quot;&gt;https://vem.example.org/&lt;/a&gt;&lt;/p&gt;</translation>
     </message>
 </context>
 <context>

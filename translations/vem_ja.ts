@@ -239,10 +239,6 @@ yum の debuglevel (-d) オプションに相当します。</translation>
         <translation>VEM について</translation>
     </message>
     <message>
-        <source>&lt;h3&gt;VEM %1&lt;/h3&gt;&lt;hr&gt;&lt;p&gt;VEM, Verified Estate Manager, is a graphical user interface which allows a user to make modifications to the installed rpm packages on a system.&lt;/p&gt;&lt;p&gt;Capabilities:&lt;p&gt;&lt;ul&gt;&lt;li&gt;Install new packages or update existing packages by downloading them from a yum package repository&lt;/li&gt;&lt;li&gt;Remove existing packages.&lt;/li&gt;&lt;li&gt;Configure sets of repositories from which to obtain new and updated packages.&lt;/li&gt;&lt;li&gt;Examine installed packages or packages available for installation or update&lt;/li&gt;&lt;li&gt;Install, update, or remove groups of packages&lt;/li&gt;&lt;li&gt;Install or update suites of packages&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;Web page: &lt;a href=&quot;https://vem.example.org/&quot;&gt;https://vem.example.org/&lt;/a&gt;&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;VEM %1&lt;/h3&gt;&lt;hr&gt;&lt;p&gt;VEM (Verified Estate Manager) は、システムにインストールされている rpm パッケージを変更するためのグラフィカルユーザーインターフェースです。&lt;/p&gt;&lt;p&gt;主な機能:&lt;p&gt;&lt;ul&gt;&lt;li&gt;yum パッケージリポジトリからダウンロードして、新しいパッケージのインストールや既存のパッケージの更新を行う&lt;/li&gt;&lt;li&gt;既存のパッケージを削除する&lt;/li&gt;&lt;li&gt;新しいパッケージや更新されたパッケージの取得元となるリポジトリを設定する&lt;/li&gt;&lt;li&gt;インストール済みのパッケージや、インストールまたは更新が可能なパッケージを調べる&lt;/li&gt;&lt;li&gt;パッケージグループのインストール、更新、削除を行う&lt;/li&gt;&lt;li&gt;パッケージスイートのインストールや更新を行う&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;Web ページ: &lt;a href=&quot;https://vem.example.org/&quot;&gt;https://vem.example.org/&lt;/a&gt;&lt;/p&gt;</translation>
-    </message>
-    <message>
         <source>Search</source>
         <translation>検索</translation>
     </message>
@@ -511,6 +507,18 @@ The window stays open until that has come to its end.</source>
     <message>
         <source>Incomplete Table</source>
         <translation>不完全な表</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;VEM %1&lt;/h3&gt;&lt;hr&gt;&lt;p&gt;VEM, Verified Estate Manager, is a graphical user interface which allows a user to make modifications to the installed rpm packages on a system.&lt;/p&gt;&lt;p&gt;Capabilities:&lt;p&gt;&lt;ul&gt;&lt;li&gt;Install new packages or update existing packages by downloading them from a yum package repository&lt;/li&gt;&lt;li&gt;Remove existing packages.&lt;/li&gt;&lt;li&gt;Configure sets of repositories from which to obtain new and updated packages.&lt;/li&gt;&lt;li&gt;Examine installed packages or packages available for installation or update&lt;/li&gt;&lt;li&gt;Install, update, or remove groups of packages&lt;/li&gt;&lt;li&gt;Install or update suites of packages&lt;/li&gt;&lt;/ul&gt;</source>
+        <translation>&lt;h3&gt;VEM %1&lt;/h3&gt;&lt;hr&gt;&lt;p&gt;VEM (Verified Estate Manager) は、システムにインストールされている rpm パッケージを変更するためのグラフィカルユーザーインターフェースです。&lt;/p&gt;&lt;p&gt;主な機能:&lt;p&gt;&lt;ul&gt;&lt;li&gt;yum パッケージリポジトリからダウンロードして、新しいパッケージのインストールや既存のパッケージの更新を行う&lt;/li&gt;&lt;li&gt;既存のパッケージを削除する&lt;/li&gt;&lt;li&gt;新しいパッケージや更新されたパッケージの取得元となるリポジトリを設定する&lt;/li&gt;&lt;li&gt;インストール済みのパッケージや、インストールまたは更新が可能なパッケージを調べる&lt;/li&gt;&lt;li&gt;パッケージグループのインストール、更新、削除を行う&lt;/li&gt;&lt;li&gt;パッケージスイートのインストールや更新を行う&lt;/li&gt;&lt;/ul&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;Package library: %1&lt;/p&gt;</source>
+        <translation>&lt;p&gt;パッケージライブラリ: %1&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;Web page: &lt;a href=&quot;https://vem.example.org/&quot;&gt;https://vem.example.org/&lt;/a&gt;&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Web ページ: &lt;a href=&quot;https://vem.example.org/&quot;&gt;https://vem.example.org/&lt;/a&gt;&lt;/p&gt;</translation>
     </message>
 </context>
 <context>

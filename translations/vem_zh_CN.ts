@@ -239,10 +239,6 @@ This corresponds to yum&apos;s debuglevel (-d) option.</source>
         <translation>关于 VEM</translation>
     </message>
     <message>
-        <source>&lt;h3&gt;VEM %1&lt;/h3&gt;&lt;hr&gt;&lt;p&gt;VEM, Verified Estate Manager, is a graphical user interface which allows a user to make modifications to the installed rpm packages on a system.&lt;/p&gt;&lt;p&gt;Capabilities:&lt;p&gt;&lt;ul&gt;&lt;li&gt;Install new packages or update existing packages by downloading them from a yum package repository&lt;/li&gt;&lt;li&gt;Remove existing packages.&lt;/li&gt;&lt;li&gt;Configure sets of repositories from which to obtain new and updated packages.&lt;/li&gt;&lt;li&gt;Examine installed packages or packages available for installation or update&lt;/li&gt;&lt;li&gt;Install, update, or remove groups of packages&lt;/li&gt;&lt;li&gt;Install or update suites of packages&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;Web page: &lt;a href=&quot;https://vem.example.org/&quot;&gt;https://vem.example.org/&lt;/a&gt;&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;VEM %1&lt;/h3&gt;&lt;hr&gt;&lt;p&gt;VEM（Verified Estate Manager）是一个图形用户界面程序，用于更改系统中已安装的 rpm 软件包。&lt;/p&gt;&lt;p&gt;功能：&lt;p&gt;&lt;ul&gt;&lt;li&gt;从 yum 软件包仓库下载并安装新的软件包，或更新现有的软件包&lt;/li&gt;&lt;li&gt;删除现有的软件包&lt;/li&gt;&lt;li&gt;配置用于获取新软件包和更新的各个仓库&lt;/li&gt;&lt;li&gt;查看已安装的软件包以及可安装或可更新的软件包&lt;/li&gt;&lt;li&gt;安装、更新或删除软件包组&lt;/li&gt;&lt;li&gt;安装或更新软件包套件&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;网页：&lt;a href=&quot;https://vem.example.org/&quot;&gt;https://vem.example.org/&lt;/a&gt;&lt;/p&gt;</translation>
-    </message>
-    <message>
         <source>Search</source>
         <translation>搜索</translation>
     </message>
@@ -511,6 +507,18 @@ The window stays open until that has come to its end.</source>
     <message>
         <source>Incomplete Table</source>
         <translation>表格不完整</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;VEM %1&lt;/h3&gt;&lt;hr&gt;&lt;p&gt;VEM, Verified Estate Manager, is a graphical user interface which allows a user to make modifications to the installed rpm packages on a system.&lt;/p&gt;&lt;p&gt;Capabilities:&lt;p&gt;&lt;ul&gt;&lt;li&gt;Install new packages or update existing packages by downloading them from a yum package repository&lt;/li&gt;&lt;li&gt;Remove existing packages.&lt;/li&gt;&lt;li&gt;Configure sets of repositories from which to obtain new and updated packages.&lt;/li&gt;&lt;li&gt;Examine installed packages or packages available for installation or update&lt;/li&gt;&lt;li&gt;Install, update, or remove groups of packages&lt;/li&gt;&lt;li&gt;Install or update suites of packages&lt;/li&gt;&lt;/ul&gt;</source>
+        <translation>&lt;h3&gt;VEM %1&lt;/h3&gt;&lt;hr&gt;&lt;p&gt;VEM（Verified Estate Manager）是一个图形用户界面程序，用于更改系统中已安装的 rpm 软件包。&lt;/p&gt;&lt;p&gt;功能：&lt;p&gt;&lt;ul&gt;&lt;li&gt;从 yum 软件包仓库下载并安装新的软件包，或更新现有的软件包&lt;/li&gt;&lt;li&gt;删除现有的软件包&lt;/li&gt;&lt;li&gt;配置用于获取新软件包和更新的各个仓库&lt;/li&gt;&lt;li&gt;查看已安装的软件包以及可安装或可更新的软件包&lt;/li&gt;&lt;li&gt;安装、更新或删除软件包组&lt;/li&gt;&lt;li&gt;安装或更新软件包套件&lt;/li&gt;&lt;/ul&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;Package library: %1&lt;/p&gt;</source>
+        <translation>&lt;p&gt;软件包库：%1&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;Web page: &lt;a href=&quot;https://vem.example.org/&quot;&gt;https://vem.example.org/&lt;/a&gt;&lt;/p&gt;</source>
+        <translation>&lt;p&gt;网页：&lt;a href=&quot;https://vem.example.org/&quot;&gt;https://vem.example.org/&lt;/a&gt;&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
