@@ -103,9 +103,9 @@ def test_session_without_a_configuration_takes_no_lock(lamp: Tuple[Estate, Progr
     main.write_text("no ini file")
     host.reset()
     yumio = program.namespace["YumIO"]()
-    with pytest.raises(program.errors.LockError, match="'/etc/yum.conf' failed"):
+    with pytest.raises(program.errors.LockError, match="/etc/yum.conf"):
         yumio.lock()
-    assert "'/etc/yum.conf' failed" in host.text("errorlog")
+    assert "/etc/yum.conf" in host.text("errorlog")
     main.write_text(readable)
     yumio = program.namespace["YumIO"]()
     with pytest.raises(program.errors.LockError, match=f"held by process {other.pid} "):
