@@ -1,18 +1,13 @@
 # SPDX-License-Identifier: GPL-2.0-or-later
-"""Repository files that aren't UTF-8, over which dnf stumbles.
-
-The configuration editor knows bytes: whatever a user types into it beyond ASCII is one byte a character,
-Latin-1, in texts and in names of files. Such bytes are read here as the characters that they were.
-"""
+"""Repository files that aren't UTF-8, over which dnf stumbles."""
 
 from __future__ import annotations
 
-import codecs
 import contextlib
 import logging
 import os
 import tempfile
-from typing import Any, Dict, Iterator, List, Optional, Tuple
+from typing import Any, Dict, Iterator, List, Tuple
 
 import dnf.conf
 import dnf.conf.config
@@ -23,21 +18,10 @@ import libdnf.conf
 
 from .configuration import check_signatures_unless_told, library_words
 from ..errors import os_error_text
+from ..latin1 import decoded, fault
 from ..root import files, within
 from ..sections import RepositorySection
 from ..text import valid
-from ..texts import _
-
-_UTF8_ELSE_LATIN1 = "vem.latin1"
-
-
-def _as_latin1(error: UnicodeError) -> Tuple[str, int]:
-    if not isinstance(error, UnicodeDecodeError):
-        raise error
-    return error.object[error.start : error.end].decode("latin-1"), error.end
-
-
-codecs.register_error(_UTF8_ELSE_LATIN1, _as_latin1)
 
 
 class RepositoryReader(dnf.conf.read.RepoReader):
@@ -147,29 +131,13 @@ def _utf8_file(path: str, refused: List[str]) -> Iterator[str]:
             refused.append(os_error_text(error))
         yield path
         return
-    fault = _fault(path, content)
-    if fault is None:
+    oddity = fault(path, content)
+    if oddity is None:
         yield path
         return
-    logging.getLogger("dnf").warning("%s", fault)
+    logging.getLogger("dnf").warning("%s", oddity)
     # For its owner's eyes only: an address may hold a password.
     with tempfile.NamedTemporaryFile(prefix="vem-", suffix=".repo") as copy:
-        copy.write(content.decode("utf-8", _UTF8_ELSE_LATIN1).encode("utf-8"))
+        copy.write(decoded(content).encode("utf-8"))
         copy.flush()
         yield copy.name
-
-
-def _fault(path: str, content: bytes) -> Optional[str]:
-    """Tells where the first thing is that isn't UTF-8."""
-    try:
-        path.encode("utf-8")
-    except UnicodeEncodeError:
-        return _("The name of {path} is read as Latin-1; other programs may refuse it").format(path=path)
-    try:
-        content.decode("utf-8")
-    except UnicodeDecodeError as error:
-        line = content.count(b"\n", 0, error.start) + 1
-        return _("{path}, line {line}, is read as Latin-1; other programs may refuse it").format(
-            path=path, line=line
-        )
-    return None

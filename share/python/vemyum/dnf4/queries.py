@@ -10,26 +10,19 @@ for by their complete address.
 from __future__ import annotations
 
 import functools
-import hashlib
 import os
 import shutil
 import tempfile
-import urllib.parse
-from typing import Any, Dict, Iterable, List, NamedTuple, Optional
-from xml.etree import ElementTree
+from typing import Any, Dict, Iterable, List, Optional
 
 import dnf.repo
 from dnf.exceptions import RepoError
 
 from .. import host
+from ..backend import CHANGELOGS
+from ..repomd import FOLDER, NAME, join, listed, verify
 from ..texts import _
 from ..webpage import told
-
-_NAMESPACE = "{http://linux.duke.edu/metadata/repo}"
-_FOLDER = "repodata"
-_REPOMD = "repomd.xml"
-_LEFT_OUT = ("_db", "_zck")
-"""Endings of the types that dnf has no use for: other forms of what is fetched anyway."""
 
 
 def base_addresses(repo: dnf.repo.Repo) -> List[str]:
@@ -38,13 +31,6 @@ def base_addresses(repo: dnf.repo.Repo) -> List[str]:
     if repo.metalink or repo.mirrorlist or not any("?" in address for address in addresses):
         return []
     return addresses
-
-
-def join(address: str, path: str) -> str:
-    """The address of a file of the repository. What would end or change a query's value is coded."""
-    if "?" in address:
-        path = urllib.parse.quote(path, safe="/~:^")
-    return f"{address.rstrip('/')}/{path.lstrip('/')}"
 
 
 def rounds(payloads: Iterable[Any]) -> int:
@@ -65,13 +51,6 @@ def _parameters(payload: Any, address: str) -> Dict[str, Any]:
     parameters: Dict[str, Any] = type(payload)._target_params(payload)
     parameters["relative_url"] = join(address, parameters["relative_url"])
     return parameters
-
-
-class _File(NamedTuple):
-    href: str
-    checksum_type: str
-    checksum: str
-    size: int
 
 
 class MetadataFetcher:
@@ -96,7 +75,7 @@ class MetadataFetcher:
         os.makedirs(self._cache, exist_ok=True)
         stage = tempfile.mkdtemp(prefix="tmpdir.", dir=self._cache)
         try:
-            os.mkdir(os.path.join(stage, _FOLDER))
+            os.mkdir(os.path.join(stage, FOLDER))
             self._fetch_from_any(stage, cached)
             # dnf keeps what it looked at before.
             self._repo._repo.loadCache(False)
@@ -114,33 +93,34 @@ class MetadataFetcher:
         raise RepoError(str(fault)) from fault
 
     def _fetch_from(self, address: str, stage: str, cached: bool) -> None:
-        repomd = os.path.join(stage, _FOLDER, _REPOMD)
-        self._begin(_REPOMD, 0)
-        self._download(address, f"{_FOLDER}/{_REPOMD}", repomd)
-        page = told(join(address, f"{_FOLDER}/{_REPOMD}"), _content(repomd))
+        repomd = os.path.join(stage, FOLDER, NAME)
+        self._begin(NAME, 0)
+        self._download(address, f"{FOLDER}/{NAME}", repomd)
+        page = told(join(address, f"{FOLDER}/{NAME}"), _content(repomd))
         if page is not None:
             raise RepoError(page)
         self._end(os.path.getsize(repomd))
-        if cached and _content(repomd) == _content(os.path.join(self._cache, _FOLDER, _REPOMD)):
+        if cached and _content(repomd) == _content(os.path.join(self._cache, FOLDER, NAME)):
             # dnf tells the age by this file.
             os.utime(self._repo.get_metadata_path("primary"))
             return
 
-        files = [file for file in _listed(repomd, self._repo.load_metadata_other)]
+        with_other = self._repo.load_metadata_other
+        files = [file for file in listed(repomd) if with_other or file.kind != CHANGELOGS]
         total = sum(file.size for file in files)
         self._begin("primary", total)
         done = 0
         for file in files:
             target = os.path.join(stage, file.href)
             self._download(address, file.href, target)
-            _verify(file, target)
+            verify(file, target)
             done += file.size
             if self._meter is not None:
                 host.collect_meter_update(done)
         self._end(total)
-        kept = os.path.join(self._cache, _FOLDER)
+        kept = os.path.join(self._cache, FOLDER)
         shutil.rmtree(kept, ignore_errors=True)
-        os.rename(os.path.join(stage, _FOLDER), kept)
+        os.rename(os.path.join(stage, FOLDER), kept)
 
     def _download(self, address: str, path: str, target: str) -> None:
         # The library opens the descriptor once more, for writing and reading.
@@ -159,49 +139,3 @@ class MetadataFetcher:
 def _content(path: str) -> bytes:
     with open(path, "rb") as file:
         return file.read()
-
-
-def _listed(repomd: str, with_other: bool) -> List[_File]:
-    """The files that repomd.xml lists and dnf wants."""
-    try:
-        root = ElementTree.parse(repomd).getroot()
-    except ElementTree.ParseError as error:
-        raise RepoError(_("{file} parser error: {error}").format(file=_REPOMD, error=error)) from error
-    files = []
-    for data in root.iter(f"{_NAMESPACE}data"):
-        kind = data.get("type", "")
-        if kind.endswith(_LEFT_OUT) or (kind == "other" and not with_other):
-            continue
-        location, checksum = data.find(f"{_NAMESPACE}location"), data.find(f"{_NAMESPACE}checksum")
-        href = "" if location is None else location.get("href", "")
-        if checksum is None or href != f"{_FOLDER}/{os.path.basename(href)}":
-            raise RepoError(
-                _("{file} lists {kind} in a form that is not understood").format(file=_REPOMD, kind=kind)
-            )
-        size = data.findtext(f"{_NAMESPACE}size") or ""
-        files.append(
-            _File(
-                href,
-                checksum.get("type", ""),
-                (checksum.text or "").strip(),
-                int(size) if size.isdecimal() else 0,
-            )
-        )
-    return files
-
-
-def _verify(file: _File, path: str) -> None:
-    name = "sha1" if file.checksum_type == "sha" else file.checksum_type
-    try:
-        digest = hashlib.new(name)
-        if not digest.digest_size:
-            raise ValueError("a digest of any length proves nothing")
-    except ValueError as error:
-        raise RepoError(
-            _("{file}: the checksum type {type} is not known").format(file=file.href, type=file.checksum_type)
-        ) from error
-    with open(path, "rb") as stream:
-        for chunk in iter(lambda: stream.read(1 << 20), b""):
-            digest.update(chunk)
-    if digest.hexdigest() != file.checksum.lower():
-        raise RepoError(_("{file}: the checksum is not the announced one").format(file=file.href))
