@@ -16,6 +16,7 @@ import hawkey
 import libdnf.transaction as lt
 
 from ..apply.messages import Change, Request
+from ..apply.solving import lists_all, only_doubled, solve
 from ..backend import PkgTup
 from ..packages import pkgtup
 from ..signatures import require_signatures
@@ -23,7 +24,7 @@ from .base import open_base
 from .configuration import Settings
 from .display import Display
 from .download import download, not_in_cache
-from .plan import enabled_streams, hides_any, mark, only_doubled, solve
+from .plan import Solver, enabled_streams
 from .signatures import signature_faults
 
 
@@ -50,12 +51,14 @@ class Transaction:
             repo._repo.setSyncStrategy(dnf.repo.SYNC_LAZY)
         if not request.incoming:
             base.load_system()
-        if request.incoming or only_doubled(base, request.removes):
+        solver = Solver(base)
+        names = [one.name for one in request.removes]
+        if request.incoming or only_doubled(solver.installed(names), solver.install_only(names), request.removes):
             for repo in enabled:
                 # Which the reading of the system alone has switched off.
                 repo.enable()
             base.load_everything()
-        if hides_any(base, request.removes):
+        if not lists_all(solver.visible(names), request.removes):
             # The solver doesn't see what a hidden package needs, and what nothing needs any more without it.
             base.show_installed()
 
@@ -63,7 +66,7 @@ class Transaction:
         return [package.name for package in self._base.sack.query(flags=hawkey.IGNORE_EXCLUDES).installed()]
 
     def solve(self) -> List[Change]:
-        changes = solve(self._base, mark(self._base, self._request.incoming, self._request.removes))
+        changes = solve(Solver(self._base), self._request.incoming, self._request.removes)
         self._incoming = sorted(self._base.transaction.install_set)
         return changes
 

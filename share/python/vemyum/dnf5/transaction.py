@@ -10,12 +10,13 @@ from __future__ import annotations
 import contextlib
 import logging
 import signal
-from typing import Any, Callable, Iterator, List, Optional, Set, Tuple
+from typing import Any, Callable, Iterator, List, Optional, Sequence, Set, Tuple
 
 import libdnf5.base
 import libdnf5.rpm
 
 from ..apply.messages import Change, Request
+from ..apply.solving import lists_all, only_doubled, solve
 from ..backend import PkgTup
 from ..database import point_rpm_at
 from ..errors import YumBaseError
@@ -58,12 +59,14 @@ class Transaction:
         incoming, removes = self._request.incoming, self._request.removes
         with_repositories = bool(incoming)
         system = self._read(with_repositories)
-        if not incoming and plan.only_doubled(system, removes):
+        names = [one.name for one in removes]
+        named = [row for row in system.installed() if row.name in names]
+        if not incoming and only_doubled(named, plan.install_only(system.base, names), removes):
             with_repositories = True
             self._system = self._new_system()
             system = self._read(with_repositories)
         self._names = [row.name for row in system.installed()]
-        if not plan.lists_all(system.base.library, removes):
+        if not lists_all(plan.installed(system.base, names), removes):
             # The solver doesn't see what a hidden package needs, and what nothing needs any more without it.
             visible = set(map(_place, _available(system.base)))
             self._system = self._new_system()
@@ -106,23 +109,23 @@ class Transaction:
     # Solving -----------------------------------------------------------------------------------------------------
 
     def solve(self) -> List[Change]:
-        library = self._loaded.library
-        self._log = TransactionLog(library)
+        self._log = TransactionLog(self._loaded.library)
+        solver = plan.Solver(self._loaded, self._gone_without)
         try:
             with in_full():
-                marks = plan.mark(library, self._request.incoming, self._request.removes)
-                self._solved = plan.solve(library, marks, lambda: self._gone_without(marks))
-                return plan.changes(library, marks, self._solved)
+                changes = solve(solver, self._request.incoming, self._request.removes)
+                self._solved = solver.solved
+                return changes
         finally:
             self._log.take()
 
-    def _gone_without(self, marks: plan.Marks) -> Set[PkgTup]:
+    def _gone_without(self, removed: Sequence[Any]) -> Set[PkgTup]:
         """Of the system alone, whatever is excluded."""
         alone = System(self._settings, [], progress=False)
         _show_installed(alone)
         alone.load()
         point_rpm_at(self._settings.root)
-        return plan.removed_alone(alone.base.library, map(plan.pkgtup, marks.removed))
+        return plan.removed_alone(alone.base, removed)
 
     def streams(self) -> List[str]:
         """None: the library has no words for them here."""
