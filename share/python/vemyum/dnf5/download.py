@@ -5,17 +5,15 @@ from __future__ import annotations
 
 import hashlib
 import os
-from collections import OrderedDict
-from typing import Any, Collection, Dict, List, Optional
+from typing import Any, Collection, List, Optional
 
 import libdnf5.repo
 
-from .. import host
+from ..download import Causes, File, Meter, Place, failure, require_files
 from ..errors import YumBaseError
-from ..space import scarce_space
+from ..repomd import join
 from ..text import valid
 from ..texts import _
-from ..repomd import join
 from .base import Base
 from .failures import FAILURES, words
 from .metadata import base_addresses, downloaded
@@ -24,32 +22,26 @@ _EXISTS = libdnf5.repo.DownloadCallbacks.TransferStatus_ALREADYEXISTS
 _FAILED = libdnf5.repo.DownloadCallbacks.TransferStatus_ERROR
 
 
-class _File:
+class _File(File):
     def __init__(self, package: Any, fetched: bool) -> None:
         """`fetched` is False for one that the library copies from this machine, which is quick, and no download."""
+        super().__init__(valid(os.path.basename(package.get_location())), int(package.get_download_size()))
         self.fetched = fetched
         self.package = shown(package)
-        self.name = valid(os.path.basename(package.get_location()))
-        self.size = int(package.get_download_size())
-        self.done = 0
-        self.begun = False
-        self.ended = False
         self.good = False
-        self.causes: Dict[str, None] = {}
+        self.causes = Causes()
+        self.said = ""
+        """What the library says of its end."""
 
 
 class DownloadMeter:
-    """Tells the engine of one file after the other, though several are fetched at a time.
-
-    A file that is fetched beside the one on show waits for its turn and is then told with what it has. The library
-    tells files by what they were given to it with: here their places in the list of packages, counted from 1.
-    """
+    """What the library tells of downloads. It tells files by what they were given to it with: here their places in the
+    list of packages, counted from 1."""
 
     def __init__(self, packages: List[Any], local: Collection[str] = ()) -> None:
         """`local` are the repositories that lie on this machine."""
         self._files = [_File(package, package.get_repo_id() not in local) for package in packages]
-        self._waiting: "OrderedDict[int, _File]" = OrderedDict()
-        self._shown = 0
+        self._meter = Meter()
 
     def begin(self, place: int, _what: str, _size: int) -> int:
         return place
@@ -59,7 +51,7 @@ class DownloadMeter:
         # Each file begins with nothing, be it there already.
         if file is not None and file.fetched and (done or file.begun):
             file.done = done
-            self._tell(place, file)
+            self._meter.tell(file)
 
     def end(self, place: int, status: int, message: str) -> None:
         file = self._file(place)
@@ -67,55 +59,35 @@ class DownloadMeter:
             return
         file.ended = True
         file.good = status != _FAILED
-        if not file.good and not file.causes:
-            file.causes[message.strip()] = None
+        file.said = message.strip()
         if not file.fetched or (not file.begun and status in (_EXISTS, _FAILED)):
             # In the cache already: the engine's plan of the download leaves it out, too.
             return
         if file.good:
             file.done = file.size
-        self._tell(place, file)
+        self._meter.tell(file)
 
     def mirror_failed(self, place: int, message: str, address: str) -> None:
-        """Why a file couldn't be had from one place. The library tries each several times."""
         file = self._file(place)
         if file is not None:
-            cause = message.strip() if address in message else f"{address}: {message.strip()}"
-            if cause not in file.causes:
-                file.causes[cause] = None
-                host.log(host.LEVEL_NOTICE, f"{file.name}: {cause}")
+            file.causes.add(file.name, message, address)
 
     def failures(self) -> List[str]:
         """A line for each cause of each package that couldn't be had; those that were given up over another one have
         none."""
-        return [f"{file.package}: {cause}" for file in self._files if not file.good for cause in file.causes if cause]
+        return [
+            f"{file.package}: {cause}"
+            for file in self._files
+            if not file.good
+            for cause in file.causes.lines() or [file.said]
+            if cause
+        ]
 
     def finish(self) -> None:
-        """Ends the files that the library has left without an end: siblings of one that failed."""
-        for file in self._waiting.values():
-            file.ended = True
-        self._tell(0, None)
+        self._meter.finish()
 
     def _file(self, place: int) -> Optional[_File]:
         return self._files[place - 1] if 0 < place <= len(self._files) else None
-
-    def _tell(self, place: int, moved: Optional[_File]) -> None:
-        if moved is not None and not moved.begun:
-            moved.begun = True
-            self._waiting[place] = moved
-        while self._waiting:
-            number, first = next(iter(self._waiting.items()))
-            if number != self._shown:
-                self._shown = number
-                host.apply_meter_start(first.name, first.size)
-                if first is not moved or first.done:
-                    host.apply_meter_update(first.done)
-            elif first is moved:
-                host.apply_meter_update(first.done)
-            if not first.ended:
-                return
-            host.apply_meter_end(first.done)
-            del self._waiting[number]
 
 
 def download(base: Base, packages: List[Any]) -> None:
@@ -128,12 +100,7 @@ def download(base: Base, packages: List[Any]) -> None:
     finally:
         base.downloads.listener = None
         meter.finish()
-    for package in packages:
-        path = package.get_package_path()
-        if not os.path.exists(path):
-            raise YumBaseError(
-                _("The file of package {package} is missing: {path}").format(package=shown(package), path=path)
-            )
+    require_files(map(_place_of, packages))
 
 
 def _fetch(base: Base, packages: List[Any], meter: DownloadMeter) -> None:
@@ -148,8 +115,7 @@ def _fetch(base: Base, packages: List[Any], meter: DownloadMeter) -> None:
 
 
 def _failure(packages: List[Any], meter: DownloadMeter, said: str) -> YumBaseError:
-    lines = meter.failures() or said.splitlines()
-    return YumBaseError("\n".join([_("Unable to download packages:"), *lines, *_scarce_space(packages)]))
+    return failure(meter.failures() or said.splitlines(), map(_place_of, packages))
 
 
 class _One:
@@ -179,7 +145,7 @@ def _fetch_by_query(base: Base, packages: List[Any], meter: DownloadMeter) -> No
     for place, package in enumerate(packages, 1):
         repo = base.repository(package.get_repo_id())
         addresses = base_addresses(repo)
-        if not addresses or package.get_baseurl() or _is_whole(package):
+        if not addresses or package.get_baseurl() or _place_of(package).is_whole():
             continue
         path = package.get_package_path()
         os.makedirs(os.path.dirname(path), exist_ok=True)
@@ -228,21 +194,8 @@ def shown(package: Any) -> str:
 
 def not_in_cache(packages: List[Any]) -> List[Any]:
     """The packages that the repositories still have to give: all but those that the download cache has as a whole."""
-    return [package for package in packages if not _is_whole(package)]
+    return [package for package in packages if not _place_of(package).is_whole()]
 
 
-def _is_whole(package: Any) -> bool:
-    """Not by its checksum: the library looks at that when it comes to the download."""
-    try:
-        return os.path.getsize(package.get_package_path()) == package.get_download_size()
-    except OSError:
-        return False
-
-
-def _scarce_space(packages: List[Any]) -> List[str]:
-    """A line for each directory that has no room for the largest of the files that go there."""
-    wanted: Dict[str, int] = {}
-    for package in packages:
-        directory = os.path.dirname(package.get_package_path())
-        wanted[directory] = max(wanted.get(directory, 0), int(package.get_download_size()))
-    return [line for directory, size in wanted.items() for line in scarce_space(directory, size)]
+def _place_of(package: Any) -> Place:
+    return Place(shown(package), package.get_package_path(), int(package.get_download_size()))
