@@ -9,11 +9,11 @@ from __future__ import annotations
 
 import contextlib
 import os
-from typing import Iterator, List, Mapping, NamedTuple, Optional, Sequence, Tuple
+from typing import Dict, Iterable, Iterator, List, Mapping, NamedTuple, Optional, Sequence, Tuple
 
 from . import rights
 from .errors import YumBaseError
-from .root import below, files, managed_root
+from .root import below, files, managed_root, within
 from .texts import _
 
 
@@ -94,6 +94,28 @@ def require_utf8(file: str, stumble: Exception) -> None:
         raise YumBaseError(
             _("{file}, line {line}: the text is not in UTF-8").format(file=file, line=line)
         ) from stumble
+
+
+def repository_files(root: str, main: str, directories: Iterable[str]) -> List[str]:
+    """The repository files of these directories, in the order of their names without the ending.
+
+    As with the configuration editor regular files only, and each once, whatever its paths are: not the main file either.
+    """
+    found = [pair for directory in directories for pair in files(root, within(root, directory), "*.repo")]
+    found.sort(key=lambda pair: [name for name in pair[0][: -len(".repo")].split("/") if name])
+    paths: Dict[Tuple[int, int], str] = {_identity(main): ""}
+    for _path, place in found:
+        paths.setdefault(_identity(place), place)
+    return [path for path in paths.values() if path]
+
+
+def _identity(path: str) -> Tuple[int, int]:
+    """What tells files apart; the same for all that are gone."""
+    try:
+        status = os.stat(path)
+    except OSError:
+        return (0, 0)
+    return (status.st_dev, status.st_ino)
 
 
 def variable_files(root: str, directories: Sequence[str]) -> Iterator[Tuple[str, str]]:

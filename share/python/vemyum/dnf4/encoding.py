@@ -1,27 +1,25 @@
 # SPDX-License-Identifier: GPL-2.0-or-later
-"""Repository files that aren't UTF-8, over which dnf stumbles."""
+"""The configured repositories as dnf reads them, and files among them that aren't UTF-8, over which it stumbles."""
 
 from __future__ import annotations
 
 import contextlib
 import logging
-import os
 import tempfile
-from typing import Any, Dict, Iterator, List, Tuple
+from typing import Any, Iterator, List
 
 import dnf.conf
 import dnf.conf.config
 import dnf.conf.read
 import dnf.exceptions
-import dnf.util
 import libdnf.conf
 
-from .configuration import check_signatures_unless_told, library_words
+from ..configuration import repository_files
 from ..errors import os_error_text
 from ..latin1 import decoded, fault
-from ..root import files, within
 from ..sections import RepositorySection
 from ..text import valid
+from .configuration import check_signatures_unless_told, library_words
 
 
 class RepositoryReader(dnf.conf.read.RepoReader):
@@ -41,7 +39,7 @@ class RepositoryReader(dnf.conf.read.RepoReader):
 
     def __iter__(self) -> Iterator[Any]:
         yield from self._get_repos(self.conf.config_file_path)
-        for path in self._files():
+        for path in repository_files(self.conf.installroot, self.conf.config_file_path, self.conf.reposdir):
             try:
                 yield from self._get_repos(path)
             except dnf.exceptions.ConfigError as error:
@@ -51,16 +49,6 @@ class RepositoryReader(dnf.conf.read.RepoReader):
     def refuse(self, file: str, error: Exception) -> None:
         """Takes down why a section of this file is not used."""
         self.refused.append(f"{file}: {error}")
-
-    def _files(self) -> List[str]:
-        """The repository files of all directories, in dnf's order: that of their names without the ending."""
-        root = self.conf.installroot
-        found = [pair for folder in self.conf.reposdir for pair in files(root, within(root, folder), "*.repo")]
-        found.sort(key=lambda pair: dnf.util.split_path(pair[0][: -len(".repo")]))
-        paths: Dict[Tuple[int, int], str] = {_identity(self.conf.config_file_path): ""}
-        for _path, place in found:
-            paths.setdefault(_identity(place), place)
-        return [path for path in paths.values() if path]
 
     def _build_repo(self, parser: Any, id_: str, repofn: str) -> Any:
         try:
@@ -104,15 +92,6 @@ def _is_switched_on(parser: libdnf.conf.ConfigParser, section: str) -> bool:
     except (RuntimeError, IndexError):
         # It doesn't say, or says what dnf doesn't understand.
         return True
-
-
-def _identity(path: str) -> Tuple[int, int]:
-    """What tells files apart; the same for all that are gone."""
-    try:
-        status = os.stat(path)
-    except OSError:
-        return (0, 0)
-    return (status.st_dev, status.st_ino)
 
 
 @contextlib.contextmanager

@@ -9,16 +9,17 @@ from __future__ import annotations
 import fnmatch
 import logging
 import os
-from typing import Dict, Iterable, Iterator, List, NamedTuple, Tuple
+from typing import Dict, Iterable, Iterator, List, NamedTuple
 
 import libdnf5.base
 import libdnf5.conf
 import libdnf5.exception
 import libdnf5.repo
 
+from ..configuration import repository_files
 from ..errors import os_error_text
 from ..latin1 import decoded, fault
-from ..root import files, within
+from ..root import files
 from ..sections import RepositorySection
 from ..text import valid
 from .failures import FAILURES, words
@@ -88,8 +89,9 @@ class RepositoryReader:
     # Files -------------------------------------------------------------------------------------------------------
 
     def _sections(self) -> Iterator[_Section]:
-        yield from self._sections_of(self._settings.main_path)
-        for path in self._files():
+        settings = self._settings
+        yield from self._sections_of(settings.main_path)
+        for path in repository_files(settings.root, settings.main_path, settings.repository_directories):
             try:
                 yield from self._sections_of(path)
             except FAILURES as error:
@@ -108,20 +110,6 @@ class RepositoryReader:
             except FAILURES as error:
                 self._said.warning("%s", words(error))
                 self.refused.append(words(error))
-
-    def _files(self) -> List[str]:
-        """The repository files of all directories, in the order of their names without the ending."""
-        root = self._settings.root
-        found = [
-            pair
-            for folder in self._settings.repository_directories
-            for pair in files(root, within(root, folder), "*.repo")
-        ]
-        found.sort(key=lambda pair: pair[0][: -len(".repo")].split("/"))
-        paths: Dict[Tuple[int, int], str] = {_identity(self._settings.main_path): ""}
-        for _path, place in found:
-            paths.setdefault(_identity(place), place)
-        return [path for path in paths.values() if path]
 
     def _sections_of(self, path: str) -> Iterator[_Section]:
         """The library's failures name the file."""
@@ -179,12 +167,3 @@ def _is_switched_on(parser: libdnf5.conf.ConfigParser, section: str, variables: 
     except libdnf5.exception.Error:
         # It doesn't say, or says what the library doesn't understand.
         return True
-
-
-def _identity(path: str) -> Tuple[int, int]:
-    """What tells files apart; the same for all that are gone."""
-    try:
-        status = os.stat(path)
-    except OSError:
-        return (0, 0)
-    return (status.st_dev, status.st_ino)
