@@ -20,7 +20,7 @@ from dnf.exceptions import RepoError
 
 from .. import host
 from ..backend import CHANGELOGS
-from ..repomd import FOLDER, NAME, join, listed, verify
+from ..repomd import FOLDER, LEFT_OUT, NAME, join, listed, verify
 from ..texts import _
 from ..webpage import told
 
@@ -105,8 +105,7 @@ class MetadataFetcher:
             os.utime(self._repo.get_metadata_path("primary"))
             return
 
-        with_other = self._repo.load_metadata_other
-        files = [file for file in listed(repomd) if with_other or file.kind != CHANGELOGS]
+        files = listed(repomd, LEFT_OUT if self._repo.load_metadata_other else (*LEFT_OUT, CHANGELOGS))
         total = sum(file.size for file in files)
         self._begin("primary", total)
         done = 0
