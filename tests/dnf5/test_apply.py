@@ -149,7 +149,7 @@ def test_an_rpm_that_vanishes_is_told(lib: Estate, rpms: Catalogue) -> None:
 
 @pytest.mark.parametrize("kib", [8, 64, 124, 250])
 def test_a_full_disk_leaves_no_half_made_history(lib: Estate, rpms: Catalogue, kib: int) -> None:
-    from vemyum.dnf5.historyfile import usable_history
+    from vemyum.dnf5.history import usable_history
     from vemyum.errors import YumBaseError
 
     folder = lib.root / STATE
@@ -183,7 +183,7 @@ def test_the_history_tells_what_was_asked_for(lib: Estate, rpms: Catalogue) -> N
 
 
 def test_a_broken_history_is_told_before(lib: Estate, rpms: Catalogue) -> None:
-    from vemyum.dnf5.historyfile import usable_history
+    from vemyum.dnf5.history import usable_history
     from vemyum.errors import YumBaseError
 
     path = lib.root / STATE / "transaction_history.sqlite"
@@ -198,7 +198,7 @@ def test_a_broken_history_is_told_before(lib: Estate, rpms: Catalogue) -> None:
 
 
 def test_a_history_that_breaks_meanwhile_is_told(lib: Estate, rpms: Catalogue) -> None:
-    from vemyum.dnf5.historyfile import usable_history
+    from vemyum.dnf5.history import usable_history
     from vemyum.errors import YumBaseError
 
     path = lib.root / STATE / "transaction_history.sqlite"

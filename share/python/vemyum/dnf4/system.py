@@ -3,22 +3,19 @@
 
 from __future__ import annotations
 
-import contextlib
-import sqlite3
 from typing import Any, Callable, Dict, List, Optional, Sequence, Set, Tuple
 
 import dnf.package
 import dnf.repo
-import dnf.transaction
 import hawkey
-import libdnf.transaction as lt
 
 from ..backend import CHANGELOGS, GROUPS, Dependency, OpenEntry, RepositoryState
+from ..history import open_entry
 from ..packages import dependency, stated_vendor
 from ..sections import RepositorySection
 from .base import open_base
 from .configuration import Settings
-from .history import history_path, open_history
+from .history import LAYOUT, history_path
 from .sack import light_packages
 
 
@@ -157,29 +154,7 @@ class System:
     # History ---------------------------------------------------------------------------------------------
 
     def open_entry(self) -> Optional[OpenEntry]:
-        """The history is only looked at: dnf's own class would make one where there is none, and bring an old one up
-        to date."""
-        # Whoever wants to write into a history that cannot be read is told then.
-        path = history_path(self.settings.system_persistent_directory)
-        with contextlib.suppress(sqlite3.Error), contextlib.closing(open_history(path, "ro")) as database:
-            database.text_factory = lambda content: content.decode("utf-8", "replace")
-            last = database.execute("select id, dt_begin, cmdline, state from trans order by id desc limit 1").fetchone()
-            if last is None or last[3] != lt.TransactionState_UNKNOWN:
-                return None
-            incoming: Set[Tuple[str, str, str]] = set()
-            outgoing: Set[Tuple[str, str, str]] = set()
-            for name, epoch, version, release, arch, action in database.execute(
-                "select name, epoch, version, release, arch, action from trans_item join rpm using (item_id) "
-                "where trans_id = ?",
-                last[:1],
-            ):
-                package = (name, f"{epoch}:{version}-{release}", arch)
-                if action in dnf.transaction.FORWARD_ACTIONS:
-                    incoming.add(package)
-                elif action in dnf.transaction.BACKWARD_ACTIONS:
-                    outgoing.add(package)
-            return OpenEntry(last[0], last[1] or 0, last[2] or "", incoming, outgoing - incoming)
-        return None
+        return open_entry(history_path(self.settings.system_persistent_directory), LAYOUT)
 
     def close(self) -> None:
         self._base.close()

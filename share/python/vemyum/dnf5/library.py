@@ -7,7 +7,7 @@ import libdnf5.conf
 
 from ..apply.messages import Request
 from .clean import clean as clean
-from .historyfile import usable_history as usable_history
+from .history import usable_history as usable_history
 from .lock import hold as hold
 from .lock import let_go as let_go
 from .lock import lock_files as lock_files

@@ -19,12 +19,13 @@ import rpm
 from ..backend import CHANGELOGS, GROUPS, Dependency, OpenEntry, RepositoryState
 from ..database import point_rpm_at
 from ..errors import RepoError, YumBaseError, os_error_text
+from ..history import open_entry
 from ..messages import rpms_words
 from ..sections import RepositorySection
 from ..texts import _
 from .base import Base, open_base
 from .failures import FAILURES, in_full, words
-from .history import open_entry
+from .history import LAYOUT, history_path
 from .keys import load_signed
 from .log import LOGGER
 from .metadata import Metadata, failure_text, without_durations
@@ -399,7 +400,7 @@ class System:
         return str(row.get_package_path()) or None
 
     def open_entry(self) -> Optional[OpenEntry]:
-        return open_entry(self.base)
+        return open_entry(history_path(self.base.settings, self.base.config), LAYOUT)
 
     # End ---------------------------------------------------------------------------------------------------------
 
