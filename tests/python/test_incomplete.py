@@ -112,7 +112,7 @@ def test_asked_before_a_collection(lamp: Tuple[Estate, Program]) -> None:
 
 
 def test_duration_makes_no_difference() -> None:
-    from vemyum.dnf4.base import without_durations
+    from vemyum.reading import without_durations
 
     told = [
         "Connection timed out after {} milliseconds",

@@ -7,21 +7,23 @@ Nothing is trusted, and nothing fetched from a server, before the user has agree
 from __future__ import annotations
 
 import contextlib
+import itertools
 import os
 import tempfile
 import time
 import urllib.parse
-from typing import Callable, Dict, Iterator, List, NamedTuple, Optional, Sequence
+from typing import Callable, Dict, Iterable, Iterator, List, NamedTuple, Optional, Sequence
 
 from . import host, openpgp
 from .backend import KeySource
-from .errors import YumBaseError, os_error_text
+from .errors import RepoError, YumBaseError, os_error_text
+from .mirrors import TRIES, mirrors_in
 from .root import below, managed_root
 from .texts import _, ngettext
 
 _FEW = 10
 """Packages that a question names."""
-
+_SIGNATURE_OF_METADATA = "repodata/repomd.xml.asc"
 
 
 class Missing(YumBaseError):
@@ -171,3 +173,37 @@ def imported(agreed: Agreed) -> str:
     return _("Imported the key {key}, {user}, from {location}").format(
         key=agreed.key.primary.fingerprint, user=agreed.key.user_id, location=agreed.location
     )
+
+
+# Of metadata -------------------------------------------------------------------------------------------------------
+
+
+def issuers_of_metadata(source: KeySource, bases: Iterable[str], lists: Iterable[str]) -> Optional[List[str]]:
+    """Who has signed a repository's metadata, by the first server that tells; None for no signature. `lists` are the
+    addresses of lists of mirrors."""
+    for server in itertools.islice(_servers(source, bases, lists), TRIES):
+        with contextlib.suppress(RuntimeError, openpgp.Unreadable):
+            issuers = openpgp.issuers_of(source.fetch(f"{server.rstrip('/')}/{_SIGNATURE_OF_METADATA}"))
+            if issuers:
+                return issuers
+    return None
+
+
+def _servers(source: KeySource, bases: Iterable[str], lists: Iterable[str]) -> Iterator[str]:
+    """The libraries forget mirrors where they could not use what these gave."""
+    yield from bases
+    for address in lists:
+        with contextlib.suppress(RuntimeError):
+            yield from mirrors_in(source.fetch(address))
+
+
+def agreed_for_metadata(source: KeySource, issuers: Sequence[str], fault: str) -> Agreed:
+    """Asks about a key of the metadata's signature. RepoError, which begins with the library's words for the fault."""
+    search = Search()
+    try:
+        search.find(issuers, [source], [])
+    except Missing as missing:
+        told = [f"    {line}" for line in str(missing).splitlines()]
+        raise RepoError("\n".join([fault, _("No key of this signature is trusted:"), *told])) from missing
+    (agreed,) = search.agreed.values()
+    return agreed

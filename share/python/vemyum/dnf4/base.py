@@ -8,7 +8,6 @@ import functools
 import glob
 import logging
 import os
-import re
 from typing import Any, Callable, Dict, Iterable, List, Optional, Sequence
 
 import dnf
@@ -24,8 +23,8 @@ from ..database import point_rpm_at
 from ..errors import YumBaseError
 from ..inhibitor import inhibited
 from ..messages import heard, rpms_words
+from ..reading import failure_text, is_unreadable, without_durations
 from ..sections import RepositorySection
-from ..space import scarce_space
 from ..texts import _
 from ..webpage import asked
 from . import keys
@@ -35,11 +34,6 @@ from .logfiles import tell_transaction
 from .metadata import ReadingProgress, RepositoryProgress
 from .plugins import Plugins
 from .queries import MetadataFetcher, ask_by_complete_address, base_addresses, rounds
-
-_UNREADABLE = re.compile(r"\bpars(e|er|ing)\b|no urls in mirrorlist|not found in metalink", re.I)
-"""Stands in the library's words for an answer that isn't what was asked for."""
-
-_DURATION = re.compile(r" after \d+ m(?:illi)?s(?:econds)?\b")
 
 
 class Base(dnf.Base):
@@ -181,13 +175,13 @@ class Base(dnf.Base):
             except RepoError as error:
                 if error.__context__ is not None:
                     causes.append(str(error.__context__))
-                if _UNREADABLE.search(str(error)):
+                if is_unreadable(str(error)):
                     mirrors = repo.metalink or repo.mirrorlist or ""
                     page = asked(mirrors, repo.baseurl, lambda address: keys.fetched(address, repo))
                     causes += filter(None, [page])
-                raise RepoError(_repository_text(repo, str(error), causes, self.conf.cachedir)) from error
+                raise RepoError(_failure_text(repo, error, causes, self.conf.cachedir)) from error
             except OSError as error:
-                raise RepoError(_repository_text(repo, str(error), causes, self.conf.cachedir)) from error
+                raise RepoError(_failure_text(repo, error, causes, self.conf.cachedir)) from error
             finally:
                 if self._report is not None:
                     self._report.end(repo)
@@ -226,28 +220,13 @@ class Base(dnf.Base):
             return super()._run_transaction(cb)
 
 
-def without_durations(text: str) -> str:
-    """A failure's text as it is each time that it happens."""
-    return _DURATION.sub("", text)
-
-
 def _tell_of_mirror(tell: Callable[[Any, str, str], None], payload: Any, _data: Any, message: Any, url: Any) -> None:
     tell(payload, str(message or ""), str(url or ""))
 
 
-def address(repo: dnf.repo.Repo) -> str:
-    """Where a repository is configured to be: its first address, metalink or mirror list."""
-    candidates = [*repo.baseurl, repo.metalink, repo.mirrorlist]
-    return next((candidate for candidate in candidates if candidate), _("no address"))
-
-
-def _repository_text(repo: dnf.repo.Repo, text: str, causes: Iterable[str], directory: str) -> str:
-    lines = [_("Unable to read repository {id} ({address}):").format(id=repo.id, address=address(repo))]
-    said: Dict[str, str] = {}
-    for line in (*text.strip().splitlines(), *(cause for cause in causes if cause not in text)):
-        # The library tries several times, and tells each time how long that took.
-        said.setdefault(without_durations(line), line)
-    return "\n".join([*lines, *said.values(), *scarce_space(directory)])
+def _failure_text(repo: dnf.repo.Repo, error: Exception, causes: Iterable[str], directory: str) -> str:
+    addresses = [*repo.baseurl, repo.metalink or "", repo.mirrorlist or ""]
+    return failure_text(repo.id, addresses, str(error), causes, directory)
 
 
 def open_base(

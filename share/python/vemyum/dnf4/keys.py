@@ -3,27 +3,18 @@
 
 from __future__ import annotations
 
-import contextlib
-import html
-import itertools
 import os
 import re
-from typing import Iterator, List, Optional, Sequence
+from typing import List, Sequence
 
 import dnf.crypto
 import dnf.repo
 import libdnf.repo
 from dnf.exceptions import RepoError
 
-from .. import host, openpgp
-from ..keys import Missing, Search, imported, key_file
-from ..texts import _
+from .. import host
+from ..keys import agreed_for_metadata, imported, issuers_of_metadata, key_file
 
-_SIGNATURE_OF_METADATA = "repodata/repomd.xml.asc"
-_MIRRORS_OF_METALINK = re.compile(r">\s*([^<>\s]+)/repodata/repomd\.xml\s*<")
-_MIRROR = re.compile(r"(?:https?|ftp|file)://")
-_TRIES = 5
-"""Servers that are asked for the signature of the metadata."""
 _ABOUT_SIGNATURES = re.compile(r"\bGPG\b|\bsignature\b", re.I)
 
 
@@ -66,24 +57,16 @@ def load(repo: dnf.repo.Repo, may_ask: bool) -> None:
     except RepoError as error:
         if not (may_ask and repo.repo_gpgcheck and repo.gpgkey and _ABOUT_SIGNATURES.search(str(error))):
             raise
-        issuers = _issuers(repo)
+        source = RepositoryKeys(repo)
+        issuers = issuers_of_metadata(source, repo.baseurl, filter(None, (repo.metalink, repo.mirrorlist)))
         if issuers is None or _trusted(repo, issuers):
             raise
-        search = Search()
-        try:
-            search.find(issuers, [RepositoryKeys(repo)], [])
-        except Missing as missing:
-            raise RepoError(_untrusted(str(error), str(missing))) from error
+        agreed = agreed_for_metadata(source, issuers, str(error))
     else:
         return
-    (agreed,) = search.agreed.values()
     with key_file([agreed.key]) as path:
         _load_with(repo, [f"file://{path}"], True)
     host.log(host.LEVEL_NOTICE, imported(agreed))
-
-
-def _untrusted(text: str, told: str) -> str:
-    return "\n".join([text, _("No key of this signature is trusted:"), *(f"    {line}" for line in told.splitlines())])
 
 
 def _load_with(repo: dnf.repo.Repo, keys: List[str], trusted: bool) -> None:
@@ -96,27 +79,6 @@ def _load_with(repo: dnf.repo.Repo, keys: List[str], trusted: bool) -> None:
     finally:
         repo.gpgkey = configured
         repo._set_key_import(_KeyImport(False))
-
-
-def _issuers(repo: dnf.repo.Repo) -> Optional[List[str]]:
-    """Who has signed the metadata, by the first server that tells; None for no signature."""
-    for base in itertools.islice(_bases(repo), _TRIES):
-        with contextlib.suppress(RuntimeError, openpgp.Unreadable):
-            issuers = openpgp.issuers_of(fetched(f"{base.rstrip('/')}/{_SIGNATURE_OF_METADATA}", repo))
-            if issuers:
-                return issuers
-    return None
-
-
-def _bases(repo: dnf.repo.Repo) -> Iterator[str]:
-    """The addresses of a repository. The library forgets its mirrors where it could not use what they gave."""
-    yield from repo.baseurl
-    for address in filter(None, (repo.metalink, repo.mirrorlist)):
-        with contextlib.suppress(RuntimeError):
-            text = fetched(address, repo).decode("utf-8", "replace")
-            # A metalink may be given where a list of mirrors is asked for.
-            found = map(html.unescape, _MIRRORS_OF_METALINK.findall(text)) if "<metalink" in text else text.split()
-            yield from (mirror for mirror in found if _MIRROR.match(mirror))
 
 
 def _trusted(repo: dnf.repo.Repo, issuers: Sequence[str]) -> bool:

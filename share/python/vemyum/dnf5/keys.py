@@ -3,22 +3,17 @@
 
 from __future__ import annotations
 
-import contextlib
-import itertools
 import re
-from typing import Any, Callable, Iterator, List, Optional
+from typing import Any, Callable, List
 
 import libdnf5.repo
 
-from .. import host, openpgp
-from ..errors import RepoError
-from ..keys import Missing, Search, imported, key_file
-from ..texts import _
+from .. import host
+from ..keys import agreed_for_metadata, imported, issuers_of_metadata, key_file
 from .base import Base, open_base
 from .failures import FAILURES, words
-from .metadata import TRIES, addresses, content_of, mirrors_in
+from .metadata import addresses, content_of
 
-_SIGNATURE = "repodata/repomd.xml.asc"
 _LACKING = re.compile(r"\bkey not found\b|\bno public key\b", re.I)
 """Stands in the library's words where a signature is good as far as one can tell."""
 
@@ -64,17 +59,11 @@ def load_signed(base: Base, repo: libdnf5.repo.Repo, fetch: Callable[[], None], 
         source = Source(base, repo)
         if not (may_ask and repo.get_config().repo_gpgcheck and source.gpgkey and _LACKING.search(text)):
             raise
-        issuers = _issuers(base, repo)
+        bases = len(repo.get_config().baseurl)
+        issuers = issuers_of_metadata(source, addresses(repo)[:bases], addresses(repo)[bases:])
         if issuers is None:
             raise
-        search = Search()
-        try:
-            search.find(issuers, [source], [])
-        except Missing as missing:
-            told = [f"    {line}" for line in str(missing).splitlines()]
-            lines = [text, _("No key of this signature is trusted:"), *told]
-            raise RepoError("\n".join(lines)) from error
-    (agreed,) = search.agreed.values()
+        agreed = agreed_for_metadata(source, issuers, text)
     with key_file([agreed.key]) as path:
         _load_trusting(base, repo, path, agreed.key.primary.fingerprint)
     host.log(host.LEVEL_NOTICE, imported(agreed))
@@ -96,22 +85,3 @@ def _load_trusting(base: Base, repo: libdnf5.repo.Repo, path: str, fingerprint: 
     finally:
         other.downloads.listener = None
         other.log.tell()
-
-
-def _issuers(base: Base, repo: libdnf5.repo.Repo) -> Optional[List[str]]:
-    """Who has signed the metadata, by the first server that tells; None for no signature."""
-    for server in itertools.islice(_servers(base, repo), TRIES):
-        with contextlib.suppress(RuntimeError, openpgp.Unreadable):
-            issuers = openpgp.issuers_of(content_of(base, repo, f"{server.rstrip('/')}/{_SIGNATURE}"))
-            if issuers:
-                return issuers
-    return None
-
-
-def _servers(base: Base, repo: libdnf5.repo.Repo) -> Iterator[str]:
-    """The library forgets its mirrors where it could not use what they gave."""
-    bases = len(repo.get_config().baseurl)
-    yield from addresses(repo)[:bases]
-    for address in addresses(repo)[bases:]:
-        with contextlib.suppress(RuntimeError):
-            yield from mirrors_in(content_of(base, repo, address))

@@ -13,22 +13,21 @@ from __future__ import annotations
 
 import contextlib
 import functools
-import html
 import itertools
 import logging
 import os
-import re
 import shutil
 import tempfile
-from typing import Callable, Collection, Dict, Iterable, Iterator, List, Optional
+from typing import Callable, Collection, Iterable, Iterator, List, Optional
 
 import libdnf5.exception
 import libdnf5.repo
 
 from ..backend import CHANGELOGS, FILE_LISTS
 from ..errors import RepoError, os_error_text
+from ..mirrors import TRIES, mirrors_in
+from ..reading import failure_text, is_unreadable
 from ..repomd import FOLDER, NAME, File, join, listed, verify
-from ..space import scarce_space
 from ..texts import _
 from ..webpage import asked, told
 from .base import Base
@@ -36,24 +35,11 @@ from .failures import FAILURES, words
 from .log import LOGGER
 from .progress import FetchingProgress
 
-_UNREADABLE = re.compile(r"\bpars(e|er|ing)\b|no urls in mirrorlist|not found in metalink", re.I)
-"""Stands in the library's words for an answer that isn't what was asked for."""
-
-_DURATION = re.compile(r" after \d+ m(?:illi)?s(?:econds)?\b")
 _MIRROR_LISTS = ("metalink.xml", "mirrorlist")
 """As the library keeps them beside the metadata."""
-_MIRRORS_OF_METALINK = re.compile(r">\s*([^<>\s]+)/repodata/repomd\.xml\s*<")
-_MIRROR = re.compile(r"(?:https?|ftp|file)://")
-TRIES = 5
-"""Servers that are asked for one file."""
 _ALWAYS = frozenset(("primary", "group", "group_gz", "modules"))
 _OPTIONAL = frozenset((FILE_LISTS, CHANGELOGS, "updateinfo"))
 """Kinds of which a cache that another program has filled may lack one."""
-
-
-def without_durations(text: str) -> str:
-    """A failure's text as it is each time that it happens."""
-    return _DURATION.sub("", text)
 
 
 def addresses(repo: libdnf5.repo.Repo) -> List[str]:
@@ -84,21 +70,9 @@ def servers(repo: libdnf5.repo.Repo) -> Iterator[str]:
                 yield from mirrors_in(_content(os.path.join(repo.get_cachedir(), name)))
 
 
-def mirrors_in(content: bytes) -> Iterator[str]:
-    """The addresses in a list of mirrors. A metalink may be given where a plain list is asked for."""
-    text = content.decode("utf-8", "replace")
-    found = map(html.unescape, _MIRRORS_OF_METALINK.findall(text)) if "<metalink" in text else iter(text.split())
-    return (mirror for mirror in found if _MIRROR.match(mirror))
-
-
-def failure_text(repo: libdnf5.repo.Repo, text: str, causes: Iterable[str], directory: str) -> str:
-    where = next(iter(addresses(repo)), _("no address"))
-    lines = [_("Unable to read repository {id} ({address}):").format(id=repo.get_id(), address=where)]
-    said: Dict[str, str] = {}
-    for line in (*text.strip().splitlines(), *(cause for cause in causes if cause not in text)):
-        # The library tries several times, and tells each time how long that took.
-        said.setdefault(without_durations(line), line)
-    return "\n".join([*lines, *said.values(), *scarce_space(directory)])
+def told_of(repo: libdnf5.repo.Repo, text: str, causes: Iterable[str], cache: str) -> str:
+    """That it cannot be read."""
+    return failure_text(repo.get_id(), addresses(repo), text, causes, cache)
 
 
 def downloaded(base: Base, repo: libdnf5.repo.Repo, address: str, target: str) -> None:
@@ -169,10 +143,10 @@ class Metadata:
         except (*FAILURES, RepoError, OSError) as error:
             self._base.take_vacant_descriptors()
             text = os_error_text(error) if isinstance(error, OSError) else words(error)
-            if _UNREADABLE.search(text):
+            if is_unreadable(text):
                 progress.causes += filter(None, [self._page(repo)])
             directory = self._base.settings.cache_directory
-            raise RepoError(failure_text(repo, text, progress.causes, directory)) from error
+            raise RepoError(told_of(repo, text, progress.causes, directory)) from error
         finally:
             self._base.downloads.listener = None
             progress.close()

@@ -21,6 +21,7 @@ from ..database import point_rpm_at
 from ..errors import RepoError, YumBaseError, os_error_text
 from ..history import open_entry
 from ..messages import rpms_words
+from ..reading import without_durations
 from ..sections import RepositorySection
 from ..texts import _
 from .base import Base, open_base
@@ -28,7 +29,7 @@ from .failures import FAILURES, in_full, words
 from .history import LAYOUT, history_path
 from .keys import load_signed
 from .log import LOGGER
-from .metadata import Metadata, failure_text, without_durations
+from .metadata import Metadata, told_of
 from .progress import ReadingProgress, must_convert
 from .rows import InstalledRow, Row, checksum, dependencies, rows
 from .settings import Settings
@@ -136,9 +137,7 @@ class System:
             try:
                 read(repo.get_id(), metadata.path(repo, CHANGELOGS))
             except OSError as error:
-                raise RepoError(
-                    failure_text(repo, os_error_text(error), [], self.settings.cache_directory)
-                ) from error
+                raise RepoError(told_of(repo, os_error_text(error), [], self.settings.cache_directory)) from error
             finally:
                 reading.end(repo)
 
@@ -207,7 +206,7 @@ class System:
                 text = words(error)
                 repo = self._told(base, text)
                 if repo is not None:
-                    unreadable = failure_text(repo, text, [], self.settings.cache_directory)
+                    unreadable = told_of(repo, text, [], self.settings.cache_directory)
                     raise _Unreadable(unreadable, repo) from error
                 told = _("The rpm database of {root} cannot be read: {error}")
                 raise YumBaseError("\n".join([told.format(root=self.settings.root, error=text), *said()])) from error

@@ -1,0 +1,34 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""What is told of a repository that cannot be read."""
+
+from __future__ import annotations
+
+import re
+from typing import Dict, Iterable
+
+from .space import scarce_space
+from .texts import _
+
+_UNREADABLE = re.compile(r"\bpars(e|er|ing)\b|no urls in mirrorlist|not found in metalink", re.I)
+_DURATION = re.compile(r" after \d+ m(?:illi)?s(?:econds)?\b")
+
+
+def is_unreadable(text: str) -> bool:
+    """Whether a library's words are about an answer that isn't what was asked for."""
+    return _UNREADABLE.search(text) is not None
+
+
+def without_durations(text: str) -> str:
+    """A failure's text as it is each time that it happens."""
+    return _DURATION.sub("", text)
+
+
+def failure_text(id: str, addresses: Iterable[str], text: str, causes: Iterable[str], cache: str) -> str:
+    """Names the first address, and each cause once that the library's text doesn't tell."""
+    where = next(filter(None, addresses), _("no address"))
+    lines = [_("Unable to read repository {id} ({address}):").format(id=id, address=where)]
+    said: Dict[str, str] = {}
+    for line in (*text.strip().splitlines(), *(cause for cause in causes if cause not in text)):
+        # The library tries several times, and tells each time how long that took.
+        said.setdefault(without_durations(line), line)
+    return "\n".join([*lines, *said.values(), *scarce_space(cache)])
