@@ -33,7 +33,7 @@ from .encoding import RepositoryReader
 from .logfiles import tell_transaction
 from .metadata import ReadingProgress, RepositoryProgress
 from .plugins import Plugins
-from .queries import MetadataFetcher, ask_by_complete_address, base_addresses, rounds
+from .queries import ask_by_complete_address, base_addresses, fetch_metadata, rounds
 
 
 class Base(dnf.Base):
@@ -192,7 +192,7 @@ class Base(dnf.Base):
             return
         meter = self.conf.cachedir if self._report is not None else None
         lazy = repo._repo.getSyncStrategy() != dnf.repo.SYNC_TRY_CACHE
-        MetadataFetcher(repo, meter).fetch(lazy)
+        fetch_metadata(repo, lazy, meter)
 
     def _download_remote_payloads(self, payloads: Any, *rest: Any, **options: Any) -> Any:
         for payload in payloads:

@@ -1,28 +1,17 @@
 # SPDX-License-Identifier: GPL-2.0-or-later
-"""Repositories whose address ends in a query, as in "http://host/buffet?login=me&key=secret&path=/os".
-
-What is asked for stands behind the whole address: "…&path=/os/repodata/repomd.xml". dnf's library would put
-it in front of the question mark, where no such server looks for it. So the metadata of these repositories
-is fetched here, file by file, into the place where dnf keeps it, and dnf finds it there. Packages are asked
-for by their complete address.
-"""
+"""Repositories whose address ends in a query: the metadata is fetched for dnf, packages are asked for by their complete
+address."""
 
 from __future__ import annotations
 
 import functools
-import os
-import shutil
-import tempfile
 from typing import Any, Dict, Iterable, List, Optional
 
 import dnf.repo
-from dnf.exceptions import RepoError
 
-from .. import host
-from ..backend import CHANGELOGS
-from ..repomd import FOLDER, LEFT_OUT, NAME, join, listed, verify
-from ..texts import _
-from ..webpage import told
+from ..backend import CHANGELOGS, PRIMARY
+from ..queries import fetch
+from ..repomd import LEFT_OUT, File, join, listed
 
 
 def base_addresses(repo: dnf.repo.Repo) -> List[str]:
@@ -53,88 +42,33 @@ def _parameters(payload: Any, address: str) -> Dict[str, Any]:
     return parameters
 
 
-class MetadataFetcher:
-    """Brings the metadata of one repository into dnf's cache. Blocks; any thread."""
+class _Repository:
+    """See `queries.Repository`."""
 
-    def __init__(self, repo: dnf.repo.Repo, meter: Optional[str]) -> None:
-        """`meter` is the directory that the progress names, None for no progress."""
+    def __init__(self, repo: dnf.repo.Repo) -> None:
         self._repo = repo
-        self._meter = meter
-        self._cache: str = repo._repo.getCachedir()
+        self.id: str = repo.id
+        self.cache: str = repo._repo.getCachedir()
+        self.signed = bool(repo.repo_gpgcheck)
 
-    def fetch(self, lazy: bool) -> None:
-        """Fetches what is missing, or older than the configuration allows unless `lazy`.
-
-        RepoError with the library's words for the last address that was tried; OSError.
-        """
-        cached = self._repo._repo.loadCache(False)
-        if cached and (lazy or not self._repo._repo.isExpired()):
-            return
-        if self._repo.repo_gpgcheck:
-            raise RepoError(_("repo_gpgcheck is not possible for an address with a query"))
-        os.makedirs(self._cache, exist_ok=True)
-        stage = tempfile.mkdtemp(prefix="tmpdir.", dir=self._cache)
-        try:
-            os.mkdir(os.path.join(stage, FOLDER))
-            self._fetch_from_any(stage, cached)
-            # dnf keeps what it looked at before.
-            self._repo._repo.loadCache(False)
-        finally:
-            shutil.rmtree(stage, ignore_errors=True)
-
-    def _fetch_from_any(self, stage: str, cached: bool) -> None:
-        fault: Optional[Exception] = None
-        for address in base_addresses(self._repo):
-            try:
-                self._fetch_from(address, stage, cached)
-                return
-            except (RepoError, RuntimeError) as error:
-                fault = error
-        raise RepoError(str(fault)) from fault
-
-    def _fetch_from(self, address: str, stage: str, cached: bool) -> None:
-        repomd = os.path.join(stage, FOLDER, NAME)
-        self._begin(NAME, 0)
-        self._download(address, f"{FOLDER}/{NAME}", repomd)
-        page = told(join(address, f"{FOLDER}/{NAME}"), _content(repomd))
-        if page is not None:
-            raise RepoError(page)
-        self._end(os.path.getsize(repomd))
-        if cached and _content(repomd) == _content(os.path.join(self._cache, FOLDER, NAME)):
-            # dnf tells the age by this file.
-            os.utime(self._repo.get_metadata_path("primary"))
-            return
-
-        files = listed(repomd, LEFT_OUT if self._repo.load_metadata_other else (*LEFT_OUT, CHANGELOGS))
-        total = sum(file.size for file in files)
-        self._begin("primary", total)
-        done = 0
-        for file in files:
-            target = os.path.join(stage, file.href)
-            self._download(address, file.href, target)
-            verify(file, target)
-            done += file.size
-            if self._meter is not None:
-                host.collect_meter_update(done)
-        self._end(total)
-        kept = os.path.join(self._cache, FOLDER)
-        shutil.rmtree(kept, ignore_errors=True)
-        os.rename(os.path.join(stage, FOLDER), kept)
-
-    def _download(self, address: str, path: str, target: str) -> None:
+    def download(self, address: str, target: str) -> None:
         # The library opens the descriptor once more, for writing and reading.
         with open(target, "w+b") as file:
-            self._repo._repo.downloadUrl(join(address, path), file.fileno())
+            self._repo._repo.downloadUrl(address, file.fileno())
 
-    def _begin(self, act: str, size: int) -> None:
-        if self._meter is not None:
-            host.collect_meter_start(f"{self._meter}/{self._repo.id}/{act}", size or None)
+    def wanted(self, repomd: str) -> List[File]:
+        return listed(repomd, LEFT_OUT if self._repo.load_metadata_other else (*LEFT_OUT, CHANGELOGS))
 
-    def _end(self, size: int) -> None:
-        if self._meter is not None:
-            host.collect_meter_end(size)
+    def age_file(self) -> str:
+        return str(self._repo.get_metadata_path(PRIMARY))
 
 
-def _content(path: str) -> bytes:
-    with open(path, "rb") as file:
-        return file.read()
+def fetch_metadata(repo: dnf.repo.Repo, lazy: bool, meter: Optional[str]) -> None:
+    """Brings what is missing, or older than the configuration allows unless `lazy`, into dnf's cache, as
+    `queries.fetch`."""
+    cached = repo._repo.loadCache(False)
+    if cached and (lazy or not repo._repo.isExpired()):
+        return
+    fetch(_Repository(repo), base_addresses(repo), cached, meter)
+    # dnf keeps what it looked at before.
+    repo._repo.loadCache(False)

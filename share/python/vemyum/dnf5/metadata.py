@@ -4,9 +4,7 @@
 The library would fetch everything at once, tell of the first repository that fails without its causes, and fetch all
 files of a repository again for the sake of one that is missing.
 
-Of repositories whose address ends in a query, as in "http://host/buffet?login=me&key=secret&path=/os", everything is
-fetched here: what is asked for stands behind the whole address ("…&path=/os/repodata/repomd.xml"), and the library would
-put it in front of the question mark.
+Of repositories whose address ends in a query everything is fetched file by file.
 """
 
 from __future__ import annotations
@@ -16,20 +14,20 @@ import functools
 import itertools
 import logging
 import os
-import shutil
 import tempfile
 from typing import Callable, Collection, Iterable, Iterator, List, Optional
 
 import libdnf5.exception
 import libdnf5.repo
 
-from ..backend import CHANGELOGS, FILE_LISTS
+from ..backend import CHANGELOGS, FILE_LISTS, PRIMARY
 from ..errors import RepoError, os_error_text
 from ..mirrors import TRIES, mirrors_in
+from ..queries import fetch
 from ..reading import failure_text, is_unreadable
 from ..repomd import FOLDER, NAME, File, join, listed, verify
 from ..texts import _
-from ..webpage import asked, told
+from ..webpage import asked
 from .base import Base
 from .failures import FAILURES, words
 from .log import LOGGER
@@ -167,10 +165,10 @@ class Metadata:
         if cached and (lazy or not repo.is_expired()):
             return
         if base_addresses(repo):
-            self._bring_by_query(repo, progress, cached)
+            self._bring_by_query(repo, cached)
         elif cached and repo.is_in_sync():
             # The library tells the age by this file.
-            os.utime(repo.get_metadata_path("primary"))
+            os.utime(repo.get_metadata_path(PRIMARY))
         else:
             self._load(repo, lambda: repo.download_metadata(repo.get_cachedir()))
         repo.read_metadata_cache()
@@ -234,53 +232,11 @@ class Metadata:
             self._base.downloads.listener = progress
             progress.close()
 
-    # Addresses with a query ----------------------------------------------------------------------------------------
-
-    def _bring_by_query(self, repo: libdnf5.repo.Repo, progress: FetchingProgress, cached: bool) -> None:
-        if repo.get_config().repo_gpgcheck:
-            raise RepoError(_("repo_gpgcheck is not possible for an address with a query"))
-        cache = repo.get_cachedir()
-        os.makedirs(cache, exist_ok=True)
-        stage = tempfile.mkdtemp(prefix="tmpdir.", dir=cache)
+    def _bring_by_query(self, repo: libdnf5.repo.Repo, cached: bool) -> None:
         # The acts are those of the files, which are known here.
         self._base.downloads.listener = None
-        try:
-            os.mkdir(os.path.join(stage, FOLDER))
-            fault: Optional[Exception] = None
-            for address in base_addresses(repo):
-                try:
-                    self._bring_from(address, repo, progress, stage, cached)
-                    return
-                except (*FAILURES, RepoError) as error:
-                    fault = error
-            raise RepoError(words(fault) if fault is not None else "") from fault
-        finally:
-            shutil.rmtree(stage, ignore_errors=True)
-
-    def _bring_from(
-        self, address: str, repo: libdnf5.repo.Repo, progress: FetchingProgress, stage: str, cached: bool
-    ) -> None:
-        repomd = os.path.join(stage, FOLDER, NAME)
-        kept = os.path.join(repo.get_cachedir(), FOLDER)
-        progress.open(NAME, 0)
-        self._fresh(repo, join(address, f"{FOLDER}/{NAME}"), repomd)
-        page = told(join(address, f"{FOLDER}/{NAME}"), _content(repomd))
-        if page is not None:
-            raise RepoError(page)
-        progress.close()
-        if cached and _content(repomd) == _content(os.path.join(kept, NAME)):
-            os.utime(repo.get_metadata_path("primary"))
-            return
         wanted = _ALWAYS.union(self._base.config.optional_metadata_types, self._kinds)
-        files = [file for file in listed(repomd) if file.kind in wanted]
-        progress.open("primary", sum(file.size for file in files))
-        for file in files:
-            target = os.path.join(stage, file.href)
-            self._fresh(repo, join(address, file.href), target)
-            verify(file, target)
-        progress.close()
-        shutil.rmtree(kept, ignore_errors=True)
-        os.rename(os.path.join(stage, FOLDER), kept)
+        fetch(_Repository(self._base, repo, wanted), base_addresses(repo), cached, self._meter)
 
     def _fresh(self, repo: libdnf5.repo.Repo, address: str, target: str) -> None:
         # What an earlier address gave would be gone on with.
@@ -294,6 +250,27 @@ class Metadata:
         # Lists of mirrors stand behind the base addresses.
         mirrors = next(iter(found[bases:]), "")
         return asked(mirrors, found[:bases], functools.partial(content_of, self._base, repo))
+
+
+class _Repository:
+    """See `queries.Repository`."""
+
+    def __init__(self, base: Base, repo: libdnf5.repo.Repo, kinds: Collection[str]) -> None:
+        self._base = base
+        self._repo = repo
+        self._kinds = kinds
+        self.id: str = repo.get_id()
+        self.cache: str = repo.get_cachedir()
+        self.signed = bool(repo.get_config().repo_gpgcheck)
+
+    def download(self, address: str, target: str) -> None:
+        downloaded(self._base, self._repo, address, target)
+
+    def wanted(self, repomd: str) -> List[File]:
+        return [file for file in listed(repomd) if file.kind in self._kinds]
+
+    def age_file(self) -> str:
+        return str(self._repo.get_metadata_path(PRIMARY))
 
 
 def _listed_in(cache: str) -> List[File]:
