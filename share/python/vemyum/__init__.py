@@ -10,10 +10,13 @@ The engine runs `YumIO.py`, whose class `YumIO` is the face; the work is done he
     configuration, rights, root,
     database, lock, processes       where things lie, and who may touch them
     session                         one collection: repositories, lists, groups, extra data
+    repomd, queries, mirrors,
+    reading, latin1                 what lies in repositories and their files, and what is told of unreadable ones
     packages, headers, details,
     records, lists, groups, comps   what the engine reads of it
     keys, signatures, openpgp       keys that are missing
-    unfinished                      what a transaction that was cut off has left
+    download                        what is told of downloads
+    history, unfinished             the library's history, what a transaction that was cut off has left
     apply                           one apply, from the marks to the new rpm database, by a process of its own
     clean                           emptying the caches
 

@@ -4,6 +4,7 @@
     parent      in the program: starts the other process, turns what it tells into the engine's callbacks
     child       the other process: `share/python/apply-child.py` runs it
     work        what it does: solves, asks, downloads, runs the transaction
+    solving     from the marks to the list of changes, by a library's solver
     messages    what the two say to each other
     channel     how
     listing     the transaction as the engine lists it, made of what the child tells
