@@ -13,7 +13,8 @@ The engine runs `YumIO.py`, whose class `YumIO` is the face; the work is done he
     repomd, queries, mirrors,
     reading, latin1                 what lies in repositories and their files, and what is told of unreadable ones
     packages, headers, details,
-    records, lists, groups, comps   what the engine reads of it
+    records, lists, groups, comps,
+    vendors                         what the engine reads of it
     keys, signatures, openpgp       keys that are missing
     download                        what is told of downloads
     history, unfinished             the library's history, what a transaction that was cut off has left

@@ -11,8 +11,9 @@ import hawkey
 
 from ..backend import CHANGELOGS, GROUPS, Dependency, OpenEntry, RepositoryState
 from ..history import open_entry
-from ..packages import dependency, stated_vendor
+from ..packages import dependency
 from ..sections import RepositorySection
+from ..vendors import by_name, refused
 from .base import open_base
 from .configuration import Settings
 from .history import LAYOUT, history_path
@@ -73,14 +74,14 @@ class System:
         if not self._base.conf.obsoletes:
             return []
         query = self._changeable(self._base.sack.query())
-        by_name = self._by_name()
+        installed = by_name(self._all_installed())
         arches = self._base.sack.list_arches()
         # Who excludes an installed package wants it left alone.
         found = query.available().filter(obsoletes_by_priority=query.installed(), arch=arches)
         # An installed package that makes others obsolete in a newer version is an upgrade already.
-        covered = upgrades.union(by_name)
+        covered = upgrades.union(installed)
         new = [package for package in found.filter(latest_per_arch=True) if package.name not in covered]
-        return [(package, self._replaced(package, by_name)) for package in new]
+        return [(package, self._replaced(package, installed)) for package in new]
 
     def duplicated(self) -> List[List[dnf.package.Package]]:
         """As the command line tells duplicates: without those that are meant to be there several times."""
@@ -97,29 +98,14 @@ class System:
     def _all_installed(self) -> hawkey.Query:
         return self._base.sack.query(flags=hawkey.IGNORE_EXCLUDES).installed()
 
-    def _by_name(self) -> Dict[str, List[dnf.package.Package]]:
-        by_name: Dict[str, List[dnf.package.Package]] = {}
-        for package in self._all_installed():
-            by_name.setdefault(package.name, []).append(package)
-        return by_name
-
     def _changeable(self, query: hawkey.Query) -> hawkey.Query:
-        """The query without the updates that the solver refuses, since a vendor may not change. dnf's query for
-        updates doesn't ask for that."""
+        """The query without the updates that the solver refuses."""
         if self._base.conf.allow_vendor_change:
             return query
-        by_name = self._by_name()
-        refused = [
-            package
-            for package in query.filter(upgrades=True)
-            if not any(_same_vendor(package, old) and _updates(package, old) for old in by_name[package.name])
-        ]
-        refused += [
-            package
-            for package in query.available().filter(obsoletes=self._all_installed())
-            if not all(_same_vendor(package, old) for old in self._replaced(package, by_name))
-        ]
-        return query.filter(pkg__neq=refused)
+        replacing = query.available().filter(obsoletes=self._all_installed())
+        return query.filter(
+            pkg__neq=refused(query.filter(upgrades=True), replacing, by_name(self._all_installed()), self._replaced)
+        )
 
     def _replaced(
         self, package: dnf.package.Package, installed: Dict[str, List[dnf.package.Package]]
@@ -158,13 +144,3 @@ class System:
 
     def close(self) -> None:
         self._base.close()
-
-
-def _same_vendor(package: dnf.package.Package, other: dnf.package.Package) -> bool:
-    return (stated_vendor(package) or "") == (stated_vendor(other) or "")
-
-
-def _updates(package: dnf.package.Package, installed: dnf.package.Package) -> bool:
-    """Whether a package of the same name is to take the place of an installed one."""
-    arches = (package.arch, installed.arch)
-    return package.evr_gt(installed) and (package.arch == installed.arch or "noarch" in arches)

@@ -24,6 +24,7 @@ from ..messages import rpms_words
 from ..reading import without_durations
 from ..sections import RepositorySection
 from ..texts import _
+from ..vendors import by_name, refused
 from .base import Base, open_base
 from .failures import FAILURES, in_full, words
 from .history import LAYOUT, history_path
@@ -276,11 +277,11 @@ class System:
         present.filter_installed()
         query.filter_obsoletes(present)
         query.filter_latest_evr()
-        by_name = self._by_name()
+        installed = by_name(self._installed)
         # An installed package that makes others obsolete in a newer version is an upgrade already.
-        covered = upgrades.union(by_name)
+        covered = upgrades.union(installed)
         new = [row for row in rows(query, base) if row.name not in covered]
-        return [(row, self._replaced(row, by_name)) for row in new]
+        return [(row, self._replaced(row, installed)) for row in new]
 
     def duplicated(self) -> List[List[Row]]:
         base = self.base
@@ -304,33 +305,16 @@ class System:
         query.filter_arch(_fitting())
         return query
 
-    def _by_name(self) -> Dict[str, List[Any]]:
-        by_name: Dict[str, List[Any]] = {}
-        for row in self._installed:
-            by_name.setdefault(row.name, []).append(row)
-        return by_name
-
     def _changeable(self, base: Base, query: libdnf5.rpm.PackageQuery) -> libdnf5.rpm.PackageQuery:
-        """The query without the updates that the solver refuses, since a vendor may not change. The library's query
-        for updates doesn't ask for that."""
+        """The query without the updates that the solver refuses."""
         if base.config.allow_vendor_change:
             return query
-        by_name = self._by_name()
         newer = libdnf5.rpm.PackageQuery(query)
         newer.filter_upgrades()
-        refused = [
-            row
-            for row in rows(newer, base)
-            if not any(_same_vendor(row, old) and _updates(row, old) for old in by_name.get(row.name, []))
-        ]
         replacing = libdnf5.rpm.PackageQuery(query)
         replacing.filter_obsoletes(_set(base, self._installed))
-        refused += [
-            row
-            for row in rows(replacing, base)
-            if not all(_same_vendor(row, old) for old in self._replaced(row, by_name))
-        ]
-        query.difference(_set(base, refused))
+        installed = by_name(self._installed)
+        query.difference(_set(base, refused(rows(newer, base), rows(replacing, base), installed, self._replaced)))
         return query
 
     @staticmethod
@@ -425,14 +409,3 @@ def _set(base: Base, packages: Iterable[Any]) -> libdnf5.rpm.PackageSet:
     for package in packages:
         found.add(package)
     return found
-
-
-def _same_vendor(row: Any, other: Any) -> bool:
-    return (row.vendor or "") == (other.vendor or "")
-
-
-def _updates(row: Any, installed: Any) -> bool:
-    """Whether a package of the same name is to take the place of an installed one."""
-    fits = row.arch == installed.arch or "noarch" in (row.arch, installed.arch)
-    versions = [(str(one.epoch), one.version, one.release) for one in (row, installed)]
-    return fits and rpm.labelCompare(*versions) > 0
