@@ -9,13 +9,16 @@ import subprocess
 from typing import Any, Sequence
 from xml.etree import ElementTree
 
+from libraries import BACKEND
 from rpmestate import Estate
 
+from vemyum import choice
+
 # In a process of its own: libdnf keeps rpm's macros and its logs for the life of a process.
-PROGRAM = """
+DNF4 = """
 import json, sys
 import dnf, dnf.rpm
-root, wishes = sys.argv[1], sys.argv[2:]
+root, upgrade, wishes = sys.argv[1], sys.argv[2] == "upgrade", sys.argv[3:]
 conf = dnf.conf.Conf()
 conf.installroot = root
 conf.config_file_path = root + "/etc/yum.conf"
@@ -44,9 +47,11 @@ report = {
     "packagers": sorted({package.packager for package in query if package.packager}),
     "sizes": {package.name: package.size for package in installed},
 }
-if wishes:
+if wishes or upgrade:
     for wish in wishes:
         base.install(wish)
+    if upgrade:
+        base.upgrade_all()
     try:
         base.resolve()
         report["resolved"] = text(base.transaction.install_set)
@@ -55,14 +60,74 @@ if wishes:
 print(json.dumps(report))
 """
 
+DNF5 = """
+import json, sys
+import libdnf5.base, libdnf5.conf, libdnf5.repo, libdnf5.rpm, libdnf5.transaction
+root, upgrade, wishes = sys.argv[1], sys.argv[2] == "upgrade", sys.argv[3:]
+base = libdnf5.base.Base()
+conf = base.get_config()
+conf.installroot = root
+conf.config_file_path = root + "/etc/yum.conf"
+conf.plugins = False
+# dnf 4 does without the newest where that cannot be.
+conf.best = not upgrade
+default = libdnf5.conf.Option.Priority_DEFAULT
+conf.get_reposdir_option().set(default, ["/etc/yum.repos.d"])
+base.load_config()
+base.setup()
+base.get_repo_sack().create_repos_from_reposdir()
+base.get_repo_sack().load_repos()
 
-def dnf_report(estate: Estate, install: Sequence[str] = ()) -> dict[str, Any]:
-    """Lists of the estate as dnf sees them.
+def query(*filters):
+    found = libdnf5.rpm.PackageQuery(base)
+    for name, *arguments in filters:
+        getattr(found, "filter_" + name)(*arguments)
+    return found
 
-    With names to `install`, "resolved" is what would go in, or "problem" says why it can't.
+text = lambda packages: sorted(package.get_nevra() for package in packages)
+installed = query(["installed"])
+names = {package.get_name() for package in installed}
+available = query(["available"], ["priority"], ["arch", ["x86_64", "i686", "noarch"]], ["latest_evr"])
+known = libdnf5.repo.RepoQuery(base)
+known.filter_type(libdnf5.repo.Repo.Type_AVAILABLE)
+report = {
+    "installed": text(installed),
+    "upgrades": text(query(["available"], ["upgrades"], ["latest_evr"])),
+    "obsoleters": text(query(["available"], ["obsoletes", installed])),
+    "available": text(package for package in available if package.get_name() not in names),
+    "arches": sorted({package.get_arch() for package in query()}),
+    "suites": sorted({package.get_name() for package in query() if package.get_group() == "Suite"}),
+    "repositories": {repo.get_id(): [repo.get_name(), repo.is_enabled()] for repo in known},
+    "packagers": sorted({package.get_packager() for package in query()} - {""}),
+    "sizes": {package.get_name(): package.get_install_size() for package in installed},
+}
+if wishes or upgrade:
+    goal = libdnf5.base.Goal(base)
+    for wish in wishes:
+        goal.add_install(wish)
+    if upgrade:
+        goal.add_rpm_upgrade()
+    transaction = goal.resolve()
+    if transaction.get_problems():
+        report["problem"] = "\\n".join(transaction.get_resolve_logs_as_strings())
+    else:
+        packages = (item.get_package() for item in transaction.get_transaction_packages()
+                    if libdnf5.transaction.transaction_item_action_is_inbound(item.get_action()))
+        report["resolved"] = text(packages)
+print(json.dumps(report))
+"""
+
+PROGRAMS = {choice.DNF4: DNF4, choice.DNF5: DNF5}
+
+
+def dnf_report(estate: Estate, install: Sequence[str] = (), upgrade: bool = False) -> dict[str, Any]:
+    """Lists of the estate as dnf sees them, of the version that the tests run on.
+
+    With names to `install`, or an `upgrade` of everything, "resolved" is what would go in, or "problem" says why it
+    can't.
     """
     done = subprocess.run(
-        ["/usr/bin/python3", "-c", PROGRAM, str(estate.root), *install],
+        ["/usr/bin/python3", "-c", PROGRAMS[BACKEND], str(estate.root), "upgrade" if upgrade else "", *install],
         env=estate.command_environment(),
         check=True,
         stdout=subprocess.PIPE,

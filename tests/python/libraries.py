@@ -16,6 +16,11 @@ from vemyum import choice  # noqa: E402
 BACKEND = os.environ.get(choice.VARIABLE) or next(iter(choice.complete()), choice.DNF4)
 """Without a word, the first of those that this machine has."""
 
+CACHE = {choice.DNF4: "var/cache/dnf", choice.DNF5: "var/cache/libdnf5"}[BACKEND]
+"""Below the managed root: where the cache is when nobody names another place."""
+MISREAD = {choice.DNF4: "IniParser", choice.DNF5: "Missing ']'"}[BACKEND]
+"""Of what it says of a configuration in which a section's name has no end."""
+
 
 def only_with(backend: str) -> None:
     """Leaves out the file that calls it, before it imports what must not be imported beside the other library."""

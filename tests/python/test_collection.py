@@ -12,17 +12,11 @@ from typing import Any, List, Tuple
 
 import pytest
 from catalogue import Catalogue
+from dnfreport import dnf_report
 from fake_host import FakeHost
-from libraries import BACKEND
+from libraries import CACHE, MISREAD
 from program import Program
 from rpmestate import Estate, install_options, spec
-
-from vemyum import choice
-
-
-OWN_CACHE = {choice.DNF4: "var/cache/dnf", choice.DNF5: "var/cache/libdnf5"}
-MISREAD = {choice.DNF4: "IniParser", choice.DNF5: "Error in configuration file"}
-"""The library's words for a file of the configuration that cannot be understood."""
 
 
 def names(packages: list) -> list:
@@ -128,18 +122,8 @@ def test_update_of_a_vendor_that_the_solver_refuses_is_not_offered(
     merged = found.merged()
     if allowed == "0":
         assert (merged["other"], merged["core"], merged["newlamp"]) == ("UpToDate", "UpToDate", "Available")
-    if BACKEND != choice.DNF4:
-        return
     # The library itself updates the same, no more and no less.
-    from vemyum.dnf4.base import open_base
-    from vemyum.dnf4.configuration import Settings
-
-    base = open_base(Settings().conf, progress=False)
-    with contextlib.closing(base):
-        base.load_everything()
-        base.upgrade_all()
-        base.resolve()
-        assert sorted(map(str, base.transaction.install_set)) == sorted(names(found.updates))
+    assert dnf_report(estate, upgrade=True)["resolved"] == sorted(names(found.updates))
 
 
 def test_what_would_replace_an_excluded_package_alone_is_no_update(
@@ -271,7 +255,7 @@ def test_dnfs_own_main_file_counts_where_no_other_is(
         (estate.root / folder).mkdir(parents=True)
         (estate.root / f"etc/yum.repos.d/{name}.repo").rename(estate.root / f"{folder}/{name}.repo")
     assert program.collect().merged() == {"battery": "Available", "lamp": "Available"}
-    assert list((estate.root / OWN_CACHE[BACKEND]).glob("base-*"))
+    assert list((estate.root / CACHE).glob("base-*"))
     assert not (estate.root / "var/cache/yum").exists()
     program.end()
 
@@ -280,11 +264,17 @@ def test_dnfs_own_main_file_counts_where_no_other_is(
     assert list((estate.root / "var/cache/yum").glob("base-*"))
 
 
-def test_cache_and_log_lie_below_the_root_by_default(lamp: Tuple[Estate, Program]) -> None:
+def test_cache_lies_below_the_root_by_default(lamp: Tuple[Estate, Program]) -> None:
     estate, program = lamp
     program.collect()
     assert list((estate.root / "var/cache/yum").glob("base-*"))
-    assert (estate.root / "var/log").is_dir()
+
+
+@pytest.mark.dnf4
+def test_the_librarys_log_lies_below_the_root_by_default(lamp: Tuple[Estate, Program]) -> None:
+    estate, program = lamp
+    program.collect()
+    assert (estate.root / "var/log/hawkey.log").exists()
 
 
 def test_variables_of_the_configuration(lamp: Tuple[Estate, Program]) -> None:
@@ -445,7 +435,7 @@ def test_first_configuration_that_cannot_be_read_ends_the_program(
 
 def check_misread(estate: Estate, report: str) -> None:
     """The fault is told once, and the path is the one that the configuration knows."""
-    assert report.count("yum.conf") == 1 and report.count(MISREAD[BACKEND]) == 1
+    assert report.count("yum.conf") == 1 and report.count(MISREAD) == 1
     assert "/etc/yum.conf" in report and str(estate.root) not in report
 
 
