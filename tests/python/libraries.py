@@ -16,10 +16,18 @@ from vemyum import choice  # noqa: E402
 BACKEND = os.environ.get(choice.VARIABLE) or next(iter(choice.complete()), choice.DNF4)
 """Without a word, the first of those that this machine has."""
 
-CACHE = {choice.DNF4: "var/cache/dnf", choice.DNF5: "var/cache/libdnf5"}[BACKEND]
+
+def by_library(dnf4: str, dnf5: str) -> str:
+    """The word of the library that the tests run on."""
+    return {choice.DNF4: dnf4, choice.DNF5: dnf5}[BACKEND]
+
+
+CACHE = by_library("var/cache/dnf", "var/cache/libdnf5")
 """Below the managed root: where the cache is when nobody names another place."""
-MISREAD = {choice.DNF4: "IniParser", choice.DNF5: "Missing ']'"}[BACKEND]
+MISREAD = by_library("IniParser", "Missing ']'")
 """Of what it says of a configuration in which a section's name has no end."""
+NO_INI_FILE = by_library("'/etc/yum.conf' failed", 'file "/etc/yum.conf"\nMissing section header')
+"""Of what it says of a main file without any section."""
 
 
 def only_with(backend: str) -> None:

@@ -173,6 +173,7 @@ def test_part_of_a_file_is_still_to_be_downloaded(
     assert "lone-1.0-1.noarch" in served.installed()
 
 
+@pytest.mark.dnf4
 def test_no_section_asks_for_deltas(served: Estate, program: Program) -> None:
     served.write_repo_file("base", extra={"deltarpm": "1"})
     yumio = program.start()

@@ -13,6 +13,7 @@ from typing import List, Optional, Tuple
 import pytest
 from catalogue import Catalogue
 from fake_host import FakeHost
+from libraries import by_library
 from program import Program
 from rpmestate import Estate
 from web import Web, metalink
@@ -155,7 +156,7 @@ def test_repository_without_address_is_named(estate: Estate, rpms: Catalogue, pr
 
 def test_corrupt_repomd_is_named(served: Estate, program: Program, web: Web) -> None:
     web.page("/base/repodata/repomd.xml", b"<html>no")
-    unreadable(program, "repository base", f"{web.url}/base", "repomd")
+    unreadable(program, "repository base", f"{web.url}/base", by_library("repomd.xml parser error", "line 1\n"))
 
 
 @pytest.mark.parametrize("query", ["", "?key=a&path=/base"])
@@ -309,8 +310,7 @@ def test_extra_data_reports_reading(lamp: Tuple[Estate, Program], host: FakeHost
 
 def test_changelogs_of_a_repository_that_is_gone(served: Estate, program: Program, web: Web) -> None:
     yumio = program.collect().yumio
-    changelogs = [path.name for path in (served.repos_dir / "base/repodata").glob("*-other.xml*")]
-    web.lose("/base/repodata/repomd.xml", *(f"/base/repodata/{name}" for name in changelogs))
+    web.lose("/base/repodata/repomd.xml")
     with pytest.raises(program.errors.YumBaseError, match="repository base"):
         yumio.collectOtherData()
     web.find_again()
@@ -339,7 +339,7 @@ def test_damaged_fast_form_of_the_metadata_is_made_anew(
     estate.repository("base", rpms.some("lone-1.0"))
     estate.repository("more", rpms.some("battery-1.0"))
     program.collect()
-    fast = list((estate.root / "var/cache/yum").rglob("*.solv*"))
+    fast = list((estate.root / "var/cache/yum").glob("*.solv*"))
     assert len(fast) >= 2
     for file in fast:
         file.write_bytes(file.read_bytes()[:keep])
