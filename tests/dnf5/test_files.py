@@ -112,6 +112,24 @@ def test_each_package_that_fails_is_named_with_its_cause(
     assert estate.installed() == set()
 
 
+def test_package_that_is_given_up_over_another_one_is_not_told(estate: Estate, rpms: Catalogue, host: Any) -> None:
+    """Which of them is under way when one fails is chance."""
+    from libdnf5.repo import DownloadCallbacks
+    from vemyum.dnf5.download import DownloadMeter
+
+    estate.repository("base", rpms.some("battery-1.0", "lone-1.0"))
+    apply = Apply(rpms.some("battery-1.0", "lone-1.0"))
+    apply.plan()
+    meter = DownloadMeter(apply.transaction._resolved.packages())
+    failed = DownloadCallbacks.TransferStatus_ERROR
+    meter.progress(1, 2, 1)
+    meter.mirror_failed(2, "Status code: 404", "http://127.0.0.1/lone")
+    meter.end(2, failed, "Cannot download lone: All mirrors were tried")
+    meter.end(1, failed, "Not finished - interrupted by error: Cannot download lone: All mirrors were tried")
+    (line,) = meter.failures()
+    assert "Status code: 404" in line and "Not finished" not in line
+
+
 def test_packages_of_an_address_with_a_query(
     estate: Estate, rpms: Catalogue, host: Any, tmp_path: Path
 ) -> None:

@@ -20,6 +20,8 @@ from .metadata import base_addresses, downloaded
 
 _EXISTS = libdnf5.repo.DownloadCallbacks.TransferStatus_ALREADYEXISTS
 _FAILED = libdnf5.repo.DownloadCallbacks.TransferStatus_ERROR
+_GIVEN_UP = "Not finished - interrupted by error"
+"""Begins what librepo, which isn't translated, says of a file that is given up over another one."""
 
 
 class _File(File):
@@ -80,7 +82,7 @@ class DownloadMeter:
             for file in self._files
             if not file.good
             for cause in file.causes.lines() or [file.said]
-            if cause
+            if cause and not cause.startswith(_GIVEN_UP)
         ]
 
     def finish(self) -> None:
