@@ -71,6 +71,12 @@ def is_there(root: str, path: str) -> bool:
     return False
 
 
+def can_be_read(path: str) -> bool:
+    """Whether there is a main file at this path of the process that this user may read. One that is closed to the user
+    counts as missing: the repositories can be looked at without it."""
+    return os.access(path, os.R_OK)
+
+
 def regular_main_file(root: str) -> str:
     """The path of the process for the main configuration file that counts below the root, whether it is there or not.
     YumBaseError for what is no file: to open a pipe would wait for ever."""

@@ -21,7 +21,7 @@ from ..configuration import (
     LOG_DIRECTORY,
     SIGNATURE_OPTIONS,
     MainFile,
-    is_there,
+    can_be_read,
     main_file,
     protected_packages,
     regular_main_file,
@@ -86,8 +86,8 @@ def _read(root: str) -> dnf.conf.MainConf:
     conf = dnf.conf.Conf()
     conf.installroot = root
     main = main_file(root)
-    _set_defaults(conf, root, main)
     path = regular_main_file(root)
+    _set_defaults(conf, root, main, path)
     try:
         with undecodable_named(path):
             conf.read(path, dnf.conf.config.PRIO_MAINCONFIG)
@@ -156,7 +156,7 @@ def _release(root: str) -> str:
         return ""
 
 
-def _set_defaults(conf: dnf.conf.MainConf, root: str, main: MainFile) -> None:
+def _set_defaults(conf: dnf.conf.MainConf, root: str, main: MainFile, path: str) -> None:
     defaults = {
         "reposdir": list(main.repository_directories),
         "protected_packages": protected_packages(root),
@@ -164,7 +164,7 @@ def _set_defaults(conf: dnf.conf.MainConf, root: str, main: MainFile) -> None:
     }
     if main.cache_directory is not None:
         defaults["cachedir"] = main.cache_directory
-    if not is_there(root, main.path):
+    if not can_be_read(path):
         # Else nobody would ask for signatures: the library does it where it is told to.
         defaults["gpgcheck"] = True
     for name, value in defaults.items():

@@ -20,6 +20,7 @@ from .. import rights
 from ..configuration import (
     LOG_DIRECTORY,
     MainFile,
+    can_be_read,
     main_file,
     protected_packages,
     regular_main_file,
@@ -78,12 +79,8 @@ class Settings:
         config = library.get_config()
         config.installroot = self.root
         self._set_defaults(config)
-        path = config.get_config_file_path_option()
-        if os.path.exists(self.main_path):
-            path.set(_RUNTIME, self.main_path)
-        else:
-            # A file that is missing is passed over only where nobody has asked for it.
-            path.set(_DEFAULT, self._main.path)
+        # Of a file that is missing it would complain.
+        config.config_file_path = self.main_path if can_be_read(self.main_path) else os.devnull
         library.load_config()
         for name in self.checks:
             setattr(config, name, True)
@@ -118,7 +115,7 @@ class Settings:
         config.get_optional_metadata_types_option().set(_DEFAULT, list(METADATA))
         folders = list(config.varsdir)
         config.get_varsdir_option().set(_DEFAULT, [*folders[:-1], _CLASSIC_VARIABLES, *folders[-1:]])
-        if not os.path.exists(self.main_path):
+        if not can_be_read(self.main_path):
             # Else nobody would ask for signatures: the library does it where it is told to.
             config.get_pkg_gpgcheck_option().set(_DEFAULT, True)
 
@@ -203,7 +200,7 @@ def options(section: Iterable[Tuple[str, str]]) -> Dict[str, str]:
 def _main_section(path: str) -> libdnf5.conf.ConfigParser:
     """What the main file states. YumBaseError for a section that isn't UTF-8."""
     parser = libdnf5.conf.ConfigParser()
-    if os.path.exists(path):
+    if can_be_read(path):
         parser.read(path)
         for name, section in parser.get_data():
             if name == "main" and not all(map(_is_text, itertools.chain(*options(section).items()))):
