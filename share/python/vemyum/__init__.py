@@ -4,7 +4,7 @@
 The engine runs `YumIO.py`, whose class `YumIO` is the face; the work is done here:
 
     choice, backend                 which library, and what one must give
-    dnf4                            dnf 4, driven: nothing else imports dnf's modules
+    dnf4, dnf5                      dnf 4 and dnf 5, driven: nothing else imports their modules
     text, host, streams, messages   what goes to the engine: texts, host functions, printing, log lines
     errors, surroundings            exceptions as the engine expects them, the modules that it looks up
     configuration, rights, root,
@@ -14,7 +14,7 @@ The engine runs `YumIO.py`, whose class `YumIO` is the face; the work is done he
     reading, latin1                 what lies in repositories and their files, and what is told of unreadable ones
     packages, headers, details,
     records, lists, groups, comps,
-    vendors                         what the engine reads of it
+    versions, vendors               what the engine reads of it
     keys, signatures, openpgp       keys that are missing
     download                        what is told of downloads
     history, unfinished             the library's history, what a transaction that was cut off has left

@@ -9,10 +9,9 @@ from __future__ import annotations
 
 from functools import cmp_to_key
 from operator import attrgetter
-from typing import Dict, FrozenSet, Iterable, List, Tuple
+from typing import Dict, FrozenSet, Iterable, List
 
-import rpm
-
+from . import versions
 from .backend import Row, System
 from .database import require_sound
 from .packages import AvailablePackage, Details, InstalledPackage, ReplacingPackage
@@ -96,7 +95,7 @@ class Collector:
         native = set(self._system.native())
 
         def compare(a: Row, b: Row) -> int:
-            return (a.arch not in native) - (b.arch not in native) or rpm.labelCompare(_evr(b), _evr(a))
+            return (a.arch not in native) - (b.arch not in native) or versions.compare(b, a)
 
         for name, same in several.items():
             same.append(last[name])
@@ -115,7 +114,3 @@ class Collector:
         root = self._system.settings.root
         require_sound(root, self.installed_names, count, self.known_installed(root))
         self._known_installed[root] = count
-
-
-def _evr(row: Row) -> Tuple[str, str, str]:
-    return (str(row.epoch), row.version, row.release)

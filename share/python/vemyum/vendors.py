@@ -5,8 +5,7 @@ from __future__ import annotations
 
 from typing import Any, Callable, Dict, Iterable, List
 
-import rpm
-
+from . import versions
 from .packages import stated_vendor
 
 
@@ -44,5 +43,4 @@ def _same_vendor(package: Any, other: Any) -> bool:
 def _updates(package: Any, installed: Any) -> bool:
     """Whether a package of the same name is to take the place of an installed one."""
     fits = package.arch == installed.arch or "noarch" in (package.arch, installed.arch)
-    versions = [(str(one.epoch), one.version, one.release) for one in (package, installed)]
-    return fits and rpm.labelCompare(*versions) > 0
+    return fits and versions.compare(package, installed) > 0

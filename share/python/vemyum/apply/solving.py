@@ -8,6 +8,7 @@ from __future__ import annotations
 
 from typing import Any, Callable, Collection, Dict, Iterable, List, NamedTuple, Protocol, Sequence, Set, Tuple
 
+from .. import versions
 from ..backend import PkgTup
 from ..errors import YumBaseError
 from ..packages import pkgtup
@@ -108,12 +109,16 @@ def _doubled(
     unwanted = set(removes)
     newest: Dict[Tuple[str, str], Any] = {}
     going = []
-    for package in sorted(one for one in installed if pkgtup(one) not in install_only):
+    for package in sorted((one for one in installed if pkgtup(one) not in install_only), key=versions.oldest_first):
         if _wish(package) in unwanted:
             going.append(package)
         else:
             newest[package.name, package.arch] = package
-    return [package for package in going if package < newest.get((package.name, package.arch), package)]
+    return [
+        package
+        for package in going
+        if versions.compare(package, newest.get((package.name, package.arch), package)) < 0
+    ]
 
 
 def _marked(solver: Solver, incoming: Sequence[Wish], removes: Sequence[Wish]) -> Marks:

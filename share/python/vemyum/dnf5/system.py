@@ -16,6 +16,7 @@ import libdnf5.repo
 import libdnf5.rpm
 import rpm
 
+from .. import versions
 from ..backend import CHANGELOGS, GROUPS, Dependency, OpenEntry, RepositoryState
 from ..database import point_rpm_at
 from ..errors import RepoError, YumBaseError, os_error_text
@@ -285,13 +286,14 @@ class System:
 
     def duplicated(self) -> List[List[Row]]:
         base = self.base
-        several = libdnf5.rpm.PackageQuery(base.library)
-        several.filter_installonly()
-        meant = set(several)
+        query = libdnf5.rpm.PackageQuery(base.library)
+        query.filter_installonly()
+        meant = set(query)
         found: Dict[Tuple[str, str], List[Any]] = {}
         for row in self._installed:
             found.setdefault((row.name, row.arch), []).append(row)
-        return [sorted(same) for same in found.values() if len(same) > 1 and not meant.intersection(same)]
+        several = [same for same in found.values() if len(same) > 1 and not meant.intersection(same)]
+        return [sorted(same, key=versions.oldest_first) for same in several]
 
     def native(self) -> Sequence[str]:
         variables = self.settings.variables

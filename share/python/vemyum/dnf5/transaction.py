@@ -128,7 +128,7 @@ class Transaction:
         return plan.removed_alone(alone.base, removed)
 
     def streams(self) -> List[str]:
-        """None: the library has no words for them here."""
+        """None: the library enables one only when that is asked for, not for a package that comes from it."""
         return []
 
     # Files -------------------------------------------------------------------------------------------------------
