@@ -24,6 +24,8 @@ def by_library(dnf4: str, dnf5: str) -> str:
 
 CACHE = by_library("var/cache/dnf", "var/cache/libdnf5")
 """Below the managed root: where the cache is when nobody names another place."""
+HISTORY = by_library("var/lib/dnf/history.sqlite", "usr/lib/sysimage/libdnf5/transaction_history.sqlite")
+"""Below the managed root, too."""
 MISREAD = by_library("IniParser", "Missing ']'")
 """Of what it says of a configuration in which a section's name has no end."""
 NO_INI_FILE = by_library("'/etc/yum.conf' failed", 'file "/etc/yum.conf"\nMissing section header')

@@ -16,6 +16,7 @@ from typing import Any, Callable, Iterator, List, Optional, Tuple
 import pytest
 from catalogue import Catalogue
 from fake_host import FakeHost
+from libraries import HISTORY, by_library
 from program import Program
 from rpmestate import Estate
 
@@ -272,9 +273,10 @@ def waiting(estate: Estate, rpms: Catalogue) -> Iterator[Tuple[Estate, Path, Pat
 
 
 def finished(estate: Estate) -> List[bool]:
-    """Whether each transaction of dnf's history came to its end."""
-    with contextlib.closing(sqlite3.connect(estate.root / "var/lib/dnf/history.sqlite")) as history:
-        return [state == 1 for (state,) in history.execute("select state from trans order by id")]
+    """Whether each transaction of the library's history came to its end."""
+    done = by_library("state = 1", "state_id = 2")
+    with contextlib.closing(sqlite3.connect(estate.root / HISTORY)) as history:
+        return [bool(one) for (one,) in history.execute(f"select {done} from trans order by id")]
 
 
 def dead(pid: int) -> bool:

@@ -15,6 +15,7 @@ import pytest
 from catalogue import Catalogue
 from failing import fail_with, fails, in_work
 from fake_host import FakeHost
+from libraries import HISTORY
 from program import Program
 from rpmestate import Estate
 
@@ -159,18 +160,17 @@ def test_database_that_was_damaged_since_the_table_was_filled_stops_the_apply(
 
 
 @pytest.mark.parametrize("content", [b"", b"no history" * 1000, b"SQLite format 3\0" + bytes(84)])
-@pytest.mark.dnf4
 def test_history_that_cannot_be_used_is_told_once_with_its_remedy(
     estate: Estate, rpms: Catalogue, program: Program, host: FakeHost, content: bytes
 ) -> None:
     estate.repository("base", rpms.some("lone-1.0"))
-    history = estate.root / "var/lib/dnf/history.sqlite"
+    history = estate.root / HISTORY
     history.parent.mkdir(parents=True, exist_ok=True)
     history.write_bytes(content)
     found = program.collect()
     text = fails(program, lambda: found.yumio.apply([found.offered("lone")], [], []))
     first, second = text.splitlines()
-    assert first.startswith("The history of transactions, /var/lib/dnf/history.sqlite, cannot be used: ")
+    assert first.startswith(f"The history of transactions, /{HISTORY}, cannot be used: ")
     assert second == "Move it elsewhere, and it is made anew."
     assert not host.text("errorlog")
     assert not host.named("userconfirm")
@@ -180,7 +180,6 @@ def test_history_that_cannot_be_used_is_told_once_with_its_remedy(
     assert estate.installed() == {"lone-1.0-1.noarch"} and history.stat().st_size
 
 
-@pytest.mark.dnf4
 def test_locked_history_is_told_and_not_to_be_moved(
     estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
 ) -> None:
@@ -188,9 +187,9 @@ def test_locked_history_is_told_and_not_to_be_moved(
     found = program.collect()
     found.yumio.apply([found.offered("battery")], [], [])
     found = program.collect()
-    with contextlib.closing(sqlite3.connect(estate.root / "var/lib/dnf/history.sqlite")) as history:
+    with contextlib.closing(sqlite3.connect(estate.root / HISTORY)) as history:
         history.execute("begin exclusive")
-        fails_with = "The history of transactions, /var/lib/dnf/history.sqlite, cannot be used: database is locked"
+        fails_with = f"The history of transactions, /{HISTORY}, cannot be used: database is locked"
         assert fails(program, lambda: found.yumio.apply([found.offered("lone")], [], [])) == fails_with
     found.yumio.apply([found.offered("lone")], [], [])
     assert estate.installed() == {"battery-1.0-1.noarch", "lone-1.0-1.noarch"}

@@ -13,6 +13,7 @@ from typing import Any, Dict, Tuple
 import pytest
 from catalogue import Catalogue
 from fake_host import FakeHost
+from libraries import HISTORY, by_library
 from program import Program
 from rpmestate import Estate, install_options, spec
 
@@ -24,8 +25,8 @@ def double(estate: Estate, rpms: Catalogue, *names: str) -> None:
 
 def cut_off_last(estate: Estate) -> None:
     """Makes the last entry of the history one without an end."""
-    with contextlib.closing(sqlite3.connect(estate.root / "var/lib/dnf/history.sqlite")) as history:
-        history.execute("update trans set state = 0, dt_end = null")
+    with contextlib.closing(sqlite3.connect(estate.root / HISTORY)) as history:
+        history.execute(f"update trans set {by_library('state = 0', 'state_id = 1')}, dt_end = null")
         history.commit()
 
 
@@ -60,6 +61,22 @@ def test_packages_that_are_there_twice_are_told_with_their_versions(
     assert versions == {"lib": "1.0-1, 2.0-1"}
     assert [str(package) for package in older] == ["lib-1.0-1.noarch"]
     assert host.text("errorlog") == text
+
+
+def test_older_version_is_the_one_that_is_removed_even_if_it_came_in_last(
+    estate: Estate, rpms: Catalogue, program: Program
+) -> None:
+    estate.install(rpms.some("lib-2.0", "battery-1.0"))
+    double(estate, rpms, "lib-1.0")
+    estate.repository("base", rpms.some("lone-1.0"))
+    _, versions, older = told(program)
+    assert versions == {"lib": "1.0-1, 2.0-1"}
+    # That a newer version stays is known even so.
+    protected = estate.root / "etc/dnf/protected.d/lib.conf"
+    protected.parent.mkdir(parents=True, exist_ok=True)
+    protected.write_text("lib\n")
+    program.yumio.apply([], [], older)
+    assert estate.installed() == {"lib-2.0-1.noarch", "battery-1.0-1.noarch"}
 
 
 def test_older_versions_are_removed_by_an_apply(doubled: Tuple[Estate, Program], host: FakeHost) -> None:
@@ -155,7 +172,6 @@ def test_who_may_only_look_gets_nothing_to_remove(
     assert "lib.noarch: 1.0-1, 2.0-1" in host.text("log")
 
 
-@pytest.mark.dnf4
 def test_who_may_only_look_is_told_of_the_systems_own_history(
     lamp: Tuple[Estate, Program], monkeypatch: pytest.MonkeyPatch
 ) -> None:
@@ -170,7 +186,6 @@ def test_who_may_only_look_is_told_of_the_systems_own_history(
     assert told(program)[0].startswith("The last transaction was cut off before its end: number 1, ")
 
 
-@pytest.mark.dnf4
 def test_entry_of_the_history_without_an_end_is_told_with_what_is_missing(
     estate: Estate, rpms: Catalogue, program: Program
 ) -> None:
@@ -200,7 +215,6 @@ def test_entry_of_the_history_without_an_end_is_told_with_what_is_missing(
     ]
 
 
-@pytest.mark.dnf4
 def test_next_transaction_ends_the_telling(estate: Estate, rpms: Catalogue, program: Program) -> None:
     estate.repository("base", rpms.some("lone-1.0", "battery-1.0"))
     found = program.collect()
@@ -213,12 +227,11 @@ def test_next_transaction_ends_the_telling(estate: Estate, rpms: Catalogue, prog
 
 
 @pytest.mark.parametrize("content", [None, b"", b"no database", b"SQLite format 3\0" + bytes(84)])
-@pytest.mark.dnf4
 def test_history_that_cannot_be_read_is_left_alone(
     lamp: Tuple[Estate, Program], content: Any, host: FakeHost
 ) -> None:
     estate, program = lamp
-    history = estate.root / "var/lib/dnf/history.sqlite"
+    history = estate.root / HISTORY
     history.parent.mkdir(parents=True, exist_ok=True)
     if content is not None:
         history.write_bytes(content)
