@@ -339,7 +339,7 @@ def test_damaged_fast_form_of_the_metadata_is_made_anew(
     estate.repository("base", rpms.some("lone-1.0"))
     estate.repository("more", rpms.some("battery-1.0"))
     program.collect()
-    fast = list((estate.root / "var/cache/yum").glob("*.solv*"))
+    fast = list((estate.root / "var/cache/yum").rglob("*.solv*"))
     assert len(fast) >= 2
     for file in fast:
         file.write_bytes(file.read_bytes()[:keep])

@@ -174,7 +174,7 @@ def test_caches_of_a_writable_var_are_the_systems_and_can_be_cleaned(look: Look,
     said = look("usr")
     assert (estate.root / "var/cache/yum").is_dir() and not (Path.home() / ".cache/vem").exists()
     assert said["cleaned"] == 0
-    assert not list((estate.root / "var/cache/yum").glob("*.solv"))
+    assert not list((estate.root / "var/cache/yum").rglob("*.solv"))
 
 
 def test_database_that_is_read_only_too_can_be_looked_at(look: Look, estate: Estate) -> None:
