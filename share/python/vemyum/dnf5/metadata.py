@@ -31,10 +31,8 @@ from ..webpage import asked
 from .base import Base
 from .failures import FAILURES, words
 from .log import LOGGER
-from .progress import FetchingProgress
+from .progress import MIRROR_LISTS, FetchingProgress
 
-_MIRROR_LISTS = ("metalink.xml", "mirrorlist")
-"""As the library keeps them beside the metadata."""
 _ALWAYS = frozenset(("primary", "group", "group_gz", "modules"))
 _OPTIONAL = frozenset((FILE_LISTS, CHANGELOGS, "updateinfo"))
 """Kinds of which a cache that another program has filled may lack one."""
@@ -63,7 +61,7 @@ def servers(repo: libdnf5.repo.Repo) -> Iterator[str]:
     mirrors = list(repo.get_mirrors())
     yield from mirrors
     if not mirrors:
-        for name in _MIRROR_LISTS:
+        for name in MIRROR_LISTS:
             with contextlib.suppress(OSError):
                 yield from mirrors_in(_content(os.path.join(repo.get_cachedir(), name)))
 

@@ -8,6 +8,7 @@ fetches; the files that stand in its temporary directory do.
 
 from __future__ import annotations
 
+import contextlib
 import os
 import time
 from typing import Dict, List, Optional
@@ -17,6 +18,9 @@ import libdnf5.repo
 from .. import host
 from ..errors import RepoError
 from ..repomd import FOLDER, NAME, listed
+
+MIRROR_LISTS = ("metalink.xml", "mirrorlist")
+"""As the library keeps them beside the metadata."""
 
 _LOOK_EVERY = 0.1
 """Seconds between two looks at the growing files."""
@@ -63,6 +67,10 @@ class FetchingProgress:
             self._follow_download(True)
             return
         act = self._mirrors if self._mirrors and NAME not in files else NAME
+        if act == NAME and self._mirrors:
+            # The library counts one file on top of the other.
+            before = self._mirror_list_size()
+            size, done = max(size - before, 0), max(done - before, 0)
         if act != self._act or (size and size != self._size):
             self.open(act, size)
         if done:
@@ -111,6 +119,13 @@ class FetchingProgress:
             return {entry.name: entry.stat().st_size for entry in os.scandir(os.path.join(folder, FOLDER))}
         except OSError:
             return {}
+
+    def _mirror_list_size(self) -> int:
+        folder = self._folder()
+        for name in MIRROR_LISTS if folder is not None else ():
+            with contextlib.suppress(OSError):
+                return os.stat(os.path.join(folder, name)).st_size
+        return 0
 
     def _announced_sizes(self) -> Dict[str, int]:
         folder = self._folder()
