@@ -30,7 +30,8 @@ class Cellar(NamedTuple):
         return {path for ending in endings for path in cache.glob(f"**/*.{ending}")}
 
     def everything(self) -> set[Path]:
-        return set((self.estate.root / "var/cache/yum").glob("**/*"))
+        """All files. An empty folder may go with the last of them or stay, as the library has it."""
+        return {path for path in (self.estate.root / "var/cache/yum").glob("**/*") if not path.is_dir()}
 
     def offer_more(self) -> None:
         """The server has another package from now on, which nobody hears of who trusts the cache."""
