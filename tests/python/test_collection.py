@@ -191,6 +191,20 @@ def test_excluded_package_is_not_offered_but_shown_as_installed(
     assert found.merged() == {"lamp": "UpToDate"}
 
 
+@pytest.mark.parametrize("cheap", ("first", "second", "third"))
+def test_package_of_several_repositories_is_taken_where_it_costs_least(
+    lamp: Tuple[Estate, Program], rpms: Catalogue, cheap: str
+) -> None:
+    estate, program = lamp
+    estate.install(rpms.some("oldlamp-1.0"))
+    for id in ("first", "second", "third"):
+        packages = rpms.some("lamp-1.1", "lib-1.0", "newlamp-1.0")
+        estate.repository(id, packages, extra={"cost": "200" if id == cheap else "300"})
+    found = program.collect()
+    taken = [found.update("lamp"), found.update("newlamp"), found.offered("lib")]
+    assert [package.repoid for package in taken] == [cheap] * 3
+
+
 def test_disabled_repository_is_not_read(lamp: Tuple[Estate, Program], rpms: Catalogue) -> None:
     estate, program = lamp
     estate.repository("extras", rpms.some("battery-1.0"), enabled=False)

@@ -143,7 +143,7 @@ class System(Protocol):
 
     def available(self) -> List[Row]:
         """The newest of each name and architecture that fits this machine, by the repositories' priorities, without
-        what is excluded."""
+        what is excluded. Here and in the next two lists, the same package comes first from where it costs least."""
 
     def upgrades(self) -> List[Row]:
         """The newest of those that would take the place of an installed version, as the solver allows it."""

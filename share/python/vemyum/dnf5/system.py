@@ -259,14 +259,14 @@ class System:
         base = self.base
         query = self._offered(base)
         query.filter_latest_evr()
-        return rows(query, base)
+        return self._cheapest_first(query, base)
 
     def upgrades(self) -> List[Row]:
         base = self.base
         query = self._changeable(base, self._offered(base))
         query.filter_upgrades()
         query.filter_latest_evr()
-        return rows(query, base)
+        return self._cheapest_first(query, base)
 
     def replacing(self, upgrades: Set[str]) -> List[Tuple[Row, List[Row]]]:
         base = self.base
@@ -281,7 +281,7 @@ class System:
         installed = by_name(self._installed)
         # An installed package that makes others obsolete in a newer version is an upgrade already.
         covered = upgrades.union(installed)
-        new = [row for row in rows(query, base) if row.name not in covered]
+        new = [row for row in self._cheapest_first(query, base) if row.name not in covered]
         return [(row, self._replaced(row, installed)) for row in new]
 
     def duplicated(self) -> List[List[Row]]:
@@ -306,6 +306,16 @@ class System:
         query.filter_priority()
         query.filter_arch(_fitting())
         return query
+
+    @staticmethod
+    def _cheapest_first(query: libdnf5.rpm.PackageQuery, base: Base) -> List[Any]:
+        """The rows of a query. Of a package that several repositories have, the solver takes the one that costs least;
+        the library's own order is the one in which they happened to be read."""
+        found = rows(query, base)
+        costs = {repo.get_id(): repo.get_cost() for repo in base.repositories(enabled_only=True)}
+        if len(set(costs.values())) > 1:
+            found.sort(key=lambda row: costs[row.reponame])
+        return found
 
     def _changeable(self, base: Base, query: libdnf5.rpm.PackageQuery) -> libdnf5.rpm.PackageQuery:
         """The query without the updates that the solver refuses."""
