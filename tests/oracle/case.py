@@ -4,17 +4,13 @@
 from __future__ import annotations
 
 import dataclasses
-import shutil
 from pathlib import Path
 from typing import Dict, List, NamedTuple, Optional, Sequence, Set, Tuple
 
-import dnf.const
-
+from commands import COMMANDS, Lock, Start
 from dice import Dice
 from pool import CORES, NAMES, SECOND, Entry, Package, Pool, write_repository
-
-LOCKING = Path(dnf.const.PLUGINPATH) / "versionlock.py"
-"""The plugin that locks versions; not every system has it."""
+from sections import write_section
 
 MOST, MOST_NAMES = 34, 22
 """Packages in the repositories of an estate, and how many names they have together with what is installed."""
@@ -49,6 +45,10 @@ class Repository:
     packages: List[Package]
     options: Dict[str, str]
 
+    @property
+    def enabled(self) -> bool:
+        return self.options["enabled"] == "1"
+
 
 class Case:
     """Everything about a seed; the same each time."""
@@ -76,7 +76,7 @@ class Case:
         """Those that the rpm database holds."""
         if self.signed:
             self._check(Dice(f"keys {seed}"))
-        self.locks = self._locks(Dice(f"locks {seed}")) if LOCKING.exists() else []
+        self.locks = self._locks(Dice(f"locks {seed}")) if COMMANDS.can_lock() else []
         self.options: List[str] = []
         """What the command line has to be told in addition, once the case is written."""
         self._dice = Dice(f"marks {seed}")
@@ -153,7 +153,7 @@ class Case:
             if dice.chance(0.04):
                 options["includepkgs"] = " ".join(dice.some(self.names, len(self.names) * 2 // 3))
             options["enabled"] = "0" if count > 1 and dice.chance(0.1) else "1"
-        if all(repository.options["enabled"] == "0" for repository in found):
+        if not any(repository.enabled for repository in found):
             found[0].options["enabled"] = "1"
         return found
 
@@ -233,14 +233,12 @@ class Case:
         if dice.chance(0.5):
             self.streams = {name: dice.one(("old", "new"))}
 
-    def _locks(self, dice: Dice) -> List[str]:
-        """Lines of the list of locked versions: a name is held at one, or one is never to come."""
+    def _locks(self, dice: Dice) -> List[Lock]:
         if not dice.chance(0.15):
             return []
         known = [package for package in self.pool.packages if package.name in self.names]
         locked = dice.some(known, dice.between(1, 3))
-        lines = [f"{one.name}-{one.epoch}:{one.version}-{one.release}.*" for one in locked]
-        return [line if dice.chance(0.75) else f"!{line}" for line in lines]
+        return [Lock(one.name, one.epoch, one.version, one.release, not dice.chance(0.75)) for one in locked]
 
     # What it is on the disk ---------------------------------------------------------------------------
 
@@ -257,22 +255,16 @@ class Case:
             write_section(root / f"etc/yum.repos.d/{repository.id}.repo", repository.id, options)
         main = {**self.main, "plugins": "0"}
         if self.locks:
-            # Of all that this machine has, the one plugin alone.
-            code, settings, listed = directory / "plugins", directory / "settings", "etc/dnf/plugins/versionlock.list"
-            for folder in (code, settings):
-                folder.mkdir()
-            shutil.copy2(LOCKING, code)
-            main.update(plugins="1", pluginpath=str(code))
-            # The command line looks for both files on this machine, whatever the root.
-            self.options = [f"--setopt=pluginconfpath={settings}"]
-            for folder, place in ((root / "etc/dnf/plugins", Path("/")), (settings, root)):
-                options = {"enabled": "1", "locklist": str(place / listed)}
-                write_section(folder / "versionlock.conf", "main", options)
-            (root / listed).write_text("".join(f"{line}\n" for line in self.locks), encoding="utf-8")
+            self.options = COMMANDS.lock(self.locks, root, directory, main)
         write_section(root / "etc/dnf/dnf.conf", "main", main)
-        for module, stream in self.streams.items():
-            options = {"name": module, "stream": stream, "profiles": "", "state": "enabled"}
-            write_section(root / f"etc/dnf/modules.d/{module}.module", module, options)
+        COMMANDS.enable(self.streams, root)
+
+    @property
+    def begins(self) -> Start:
+        """What is installed at the beginning."""
+        group = sorted(self.groups)[0] if self.start_group else ""
+        members = [name for name, kind in self.groups[group] if kind != "optional"] if group else []
+        return Start(self.start, group, members, self.weak_at_start)
 
     def write_old(self, directory: Path) -> None:
         """The repository that the start comes from."""
@@ -309,12 +301,6 @@ class Case:
 
 def name_of(nevra: str) -> str:
     return nevra.rpartition("-")[0].rpartition("-")[0]
-
-
-def write_section(path: Path, title: str, options: Dict[str, str]) -> None:
-    path.parent.mkdir(parents=True, exist_ok=True)
-    lines = [f"[{title}]", *(f"{option}={value}" for option, value in options.items())]
-    path.write_text("\n".join(lines) + "\n", encoding="utf-8")
 
 
 def _comps(groups: Dict[str, List[Tuple[str, str]]]) -> str:

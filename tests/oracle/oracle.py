@@ -12,10 +12,12 @@ import rpm
 
 import reading
 from case import Case, name_of
+from commands import COMMANDS
 from pool import Pool
+from processes import in_process
 from rpmestate import Estate
 from rules import Outcome, explanation, unexplained
-from sides import Applied, Asked, Ran, begin, carry_out, command_line, helper_package, in_process, planned
+from sides import Applied, Asked, Ran, carry_out, command_line, helper_package, planned
 from state import State, differences, state_of
 
 
@@ -39,15 +41,17 @@ def judge(seed: int, pool: Pool, directory: Path) -> Verdict:
     home = directory / "home"
     home.mkdir()
     applied: Applied = in_process(lambda: helper_package(case, ours, home), directory / "vem.log")
-    lists = reading.told(case, theirs, directory / "list.log")
-    lines = reading.differences(case, applied.read, before["packages"], lists)
+
+    def compare(options: Sequence[str]) -> List[str]:
+        lists = reading.told(case, theirs, directory / "list.log", options)
+        return reading.differences(case, applied.read, before["packages"], lists)
 
     def would_bring(package: str, arguments: Sequence[str]) -> bool:
         # It may stumble over a signature or a scriptlet later, which are no matter of the table.
         ran = command_line(case, arguments, _copy(root, directory / "asked/root"), directory / "asked.log")
         return package in planned(ran, "Installing", "Upgrading")
 
-    lines, reading_rules = unexplained(case, before, lines, would_bring)
+    lines, reading_rules = unexplained(case, before, compare, would_bring)
     found: Dict[str, List[str]] = {"reading": lines} if lines else {}
     kind = "/".join(name for name in ("installs", "updates", "removes") if getattr(applied.wish, name)) or "nothing"
     rules = ""
@@ -87,7 +91,7 @@ def _image(case: Case, directory: Path) -> Tuple[State, Path]:
     old = directory / "old"
     case.write_old(old)
     if case.start or case.start_group:
-        in_process(lambda: begin(case, root, old), directory / "start.log")
+        COMMANDS.begin(case.begins, root, old, directory / "start.log")
     there = state_of(root)["packages"]
     if case.forced_out and there:
         # As somebody does who knows better: what needs it stays behind.
@@ -121,10 +125,10 @@ def _compare(case: Case, applied: Applied, ran: Ran, before: State, ours: State,
 _CAUSES = (
     # What the helper package's child says of a fault of its own is nothing that a command line could say.
     ("a fault", ("has died",)),
-    ("signatures", ("GPG check FAILED", "is not signed", "Public key for")),
+    ("signatures", (*COMMANDS.LACKS_SIGNATURE, "is not signed", "ublic key for")),
     ("rpm's test", ("Transaction test error", "conflicts between attempted installs", "conflicts with file from")),
     ("a scriptlet", ("scriptlet",)),
-    ("the solver", ("Problem",)),
+    ("the solver", COMMANDS.REFUSED_BY_SOLVER),
 )
 
 
@@ -149,7 +153,8 @@ def _told(case: Case, applied: Applied, found: Dict[str, List[str]], directory: 
         lines += [f"  helper package: {line}" for line in applied.refused.splitlines()]
     said = directory / "dnf.log"
     if said.exists() and ("outcome" in found or "cause" in found):
-        lines += [f"  dnf: {line}" for line in said.read_text(encoding="utf-8", errors="replace").splitlines()[-12:]]
+        text = said.read_text(encoding="utf-8", errors="replace")
+        lines += [f"  {COMMANDS.NAME}: {line}" for line in text.splitlines()[-12:]]
     return "\n".join(lines)
 
 

@@ -1,14 +1,15 @@
 # SPDX-License-Identifier: GPL-2.0-or-later
-"""What the table shows, held against what `dnf list` tells of the same root."""
+"""What the table shows, held against what the command line's "list" tells of the same root."""
 
 from __future__ import annotations
 
 from pathlib import Path
-from typing import Dict, List, Set, Tuple
+from typing import Dict, List, Sequence, Set, Tuple
 
 import rpm
 
 from case import Case
+from commands import COMMANDS
 from sides import Read, command_line
 
 _SECTIONS = {
@@ -18,25 +19,25 @@ _SECTIONS = {
     "obsoleting packages": "obsoleting",
     "available packages": "available",
 }
-"""Headings of `dnf list`; releases of it differ in capitals and words."""
+"""Headings of "list"; releases of it differ in capitals and words."""
 
 Package = Tuple[str, str, str, str, str]
 """Name, epoch, version, release, architecture."""
 
 
-Lists = Dict[str, Dict[Package, str]]
-"""By the names of `_SECTIONS`: the packages, and from which repository each is."""
+Lists = Dict[str, Dict[Package, List[str]]]
+"""By the names of `_SECTIONS`: the packages, and in which repositories each is."""
 
 
-def told(case: Case, root: Path, said: Path) -> Lists:
+def told(case: Case, root: Path, said: Path, options: Sequence[str] = ()) -> Lists:
     """The lists of the command line."""
     # The cache is filled by the first command that needs it; all repositories are directories of this machine.
-    script = ["list --installed", "list --upgrades", "list --obsoletes", "list --available"]
-    ran = command_line(case, [], root, said, script)
+    commands = [["list", f"--{which}"] for which in ("installed", "upgrades", "obsoletes", "available")]
+    runs = [command_line(case, [*options, *words], root, said) for words in COMMANDS.separate(commands, said)]
     lists: Lists = {name: {} for name in _SECTIONS.values()}
     section = ""
     words: List[str] = []
-    for line in ran.words.splitlines():
+    for line in "\n".join(ran.words for ran in runs).splitlines():
         heading = line.strip().lower()
         if heading in _SECTIONS:
             section = _SECTIONS[heading]
@@ -45,7 +46,7 @@ def told(case: Case, root: Path, said: Path) -> Lists:
             continue
         elif len(line.split()) == 3 and section and "." in line.split()[0]:
             words = line.split()
-            lists[section].setdefault(_package(words[0], words[1]), words[2])
+            lists[section].setdefault(_package(words[0], words[1]), []).append(words[2])
     return lists
 
 
@@ -102,8 +103,8 @@ def differences(case: Case, read: Read, there: List[str], lists: Lists) -> List[
     available = set()
     for package in map(_split, read.available):
         same = newest.get((package[0], package[4]))
-        # `dnf list --available` leaves out what is installed in this version or in a newer one.
-        if same is None or rpm.labelCompare(package[1:4], same[1:4]) > 0:
+        # A command line may leave out what is installed in this version or in a newer one.
+        if COMMANDS.LISTS_WHAT_IS_INSTALLED or same is None or rpm.labelCompare(package[1:4], same[1:4]) > 0:
             available.add(package)
     hold("available", available, set(lists["available"]))
     for listed, section in ((read.updates, "upgrades"), (read.available, "available")):
@@ -111,10 +112,11 @@ def differences(case: Case, read: Read, there: List[str], lists: Lists) -> List[
         for line in listed:
             # The engine takes the first of several.
             repositories.setdefault(_split(line), line.split()[1])
-        for package, theirs in sorted(lists[section].items()):
-            ours_is = repositories.get(package, theirs)
-            if ours_is != theirs:
-                lines += [f"-{section} {_shown(package)} {ours_is}", f"+{section} {_shown(package)} {theirs}"]
+        for package, all_of_them in sorted(lists[section].items()):
+            theirs = all_of_them[:1] if COMMANDS.FIRST_REPOSITORY_COUNTS else all_of_them
+            ours_is = repositories.get(package, theirs[0])
+            if ours_is not in theirs:
+                lines += [f"-{section} {_shown(package)} {ours_is}", f"+{section} {_shown(package)} {theirs[0]}"]
     return lines
 
 

@@ -13,10 +13,14 @@ from pathlib import Path
 from typing import Callable, Dict, List, NamedTuple, Optional, Sequence, Set, Tuple
 from urllib.parse import urlsplit
 
+import rpm
+
 from case import Case, name_of
+from commands import BACKEND, COMMANDS
+from pool import Package
 from sides import Applied, Asked, Ran, planned
 from state import State
-from vemyum import openpgp
+from vemyum import choice, openpgp
 
 
 class Outcome(NamedTuple):
@@ -45,6 +49,8 @@ class Rule(NamedTuple):
     """How else the command line is asked then, which leaves no difference."""
     explains: Optional[Callable[[Outcome, Again], Set[str]]] = None
     """Without another way to ask: the kinds of differences that the rule explains, each as a whole."""
+    of: Sequence[str] = choice.BACKENDS
+    """Which command lines it speaks of."""
 
 
 def _marks_updates(outcome: Outcome) -> bool:
@@ -115,11 +121,11 @@ def _named_elsewhere(outcome: Outcome, _again: Again) -> Set[str]:
 
 
 def _refuses_by_order(outcome: Outcome) -> bool:
-    return not outcome.applied.refused and "GPG check FAILED" in outcome.ran.words
+    return not outcome.applied.refused and any(sign in outcome.ran.words for sign in COMMANDS.LACKS_SIGNATURE)
 
 
 _LATE = "Error in POSTIN scriptlet"
-_LACKS_A_KEY = re.compile(r"Public key for .*\n    key: .*\b([0-9a-fA-F]{16,64})\n    gpgkey of repository \S+: (.*)")
+_LACKS_A_KEY = re.compile(r"ublic key for .*\n    key: .*\b([0-9a-fA-F]{16,64})\n    gpgkey of repository \S+: (.*)")
 
 RULES = (
     Rule(
@@ -128,12 +134,14 @@ RULES = (
         "chance.",
         _scriptlet_failed,
         explains=_told_as_done,
+        of=(choice.DNF4,),
     ),
     Rule(
         "a mark for removal pushes nothing else out",
-        '"dnf shell" lets whatever is in the way of an installation go as soon as anything at all is to be removed. '
-        "Here a package goes because it is marked, or because it needs one that goes; else the installation is "
-        "refused, as it is without the other mark.",
+        '"dnf shell" lets whatever is in the way of an installation go as soon as anything at all is to be removed; so '
+        'does "dnf5 do" with --allowerasing, without which it keeps what needs a package that is to go. Here a package '
+        "goes because it is marked, or because it needs one that goes; else the installation is refused, as it is "
+        "without the other mark.",
         _refuses_mixture,
         explains=_pushed_out,
     ),
@@ -184,9 +192,11 @@ RULES = (
         "What excludepkgs names can't be removed by dnf, which acts as if it weren't installed. The table shows it, "
         "and it can be removed like any other.",
         _removes_excluded,
-        lambda asked: asked._replace(options=(*asked.options, "--disableexcludes=main")),
+        lambda asked: asked._replace(options=(*asked.options, *COMMANDS.WITHOUT_EXCLUDES)),
     ),
 )
+
+_OURS = [rule for rule in RULES if BACKEND in rule.of]
 
 
 def explanation(outcome: Outcome, again: Again) -> Tuple[str, Outcome]:
@@ -198,14 +208,14 @@ def explanation(outcome: Outcome, again: Again) -> Tuple[str, Outcome]:
     while True:
         left = set(nearest.differences)
         explaining: List[str] = []
-        for rule in RULES:
+        for rule in _OURS:
             explained = left & rule.explains(nearest, again) if rule.explains and rule.concerns(nearest) else set()
             if explained:
                 left -= explained
                 explaining.append(rule.name)
         if not left:
             return " + ".join([*names, *explaining]), nearest
-        rest = [rule for rule in RULES if rule.ask is not None and rule.name not in names and rule.concerns(nearest)]
+        rest = [rule for rule in _OURS if rule.ask is not None and rule.name not in names and rule.concerns(nearest)]
         if not rest:
             return "", nearest
         names.append(rest[0].name)
@@ -224,8 +234,12 @@ class ReadingRule(NamedTuple):
 
     name: str
     reason: str
-    explains: Callable[[Case, State, str, WouldBring], bool]
+    explains: Optional[Callable[[Case, State, str, WouldBring], bool]] = None
     """Whether it explains this line; the state is that of the root."""
+    ask: Optional[Callable[[Case, State], Sequence[str]]] = None
+    """Options with which the lists of the command line are to be the same; none where the rule isn't concerned."""
+    of: Sequence[str] = choice.BACKENDS
+    """Which command lines it speaks of."""
 
 
 def _other_vendor(case: Case, there: State, line: str, would_bring: WouldBring) -> bool:
@@ -236,7 +250,7 @@ def _other_vendor(case: Case, there: State, line: str, would_bring: WouldBring) 
     name = name_of(nevra)
     if line.startswith("+"):
         # "install" takes another vendor's update beside a package that replaces what it would update.
-        asked = ["--best", "upgrade", name] if kind == "update" else ["install", nevra]
+        asked = ["upgrade", "--best", name] if kind == "update" else ["install", nevra]
         return _changes_vendor(case, there, nevra) and not would_bring(nevra, asked)
     # One that "dnf list" leaves out in favour of what the solver must refuse.
     rivals = {package.nevra for offered in case.repositories for package in offered.packages if package.name == name}
@@ -246,7 +260,7 @@ def _other_vendor(case: Case, there: State, line: str, would_bring: WouldBring) 
         if _changes_vendor(case, there, rival) and not would_bring(rival, ["install", rival])
     ]
     without = [f"--exclude={rival}" for rival in refused]
-    return would_bring(nevra, ["--best", "--allowerasing", *without, "upgrade", name])
+    return would_bring(nevra, ["upgrade", "--best", "--allowerasing", *without, name])
 
 
 def _changes_vendor(case: Case, there: State, nevra: str) -> bool:
@@ -258,7 +272,49 @@ def _changes_vendor(case: Case, there: State, nevra: str) -> bool:
     return any(old.vendor != package.vendor for old in olds)
 
 
+def _as_locked(case: Case, there: State) -> List[str]:
+    """Excludes what the locks keep out: of repositories, so that what is installed stays."""
+    if not case.locks:
+        return []
+    names = {lock.name for lock in case.locks}
+    known = [package for package in case.pool.packages if package.nevra in there["packages"]]
+    known += [package for offered in case.repositories if offered.enabled for package in offered.packages]
+    held = [package for package in known if any(lock.allows(package) for lock in case.locks)]
+    options = []
+    for repository in case.repositories:
+        hidden = [
+            package.nevra
+            for package in repository.packages
+            if (package.name in names and package not in held) or any(_replaces(package, one) for one in held)
+        ]
+        excludes = [*repository.options.get("excludepkgs", "").split(), *hidden]
+        options.append(f"--setopt={repository.id}.excludepkgs={','.join(excludes)}")
+    return options
+
+
+def _replaces(package: Package, other: Package) -> bool:
+    for name, operator, text in re.findall(r"(?m)^Obsoletes: *(\S+)(?: +([<=>]+) +(\S+))?$", package.text):
+        if name != other.name or name == package.name:
+            continue
+        if not operator:
+            return True
+        epoch, _, rest = text.rpartition(":")
+        version, _, release = rest.partition("-")
+        # Without a release any of them is meant.
+        there = (str(other.epoch), other.version, other.release if release else "")
+        if {-1: "<", 0: "=", 1: ">"}[rpm.labelCompare(there, (epoch or "0", version, release))] in operator:
+            return True
+    return False
+
+
 READING_RULES = (
+    ReadingRule(
+        "what a lock keeps out is not offered",
+        '"dnf5 list" takes no notice of locked versions; "dnf5 upgrade" and "dnf5 install" do. The table shows what '
+        "can be had.",
+        ask=_as_locked,
+        of=(choice.DNF5,),
+    ),
     ReadingRule(
         "what the solver must refuse is not offered",
         'With allow_vendor_change=0, "dnf list" tells updates that come from another vendor, or replace a package of '
@@ -268,12 +324,24 @@ READING_RULES = (
 )
 
 
-def unexplained(case: Case, there: State, lines: List[str], would_bring: WouldBring) -> Tuple[List[str], Set[str]]:
-    """The lines of a comparison of the table that no rule explains, and the rules that explain the rest."""
-    left: List[str] = []
+Compare = Callable[[Sequence[str]], List[str]]
+"""What differs where the lists of the command line are asked for with these options."""
+
+
+def unexplained(case: Case, there: State, compare: Compare, would_bring: WouldBring) -> Tuple[List[str], Set[str]]:
+    """What differs in the table without a rule that explains it, and the rules that explain the rest."""
     names: Set[str] = set()
+    rules = [rule for rule in READING_RULES if BACKEND in rule.of]
+    lines = compare([])
+    for rule in rules:
+        options = rule.ask(case, there) if rule.ask is not None and lines else []
+        if options:
+            lines = compare(options)
+            names.add(rule.name)
+    left: List[str] = []
     for line in lines:
-        rule = next((rule for rule in READING_RULES if rule.explains(case, there, line, would_bring)), None)
+        explaining = (rule for rule in rules if rule.explains and rule.explains(case, there, line, would_bring))
+        rule = next(explaining, None)
         if rule is None:
             left.append(line)
         else:

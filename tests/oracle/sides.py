@@ -1,108 +1,20 @@
 # SPDX-License-Identifier: GPL-2.0-or-later
 """The two sides of a comparison, each in a process of its own that knows nothing of the other.
 
-Both begin as copies of the process that looks after the cases, which has loaded dnf but never used it: to start dnf
-from nothing would take longer than what it does on an estate of this size. The process of an apply is the real one.
+The helper package begins as a copy of the process that looks after the cases. The process of an apply is the real one.
 """
 
 from __future__ import annotations
 
-import contextlib
 import os
-import pickle
-import signal
 import sys
-import traceback
 from pathlib import Path
-from typing import Any, Callable, Dict, List, NamedTuple, Optional, Sequence, Set, Tuple
-
-import dnf
-import dnf.cli.main
-import dnf.exceptions
-import dnf.util
-import libdnf.transaction
+from typing import Any, Dict, List, NamedTuple, Optional, Sequence, Set, Tuple
 
 from case import Case, Row, Wish
+from commands import COMMANDS
 
 TOP = Path(__file__).resolve().parents[2]
-SECONDS = 120
-"""Longer than any of it takes, on any machine."""
-
-
-def in_process(work: Callable[[], Any], said: Path) -> Any:
-    """What `work` gives in a process of its own, whose output goes into the file. RuntimeError where it fails."""
-    answer = said.with_suffix(".answer")
-    child = os.fork()
-    if child == 0:
-        _serve(work, said, answer)
-    _, status = os.waitpid(child, 0)
-    if status != 0:
-        raise RuntimeError(f"status {status}:\n{said.read_text(encoding='utf-8', errors='replace')}")
-    result = pickle.loads(answer.read_bytes())
-    answer.unlink()
-    return result
-
-
-def _serve(work: Callable[[], Any], said: Path, answer: Path) -> None:
-    try:
-        signal.alarm(SECONDS)
-        output = os.open(said, os.O_WRONLY | os.O_CREAT | os.O_APPEND, 0o644)
-        nothing = os.open(os.devnull, os.O_RDONLY)
-        os.dup2(nothing, 0)
-        os.dup2(output, 1)
-        os.dup2(output, 2)
-        os.chdir("/")
-        # The streams of the other process may hold what it has not written yet.
-        sys.stdout = open(1, "w", encoding="utf-8", closefd=False)
-        sys.stderr = open(2, "w", encoding="utf-8", closefd=False)
-        answer.write_bytes(pickle.dumps(work()))
-        status = 0
-    except BaseException:  # noqa: BLE001 - told by the status
-        traceback.print_exc()
-        status = 1
-    for stream in (sys.stdout, sys.stderr):
-        try:
-            stream.flush()
-        except Exception:  # noqa: BLE001 - the helper package's streams are nowhere any more
-            pass
-    os._exit(status)
-
-
-# The state that both begin with ------------------------------------------------------------------------------
-
-
-def begin(case: Case, root: Path, repository: Path) -> None:
-    """Installs what the case begins with, reasons included. Where that cannot be, there is less, or nothing."""
-    conf = dnf.conf.Conf()
-    conf.installroot = str(root)
-    for option in ("cachedir", "logdir", "persistdir"):
-        conf.prepend_installroot(option)
-    conf.substitutions["releasever"] = ""
-    conf.install_weak_deps = case.weak_at_start
-    conf.installonly_limit = 0
-    conf.cachedir = str(repository.parent / "old-cache")
-    for directory in (conf.cachedir, conf.logdir, conf.persistdir):
-        dnf.util.ensure_dir(directory)
-    with dnf.Base(conf) as base:
-        base.repos.add_new_repo("old", conf, baseurl=[repository.as_uri()])
-        base.fill_sack()
-        group = case.groups[sorted(case.groups)[0]] if case.start_group else []
-        members = [name for name, kind in group if kind != "optional"]
-        for wanted in (*case.start, *members):
-            with contextlib.suppress(dnf.exceptions.MarkingError):
-                base.install(wanted, strict=False)
-        try:
-            if base.resolve():
-                for item in base.transaction:
-                    if item.pkg.name in members:
-                        # As an installation of the group, without the library that reads groups: some releases of it
-                        # end the process.
-                        item.reason = libdnf.transaction.TransactionItemReason_GROUP
-                base.download_packages(list(base.transaction.install_set))
-                base.do_transaction()
-        except dnf.exceptions.Error as error:
-            print(error)
-
 
 # The helper package ------------------------------------------------------------------------------------------
 
@@ -216,28 +128,15 @@ def planned(ran: Ran, *headings: str) -> Set[str]:
     return found
 
 
-def command_line(
-    case: Case, arguments: Sequence[str], root: Path, said: Path, script: Sequence[str] = ()
-) -> Ran:
-    """`dnf` with these arguments, on this root, that answers yes to whatever it asks. A script goes to `dnf shell`."""
-    # dnf looks below the root for its configuration and for the repositories', once they are there.
+def command_line(case: Case, arguments: Sequence[str], root: Path, said: Path) -> Ran:
+    """The command line with these arguments, on this root, that answers yes to whatever it asks."""
+    # It looks below the root for its configuration and for the repositories', once they are there.
     words = ["--installroot", str(root), "--assumeyes", *case.options, *arguments]
-    if script:
-        path = said.with_suffix(".script")
-        path.write_text("".join(f"{line}\n" for line in script), encoding="utf-8")
-        words += ["shell", str(path)]
     with open(said, "a", encoding="utf-8") as file:
-        file.write(f"$ dnf {' '.join(words)}\n" + "".join(f"> {line}\n" for line in script))
+        file.write(f"$ {COMMANDS.NAME} {' '.join(words)}\n")
     at = said.stat().st_size
-    status = in_process(lambda: _main(words), said)
+    status = COMMANDS.run(words, said)
     return Ran(status, said.read_bytes()[at:].decode("utf-8", errors="replace"))
-
-
-def _main(words: List[str]) -> int:
-    try:
-        return int(dnf.cli.main.main(words))
-    except SystemExit as end:
-        return int(end.code or 0)
 
 
 class Asked(NamedTuple):
@@ -266,7 +165,5 @@ def carry_out(case: Case, applied: Applied, root: Path, said: Path, asked: Asked
         "upgrade": [rows[name].newer for name in upgrades],
     }
     commands = [[command, *packages] for command, packages in lines.items() if packages]
-    if len(commands) == 1:
-        return command_line(case, [*asked.options, *commands[0]], root, said)
-    # Without "run": the shell runs what is marked at the end of its script, too, and tells by its status how it went.
-    return command_line(case, asked.options, root, said, [" ".join(command) for command in commands])
+    words = commands[0] if len(commands) == 1 else COMMANDS.mixed(commands, said)
+    return command_line(case, [*asked.options, *words], root, said)

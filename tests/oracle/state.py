@@ -7,15 +7,14 @@ import os
 from pathlib import Path
 from typing import Dict, List
 
-import libdnf.transaction
 import rpm
+
+from commands import COMMANDS
 
 State = Dict[str, List[str]]
 
-_KEPT_APART = ("var/cache", "var/log", "var/lib/dnf", "var/lib/rpm", "var/tmp", "etc", "run", "tmp")
+_KEPT_APART = ("var/cache", "var/log", "var/lib/rpm", "var/tmp", "etc", "run", "tmp", *COMMANDS.KEPT_APART)
 """What a package manager writes for itself; the packages of an estate have nothing there."""
-
-HISTORY = "var/lib/dnf/history.sqlite"
 
 
 def state_of(root: Path) -> State:
@@ -35,20 +34,12 @@ def state_of(root: Path) -> State:
             packages.append(f"{header['name']}-{evr}.{header['arch']}")
     finally:
         transaction.closeDB()
-    reasons = []
-    if (root / HISTORY).exists():
-        history = libdnf.transaction.Swdb(str(root / HISTORY))
-        for name, arch in sorted(present):
-            reason = history.resolveRPMTransactionItemReason(name, arch, -1)
-            reasons.append(f"{name}.{arch} {libdnf.transaction.TransactionItemReasonToString(reason)}")
-    streams = (root / "etc/dnf/modules.d").glob("*.module")
-    modules = [f"{path.name}: {path.read_text(encoding='utf-8')}" for path in streams]
     return {
         "packages": sorted(packages),
-        "reasons": reasons,
+        "reasons": COMMANDS.reasons(root, present),
         "keys": sorted(keys),
         "files": _files(root),
-        "modules": sorted(modules),
+        "modules": COMMANDS.streams(root),
     }
 
 
