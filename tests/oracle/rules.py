@@ -120,6 +120,11 @@ def _named_elsewhere(outcome: Outcome, _again: Again) -> Set[str]:
     return set()
 
 
+def _needs_files(outcome: Outcome) -> bool:
+    texts = (package.text for offered in outcome.case.repositories for package in offered.packages)
+    return any(re.search(r"(?m)^(Requires|Recommends|Conflicts|Supplements):.*/usr/", text) for text in texts)
+
+
 def _refuses_by_order(outcome: Outcome) -> bool:
     return not outcome.applied.refused and any(sign in outcome.ran.words for sign in COMMANDS.LACKS_SIGNATURE)
 
@@ -193,6 +198,14 @@ RULES = (
         "and it can be removed like any other.",
         _removes_excluded,
         lambda asked: asked._replace(options=(*asked.options, *COMMANDS.WITHOUT_EXCLUDES)),
+    ),
+    Rule(
+        "a file that a package needs is found in any package",
+        "dnf5 doesn't read which files the packages of repositories have, unless the configuration says so, and then "
+        "finds nothing that provides one. Here that is read, as dnf does.",
+        _needs_files,
+        lambda asked: asked._replace(options=(*asked.options, "--setopt=optional_metadata_types=filelists")),
+        of=(choice.DNF5,),
     ),
 )
 
