@@ -45,7 +45,7 @@ class Rule(NamedTuple):
     reason: str
     concerns: Callable[[Outcome], bool]
     """Whether the case is one of those that the rule speaks of."""
-    ask: Optional[Callable[[Asked], Asked]] = None
+    ask: Optional[Callable[[Case, Asked], Asked]] = None
     """How else the command line is asked then, which leaves no difference."""
     explains: Optional[Callable[[Outcome, Again], Set[str]]] = None
     """Without another way to ask: the kinds of differences that the rule explains, each as a whole."""
@@ -115,7 +115,9 @@ def _named_elsewhere(outcome: Outcome, _again: Again) -> Set[str]:
         places.setdefault(issuer, set()).update(one for one in locations.split(", ") if one.startswith("file:"))
     for issuer, files in places.items():
         keys = [key for file in files for key in openpgp.keys_in(Path(urlsplit(file).path).read_bytes())]
-        if issuer[-8:].lower() in imported and not any(key.part(issuer) for key in keys):
+        # Releases of rpm call a key by the end of its fingerprint, or by all of it.
+        here = any(name.endswith(issuer[-8:].lower()) for name in imported)
+        if here and not any(key.part(issuer) for key in keys):
             return set(outcome.differences)
     return set()
 
@@ -126,7 +128,18 @@ def _needs_files(outcome: Outcome) -> bool:
 
 
 def _refuses_by_order(outcome: Outcome) -> bool:
-    return not outcome.applied.refused and any(sign in outcome.ran.words for sign in COMMANDS.LACKS_SIGNATURE)
+    began = not outcome.applied.refused or outcome.ours != outcome.before
+    return began and any(sign in outcome.ran.words for sign in COMMANDS.LACKS_SIGNATURE)
+
+
+def _knowing_all_keys(case: Case, asked: Asked) -> Asked:
+    """So that the first package in the command line's order may have a key that another one brings."""
+    if BACKEND == choice.DNF4:
+        return asked._replace(once_more=True)
+    repositories = [repository for repository in case.repositories if repository.enabled]
+    keys = dict.fromkeys(key for one in repositories for key in one.options.get("gpgkey", "").split())
+    options = [f"--setopt={one.id}.gpgkey={' '.join(keys)}" for one in repositories]
+    return asked._replace(options=(*asked.options, *options))
 
 
 _LATE = "Error in POSTIN scriptlet"
@@ -173,9 +186,9 @@ RULES = (
     Rule(
         "no package depends on its place among others",
         "dnf refuses a package whose repository doesn't name the key, though the key comes with a package behind it; "
-        "asked once more, it takes both. Here all are looked at first.",
+        "asked once more, it takes both. dnf5 never gets to the one behind. Here all are looked at first.",
         _refuses_by_order,
-        lambda asked: asked._replace(once_more=True),
+        _knowing_all_keys,
     ),
     Rule(
         "a marked update is insisted upon",
@@ -183,28 +196,28 @@ RULES = (
         'update to another version; it shuns some that can be had. "dnf install" of the same version takes it, or '
         "says why not.",
         _marks_updates,
-        lambda asked: asked._replace(insisting=True),
+        lambda _case, asked: asked._replace(insisting=True),
     ),
     Rule(
         "a row is one version for one architecture",
         'With multilib_policy=all "dnf install" of a version takes a package that replaces it instead where that is '
         "easier. Here the marked version comes, or nothing.",
         _installs_by_policy,
-        lambda asked: asked._replace(options=(*asked.options, "--setopt=multilib_policy=best")),
+        lambda _case, asked: asked._replace(options=(*asked.options, "--setopt=multilib_policy=best")),
     ),
     Rule(
         "an excluded package can be removed",
         "What excludepkgs names can't be removed by dnf, which acts as if it weren't installed. The table shows it, "
         "and it can be removed like any other.",
         _removes_excluded,
-        lambda asked: asked._replace(options=(*asked.options, *COMMANDS.WITHOUT_EXCLUDES)),
+        lambda _case, asked: asked._replace(options=(*asked.options, *COMMANDS.WITHOUT_EXCLUDES)),
     ),
     Rule(
         "a file that a package needs is found in any package",
         "dnf5 doesn't read which files the packages of repositories have, unless the configuration says so, and then "
         "finds nothing that provides one. Here that is read, as dnf does.",
         _needs_files,
-        lambda asked: asked._replace(options=(*asked.options, "--setopt=optional_metadata_types=filelists")),
+        lambda _case, asked: asked._replace(options=(*asked.options, "--setopt=optional_metadata_types=filelists")),
         of=(choice.DNF5,),
     ),
 )
@@ -232,7 +245,7 @@ def explanation(outcome: Outcome, again: Again) -> Tuple[str, Outcome]:
         if not rest:
             return "", nearest
         names.append(rest[0].name)
-        asked = rest[0].ask(asked) if rest[0].ask is not None else asked
+        asked = rest[0].ask(outcome.case, asked) if rest[0].ask is not None else asked
         nearest = again(asked)
         if not nearest.differences:
             return " + ".join(names), nearest
