@@ -39,6 +39,12 @@ def _reading_act(name: Optional[str]) -> Tuple[str, str]:
     return ("convert", "") if name == "MD Read" else ("read", name or "")
 
 
+def sizes(host: FakeHost, act: str) -> List[int]:
+    """What an act was told to be out of, as far as that was known."""
+    starts = [call[1:] for call in host.named("collectGrabMeterStart")]
+    return [size for path, size in starts if path.endswith(f"/{act}") and size is not None]
+
+
 @pytest.fixture
 def served(estate: Estate, rpms: Catalogue, web: Web) -> Estate:
     """base is served over HTTP."""
@@ -63,11 +69,12 @@ def test_acts_of_a_mirror_list(
     estate: Estate, rpms: Catalogue, web: Web, program: Program, host: FakeHost
 ) -> None:
     address = {"baseurl": None, "mirrorlist": f"{web.url}/mirrors"}
-    estate.repository("base", rpms.some("battery-1.0"), extra=address)
+    directory = estate.repository("base", rpms.some("battery-1.0"), extra=address)
     web.page("/mirrors", f"{web.url}/base/\n".encode())
     program.start().setupRepos()
     kinds = [("mirrors", "base"), ("repomd", "base"), ("download", "base"), ("convert", ""), ("read", "base")]
     assert acts(host) == kinds
+    assert sizes(host, "repomd.xml") == [(directory / "repodata/repomd.xml").stat().st_size]
 
 
 def test_acts_of_a_metalink(
@@ -80,6 +87,7 @@ def test_acts_of_a_metalink(
     program.start().setupRepos()
     kinds = [("mirrors", "base"), ("repomd", "base"), ("download", "base"), ("convert", ""), ("read", "base")]
     assert acts(host) == kinds
+    assert sizes(host, "repomd.xml") == [(directory / "repodata/repomd.xml").stat().st_size]
 
 
 def test_second_reading_downloads_and_converts_nothing(
