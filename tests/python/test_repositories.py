@@ -90,6 +90,16 @@ def test_acts_of_a_metalink(
     assert sizes(host, "repomd.xml") == [(directory / "repodata/repomd.xml").stat().st_size]
 
 
+def test_mirror_that_fails_stands_in_the_log_though_another_serves(
+    estate: Estate, rpms: Catalogue, web: Web, program: Program, host: FakeHost
+) -> None:
+    address = {"baseurl": None, "mirrorlist": f"{web.url}/mirrors"}
+    estate.repository("base", rpms.some("battery-1.0"), extra=address)
+    web.page("/mirrors", f"{web.url}/gone/\n{web.url}/base/\n".encode())
+    program.start().setupRepos()
+    assert f"{web.url}/gone/repodata/repomd.xml" in host.text("log")
+
+
 def test_second_reading_downloads_and_converts_nothing(
     served: Estate, program: Program, host: FakeHost, web: Web
 ) -> None:

@@ -19,6 +19,7 @@ from ..errors import YumBaseError
 from ..root import as_configured
 from ..sections import RepositorySection
 from ..texts import _
+from .callbacks import guarded
 from .failures import FAILURES, words
 from .log import LOGGER, Log
 from .repositories import RepositoryReader
@@ -45,6 +46,12 @@ class Listener(Protocol):
     def mirror_failed(self, number: int, message: str, address: str) -> None: ...
 
 
+@guarded()
+def log_mirror(message: str) -> None:
+    """Why a mirror failed. The library's own log hasn't got it, and nothing is raised where another mirror serves."""
+    logging.getLogger(LOGGER).debug("%s", message.strip())
+
+
 class _Downloads(libdnf5.repo.DownloadCallbacks):  # type: ignore[misc]
     """What the library tells of downloads, passed on. An exception that left one of these would end the process."""
 
@@ -64,6 +71,8 @@ class _Downloads(libdnf5.repo.DownloadCallbacks):  # type: ignore[misc]
         return self.OK
 
     def mirror_failure(self, number: Any, message: Optional[str], url: Optional[str], _metadata: Any) -> int:
+        if self.listener is None:
+            log_mirror(message or "")
         self._tell("mirror_failed", int(number or 0), message or "", url or "")
         return self.OK
 

@@ -18,6 +18,7 @@ import libdnf5.repo
 from .. import host
 from ..errors import RepoError
 from ..repomd import FOLDER, NAME, listed
+from .base import log_mirror
 
 MIRROR_LISTS = ("metalink.xml", "mirrorlist")
 """As the library keeps them beside the metadata."""
@@ -81,6 +82,7 @@ class FetchingProgress:
 
     def mirror_failed(self, _number: int, message: str, _address: str) -> None:
         self.causes.append(message)
+        log_mirror(message)
 
     def open(self, act: str, size: int) -> None:
         self._act, self._size = act, size
