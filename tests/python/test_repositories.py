@@ -328,7 +328,8 @@ def test_extra_data_reports_reading(lamp: Tuple[Estate, Program], host: FakeHost
 
 def test_changelogs_of_a_repository_that_is_gone(served: Estate, program: Program, web: Web) -> None:
     yumio = program.collect().yumio
-    web.lose("/base/repodata/repomd.xml")
+    changelogs = [path.name for path in (served.repos_dir / "base/repodata").glob("*-other.xml*")]
+    web.lose("/base/repodata/repomd.xml", *(f"/base/repodata/{name}" for name in changelogs))
     with pytest.raises(program.errors.YumBaseError, match="repository base"):
         yumio.collectOtherData()
     web.find_again()
