@@ -3,7 +3,6 @@
 
 from __future__ import annotations
 
-import importlib
 from typing import List, Tuple
 
 import pytest
@@ -110,7 +109,8 @@ def test_asked_before_a_collection(lamp: Tuple[Estate, Program]) -> None:
 
 
 def test_duration_makes_no_difference() -> None:
-    without_durations = importlib.import_module(by_library("vemyum.dnf4.base", "vemyum.dnf5.metadata")).without_durations
+    from vemyum.reading import without_durations
+
     told = [
         "Connection timed out after {} milliseconds",
         "Failed to connect to b port 80 after {} ms: Refused",
