@@ -10,7 +10,7 @@ import sys
 from typing import Any, Dict, Iterator, List, Optional, Sequence, Tuple
 
 from . import backend, host
-from .backend import CHANGELOGS, FILE_LISTS, PRIMARY, Dependency, Row, Settings, System
+from .backend import FILE_LISTS, PRIMARY, Dependency, Row, Settings, System
 from .records import Recognition, Records, Unrecognised, changes, chunks, files
 from .sections import RepositorySection
 from .text import valid

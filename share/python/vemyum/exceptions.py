@@ -7,14 +7,12 @@ from typing import Tuple, Type
 
 import rpm
 
-from .text import valid
-
 
 class YumBaseError(Exception):
     """Anything that fails. The engine shows `value`."""
 
     def __init__(self, value: object = "") -> None:
-        self.value = valid(value)
+        self.value = str(value)
         super().__init__(self.value)
 
 

@@ -29,11 +29,6 @@ def _escaped(text: str) -> bool:
     return not any("\ud800" <= c <= "\udc7f" or "\udd00" <= c <= "\udfff" for c in text)
 
 
-def valid_or_none(text: Any) -> Any:
-    """As `valid`, but None stays None."""
-    return None if text is None else valid(text)
-
-
 def whole(number: Any) -> int:
     """An int for the host's number formats: dnf gives floats and None for sizes that it doesn't know."""
     return int(number) if number else 0

@@ -3,34 +3,13 @@
 
 from __future__ import annotations
 
-from typing import Optional
-
 import libdnf5.exception
 import rpm
 
-
-class YumBaseError(Exception):
-    """Anything that fails. The engine shows `value`."""
-
-    def __init__(self, value: Optional[object] = None) -> None:
-        super().__init__(value)
-        self.value = "" if value is None else str(value)
-
-    def __str__(self) -> str:
-        return self.value
-
-
-class RepoError(YumBaseError):
-    """A repository cannot be read."""
-
-
-class LockError(YumBaseError):
-    """The lock cannot be had."""
-
-
-class GroupsError(YumBaseError):
-    """There are no groups."""
-
+from ..exceptions import GroupsError as GroupsError
+from ..exceptions import LockError as LockError
+from ..exceptions import RepoError as RepoError
+from ..exceptions import YumBaseError as YumBaseError
 
 FAILURES = (
     YumBaseError,

@@ -21,7 +21,7 @@ from ..root import as_configured
 from ..text import valid
 from ..texts import _
 from .failures import FAILURES
-from .librarylog import NOTICE, TRACE
+from .librarylog import NOTICE
 from .log import LOGGER
 from .settings import Settings
 
