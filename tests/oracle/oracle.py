@@ -17,7 +17,7 @@ from pool import Pool
 from processes import in_process
 from rpmestate import Estate
 from rules import Outcome, explanation, unexplained
-from sides import Applied, Asked, Ran, carry_out, command_line, helper_package, planned
+from sides import Applied, Asked, Ran, carry_out, command_line, helper_package
 from state import State, differences, state_of
 
 
@@ -46,12 +46,10 @@ def judge(seed: int, pool: Pool, directory: Path) -> Verdict:
         lists = reading.told(case, theirs, directory / "list.log", options)
         return reading.differences(case, applied.read, before["packages"], lists)
 
-    def would_bring(package: str, arguments: Sequence[str]) -> bool:
-        # It may stumble over a signature or a scriptlet later, which are no matter of the table.
-        ran = command_line(case, arguments, _copy(root, directory / "asked/root"), directory / "asked.log")
-        return package in planned(ran, "Installing", "Upgrading")
+    def would(arguments: Sequence[str]) -> Ran:
+        return command_line(case, arguments, _copy(root, directory / "asked/root"), directory / "asked.log")
 
-    lines, reading_rules = unexplained(case, before, compare, would_bring)
+    lines, reading_rules = unexplained(case, before, compare, would)
     found: Dict[str, List[str]] = {"reading": lines} if lines else {}
     kind = "/".join(name for name in ("installs", "updates", "removes") if getattr(applied.wish, name)) or "nothing"
     rules = ""

@@ -251,8 +251,9 @@ def explanation(outcome: Outcome, again: Again) -> Tuple[str, Outcome]:
             return " + ".join(names), nearest
 
 
-WouldBring = Callable[[str, Sequence[str]], bool]
-"""Whether this version is in what the command line would do with these arguments."""
+Would = Callable[[Sequence[str]], Ran]
+"""Has the command line carry out these arguments in a copy of the root. It may stumble over a signature or a scriptlet
+behind its plan, which are no matter of the table."""
 
 
 class ReadingRule(NamedTuple):
@@ -260,7 +261,7 @@ class ReadingRule(NamedTuple):
 
     name: str
     reason: str
-    explains: Optional[Callable[[Case, State, str, WouldBring], bool]] = None
+    explains: Optional[Callable[[Case, State, str, Would], bool]] = None
     """Whether it explains this line; the state is that of the root."""
     ask: Optional[Callable[[Case, State], Sequence[str]]] = None
     """Options with which the lists of the command line are to be the same; none where the rule isn't concerned."""
@@ -268,7 +269,7 @@ class ReadingRule(NamedTuple):
     """Which command lines it speaks of."""
 
 
-def _other_vendor(case: Case, there: State, line: str, would_bring: WouldBring) -> bool:
+def _other_vendor(case: Case, there: State, line: str, would: Would) -> bool:
     sign_and_kind, nevra = line.split()[:2]
     kind = sign_and_kind[1:]
     if case.main.get("allow_vendor_change") != "0" or kind not in ("update", "replacing"):
@@ -277,16 +278,24 @@ def _other_vendor(case: Case, there: State, line: str, would_bring: WouldBring) 
     if line.startswith("+"):
         # "install" takes another vendor's update beside a package that replaces what it would update.
         asked = ["upgrade", "--best", name] if kind == "update" else ["install", nevra]
-        return _changes_vendor(case, there, nevra) and not would_bring(nevra, asked)
+        return _changes_vendor(case, there, nevra) and nevra not in _brought(would(asked))
     # One that "dnf list" leaves out in favour of what the solver must refuse.
     rivals = {package.nevra for offered in case.repositories for package in offered.packages if package.name == name}
     refused = [
         rival
         for rival in sorted(rivals - {nevra})
-        if _changes_vendor(case, there, rival) and not would_bring(rival, ["install", rival])
+        if _changes_vendor(case, there, rival) and rival not in _brought(would(["install", rival]))
     ]
-    without = [f"--exclude={rival}" for rival in refused]
-    return would_bring(nevra, ["upgrade", "--best", "--allowerasing", *without, name])
+    options = ["--allowerasing", *(f"--exclude={rival}" for rival in refused)]
+    if nevra in _brought(would(["upgrade", "--best", *options, name])):
+        return True
+    # What other packages are in the way of is an update all the same: the table doesn't ask for dependencies.
+    skipped = planned(would(["upgrade", "--setopt=best=0", *options, name]), "Skipping")
+    return nevra in skipped and not _changes_vendor(case, there, nevra)
+
+
+def _brought(ran: Ran) -> Set[str]:
+    return planned(ran, "Installing", "Upgrading")
 
 
 def _changes_vendor(case: Case, there: State, nevra: str) -> bool:
@@ -354,7 +363,7 @@ Compare = Callable[[Sequence[str]], List[str]]
 """What differs where the lists of the command line are asked for with these options."""
 
 
-def unexplained(case: Case, there: State, compare: Compare, would_bring: WouldBring) -> Tuple[List[str], Set[str]]:
+def unexplained(case: Case, there: State, compare: Compare, would: Would) -> Tuple[List[str], Set[str]]:
     """What differs in the table without a rule that explains it, and the rules that explain the rest."""
     names: Set[str] = set()
     rules = [rule for rule in READING_RULES if BACKEND in rule.of]
@@ -366,7 +375,7 @@ def unexplained(case: Case, there: State, compare: Compare, would_bring: WouldBr
             names.add(rule.name)
     left: List[str] = []
     for line in lines:
-        explaining = (rule for rule in rules if rule.explains and rule.explains(case, there, line, would_bring))
+        explaining = (rule for rule in rules if rule.explains and rule.explains(case, there, line, would))
         rule = next(explaining, None)
         if rule is None:
             left.append(line)

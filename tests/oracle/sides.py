@@ -120,6 +120,9 @@ def planned(ran: Ran, *headings: str) -> Set[str]:
     below = False
     for line in ran.words.splitlines():
         columns = line.split()
+        if line.startswith("("):
+            # A word on what would force it, still of the heading above.
+            continue
         if not line.startswith(" "):
             below = line.startswith(headings)
         elif below and len(columns) >= 5:
