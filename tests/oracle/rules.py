@@ -142,6 +142,13 @@ def _knowing_all_keys(case: Case, asked: Asked) -> Asked:
     return asked._replace(options=(*asked.options, *options))
 
 
+def _other_repositories(outcome: Outcome) -> bool:
+    """Whether nothing but the repositories is another that the packages are noted to be from."""
+    lines = [re.sub(r"'from_repo', '[^']*'", "", line) for line in outcome.differences.get("reasons", [])]
+    ours, theirs = ({line[1:] for line in lines if line.startswith(sign)} for sign in "-+")
+    return set(outcome.differences) == {"reasons"} and ours == theirs
+
+
 _LATE = "Error in POSTIN scriptlet"
 _LACKS_A_KEY = re.compile(r"ublic key for .*\n    key: .*\b([0-9a-fA-F]{16,64})\n    gpgkey of repository \S+: (.*)")
 
@@ -218,6 +225,15 @@ RULES = (
         "finds nothing that provides one. Here that is read, as dnf does.",
         _needs_files,
         lambda _case, asked: asked._replace(options=(*asked.options, "--setopt=optional_metadata_types=filelists")),
+        of=(choice.DNF5,),
+    ),
+    Rule(
+        "of equal repositories the first one counts",
+        "dnf5 reads repositories in the order in which they happen to arrive, and takes a package that several have "
+        "from the one that came first. From its cache it reads them in the order of the configuration, as it is done "
+        "here always.",
+        _other_repositories,
+        lambda _case, asked: asked._replace(from_cache=True),
         of=(choice.DNF5,),
     ),
 )

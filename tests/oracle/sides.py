@@ -151,12 +151,16 @@ class Asked(NamedTuple):
     removals_only: bool = False
     once_more: bool = False
     """After a first time, which may have left keys behind."""
+    from_cache: bool = False
+    """After the repositories' metadata have been fetched."""
 
 
 def carry_out(case: Case, applied: Applied, root: Path, said: Path, asked: Asked) -> Ran:
     """The same wish on the command line."""
     if asked.once_more:
         carry_out(case, applied, root, said, asked._replace(once_more=False))
+    if asked.from_cache:
+        command_line(case, [*asked.options, "makecache"], root, said)
     rows = {row.name: row for row in applied.read.rows}
     wish = Wish(removes=applied.wish.removes) if asked.removals_only else applied.wish
     # What replaces a package of another name is no newer version of anything, so that nothing could be upgraded to it.
