@@ -43,7 +43,7 @@ rpm_system() {
 # The name of the newest package library that VEM can be tried with here, if there is one.
 newest_backend() {
     /usr/bin/python3 -B -c 'import sys; sys.path.insert(0, sys.argv[1]); from vemyum import choice
-print(*choice.complete()[-1:])' "$(dirname "${BASH_SOURCE[0]}")/../share/python"
+print(*choice.present()[-1:])' "$(dirname "${BASH_SOURCE[0]}")/../share/python"
 }
 
 # Status 0 where no package of an rpm system holds what makes the manuals: builds do without them there.

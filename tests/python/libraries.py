@@ -13,7 +13,7 @@ sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "share/python"))
 
 from vemyum import choice  # noqa: E402
 
-BACKEND = os.environ.get(choice.VARIABLE) or next(iter(choice.complete()), choice.DNF4)
+BACKEND = os.environ.get(choice.VARIABLE) or next(iter(choice.present()), choice.DNF4)
 """Without a word, the first of those that this machine has."""
 
 

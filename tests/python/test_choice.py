@@ -22,8 +22,6 @@ sys.path.insert(0, str(SHARE))
 
 from vemyum import choice  # noqa: E402
 
-COMPLETE = pytest.mark.parametrize("complete", [False, True], indirect=True)
-
 
 @pytest.fixture
 def root(tmp_path: Path) -> Path:
@@ -34,13 +32,9 @@ def root(tmp_path: Path) -> Path:
 
 
 @pytest.fixture(autouse=True)
-def complete(request: pytest.FixtureRequest, monkeypatch: pytest.MonkeyPatch) -> bool:
-    """dnf 5 may be chosen like the other one, unless a test says something else."""
-    wanted = bool(getattr(request, "param", True))
-    monkeypatch.setattr(choice, "DNF5_IS_COMPLETE", wanted)
+def nothing_chosen(monkeypatch: pytest.MonkeyPatch) -> None:
     monkeypatch.setattr(choice, "_chosen", None)
     monkeypatch.delenv(choice.VARIABLE, raising=False)
-    return wanted
 
 
 @pytest.fixture
@@ -82,9 +76,8 @@ def refusal(root: Path) -> str:
 # Who may say so ----------------------------------------------------------------------------------------------
 
 
-@COMPLETE
 def test_the_environment_goes_before_everything(
-    root: Path, machine: Callable[..., None], monkeypatch: pytest.MonkeyPatch, complete: bool
+    root: Path, machine: Callable[..., None], monkeypatch: pytest.MonkeyPatch
 ) -> None:
     configure(root, "backend=dnf4\n")
     uses(root, "dnf4")
@@ -92,10 +85,9 @@ def test_the_environment_goes_before_everything(
     assert choice.choose(str(root)) == ("dnf5", "")
 
 
-@COMPLETE
 @pytest.mark.parametrize("named, used", [("dnf4", "dnf5"), ("dnf5", "dnf4")])
 def test_the_managed_systems_file_goes_before_what_it_uses(
-    root: Path, machine: Callable[..., None], monkeypatch: pytest.MonkeyPatch, complete: bool, named: str, used: str
+    root: Path, machine: Callable[..., None], monkeypatch: pytest.MonkeyPatch, named: str, used: str
 ) -> None:
     configure(root, f"backend={named}\n")
     uses(root, used)
@@ -122,29 +114,19 @@ def test_a_system_that_uses_neither_gets_what_this_machine_uses(
 
 
 @pytest.mark.parametrize("backend", ["dnf4", "dnf5"])
-@COMPLETE
 def test_what_is_there_is_taken_where_nothing_else_tells(
-    root: Path, machine: Callable[..., None], complete: bool, backend: str
+    root: Path, machine: Callable[..., None], backend: str
 ) -> None:
     machine(backend)
     assert choice.choose(str(root)) == (backend, "")
 
 
-@pytest.mark.parametrize("complete", [False], indirect=True)
-def test_dnf_5_is_not_taken_by_itself_before_it_is_complete(
-    root: Path, machine: Callable[..., None], complete: bool
-) -> None:
-    uses(root, "dnf5")
-    machine("dnf4", "dnf5", uses="dnf5")
-    assert choice.choose(str(root)) == ("dnf4", "")
-
-
-def test_the_libraries_that_need_not_be_named(machine: Callable[..., None], monkeypatch: pytest.MonkeyPatch) -> None:
-    assert choice.complete() == ("dnf4", "dnf5")
+def test_the_libraries_that_are_there(machine: Callable[..., None]) -> None:
+    assert choice.present() == ("dnf4", "dnf5")
     machine("dnf5")
-    assert choice.complete() == ("dnf5",)
-    monkeypatch.setattr(choice, "DNF5_IS_COMPLETE", False)
-    assert choice.complete() == ()
+    assert choice.present() == ("dnf5",)
+    machine()
+    assert choice.present() == ()
 
 
 # What a system uses ------------------------------------------------------------------------------------------
@@ -282,15 +264,6 @@ def test_the_library_that_the_system_does_not_use_is_taken_with_a_doubt(
         "This system uses dnf 5, whose library is missing, and dnf 4 does the work, with a history of its own: to "
         "change that, install the package python3-libdnf5.",
     )
-
-
-@pytest.mark.parametrize("complete", [False], indirect=True)
-def test_there_is_no_doubt_about_what_would_not_be_taken(
-    root: Path, machine: Callable[..., None], complete: bool
-) -> None:
-    uses(root, "dnf5")
-    machine("dnf4")
-    assert choice.choose(str(root)) == ("dnf4", "")
 
 
 # Once a process ----------------------------------------------------------------------------------------------

@@ -23,9 +23,6 @@ from .texts import _
 
 DNF4, DNF5 = BACKENDS = ("dnf4", "dnf5")
 
-DNF5_IS_COMPLETE = False
-"""Until it is, dnf 5 is never chosen where dnf 4's library is there and nobody has named dnf 5."""
-
 VARIABLE = "VEMBACKEND"
 FILE = "/etc/vem/vem.conf"
 OPTION = "backend"
@@ -103,8 +100,6 @@ def _doubt(backend: str) -> str:
 
 def _wanted(root: str) -> str:
     """The one to take where nobody has named one."""
-    if not DNF5_IS_COMPLETE:
-        return DNF4
     # A system that has neither yet gets what this machine has.
     return used_by(root) or used_by("/") or DNF4
 
@@ -134,10 +129,9 @@ def can_be_imported(backend: str) -> bool:
     return module is not None and module.origin is not None
 
 
-def complete() -> Tuple[str, ...]:
-    """Those that this machine has and that may be chosen without being named."""
-    possible = BACKENDS if DNF5_IS_COMPLETE else (DNF4,)
-    return tuple(backend for backend in possible if can_be_imported(backend))
+def present() -> Tuple[str, ...]:
+    """Those that this machine has, the older one first."""
+    return tuple(filter(can_be_imported, BACKENDS))
 
 
 def _named_by_environment() -> Optional[str]:

@@ -14,7 +14,7 @@ from typing import Dict, List, NamedTuple, Protocol, Sequence, Set, Tuple, cast
 from pool import Package
 from vemyum import choice
 
-BACKEND = os.environ.get(choice.VARIABLE) or next(iter(choice.complete()), choice.DNF4)
+BACKEND = os.environ.get(choice.VARIABLE) or next(iter(choice.present()), choice.DNF4)
 os.environ[choice.VARIABLE] = BACKEND
 
 
