@@ -106,7 +106,7 @@ function(vem_test name)
     set_tests_properties(${name} PROPERTIES
         LABELS "${arg_LABELS}"
         TIMEOUT 300
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;VEMSHARE=${VEM_SHARE_DIR};LC_ALL=C.UTF-8;${VEM_SANITIZER_ENVIRONMENT}")
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;VEMSHARE=${VEM_SHARE_DIR};LC_ALL=C.UTF-8;XDG_CONFIG_HOME=${CMAKE_BINARY_DIR}/configuration;${VEM_SANITIZER_ENVIRONMENT}")
 endfunction()
 
 function(vem_link target)

@@ -188,7 +188,14 @@ bool SortFilterProxyModel::getFilter() const
     return filter;
 }
 
-void SortFilterProxyModel::setFilterRegExp(QString const& pattern)
+void SortFilterProxyModel::setCaseSensitivity(Qt::CaseSensitivity sensitivity)
+{
+    if (std::exchange(caseSensitivity, sensitivity) != sensitivity && !expressionText.isEmpty()) {
+        setFilterRegExp(expressionText);
+    }
+}
+
+QString SortFilterProxyModel::essentialPart(QString const& pattern)
 {
     QLatin1String const anything(".*");
     QString text = pattern;
@@ -198,10 +205,19 @@ void SortFilterProxyModel::setFilterRegExp(QString const& pattern)
     while (text.endsWith(anything)) {
         text.chop(anything.size());
     }
-    regex.compile(text.toUtf8());
+    return text;
+}
+
+void SortFilterProxyModel::setFilterRegExp(QString const& pattern)
+{
+    QString const text = essentialPart(pattern);
+    regex.compile(text.toUtf8(), caseSensitivity);
     expressionText = text;
 
-    QRegularExpression const expression(text);
+    QRegularExpression const expression(
+        text, caseSensitivity == Qt::CaseInsensitive && !text.isEmpty()
+                  ? QRegularExpression::CaseInsensitiveOption
+                  : QRegularExpression::NoPatternOption);
     if (expression != filterRegExp()) {
         acceptCache.clear();
     }
@@ -251,7 +267,7 @@ void SortFilterProxyModel::testShownTexts() const
     Parallel::forParts(acceptCache.size(), [&](std::size_t begin, std::size_t end) {
         // Serves one thread at a time.
         PosixRegex expression;
-        expression.compile(pattern);
+        expression.compile(pattern, caseSensitivity);
         QByteArray texts;
         walkRows(*yumIO, begin, end, fetch, [&](std::size_t row, Package::Entry const& entry) {
             bool accepted = passesStateAndKind(entry);

@@ -43,6 +43,11 @@ public:
     /// Takes an expression; ".*" at either end is redundant and dropped. One that doesn't compile matches
     /// everything. When the call returns, each row has been tested.
     void setFilterRegExp(QString const& pattern);
+    /// Whether letters have to be of the same case as in the expression, as they have at first. The present
+    /// expression stays and is tried anew.
+    void setCaseSensitivity(Qt::CaseSensitivity sensitivity);
+    /// What is left of an expression without what is redundant at its ends.
+    [[nodiscard]] static QString essentialPart(QString const& pattern);
 
     [[nodiscard]] bool filterAcceptsRow(int sourceRow, QModelIndex const& sourceParent) const override;
     /// Whether the expression matches somewhere in the text.
@@ -86,6 +91,7 @@ private:
     /// The list whose rows `acceptCache` is about: rows get other entries with each rebuild.
     mutable quint64 testedList = 0;
     PosixRegex regex;
+    Qt::CaseSensitivity caseSensitivity = Qt::CaseSensitive;
     QString expressionText; ///< of `regex`; the base has it only once the rows have been tested
     mutable RowRanks ranks;
     mutable int comparedWithoutRanks = 0;

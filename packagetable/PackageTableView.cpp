@@ -77,6 +77,11 @@ void View::filtersearch(QString const& pattern)
     proxy->setFilterRegExp(pattern);
 }
 
+void View::setCaseSensitivity(Qt::CaseSensitivity sensitivity)
+{
+    proxy->setCaseSensitivity(sensitivity);
+}
+
 void View::stateFilterChanged(StateFilter stateFilter)
 {
     proxy->setStateFilter(stateFilter);

@@ -39,6 +39,7 @@ public:
     /// Whether an expression is in force that doesn't match everything.
     [[nodiscard]] bool hasExpression() const;
     void filtersearch(QString const& pattern);
+    void setCaseSensitivity(Qt::CaseSensitivity sensitivity);
     void stateFilterChanged(StateFilter stateFilter);
     void groupsFilterChanged(bool groups);
 

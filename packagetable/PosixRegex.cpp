@@ -2,6 +2,7 @@
 #include "packagetable/PosixRegex.h"
 
 #include <algorithm>
+#include <array>
 #include <clocale>
 #include <cstring>
 
@@ -73,26 +74,61 @@ void PosixRegex::Free::operator()(regex_t* regex) const
     delete regex;
 }
 
-bool PosixRegex::compile(QByteArray const& pattern)
+std::optional<PosixRegex::Fault> PosixRegex::fault(QString const& pattern)
 {
+    auto const resultOf = [&pattern](qsizetype length) {
+        regex_t made{};
+        int const result =
+            regcomp(&made, pattern.left(length).toUtf8().constData(), REG_EXTENDED | REG_NOSUB);
+        QString words;
+        if (result == 0) {
+            regfree(&made);
+        } else {
+            std::array<char, 200> text{};
+            regerror(result, &made, text.data(), text.size());
+            words = QString::fromLocal8Bit(text.data());
+        }
+        return words;
+    };
+    QString const words = resultOf(pattern.size());
+    if (words.isEmpty()) {
+        return std::nullopt;
+    }
+    // regcomp(3) doesn't tell where. As long as the beginning of a pattern compiles, nothing is wrong with
+    // it.
+    qsizetype good = pattern.size() - 1;
+    while (good > 0 && !resultOf(good).isEmpty()) {
+        --good;
+    }
+    return Fault{words, static_cast<int>(good)};
+}
+
+bool PosixRegex::compile(QByteArray const& pattern, Qt::CaseSensitivity newSensitivity)
+{
+    sensitivity = newSensitivity;
     // regcomp(3) sees a C string, and so has to look for letters no further.
     QByteArray const seen(pattern.constData());
     regex = compiled(seen);
     forBytes = regex && isFreeOfLocale(seen) ? compiledForBytes(seen) : Compiled();
     needed = neededLetters(seen);
+    if (sensitivity == Qt::CaseInsensitive && !isAscii(needed)) {
+        // It is for the locale to tell which letters are the same but for their case.
+        needed.clear();
+    }
     onlyNeeded = needed == seen;
     return bool(regex);
 }
 
-PosixRegex::Compiled PosixRegex::compiled(QByteArray const& pattern)
+PosixRegex::Compiled PosixRegex::compiled(QByteArray const& pattern) const
 {
     auto made = std::make_unique<regex_t>();
-    bool const compiles = regcomp(made.get(), pattern.constData(), REG_EXTENDED | REG_NOSUB) == 0;
+    int const anyCase = sensitivity == Qt::CaseInsensitive ? REG_ICASE : 0;
+    bool const compiles = regcomp(made.get(), pattern.constData(), REG_EXTENDED | REG_NOSUB | anyCase) == 0;
     return Compiled(compiles ? made.release() : nullptr);
 }
 
 // regexec(3) is up to ten times as fast where each byte is a character.
-PosixRegex::Compiled PosixRegex::compiledForBytes(QByteArray const& pattern)
+PosixRegex::Compiled PosixRegex::compiledForBytes(QByteArray const& pattern) const
 {
     static locale_t const bytes = newlocale(LC_ALL_MASK, "C", nullptr);
     if (!bytes) {
@@ -109,15 +145,24 @@ bool PosixRegex::matches(QByteArray const& text) const
     if (!regex) {
         return true;
     }
+    bool const ascii = isAscii(text);
     // Most texts lack the letters, and regexec(3) takes far longer even for a short one.
-    if (!needed.isEmpty() && !std::strstr(text.constData(), needed.constData())) {
+    if (!needed.isEmpty() && lacksLetters(text, ascii)) {
         return false;
     }
-    if (onlyNeeded) {
+    if (onlyNeeded && (sensitivity == Qt::CaseSensitive || ascii)) {
         return true;
     }
-    regex_t const* const chosen = forBytes && isAscii(text) ? forBytes.get() : regex.get();
+    regex_t const* const chosen = forBytes && ascii ? forBytes.get() : regex.get();
     return regexec(chosen, text.constData(), 0, nullptr, 0) == 0;
+}
+
+bool PosixRegex::lacksLetters(QByteArray const& text, bool ascii) const
+{
+    if (sensitivity == Qt::CaseSensitive) {
+        return !std::strstr(text.constData(), needed.constData());
+    }
+    return ascii && !strcasestr(text.constData(), needed.constData());
 }
 
 // The plain letters at the start of an expression without alternatives. A repetition behind them makes the

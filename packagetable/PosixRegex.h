@@ -2,17 +2,29 @@
 #pragma once
 
 #include <QByteArray>
+#include <QString>
+#include <Qt>
 #include <memory>
+#include <optional>
 #include <regex.h>
 
-/// A compiled POSIX extended regular expression (regcomp(3)), case-sensitive, which only answers whether
-/// it matches somewhere in a text. One thread at a time.
+/// A compiled POSIX extended regular expression (regcomp(3)), which only answers whether it matches somewhere
+/// in a text. One thread at a time.
 class PosixRegex final
 {
 public:
+    /// What keeps a pattern from being compiled.
+    struct Fault
+    {
+        QString words; ///< regerror(3), in the user's language
+        int at = 0;    ///< which of the pattern's characters it is that nothing behind it makes good, from 0
+    };
+    /// Nothing for a pattern that compiles.
+    [[nodiscard]] static std::optional<Fault> fault(QString const& pattern);
+
     /// Takes `pattern`, in UTF-8, in place of the present expression. False when it doesn't compile; the
     /// present expression is gone even so.
-    bool compile(QByteArray const& pattern);
+    bool compile(QByteArray const& pattern, Qt::CaseSensitivity newSensitivity = Qt::CaseSensitive);
 
     /// Whether the expression matches somewhere in `text`, in UTF-8. Without a compiled expression
     /// everything matches.
@@ -26,11 +38,14 @@ private:
     using Compiled = std::unique_ptr<regex_t, Free>;
 
     /// What regcomp(3) makes of the pattern in the locale of this thread; null when it doesn't compile.
-    static Compiled compiled(QByteArray const& pattern);
-    static Compiled compiledForBytes(QByteArray const& pattern);
+    Compiled compiled(QByteArray const& pattern) const;
+    Compiled compiledForBytes(QByteArray const& pattern) const;
+    /// Whether a text can't match since it lacks the needed letters.
+    [[nodiscard]] bool lacksLetters(QByteArray const& text, bool ascii) const;
     /// Letters that stand in every text that `pattern` matches; may be fewer than there are.
     static QByteArray neededLetters(QByteArray const& pattern);
 
+    Qt::CaseSensitivity sensitivity = Qt::CaseSensitive;
     QByteArray needed;       ///< of the present expression
     bool onlyNeeded = false; ///< the expression is nothing but them
     Compiled regex;

@@ -3,8 +3,10 @@
 #include "shell/MainWindow.h"
 
 #include "base/Share.h"
+#include "base/UserSettings.h"
 #include "bridge/Python.h"
 #include "engine/YumIO.h"
+#include "packagetable/PackageTableExpressionEdit.h"
 #include "packagetable/PackageTableModel.h"
 #include "packagetable/PackageTableView.h"
 #include "repo/Execute.h"
@@ -13,6 +15,7 @@
 #include "repo/YumConfIO.h"
 #include "services/LogWindow.h"
 #include "services/ScrollableErrorDialog.h"
+#include "shell/StatusLine.h"
 #include "widgets/HMenu.h"
 
 #include <QAction>
@@ -21,7 +24,7 @@
 #include <QComboBox>
 #include <QEventLoop>
 #include <QFile>
-#include <QLineEdit>
+#include <QItemSelectionModel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
@@ -114,6 +117,13 @@ void MainWindow::showTable()
     view->measureColumns();
     tableArea->setVisible(true);
     view->resizeColumnsToContents();
+    // The first letters that are typed take the place of what matches everything.
+    focusWhenReady = regExpEdit;
+    regExpEdit->selectAll();
+    if (!UserSettings::putAside().isEmpty()) {
+        statusLine->setWarning(tr("What the program remembers was damaged; it has been put aside as %1")
+                                   .arg(UserSettings::putAside()));
+    }
 }
 
 void MainWindow::setReady(bool ready)
@@ -334,7 +344,34 @@ void MainWindow::filtersearch()
         prepareFilterSearch(lineHoldsExpression());
         view->filtersearch(regExpEdit->text());
     };
+    regExpEdit->taken();
     isSearching() ? whileBusy(step) : step();
+}
+
+void MainWindow::followTyping()
+{
+    if (!isSearching()) {
+        view->filtersearch(regExpEdit->text());
+    }
+}
+
+void MainWindow::matchesCaseChanged(bool matches)
+{
+    UserSettings::setValue(matchCaseSetting, matches);
+    auto const step = [this, matches] {
+        view->setCaseSensitivity(matches ? Qt::CaseSensitive : Qt::CaseInsensitive);
+    };
+    isSearching() ? whileBusy(step) : step();
+}
+
+void MainWindow::showRowCounts()
+{
+    statusLine->setRows(view->model()->rowCount(), yumIO->count());
+    qsizetype selected = 0;
+    for (QItemSelectionRange const& range : view->selectionModel()->selection()) {
+        selected += range.height();
+    }
+    statusLine->setSelected(selected);
 }
 
 bool MainWindow::lineHoldsExpression() const

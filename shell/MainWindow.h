@@ -14,8 +14,8 @@ class QAction;
 class QCheckBox;
 class QComboBox;
 class QHBoxLayout;
-class QLineEdit;
 class QPushButton;
+class StatusLine;
 class YumConfIO;
 class YumIO;
 
@@ -26,6 +26,7 @@ class Window;
 
 namespace PackageTable
 {
+class ExpressionEdit;
 class Model;
 class View;
 } // namespace PackageTable
@@ -74,6 +75,10 @@ public Q_SLOTS:
     void manualPdf();
     void about();
     void filtersearch();
+    /// What has been written so far is filtered by; a search waits until it is asked for.
+    void followTyping();
+    void matchesCaseChanged(bool matches);
+    void showRowCounts();
     void currentChanged(int current, int previous);
     void stateChanged(int row = -1);
     void modeChanged(int mode);
@@ -120,6 +125,9 @@ private:
     template <typename Job>
     void applying(Job const& job);
 
+    /// What is remembered, by its key in the user's settings.
+    static constexpr QLatin1String matchCaseSetting{"table/matchCase"};
+
     QIcon updateIcon;
     QIcon clearIcon;
     QIcon applyIcon;
@@ -142,7 +150,7 @@ private:
     QPointer<QWidget> tableArea;      ///< hidden until the first collection is done
     QPointer<QWidget> focusWhenReady; ///< had the keyboard when the window became busy
     QComboBox* modeCombo = nullptr;
-    QLineEdit* regExpEdit = nullptr;
+    PackageTable::ExpressionEdit* regExpEdit = nullptr;
     QPushButton* filterButton = nullptr;
     QComboBox* stateFilterCombo = nullptr;
     QCheckBox* includeGroupsBox = nullptr;
@@ -150,6 +158,7 @@ private:
     PackageTable::View* view = nullptr;
     QPushButton* describeButton = nullptr;
     QPushButton* applyButton = nullptr;
+    StatusLine* statusLine = nullptr;
     RepoEditor::Dialog* repoEditorDialog = nullptr; ///< null until first used
     Log::Window* logWindow = nullptr; ///< null until first used; top-level, deleted with this window
 };

@@ -3,17 +3,20 @@
 #include "shell/MainWindow.h"
 
 #include "base/Share.h"
+#include "base/UserSettings.h"
 #include "engine/YumIO.h"
+#include "packagetable/PackageTableExpressionEdit.h"
 #include "packagetable/PackageTableModel.h"
 #include "packagetable/PackageTableView.h"
 #include "services/HProgressBar.h"
+#include "shell/StatusLine.h"
 #include "widgets/HMenu.h"
 
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QHBoxLayout>
-#include <QLineEdit>
+#include <QItemSelectionModel>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -86,9 +89,16 @@ QHBoxLayout* MainWindow::createFilterRow()
     modeCombo->setAccessibleName(tr("Filter or Search"));
     connect(modeCombo, &QComboBox::currentIndexChanged, this, &MainWindow::modeChanged);
 
-    regExpEdit = new QLineEdit(QStringLiteral(".*"), tableArea);
+    regExpEdit = new PackageTable::ExpressionEdit(QStringLiteral(".*"), tableArea);
     regExpEdit->setAccessibleName(tr("Regular expression"));
     connect(regExpEdit, &QLineEdit::returnPressed, this, &MainWindow::filtersearch);
+    connect(regExpEdit, &PackageTable::ExpressionEdit::chosen, this, &MainWindow::filtersearch);
+    connect(regExpEdit, &PackageTable::ExpressionEdit::paused, this, &MainWindow::followTyping);
+    connect(
+        regExpEdit, &PackageTable::ExpressionEdit::matchesCaseChanged, this, &MainWindow::matchesCaseChanged);
+    connect(regExpEdit, &PackageTable::ExpressionEdit::faultChanged, this, [this](QString const& fault) {
+        statusLine->setWarning(fault);
+    });
 
     filterButton = new QPushButton(tableArea);
     filterButton->setDefault(true);
@@ -180,6 +190,10 @@ void MainWindow::createMainArea()
     connect(view, &PackageTable::View::stateChanged, this, &MainWindow::stateChanged);
     inner->addWidget(view);
     inner->addLayout(createButtonRow());
+    statusLine = new StatusLine(tableArea);
+    inner->addWidget(statusLine);
+    connect(view->model(), &QAbstractItemModel::modelReset, this, &MainWindow::showRowCounts);
+    connect(view->selectionModel(), &QItemSelectionModel::selectionChanged, this, &MainWindow::showRowCounts);
 
     // Until the first collection is done the bars are all that the user sees.
     tableArea->setVisible(false);
@@ -191,6 +205,7 @@ void MainWindow::createMainArea()
     outer->addWidget(totalBar);
     yumIO->setup(this, totalBar, itemBar);
     setCentralWidget(central);
+    regExpEdit->setMatchesCase(UserSettings::value(matchCaseSetting, true).toBool());
     collectedExtraData();
     modeChanged(0);
     setReady(false);

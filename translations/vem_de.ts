@@ -520,6 +520,10 @@ Das Fenster bleibt offen, bis das zu Ende ist.</translation>
         <source>&lt;p&gt;Web page: &lt;a href=&quot;https://vem.example.org/&quot;&gt;https://vem.example.org/&lt;/a&gt;&lt;/p&gt;</source>
         <translation>&lt;p&gt;Webseite: &lt;a href=&quot;https://vem.example.org/&quot;&gt;https://vem.example.org/&lt;/a&gt;&lt;/p&gt;</translation>
     </message>
+    <message>
+        <source>What the program remembers was damaged; it has been put aside as %1</source>
+        <translation>Was sich das Programm merkt, war beschädigt; es ist beiseitegelegt als %1</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>
@@ -735,6 +739,38 @@ Das Fenster bleibt offen, bis das zu Ende ist.</translation>
     <message>
         <source>%1:</source>
         <translation>%1:</translation>
+    </message>
+</context>
+<context>
+    <name>PackageTable::ExpressionEdit</name>
+    <message>
+        <source>Match Case</source>
+        <translation>Groß-/Kleinschreibung beachten</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>Clear the expression</source>
+        <translation>Den Ausdruck leeren</translation>
+    </message>
+    <message>
+        <source>Ctrl+M</source>
+        <translation>Ctrl+M</translation>
+    </message>
+    <message>
+        <source>Whether capital and small letters differ (%1)</source>
+        <translation>Ob sich Groß- und Kleinbuchstaben unterscheiden (%1)</translation>
+    </message>
+    <message>
+        <source>%1, at letter %2 of the expression: %3</source>
+        <extracomment>%1 is what the system&apos;s library says is wrong, %2 the number of the letter, from 1, %3 the letter</extracomment>
+        <translation>%1, bei Zeichen %2 des Ausdrucks: %3</translation>
+    </message>
+    <message>
+        <source>Not Valid</source>
+        <translation>Nicht gültig</translation>
     </message>
 </context>
 <context>
@@ -1359,6 +1395,17 @@ Lässt sich für eine einzelne Sitzung übersteuern.</translation>
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>StatusLine</name>
+    <message>
+        <source>%1 of %2 shown</source>
+        <translation>%1 von %2 gezeigt</translation>
+    </message>
+    <message>
+        <source>%1 selected</source>
+        <translation>%1 ausgewählt</translation>
     </message>
 </context>
 <context>

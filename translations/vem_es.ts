@@ -520,6 +520,10 @@ La ventana permanece abierta hasta que termine.</translation>
         <source>&lt;p&gt;Web page: &lt;a href=&quot;https://vem.example.org/&quot;&gt;https://vem.example.org/&lt;/a&gt;&lt;/p&gt;</source>
         <translation>&lt;p&gt;Página web: &lt;a href=&quot;https://vem.example.org/&quot;&gt;https://vem.example.org/&lt;/a&gt;&lt;/p&gt;</translation>
     </message>
+    <message>
+        <source>What the program remembers was damaged; it has been put aside as %1</source>
+        <translation>Lo que el programa recuerda estaba dañado; se ha apartado como %1</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>
@@ -735,6 +739,38 @@ La ventana permanece abierta hasta que termine.</translation>
     <message>
         <source>%1:</source>
         <translation>%1:</translation>
+    </message>
+</context>
+<context>
+    <name>PackageTable::ExpressionEdit</name>
+    <message>
+        <source>Match Case</source>
+        <translation>Distinguir mayúsculas</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Vaciar</translation>
+    </message>
+    <message>
+        <source>Clear the expression</source>
+        <translation>Vaciar la expresión</translation>
+    </message>
+    <message>
+        <source>Ctrl+M</source>
+        <translation>Ctrl+M</translation>
+    </message>
+    <message>
+        <source>Whether capital and small letters differ (%1)</source>
+        <translation>Si se distinguen mayúsculas y minúsculas (%1)</translation>
+    </message>
+    <message>
+        <source>%1, at letter %2 of the expression: %3</source>
+        <extracomment>%1 is what the system&apos;s library says is wrong, %2 the number of the letter, from 1, %3 the letter</extracomment>
+        <translation>%1, en el carácter %2 de la expresión: %3</translation>
+    </message>
+    <message>
+        <source>Not Valid</source>
+        <translation>No válida</translation>
     </message>
 </context>
 <context>
@@ -1359,6 +1395,17 @@ Se puede cambiar para una sesión concreta.</translation>
     <message>
         <source>Close</source>
         <translation>Cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>StatusLine</name>
+    <message>
+        <source>%1 of %2 shown</source>
+        <translation>%1 de %2 a la vista</translation>
+    </message>
+    <message>
+        <source>%1 selected</source>
+        <translation>%1 seleccionados</translation>
     </message>
 </context>
 <context>

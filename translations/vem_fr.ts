@@ -520,6 +520,10 @@ La fenêtre reste ouverte jusqu’à la fin de l’opération.</translation>
         <source>&lt;p&gt;Web page: &lt;a href=&quot;https://vem.example.org/&quot;&gt;https://vem.example.org/&lt;/a&gt;&lt;/p&gt;</source>
         <translation>&lt;p&gt;Page web&#xa0;: &lt;a href=&quot;https://vem.example.org/&quot;&gt;https://vem.example.org/&lt;/a&gt;&lt;/p&gt;</translation>
     </message>
+    <message>
+        <source>What the program remembers was damaged; it has been put aside as %1</source>
+        <translation>Ce que le programme retient était endommagé ; il a été mis de côté sous %1</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>
@@ -735,6 +739,38 @@ La fenêtre reste ouverte jusqu’à la fin de l’opération.</translation>
     <message>
         <source>%1:</source>
         <translation>%1&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>PackageTable::ExpressionEdit</name>
+    <message>
+        <source>Match Case</source>
+        <translation>Respecter la casse</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Effacer</translation>
+    </message>
+    <message>
+        <source>Clear the expression</source>
+        <translation>Effacer l&apos;expression</translation>
+    </message>
+    <message>
+        <source>Ctrl+M</source>
+        <translation>Ctrl+M</translation>
+    </message>
+    <message>
+        <source>Whether capital and small letters differ (%1)</source>
+        <translation>Si majuscules et minuscules diffèrent (%1)</translation>
+    </message>
+    <message>
+        <source>%1, at letter %2 of the expression: %3</source>
+        <extracomment>%1 is what the system&apos;s library says is wrong, %2 the number of the letter, from 1, %3 the letter</extracomment>
+        <translation>%1, au caractère %2 de l&apos;expression : %3</translation>
+    </message>
+    <message>
+        <source>Not Valid</source>
+        <translation>Non valide</translation>
     </message>
 </context>
 <context>
@@ -1359,6 +1395,17 @@ Peut être modifié pour une session donnée.</translation>
     <message>
         <source>Close</source>
         <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>StatusLine</name>
+    <message>
+        <source>%1 of %2 shown</source>
+        <translation>%1 sur %2 affichés</translation>
+    </message>
+    <message>
+        <source>%1 selected</source>
+        <translation>%1 sélectionnés</translation>
     </message>
 </context>
 <context>

@@ -520,6 +520,10 @@ The window stays open until that has come to its end.</source>
         <source>&lt;p&gt;Web page: &lt;a href=&quot;https://vem.example.org/&quot;&gt;https://vem.example.org/&lt;/a&gt;&lt;/p&gt;</source>
         <translation>&lt;p&gt;Web ページ: &lt;a href=&quot;https://vem.example.org/&quot;&gt;https://vem.example.org/&lt;/a&gt;&lt;/p&gt;</translation>
     </message>
+    <message>
+        <source>What the program remembers was damaged; it has been put aside as %1</source>
+        <translation>プログラムの記憶が破損していたため、%1 として取り置きました</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>
@@ -735,6 +739,38 @@ The window stays open until that has come to its end.</source>
     <message>
         <source>%1:</source>
         <translation>%1:</translation>
+    </message>
+</context>
+<context>
+    <name>PackageTable::ExpressionEdit</name>
+    <message>
+        <source>Match Case</source>
+        <translation>大文字と小文字を区別</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>消去</translation>
+    </message>
+    <message>
+        <source>Clear the expression</source>
+        <translation>式を消去します</translation>
+    </message>
+    <message>
+        <source>Ctrl+M</source>
+        <translation>Ctrl+M</translation>
+    </message>
+    <message>
+        <source>Whether capital and small letters differ (%1)</source>
+        <translation>大文字と小文字を区別するかどうか (%1)</translation>
+    </message>
+    <message>
+        <source>%1, at letter %2 of the expression: %3</source>
+        <extracomment>%1 is what the system&apos;s library says is wrong, %2 the number of the letter, from 1, %3 the letter</extracomment>
+        <translation>%1 (式の %2 文字目: %3)</translation>
+    </message>
+    <message>
+        <source>Not Valid</source>
+        <translation>無効な式</translation>
     </message>
 </context>
 <context>
@@ -1359,6 +1395,17 @@ It can be overridden for a particular session.</source>
     <message>
         <source>Close</source>
         <translation>閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>StatusLine</name>
+    <message>
+        <source>%1 of %2 shown</source>
+        <translation>%2 件中 %1 件を表示</translation>
+    </message>
+    <message>
+        <source>%1 selected</source>
+        <translation>%1 件を選択</translation>
     </message>
 </context>
 <context>

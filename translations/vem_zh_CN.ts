@@ -520,6 +520,10 @@ The window stays open until that has come to its end.</source>
         <source>&lt;p&gt;Web page: &lt;a href=&quot;https://vem.example.org/&quot;&gt;https://vem.example.org/&lt;/a&gt;&lt;/p&gt;</source>
         <translation>&lt;p&gt;网页：&lt;a href=&quot;https://vem.example.org/&quot;&gt;https://vem.example.org/&lt;/a&gt;&lt;/p&gt;</translation>
     </message>
+    <message>
+        <source>What the program remembers was damaged; it has been put aside as %1</source>
+        <translation>程序记住的设置已损坏，已另存为 %1</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>
@@ -735,6 +739,38 @@ The window stays open until that has come to its end.</source>
     <message>
         <source>%1:</source>
         <translation>%1：</translation>
+    </message>
+</context>
+<context>
+    <name>PackageTable::ExpressionEdit</name>
+    <message>
+        <source>Match Case</source>
+        <translation>区分大小写</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>清除</translation>
+    </message>
+    <message>
+        <source>Clear the expression</source>
+        <translation>清除表达式</translation>
+    </message>
+    <message>
+        <source>Ctrl+M</source>
+        <translation>Ctrl+M</translation>
+    </message>
+    <message>
+        <source>Whether capital and small letters differ (%1)</source>
+        <translation>是否区分大写和小写字母 (%1)</translation>
+    </message>
+    <message>
+        <source>%1, at letter %2 of the expression: %3</source>
+        <extracomment>%1 is what the system&apos;s library says is wrong, %2 the number of the letter, from 1, %3 the letter</extracomment>
+        <translation>%1，在表达式的第 %2 个字符：%3</translation>
+    </message>
+    <message>
+        <source>Not Valid</source>
+        <translation>无效</translation>
     </message>
 </context>
 <context>
@@ -1359,6 +1395,17 @@ It can be overridden for a particular session.</source>
     <message>
         <source>Close</source>
         <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>StatusLine</name>
+    <message>
+        <source>%1 of %2 shown</source>
+        <translation>显示 %1 / %2</translation>
+    </message>
+    <message>
+        <source>%1 selected</source>
+        <translation>已选 %1</translation>
     </message>
 </context>
 <context>

@@ -83,10 +83,11 @@ class Program:
         with open(log, "ab") as output:
             self.process = subprocess.Popen(
                 [str(binary), *arguments],
-                # No test keeps this machine from shutting down.
+                # No test keeps this machine from shutting down, or remembers anything for the user who runs it.
                 env={
                     **os.environ, "DBUS_SYSTEM_BUS_ADDRESS": "unix:path=/nonexistent", "VEMROOT": str(root),
-                    "VEMSHARE": str(share), **(environment or {}),
+                    "VEMSHARE": str(share), "XDG_CONFIG_HOME": str(log.parent / "configuration"),
+                    **(environment or {}),
                 },
                 stdin=subprocess.DEVNULL, stdout=output, stderr=output,
             )

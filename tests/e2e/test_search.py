@@ -7,7 +7,7 @@ from typing import Callable
 
 import pytest
 
-from program import Program, wait_for
+from program import Atspi, Program, wait_for, walk
 from rpmestate import Estate, shell_spec, spec
 
 Start = Callable[..., Program]
@@ -60,6 +60,25 @@ def test_a_search_reaches_files_changes_and_descriptions(coast: Estate, start: S
     wait_for(lambda: program.names() == ["coast-horn"], "the horn", 30)
     program.choose("Filter")
     wait_for(lambda: program.names() == [], "a table without a match", 30)
+
+
+def test_the_table_follows_what_is_typed_from_the_start(coast: Estate, start: Start) -> None:
+    program = start(coast)
+    program.wait_ready()
+    program.choose("View All")
+    everything = sorted(program.names())
+    program.click(program.wait("Regular expression", Atspi.Role.TEXT))
+    program.key("ctrl+a")
+    program.type_text("t-h")
+    wait_for(lambda: program.names() == ["coast-horn"], "the horn", 30)
+    program.type_text("[")
+    wait_for(
+        lambda: any("letter 4" in node.get_name() for node in walk(program.window("VEM - "))),
+        "a word on what is wrong", 30,
+    )
+    assert program.names() == ["coast-horn"]
+    program.key("ctrl+a", "Delete")
+    wait_for(lambda: sorted(program.names()) == everything, "all rows", 30)
 
 
 if __name__ == "__main__":

@@ -99,6 +99,67 @@ private Q_SLOTS:
         QVERIFY(compiled > 5000);
     }
 
+    // regexec(3) itself is asked for texts that aren't ASCII: the locale has letters like the sign of Kelvin.
+    void agreesWithTheSystemsMatcherOnAnyCase()
+    {
+        QList<QByteArray> const patterns{"BASH", "bash", "b[A-C]sh", "^B.*h$", "gr\xc3\x9c\xc3\x9f",
+                                         "k",    "a|B",  "sh+",      "K?x",    "\xe2\x84\xaa"};
+        QList<QByteArray> const texts{
+            "bash",
+            "BASH",
+            "Bash-completion",
+            "gr\xc3\xbc\xc3\x9f",
+            "\xe2\x84\xaa",
+            "K",
+            "x",
+            "",
+            "SH",
+            "b",
+            "\xc3\xa9"
+            "BASH"};
+        for (QByteArray const& pattern : patterns) {
+            regex_t plain;
+            QCOMPARE(regcomp(&plain, pattern.constData(), REG_EXTENDED | REG_NOSUB | REG_ICASE), 0);
+            PosixRegex regex;
+            QVERIFY(regex.compile(pattern, Qt::CaseInsensitive));
+            for (QByteArray const& text : texts) {
+                bool const expected = regexec(&plain, text.constData(), 0, nullptr, 0) == 0;
+                QVERIFY2(regex.matches(text) == expected, (pattern + " on " + text).constData());
+            }
+            regfree(&plain);
+        }
+    }
+
+    void tellsWhereAPatternIsWrong_data()
+    {
+        QTest::addColumn<QString>("pattern");
+        QTest::addColumn<int>("at");
+        auto const row = [](char const* pattern, int at) {
+            QTest::newRow(pattern) << QString::fromUtf8(pattern) << at;
+        };
+        row("(", 0);
+        row("a(b)c(d", 5);
+        row("ab[cd", 2);
+        row("gr\xc3\xbc\xc3\x9f[", 4);
+        row("foo\\", 3);
+    }
+
+    void tellsWhereAPatternIsWrong()
+    {
+        QFETCH(QString const, pattern);
+        std::optional<PosixRegex::Fault> const fault = PosixRegex::fault(pattern);
+        QVERIFY(fault);
+        QTEST(fault->at, "at");
+        QVERIFY(!fault->words.isEmpty());
+    }
+
+    void nothingIsWrongWithAPatternThatCompiles()
+    {
+        for (char const* const pattern : {"", "a", "(a|b)*", "[(]", "\\("}) {
+            QVERIFY2(!PosixRegex::fault(QString::fromUtf8(pattern)), pattern);
+        }
+    }
+
     void aNewPatternTakesThePlaceOfTheOld()
     {
         PosixRegex regex;

@@ -13,6 +13,7 @@
 #include <QFile>
 #include <QMenu>
 #include <QPushButton>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -63,9 +64,9 @@ void ShellTest::makeWindow()
     application = qobject_cast<QApplication*>(QCoreApplication::instance());
     static QTemporaryDir const root;
     QDir(root.path()).mkpath(QStringLiteral("etc/yum.repos.d"));
-    QFile configuration(root.filePath(QStringLiteral("etc/yum.conf")));
-    QVERIFY(configuration.open(QIODevice::WriteOnly) && configuration.write("[main]\n"));
-    configuration.close();
+    QFile file(root.filePath(QStringLiteral("etc/yum.conf")));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("[main]\n"));
+    file.close();
     qputenv("VEMROOT", QFile::encodeName(root.path()));
     static QTemporaryDir const share;
     auto const link = [](QString const& target, QString const& name) {
@@ -76,6 +77,8 @@ void ShellTest::makeWindow()
         link(QStringLiteral(VEM_TEST_SHARE "/") + pictures, pictures);
     }
     qputenv("VEMSHARE", QFile::encodeName(share.path()));
+    static QTemporaryDir const configuration;
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, configuration.path());
     qputenv("TZ", "UTC");
     boxes = std::make_unique<Boxes>();
     window = new MainWindow(nullptr);

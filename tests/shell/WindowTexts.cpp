@@ -11,6 +11,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QTableView>
+#include <QToolButton>
 
 namespace
 {
@@ -97,7 +98,11 @@ QStringList WindowTexts::cut(QWidget const& window)
 {
     QStringList found;
     for (QAbstractButton const* const button : shown<QAbstractButton>(window)) {
-        addCut(found, *button, button->text(), button->sizeHint());
+        auto const* const tool = qobject_cast<QToolButton const*>(button);
+        // The words of a picture are for those who can't see it.
+        if (!tool || tool->toolButtonStyle() != Qt::ToolButtonIconOnly) {
+            addCut(found, *button, button->text(), button->sizeHint());
+        }
     }
     for (QLabel const* const label : shown<QLabel>(window)) {
         int const height =

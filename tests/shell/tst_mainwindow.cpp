@@ -123,7 +123,7 @@ private Q_SLOTS:
         QVERIFY(!names().contains(QStringLiteral("Trees")));
     }
 
-    void typingAloneDoesNotFilter()
+    void aTextThatNobodyTypesWaitsForTheButton()
     {
         qsizetype const all = names().size();
         expression()->setText(QStringLiteral("^elm"));
