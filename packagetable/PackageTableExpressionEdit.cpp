@@ -60,11 +60,7 @@ ExpressionEdit::ExpressionEdit(QString const& expression, QWidget* parent)
 
     offer->setWidget(this);
     offer->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
-    connect(offer, qOverload<QString const&>(&QCompleter::activated), this, [this](QString const& text) {
-        setText(text);
-        findFault();
-        Q_EMIT chosen();
-    });
+    connect(offer, qOverload<QString const&>(&QCompleter::activated), this, &ExpressionEdit::choose);
 
     pause.setSingleShot(true);
     pause.setInterval(pauseTime);
@@ -93,6 +89,12 @@ void ExpressionEdit::taken()
 {
     pause.stop();
     findFault();
+}
+
+void ExpressionEdit::choose(QString const& expression)
+{
+    setText(expression);
+    Q_EMIT chosen();
 }
 
 // Not each beginning of a word at which somebody has paused.

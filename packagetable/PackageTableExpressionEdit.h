@@ -32,6 +32,8 @@ public:
 
     /// The text is applied without waiting for a pause.
     void taken();
+    /// Takes a text that the user has chosen, to be applied at once.
+    void choose(QString const& text);
 
 Q_SIGNALS:
     /// The user has changed the expression, to one that compiles, and paused; never while the line is
@@ -40,7 +42,7 @@ Q_SIGNALS:
     /// `fault` has changed.
     void faultChanged(QString const& fault);
     void matchesCaseChanged(bool matches);
-    /// One of the expressions that have been in use has been chosen, and is in the line.
+    /// The user has chosen a text, which is in the line.
     void chosen();
 
 protected:

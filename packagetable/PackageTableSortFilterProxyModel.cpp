@@ -12,6 +12,7 @@
 #include <QRegularExpression>
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <utility>
 #include <vector>
 
@@ -87,13 +88,30 @@ void takeShownTexts(Package::Entry const& entry, QByteArray& line)
     }
 }
 
+bool passesStateAndKind(Package::Entry const& entry, SortFilterProxyModel::Conditions const& wanted)
+{
+    if (!wanted.groups && entry.kind == Package::Group) {
+        return false;
+    }
+    switch (wanted.stateFilter) {
+    case Updatable:
+        return entry.state == Package::OutOfDate;
+    case Installable:
+        return entry.state == Package::Available;
+    case Removable:
+        return entry.state != Package::Available;
+    case All:
+        break;
+    }
+    return true;
+}
+
 } // namespace
 
 SortFilterProxyModel::SortFilterProxyModel(
     StateFilter initialStateFilter, bool showGroups, YumIO* engine, QObject* parent)
     : HSortFilterProxyModel(NameColumn, parent),
-      stateFilter(initialStateFilter),
-      groups(showGroups),
+      present{initialStateFilter, showGroups, QString(), Qt::CaseSensitive},
       yumIO(engine),
       ranks(engine)
 {
@@ -112,16 +130,16 @@ void SortFilterProxyModel::setMode(Mode newMode)
 
 void SortFilterProxyModel::setStateFilter(StateFilter newStateFilter)
 {
-    if (newStateFilter != stateFilter) {
-        stateFilter = newStateFilter;
+    if (newStateFilter != present.stateFilter) {
+        present.stateFilter = newStateFilter;
         forgetVerdicts();
     }
 }
 
 void SortFilterProxyModel::setGroupsFilter(bool showGroups)
 {
-    if (showGroups != groups) {
-        groups = showGroups;
+    if (showGroups != present.groups) {
+        present.groups = showGroups;
         forgetVerdicts();
     }
 }
@@ -135,7 +153,7 @@ void SortFilterProxyModel::forgetVerdicts()
 
 bool SortFilterProxyModel::isSearch() const
 {
-    return mode == Search && !expressionText.isEmpty();
+    return mode == Search && !present.expression.isEmpty();
 }
 
 // A search takes seconds. It is done before the reset, while the table stands whole, so that the window can
@@ -190,8 +208,8 @@ bool SortFilterProxyModel::getFilter() const
 
 void SortFilterProxyModel::setCaseSensitivity(Qt::CaseSensitivity sensitivity)
 {
-    if (std::exchange(caseSensitivity, sensitivity) != sensitivity && !expressionText.isEmpty()) {
-        setFilterRegExp(expressionText);
+    if (std::exchange(present.caseSensitivity, sensitivity) != sensitivity && !present.expression.isEmpty()) {
+        setFilterRegExp(present.expression);
     }
 }
 
@@ -211,11 +229,11 @@ QString SortFilterProxyModel::essentialPart(QString const& pattern)
 void SortFilterProxyModel::setFilterRegExp(QString const& pattern)
 {
     QString const text = essentialPart(pattern);
-    regex.compile(text.toUtf8(), caseSensitivity);
-    expressionText = text;
+    regex.compile(text.toUtf8(), present.caseSensitivity);
+    present.expression = text;
 
     QRegularExpression const expression(
-        text, caseSensitivity == Qt::CaseInsensitive && !text.isEmpty()
+        text, present.caseSensitivity == Qt::CaseInsensitive && !text.isEmpty()
                   ? QRegularExpression::CaseInsensitiveOption
                   : QRegularExpression::NoPatternOption);
     if (expression != filterRegExp()) {
@@ -258,30 +276,54 @@ bool SortFilterProxyModel::filterAcceptsRow(int sourceRow, QModelIndex const& so
 // All rows at a time, as whoever asks about one asks about all.
 void SortFilterProxyModel::testShownTexts() const
 {
-    QByteArray const pattern = expressionText.toUtf8();
-    auto const fetch = [&](Package::Entry const& entry) {
-        for (int column = NameColumn; column < ColumnCount && !pattern.isEmpty(); ++column) {
-            fetchLetters(columnText(entry, column));
-        }
-    };
-    Parallel::forParts(acceptCache.size(), [&](std::size_t begin, std::size_t end) {
-        // Serves one thread at a time.
-        PosixRegex expression;
-        expression.compile(pattern, caseSensitivity);
-        QByteArray texts;
-        walkRows(*yumIO, begin, end, fetch, [&](std::size_t row, Package::Entry const& entry) {
-            bool accepted = passesStateAndKind(entry);
-            if (accepted && !pattern.isEmpty()) {
-                takeShownTexts(entry, texts);
-                accepted = expression.matches(texts);
-            }
-            acceptCache[row] = accepted ? Verdict::Accepted : Verdict::Rejected;
-        });
+    testShownTexts(present, [this](std::size_t row, bool accepted) {
+        acceptCache[row] = accepted ? Verdict::Accepted : Verdict::Rejected;
     });
     auto const shown = std::ranges::count(acceptCache, Verdict::Accepted);
     if (static_cast<std::size_t>(shown) > acceptCache.size() / 8) {
         expectLongSort();
     }
+}
+
+template <typename Judge>
+void SortFilterProxyModel::testShownTexts(Conditions const& wanted, Judge const& judge) const
+{
+    QByteArray const pattern = wanted.expression.toUtf8();
+    auto const fetch = [&](Package::Entry const& entry) {
+        for (int column = NameColumn; column < ColumnCount && !pattern.isEmpty(); ++column) {
+            fetchLetters(columnText(entry, column));
+        }
+    };
+    Parallel::forParts(static_cast<std::size_t>(yumIO->count()), [&](std::size_t begin, std::size_t end) {
+        // Serves one thread at a time.
+        PosixRegex expression;
+        expression.compile(pattern, wanted.caseSensitivity);
+        QByteArray texts;
+        walkRows(*yumIO, begin, end, fetch, [&](std::size_t row, Package::Entry const& entry) {
+            bool accepted = passesStateAndKind(entry, wanted);
+            if (accepted && !pattern.isEmpty()) {
+                takeShownTexts(entry, texts);
+                accepted = expression.matches(texts);
+            }
+            judge(row, accepted);
+        });
+    });
+}
+
+SortFilterProxyModel::Conditions SortFilterProxyModel::conditions() const
+{
+    return present;
+}
+
+qsizetype SortFilterProxyModel::count(Conditions const& wanted) const
+{
+    std::atomic<qsizetype> shown = 0;
+    testShownTexts(wanted, [&shown](std::size_t, bool accepted) {
+        if (accepted) {
+            shown.fetch_add(1, std::memory_order_relaxed);
+        }
+    });
+    return shown;
 }
 
 void SortFilterProxyModel::expectLongSort() const
@@ -296,10 +338,10 @@ bool SortFilterProxyModel::matches(QString const& text) const
 
 bool SortFilterProxyModel::acceptRow(Package::Entry* entry, int, QModelIndex const&) const
 {
-    if (!entry || !passesStateAndKind(*entry)) {
+    if (!entry || !passesStateAndKind(*entry, present)) {
         return false;
     }
-    if (expressionText.isEmpty()) {
+    if (present.expression.isEmpty()) {
         return true;
     }
     if (mode == Search) {
@@ -308,24 +350,6 @@ bool SortFilterProxyModel::acceptRow(Package::Entry* entry, int, QModelIndex con
     QByteArray texts;
     takeShownTexts(*entry, texts);
     return regex.matches(texts);
-}
-
-bool SortFilterProxyModel::passesStateAndKind(Package::Entry const& entry) const
-{
-    if (!groups && entry.kind == Package::Group) {
-        return false;
-    }
-    switch (stateFilter) {
-    case Updatable:
-        return entry.state == Package::OutOfDate;
-    case Installable:
-        return entry.state == Package::Available;
-    case Removable:
-        return entry.state != Package::Available;
-    case All:
-        break;
-    }
-    return true;
 }
 
 bool SortFilterProxyModel::matchesAnyField(Package::Entry const& entry) const

@@ -49,6 +49,18 @@ public:
     /// What is left of an expression without what is redundant at its ends.
     [[nodiscard]] static QString essentialPart(QString const& pattern);
 
+    /// What decides in mode Filter which rows show.
+    struct Conditions
+    {
+        StateFilter stateFilter;
+        bool groups;
+        QString expression; ///< its essential part
+        Qt::CaseSensitivity caseSensitivity;
+    };
+    [[nodiscard]] Conditions conditions() const;
+    /// How many rows would show in mode Filter. As long as a change of the filter takes.
+    [[nodiscard]] qsizetype count(Conditions const& wanted) const;
+
     [[nodiscard]] bool filterAcceptsRow(int sourceRow, QModelIndex const& sourceParent) const override;
     /// Whether the expression matches somewhere in the text.
     [[nodiscard]] bool matches(QString const& text) const;
@@ -72,7 +84,9 @@ private:
         Accepted,
     };
 
-    bool passesStateAndKind(Package::Entry const& entry) const;
+    /// Calls `judge(row, accepted)` for each row, in several threads.
+    template <typename Judge>
+    void testShownTexts(Conditions const& wanted, Judge const& judge) const;
     bool matchesAnyField(Package::Entry const& entry) const;
     void forgetVerdicts();
     bool isSearch() const;
@@ -84,15 +98,12 @@ private:
 
     Mode mode = Filter;
     bool filter = true;
-    StateFilter stateFilter;
-    bool groups;
+    Conditions present; ///< the base has the expression only once the rows have been tested
     YumIO* yumIO;
     mutable std::vector<Verdict> acceptCache; ///< row by row
     /// The list whose rows `acceptCache` is about: rows get other entries with each rebuild.
     mutable quint64 testedList = 0;
     PosixRegex regex;
-    Qt::CaseSensitivity caseSensitivity = Qt::CaseSensitive;
-    QString expressionText; ///< of `regex`; the base has it only once the rows have been tested
     mutable RowRanks ranks;
     mutable int comparedWithoutRanks = 0;
 };

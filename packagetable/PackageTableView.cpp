@@ -72,6 +72,11 @@ bool View::hasExpression() const
     return !proxy->filterRegExp().pattern().isEmpty();
 }
 
+QString View::expression() const
+{
+    return proxy->conditions().expression;
+}
+
 void View::filtersearch(QString const& pattern)
 {
     proxy->setFilterRegExp(pattern);
@@ -80,6 +85,11 @@ void View::filtersearch(QString const& pattern)
 void View::setCaseSensitivity(Qt::CaseSensitivity sensitivity)
 {
     proxy->setCaseSensitivity(sensitivity);
+}
+
+qsizetype View::count(StateFilter stateFilter, bool groups, Qt::CaseSensitivity caseSensitivity) const
+{
+    return proxy->count({stateFilter, groups, expression(), caseSensitivity});
 }
 
 void View::stateFilterChanged(StateFilter stateFilter)

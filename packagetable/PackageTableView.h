@@ -38,8 +38,14 @@ public:
     void setFilter(bool filter);
     /// Whether an expression is in force that doesn't match everything.
     [[nodiscard]] bool hasExpression() const;
+    /// Its essential part.
+    [[nodiscard]] QString expression() const;
     void filtersearch(QString const& pattern);
     void setCaseSensitivity(Qt::CaseSensitivity sensitivity);
+
+    /// How many rows would show in mode Filter, with the present expression and otherwise as told.
+    [[nodiscard]] qsizetype count(
+        StateFilter stateFilter, bool groups, Qt::CaseSensitivity caseSensitivity) const;
     void stateFilterChanged(StateFilter stateFilter);
     void groupsFilterChanged(bool groups);
 

@@ -9,6 +9,7 @@
 #include "packagetable/PackageTableModel.h"
 #include "packagetable/PackageTableView.h"
 #include "services/HProgressBar.h"
+#include "shell/EmptyTableNote.h"
 #include "shell/StatusLine.h"
 #include "widgets/HMenu.h"
 
@@ -190,6 +191,7 @@ void MainWindow::createMainArea()
     connect(view, &PackageTable::View::stateChanged, this, &MainWindow::stateChanged);
     inner->addWidget(view);
     inner->addLayout(createButtonRow());
+    new EmptyTableNote(view, yumIO, {modeCombo, regExpEdit, stateFilterCombo, includeGroupsBox});
     statusLine = new StatusLine(tableArea);
     inner->addWidget(statusLine);
     connect(view->model(), &QAbstractItemModel::modelReset, this, &MainWindow::showRowCounts);

@@ -37,6 +37,48 @@
     </message>
 </context>
 <context>
+    <name>EmptyTableNote</name>
+    <message>
+        <source>There are no packages.</source>
+        <translation>Es gibt keine Pakete.</translation>
+    </message>
+    <message>
+        <source>Nothing matches %1 in %2.</source>
+        <extracomment>%1 is an expression, %2 one of the choices beside it, such as &quot;View All&quot;</extracomment>
+        <translation>Nichts in %2 passt zu %1.</translation>
+    </message>
+    <message>
+        <source>There is nothing in %1.</source>
+        <extracomment>%1 is one of the choices above the table, such as &quot;View Updatable&quot;</extracomment>
+        <translation>In %1 ist nichts.</translation>
+    </message>
+    <message>
+        <source>%1 match in %2</source>
+        <extracomment>%1 is a number of rows, %2 is &quot;View All&quot;</extracomment>
+        <translation>%1 passend in %2</translation>
+    </message>
+    <message>
+        <source>%1 in %2</source>
+        <translation>%1 in %2</translation>
+    </message>
+    <message>
+        <source>%1 match among groups</source>
+        <translation>%1 passend unter den Gruppen</translation>
+    </message>
+    <message>
+        <source>%1 among groups</source>
+        <translation>%1 unter den Gruppen</translation>
+    </message>
+    <message>
+        <source>%1 match without case</source>
+        <translation>%1 passend ohne Groß-/Kleinschreibung</translation>
+    </message>
+    <message>
+        <source>Clear the expression</source>
+        <translation>Den Ausdruck leeren</translation>
+    </message>
+</context>
+<context>
     <name>Execute</name>
     <message>
         <source>Help</source>
