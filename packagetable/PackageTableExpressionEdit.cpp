@@ -12,6 +12,7 @@
 #include <QStringList>
 #include <QStringListModel>
 #include <QStyle>
+#include <algorithm>
 #include <chrono>
 #include <optional>
 
@@ -176,6 +177,23 @@ QIcon ExpressionEdit::caseIcon() const
         icon.addPixmap(picture);
     }
     return icon;
+}
+
+// The line has the keyboard from the start, and the window's own keys go before what the toolkit has for
+// lines, such as Ctrl+E for its end.
+bool ExpressionEdit::event(QEvent* event)
+{
+    if (event->type() == QEvent::ShortcutOverride) {
+        QKeySequence const pressed(static_cast<QKeyEvent*>(event)->keyCombination());
+        auto const actions = window()->findChildren<QAction*>();
+        if (std::ranges::any_of(actions, [&](QAction const* action) {
+                return action->shortcutContext() == Qt::WindowShortcut && action->shortcut() == pressed;
+            })) {
+            event->ignore();
+            return true;
+        }
+    }
+    return QLineEdit::event(event);
 }
 
 void ExpressionEdit::changeEvent(QEvent* event)

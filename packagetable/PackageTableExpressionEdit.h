@@ -46,6 +46,7 @@ Q_SIGNALS:
     void chosen();
 
 protected:
+    bool event(QEvent* event) override;
     void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 

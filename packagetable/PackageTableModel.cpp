@@ -396,21 +396,54 @@ void Model::setPalette(QPalette const& palette)
 
 void Model::setSelected(QList<QModelIndex> const& rows)
 {
+    markAll(rows, Package::Install);
+}
+
+void Model::markAll(QList<QModelIndex> const& rows, Package::Action wanted)
+{
     constexpr auto ahead = static_cast<qsizetype>(entriesAhead);
     for (qsizetype i = 0; i < rows.size(); ++i) {
         if (i + ahead < rows.size()) {
             __builtin_prefetch(entryAt(rows[i + ahead]));
         }
         Package::Entry* const entry = entryAt(rows[i]);
-        if (!entry) {
-            continue;
-        }
-        if (entry->state == Package::OutOfDate) {
-            mark(rows[i].row(), *entry, Package::Update);
-        } else if (entry->state == Package::Available) {
-            mark(rows[i].row(), *entry, Package::Install);
+        std::optional<Package::Action> const action = entry ? fitting(*entry, wanted) : std::nullopt;
+        if (action) {
+            mark(rows[i].row(), *entry, *action);
         }
     }
+}
+
+bool Model::wouldMark(QModelIndex const& index, Package::Action wanted) const
+{
+    Package::Entry const* const entry = entryAt(index);
+    return entry && fitting(*entry, wanted);
+}
+
+std::optional<Package::Action> Model::fitting(Package::Entry const& entry, Package::Action wanted)
+{
+    switch (wanted) {
+    case Package::Install:
+    case Package::Update:
+        if (entry.state == Package::OutOfDate) {
+            return Package::Update;
+        }
+        if (entry.state == Package::Available) {
+            return Package::Install;
+        }
+        break;
+    case Package::Remove:
+        if (entry.state != Package::Available) {
+            return Package::Remove;
+        }
+        break;
+    case Package::None:
+        if (entry.action != Package::None) {
+            return Package::None;
+        }
+        break;
+    }
+    return std::nullopt;
 }
 
 void Model::setUpdateAll()

@@ -8,6 +8,7 @@
 #include <QIcon>
 #include <QList>
 #include <QPointer>
+#include <optional>
 
 class QPalette;
 class QWidget;
@@ -60,6 +61,11 @@ public:
 
     /// Marks the entry of the index's row. Emits nothing: the caller sees to the repaint.
     void setAction(QModelIndex const& index, Package::Action action);
+    /// Marks each row of the list that fits: Install stands for an update where there is one, and None takes
+    /// marks away.
+    void markAll(QList<QModelIndex> const& rows, Package::Action wanted);
+    /// Whether `markAll` would mark that row, or take its mark away.
+    [[nodiscard]] bool wouldMark(QModelIndex const& index, Package::Action wanted) const;
     /// What a click in the Action cell does: goes on to the next action that fits the entry's state.
     void toggleAction(QModelIndex const& index);
 
@@ -99,6 +105,8 @@ private:
 
     /// The entry of that row; null when there is none.
     Package::Entry* entryAt(QModelIndex const& index) const;
+    /// The mark that `markAll` gives; nothing for none.
+    static std::optional<Package::Action> fitting(Package::Entry const& entry, Package::Action wanted);
     void mark(int row, Package::Entry& entry, Package::Action action);
     QVariant decoration(Package::Entry const& entry, int column) const;
     QVariant foreground(Package::Entry const& entry) const;

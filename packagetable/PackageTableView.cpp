@@ -6,6 +6,7 @@
 #include "packagetable/PackageTableColumns.h"
 #include "packagetable/PackageTableModel.h"
 #include "packagetable/PackageTableOtherContextMenu.h"
+#include "packagetable/PackageTableSelectionActions.h"
 #include "packagetable/PackageTableSortFilterProxyModel.h"
 #include "widgets/ColumnWidth.h"
 
@@ -28,6 +29,9 @@ View::View(Model* tableModel, StateFilter stateFilter, bool groups, YumIO* yumIO
       engine(yumIO)
 {
     setAccessibleName(tr("Packages"));
+    selectionActions = new SelectionActions(
+        packages, [this] { return selectedRows(); }, this);
+    connect(selectionActions, &SelectionActions::marked, this, [this] { Q_EMIT stateChanged(-1); });
     packages->setPalette(palette());
     proxy->setSourceModel(packages);
     setModel(proxy);
@@ -52,6 +56,7 @@ View::View(Model* tableModel, StateFilter stateFilter, bool groups, YumIO* yumIO
 
     connect(header, &QHeaderView::sectionClicked, this, &View::handleHorizontalHeaderClicked);
     connect(this, &View::clicked, this, &View::handleActivated);
+    connect(this, &View::doubleClicked, this, &View::handleDoubleClicked);
     connect(this, &View::customContextMenuRequested, this, &View::handleCustomContextMenuRequested);
 }
 
@@ -217,6 +222,7 @@ void View::handleCustomContextMenuRequested(QPoint const& point)
         if (!actionContextMenu) {
             actionContextMenu = std::make_unique<ActionContextMenu>(packages);
         }
+        selectionActions->addTo(*actionContextMenu);
         if (actionContextMenu->exec(sourceIndex, place)) {
             Q_EMIT stateChanged(sourceIndex.row());
         }
@@ -224,6 +230,7 @@ void View::handleCustomContextMenuRequested(QPoint const& point)
         if (!otherContextMenu) {
             otherContextMenu = std::make_unique<OtherContextMenu>(packages, this);
         }
+        selectionActions->addTo(*otherContextMenu);
         otherContextMenu->exec(sourceIndex, place);
     }
 }
@@ -265,6 +272,26 @@ void View::focusInEvent(QFocusEvent* event)
     }
 }
 
+// A click in the Action column has changed the mark, and so does the second one.
+void View::handleDoubleClicked(QModelIndex const& index)
+{
+    if (index.column() != ActionColumn) {
+        packages->describe(proxy->mapToSource(index), this);
+    }
+}
+
+// Who types the beginning of a name wants that package, whichever cell has the keyboard.
+void View::keyboardSearch(QString const& beginning)
+{
+    QModelIndex const name = currentIndex().siblingAtColumn(NameColumn);
+    if (name.isValid() && name != currentIndex()) {
+        selectionModel()->setCurrentIndex(name, QItemSelectionModel::NoUpdate);
+    } else if (!name.isValid() && proxy->rowCount() > 0) {
+        selectionModel()->setCurrentIndex(proxy->index(0, NameColumn), QItemSelectionModel::NoUpdate);
+    }
+    HTableView::keyboardSearch(beginning);
+}
+
 // The marks are pictures that the toolkit knows no key for.
 void View::keyPressEvent(QKeyEvent* event)
 {
@@ -274,6 +301,9 @@ void View::keyPressEvent(QKeyEvent* event)
         if (!event->isAutoRepeat()) {
             handleActivated(currentIndex());
         }
+    } else if (
+        (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && currentIndex().isValid()) {
+        describe();
     } else {
         HTableView::keyPressEvent(event);
     }

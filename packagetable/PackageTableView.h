@@ -17,6 +17,7 @@ namespace PackageTable
 class ActionContextMenu;
 class Model;
 class OtherContextMenu;
+class SelectionActions;
 class SortFilterProxyModel;
 
 /// The table of packages that the user sees. It turns a click in the Action column, or the space bar on its
@@ -69,6 +70,7 @@ public Q_SLOTS:
     void describe();
     void handleHorizontalHeaderClicked(int column);
     void handleActivated(QModelIndex const& index);
+    void handleDoubleClicked(QModelIndex const& index);
     void handleCustomContextMenuRequested(QPoint const& point);
 
 protected:
@@ -76,6 +78,7 @@ protected:
     void currentChanged(QModelIndex const& current, QModelIndex const& previous) override;
     void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void keyboardSearch(QString const& beginning) override;
     [[nodiscard]] int widestCell(ColumnWidth const& width, int column) const override;
     [[nodiscard]] int rowsForHint() const override;
 
@@ -96,6 +99,7 @@ private:
     [[nodiscard]] int widestPicture(ColumnWidth const& width, int column) const;
     [[nodiscard]] int modelRow(int row) const;
 
+    SelectionActions* selectionActions;
     Model* packages; ///< not the view's own model(), which is the proxy
     SortFilterProxyModel* proxy;
     YumIO const* engine;

@@ -7,6 +7,7 @@
 #include "bridge/Python.h"
 #include "engine/YumIO.h"
 #include "packagetable/PackageTableExpressionEdit.h"
+#include "packagetable/PackageTableMarks.h"
 #include "packagetable/PackageTableModel.h"
 #include "packagetable/PackageTableView.h"
 #include "repo/Execute.h"
@@ -182,7 +183,18 @@ void MainWindow::resize()
 
 void MainWindow::refresh()
 {
-    whileBusy([this] { rebuild(); });
+    whileBusy([this] {
+        PackageTable::Marks const marks(*yumIO);
+        rebuild();
+        restore(marks);
+    });
+}
+
+void MainWindow::restore(PackageTable::Marks const& marks)
+{
+    qsizetype const lost = marks.restore(*yumIO, *model);
+    statusLine->setWarning(
+        lost > 0 ? tr("Actions that are gone with their rows: %1").arg(lost) : regExpEdit->fault());
 }
 
 void MainWindow::reposChanged()

@@ -27,6 +27,7 @@ class Window;
 namespace PackageTable
 {
 class ExpressionEdit;
+class Marks;
 class Model;
 class View;
 } // namespace PackageTable
@@ -114,6 +115,8 @@ private:
     void prepareFilterSearch(bool hasExpression);
     void loadExtraData();
     void rebuild();
+    /// Behind a rebuild; tells of those that have lost their rows.
+    void restore(PackageTable::Marks const& marks);
     void showTable();
     /// Starts a command of the share directory, the first word, with the others as its arguments.
     void runShareCommand(QStringList const& words);

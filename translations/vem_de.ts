@@ -566,6 +566,10 @@ Das Fenster bleibt offen, bis das zu Ende ist.</translation>
         <source>What the program remembers was damaged; it has been put aside as %1</source>
         <translation>Was sich das Programm merkt, war beschädigt; es ist beiseitegelegt als %1</translation>
     </message>
+    <message>
+        <source>Actions that are gone with their rows: %1</source>
+        <translation>Aktionen, die mit ihren Zeilen weggefallen sind: %1</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>
@@ -965,6 +969,22 @@ In mehr als einer Version installiert: %1</translation>
     <message>
         <source>Browse Repository</source>
         <translation>Im Browser öffnen</translation>
+    </message>
+</context>
+<context>
+    <name>PackageTable::SelectionActions</name>
+    <message>
+        <source>Install/Update of Selected: %1</source>
+        <extracomment>%1 is a number of packages</extracomment>
+        <translation>Ausgewählte installieren/aktualisieren: %1</translation>
+    </message>
+    <message>
+        <source>Remove Selected: %1</source>
+        <translation>Ausgewählte entfernen: %1</translation>
+    </message>
+    <message>
+        <source>No Action for Selected: %1</source>
+        <translation>Keine Aktion für Ausgewählte: %1</translation>
     </message>
 </context>
 <context>

@@ -566,6 +566,10 @@ La ventana permanece abierta hasta que termine.</translation>
         <source>What the program remembers was damaged; it has been put aside as %1</source>
         <translation>Lo que el programa recuerda estaba dañado; se ha apartado como %1</translation>
     </message>
+    <message>
+        <source>Actions that are gone with their rows: %1</source>
+        <translation>Acciones perdidas con sus filas: %1</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>
@@ -965,6 +969,22 @@ Instalado en más de una versión: %1</translation>
     <message>
         <source>Browse Repository</source>
         <translation>Explorar repositorio</translation>
+    </message>
+</context>
+<context>
+    <name>PackageTable::SelectionActions</name>
+    <message>
+        <source>Install/Update of Selected: %1</source>
+        <extracomment>%1 is a number of packages</extracomment>
+        <translation>Instalar/actualizar lo seleccionado: %1</translation>
+    </message>
+    <message>
+        <source>Remove Selected: %1</source>
+        <translation>Eliminar lo seleccionado: %1</translation>
+    </message>
+    <message>
+        <source>No Action for Selected: %1</source>
+        <translation>Ninguna acción para lo seleccionado: %1</translation>
     </message>
 </context>
 <context>

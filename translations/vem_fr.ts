@@ -566,6 +566,10 @@ La fenêtre reste ouverte jusqu’à la fin de l’opération.</translation>
         <source>What the program remembers was damaged; it has been put aside as %1</source>
         <translation>Ce que le programme retient était endommagé ; il a été mis de côté sous %1</translation>
     </message>
+    <message>
+        <source>Actions that are gone with their rows: %1</source>
+        <translation>Actions disparues avec leurs lignes : %1</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>
@@ -965,6 +969,22 @@ Installé en plusieurs versions&#xa0;: %1</translation>
     <message>
         <source>Browse Repository</source>
         <translation>Parcourir le dépôt</translation>
+    </message>
+</context>
+<context>
+    <name>PackageTable::SelectionActions</name>
+    <message>
+        <source>Install/Update of Selected: %1</source>
+        <extracomment>%1 is a number of packages</extracomment>
+        <translation>Installer/mettre à jour la sélection : %1</translation>
+    </message>
+    <message>
+        <source>Remove Selected: %1</source>
+        <translation>Supprimer la sélection : %1</translation>
+    </message>
+    <message>
+        <source>No Action for Selected: %1</source>
+        <translation>Aucune action pour la sélection : %1</translation>
     </message>
 </context>
 <context>

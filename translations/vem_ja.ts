@@ -566,6 +566,10 @@ The window stays open until that has come to its end.</source>
         <source>What the program remembers was damaged; it has been put aside as %1</source>
         <translation>プログラムの記憶が破損していたため、%1 として取り置きました</translation>
     </message>
+    <message>
+        <source>Actions that are gone with their rows: %1</source>
+        <translation>行とともになくなった操作: %1</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>
@@ -965,6 +969,22 @@ Installed in more than one version: %1</source>
     <message>
         <source>Browse Repository</source>
         <translation>リポジトリを閲覧</translation>
+    </message>
+</context>
+<context>
+    <name>PackageTable::SelectionActions</name>
+    <message>
+        <source>Install/Update of Selected: %1</source>
+        <extracomment>%1 is a number of packages</extracomment>
+        <translation>選択したものをインストール/更新: %1</translation>
+    </message>
+    <message>
+        <source>Remove Selected: %1</source>
+        <translation>選択したものを削除: %1</translation>
+    </message>
+    <message>
+        <source>No Action for Selected: %1</source>
+        <translation>選択したものは何もしない: %1</translation>
     </message>
 </context>
 <context>

@@ -566,6 +566,10 @@ The window stays open until that has come to its end.</source>
         <source>What the program remembers was damaged; it has been put aside as %1</source>
         <translation>程序记住的设置已损坏，已另存为 %1</translation>
     </message>
+    <message>
+        <source>Actions that are gone with their rows: %1</source>
+        <translation>随行一起消失的操作：%1</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>
@@ -965,6 +969,22 @@ Installed in more than one version: %1</source>
     <message>
         <source>Browse Repository</source>
         <translation>浏览仓库</translation>
+    </message>
+</context>
+<context>
+    <name>PackageTable::SelectionActions</name>
+    <message>
+        <source>Install/Update of Selected: %1</source>
+        <extracomment>%1 is a number of packages</extracomment>
+        <translation>安装/更新所选：%1</translation>
+    </message>
+    <message>
+        <source>Remove Selected: %1</source>
+        <translation>移除所选：%1</translation>
+    </message>
+    <message>
+        <source>No Action for Selected: %1</source>
+        <translation>对所选不执行操作：%1</translation>
     </message>
 </context>
 <context>

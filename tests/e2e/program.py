@@ -316,7 +316,9 @@ class Program:
         return Atspi.Table.get_n_rows(self.table())
 
     def names(self) -> list[str]:
-        return [self.cell(row, NAME_COLUMN).get_name() for row in range(self.row_count())]
+        cells = [self.cell(row, NAME_COLUMN) for row in range(self.row_count())]
+        # The table may change while it is read.
+        return [cell.get_name() for cell in cells if cell is not None]
 
     def row_of(self, name: str) -> int:
         return self.names().index(name)

@@ -70,6 +70,10 @@ private:
             offer.position = offer.menu->pos();
             QAction* chosen = nullptr;
             for (QAction* const action : offer.menu->actions()) {
+                if (action->isSeparator()) {
+                    // What follows is about the selection.
+                    break;
+                }
                 if (action->isVisible()) {
                     offer.entries.append(action->text());
                 }

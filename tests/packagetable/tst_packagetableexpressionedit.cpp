@@ -167,6 +167,20 @@ private Q_SLOTS:
         QVERIFY(!lines.offer()->isVisible());
     }
 
+    void theWindowsKeysGoBeforeThoseOfALine()
+    {
+        Lines lines;
+        QAction edit;
+        edit.setParent(&lines.window);
+        lines.window.addAction(&edit);
+        edit.setShortcut(QKeySequence(QStringLiteral("Ctrl+E")));
+        QSignalSpy const triggered(&edit, &QAction::triggered);
+        QVERIFY(QTest::qWaitForWindowActive(&lines.window));
+        QTest::keyClick(&lines.line, Qt::Key_E, Qt::ControlModifier);
+        QCOMPARE(triggered.count(), 1);
+        edit.setParent(nullptr);
+    }
+
     void oneClickChoosesWhetherCaseMatters()
     {
         Lines lines;

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "engine/Package.h"
+
+#include <QString>
+#include <map>
+#include <tuple>
+
+class YumIO;
+
+namespace PackageTable
+{
+
+class Model;
+
+/// The marks of a list of packages, to be set again in the list that takes its place. GUI thread.
+class Marks
+{
+public:
+    explicit Marks(YumIO const& yumIO);
+
+    /// Marks the rows that are the same as before: of the same package, version, architecture and state.
+    /// Answers how many marks have no such row.
+    [[nodiscard]] qsizetype restore(YumIO const& yumIO, Model& model) const;
+
+private:
+    using Row = std::tuple<Package::Kind, Package::State, QString, QString, QString>;
+    static Row rowOf(Package::Entry const& entry);
+
+    std::map<Row, Package::Action> marks;
+};
+
+} // namespace PackageTable

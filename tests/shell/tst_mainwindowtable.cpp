@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+// The table in its window: marks that outlive a refresh, and what describes a package.
+#include "ShellTest.h"
+
+#include "shell/StatusLine.h"
+
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QTest>
+#include <algorithm>
+
+class MainWindowTableTest : public ShellTest
+{
+    Q_OBJECT
+
+    bool tells(QString const& words) const
+    {
+        auto const labels = window->findChild<StatusLine*>()->findChildren<QLabel*>();
+        return std::ranges::any_of(labels, [&](QLabel const* label) { return label->text() == words; });
+    }
+
+    void refresh() const { QTest::mouseClick(button(QStringLiteral("Refresh")), Qt::LeftButton); }
+
+    /// The captions of the dialogs that have been shown; the user closes each.
+    QStringList dialogs() const
+    {
+        QStringList captions;
+        for (Boxes::Box const& box : boxes->take()) {
+            captions.append(box.caption);
+        }
+        return captions;
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        makeWindow();
+        QVERIFY(openWindow());
+        window->findChildren<QComboBox*>().at(1)->setCurrentIndex(3); // all states
+    }
+
+    void cleanupTestCase() { delete window; }
+
+    void marksSurviveARefreshWhereTheirRowsAreTheSame()
+    {
+        clickAction(QStringLiteral("alder"));
+        clickAction(QStringLiteral("elm"));
+        QString const update = tipOfAction(QStringLiteral("alder"));
+        QVERIFY(!update.isEmpty());
+        refresh();
+        QCOMPARE(tipOfAction(QStringLiteral("alder")), update);
+        QVERIFY(!tipOfAction(QStringLiteral("elm")).isEmpty());
+        QVERIFY(button(QStringLiteral("Apply Actions"))->isEnabled());
+
+        QCOMPARE(
+            script(QStringLiteral("one = standin.world.find('available', 'elm')\n"
+                                  "standin.world.available.remove(one)")),
+            QString());
+        refresh();
+        QCOMPARE(tipOfAction(QStringLiteral("alder")), update);
+        QVERIFY(tells(QStringLiteral("Actions that are gone with their rows: 1")));
+        refresh();
+        QVERIFY(!tells(QStringLiteral("Actions that are gone with their rows: 1")));
+    }
+
+    void noMarkSurvivesAnApply()
+    {
+        window->clearActions();
+        clickAction(QStringLiteral("alder"));
+        boxes->take();
+        window->apply();
+        QVERIFY(!dialogs().isEmpty());
+        QCOMPARE(tipOfAction(QStringLiteral("alder")), QString());
+        refresh();
+        QCOMPARE(tipOfAction(QStringLiteral("alder")), QString());
+    }
+
+    void returnDescribesTheCurrentRow()
+    {
+        table()->setFocus();
+        table()->setCurrentIndex(table()->model()->index(rowOf(QStringLiteral("cedar")), 3));
+        QTest::keyClick(table(), Qt::Key_Return);
+        QCOMPARE(dialogs(), QStringList{QStringLiteral("VEM Package Description")});
+    }
+
+    void aDoubleClickDescribesButInTheActionColumn()
+    {
+        auto const twice = [this](int column) {
+            QModelIndex const cell = table()->model()->index(rowOf(QStringLiteral("birch")), column);
+            QPoint const point = table()->visualRect(cell).center();
+            QTest::mouseClick(table()->viewport(), Qt::LeftButton, {}, point);
+            QTest::mouseDClick(table()->viewport(), Qt::LeftButton, {}, point);
+        };
+        twice(3);
+        QCOMPARE(dialogs(), QStringList{QStringLiteral("VEM Package Description")});
+        twice(0);
+        QCOMPARE(dialogs(), QStringList());
+        window->clearActions();
+    }
+
+    void noMarkSurvivesACleaning()
+    {
+        clickAction(QStringLiteral("alder"));
+        window->cleanHeaders();
+        QCOMPARE(tipOfAction(QStringLiteral("alder")), QString());
+    }
+};
+
+QTEST_MAIN(MainWindowTableTest)
+#include "tst_mainwindowtable.moc"
