@@ -239,7 +239,12 @@ void YumIO::execWorkThread(QEventLoop& loop, QThread& thread)
     pthread_sigmask(SIG_BLOCK, &childSignal, &oldMask);
     blocker.release();
 
-    loop.exec();
+    if (loop.exec() > 0) {
+        // Only the toolkit gives event loops a status: the display is gone. Older releases of it end the
+        // process themselves; newer ones end the loops, and complain at every turn of the one below. A
+        // transaction that has begun comes to its end without this process.
+        std::_Exit(EXIT_FAILURE);
+    }
     // Once the last window is closed, event loops end at once; but the worker needs this thread for its
     // dialogs and signals until its job is done.
     while (!thread.isFinished()) {
