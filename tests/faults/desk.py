@@ -7,10 +7,12 @@ import errno
 import os
 import re
 import shutil
+import sqlite3
 import subprocess
 from pathlib import Path
-from typing import Callable, Optional, Union
+from typing import Callable, List, Optional, Union
 
+from libraries import HISTORY, by_library
 from program import ACTION_COLUMN, Atspi, Program, TimedOut, wait_for
 from rpmestate import Estate
 
@@ -23,6 +25,26 @@ BEFORE = ("fleet-lamp-1.0-1.noarch", "fleet-match-1.0-1.noarch", "fleet-shell-1.
 """What is installed at first."""
 AFTER = ("fleet-lamp-1.1-1.noarch", *BEFORE[1:])
 """And when fleet-lamp has been updated."""
+
+_OF_ANOTHER_ROOT = "warning: private mounts in chroot not implemented\n"
+"""What rpm 6 has to say in any case, below another root."""
+
+_ENDS = by_library(
+    "select case state when 0 then 'Started' when 1 then 'Ok' else 'Error' end from trans order by id",
+    "select name from trans join trans_state on trans_state.id = state_id order by trans.id",
+)
+OPEN, GOOD = "Started", "Ok"
+"""What the history tells of a transaction: that it has no end, or a good one."""
+
+
+def history(site: Estate) -> List[str]:
+    """How the transactions of the library's history ended, the oldest first."""
+    if not (site.root / HISTORY).exists():
+        return []
+    # Looked at only: whoever may write would clear up what a fault has left.
+    address = f"{(site.root / HISTORY).as_uri()}?mode=ro"
+    with contextlib.closing(sqlite3.connect(address, uri=True)) as database:
+        return [end for (end,) in database.execute(_ENDS)]
 
 
 def assert_told(text: str, *expected: Union[str, "re.Pattern[str]"]) -> None:
@@ -106,7 +128,7 @@ class Desk:
     def told(self, timeout: float = 60.0) -> str:
         """The words of the error dialog, which is waited for and closed. The window is usable behind it."""
         report = self.program.window(ERROR, timeout)
-        text = self.program.texts(report)
+        text = self.program.texts(report).removeprefix(_OF_ANOTHER_ROOT)
         button = wait_for(
             lambda: next((name for name in ("Close", "OK") if self.program.find(name, inside=report)), None),
             f"a button in {ERROR!r}",
@@ -158,10 +180,12 @@ class Desk:
         for path in (self.site.root / "var/cache/yum").iterdir():
             shutil.rmtree(path) if path.is_dir() else path.unlink()
 
-    def sound(self, *installed: str) -> None:
-        """The rpm database is whole and holds these packages and no others, and nobody works on it any more."""
+    def sound(self, *installed: str, cut_off: bool = False) -> None:
+        """The rpm database is whole and holds these packages and no others, and nobody works on it any more. The
+        history has an end of the last transaction, unless that was `cut_off`."""
         self.site.rpm("--verifydb")
         assert self.site.installed() == set(installed)
+        assert (history(self.site)[-1:] == [OPEN]) == cut_off
         pid = None if self._program is None else self._program.process.pid
         wait_for(lambda: processes_of(self.site) <= {pid}, "other processes to end", 30)
 

@@ -9,23 +9,28 @@ from __future__ import annotations
 import importlib
 import os
 import sys
-from typing import Any, Callable, Dict, Optional, Tuple
+from typing import Any, Callable, Dict, Tuple, Union
 
 BEFORE, AFTER = "before", "after"
+PART = "behind a part"
+"""Behind a call that tells of some bytes: a library may tell first that there are none."""
+TRANSACTION, DOWNLOAD = "vemyum.{library}.transaction", "vemyum.{library}.download"
 
-MOMENTS: Dict[str, Optional[Tuple[str, str, str]]] = {
+Place = Tuple[str, str, str]
+
+MOMENTS: Dict[str, Union[None, Place, Dict[str, Place]]] = {
     "start": None,
     "request": ("vemyum.apply.child", "_Parent.request", BEFORE),
     "lock": ("vemyum.lock", "ProcessLock.take_over", AFTER),
-    "reading": ("vemyum.dnf4.base", "Base.load_everything", BEFORE),
-    "solving": ("vemyum.dnf4.transaction", "solve", BEFORE),
+    "reading": (TRANSACTION, "Transaction.load", BEFORE),
+    "solving": (TRANSACTION, "Transaction.solve", BEFORE),
     "question": ("vemyum.apply.child", "_Parent.agreed", BEFORE),
     "answer": ("vemyum.apply.child", "_Parent.agreed", AFTER),
-    "download": ("vemyum.dnf4.transaction", "download", BEFORE),
-    "part of a file": ("vemyum.dnf4.download", "DownloadMeter.progress", AFTER),
-    "end of a file": ("vemyum.dnf4.download", "DownloadMeter.end", AFTER),
-    "end of the download": ("vemyum.dnf4.transaction", "download", AFTER),
-    "signatures": ("vemyum.dnf4.transaction", "Transaction.check_signatures", AFTER),
+    "download": (TRANSACTION, "Transaction.download", BEFORE),
+    "part of a file": (DOWNLOAD, "DownloadMeter.progress", PART),
+    "end of a file": (DOWNLOAD, "DownloadMeter.end", AFTER),
+    "end of the download": (TRANSACTION, "Transaction.download", AFTER),
+    "signatures": (TRANSACTION, "Transaction.check_signatures", AFTER),
     "test transaction": ("vemyum.apply.work", "Work._run", BEFORE),
     "end of the test transaction": ("vemyum.apply.child", "_Parent.commit", BEFORE),
     # From here on nobody but who kills the process itself can stop it.
@@ -33,10 +38,15 @@ MOMENTS: Dict[str, Optional[Tuple[str, str, str]]] = {
     "first package": ("vemyum.apply.child", "RemoteHost.tsEvent", "1"),
     "third package": ("vemyum.apply.child", "RemoteHost.tsEvent", "3"),
     "old package": ("vemyum.apply.child", "RemoteHost.tsEvent", "4"),
+    "end of rpm": {
+        "dnf4": ("dnf.db.history", "SwdbInterface.end", BEFORE),
+        "dnf5": ("vemyum.dnf5.display", "Display.after_complete", BEFORE),
+    },
     "end of the transaction": ("vemyum.apply.work", "_not_as_asked", BEFORE),
     "end": ("vemyum.apply.child", "_Parent._hand_back", BEFORE),
 }
-"""The moments of an apply in their order: which call, and which side of it, or of which turn of a package."""
+"""The moments of an apply in their order: which call, and which side of it, or of which turn of a package. What drives
+a package library is named alike for each of them, as far as it can be."""
 
 BEGUN = tuple(MOMENTS).index("transaction")
 """The number of moments before rpm begins to change the system."""
@@ -69,7 +79,8 @@ def _arrange(stop: _Stop, module: str, path: str, when: str) -> None:
         if when == BEFORE or when.isdigit() and arguments[5] == int(when):
             stop()
         result = original(*arguments, **options)
-        if when == AFTER:
+        # The last one tells of how many bytes.
+        if when == AFTER or when == PART and arguments[-1] > 0:
             stop()
         return result
 
@@ -92,8 +103,11 @@ def main() -> None:
     def prepared(parent: Any) -> Any:
         # Not before: the modules want the host's, which this process makes for itself.
         place = MOMENTS[moment] if moment else None
+        if isinstance(place, dict):
+            place = place[sys.argv[3]]
         if stop is not None and place is not None:
-            _arrange(stop, *place)
+            module, path, when = place
+            _arrange(stop, module.format(library=sys.argv[3]), path, when)
         return work(parent)
 
     child._work = prepared

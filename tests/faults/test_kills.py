@@ -5,19 +5,18 @@ Only who kills the process that applies while rpm works leaves something between
 """
 from __future__ import annotations
 
-import contextlib
 import os
 import shutil
 import signal
-import sqlite3
 from pathlib import Path
-from typing import Callable, Dict, Iterator
+from typing import Callable, Iterator, List
 
 import pytest
 from web import Web
 
-from desk import QUESTION, Desk, processes_of
+from desk import GOOD, OPEN, QUESTION, Desk, history, processes_of
 from killing import Programs, Stop, at_work, kill, lock_files, share_with_stops
+from libraries import by_library
 from program import Program, wait_for
 from rpmestate import Estate
 from stopping_child import BEGUN, MOMENTS
@@ -39,6 +38,8 @@ CAME_TO_ITS_END = (
 
 EVERY = list(MOMENTS)
 LAST = EVERY[-1]
+NOTED = EVERY.index(by_library("first package", "end of the test transaction"))
+"""The number of moments before a transaction stands in the library's history: dnf 5 notes it down first."""
 
 
 @pytest.fixture(scope="module")
@@ -93,13 +94,22 @@ def expected(moment: str, way: str) -> str:
     return CUT_OFF if way == KILL_CHILD else CAME_TO_ITS_END
 
 
+def expected_history(moment: str, way: str) -> List[str]:
+    """The ends of the transactions in the library's history."""
+    at = EVERY.index(moment)
+    if at >= BEGUN and way != KILL_CHILD or at >= EVERY.index("end of the transaction"):
+        return [GOOD]
+    return [OPEN] if at >= NOTED else []
+
+
 def assert_sound(site: Estate, moment: str, way: str) -> None:
-    """What is installed is one of what there may be, and the database is whole."""
+    """What is installed is one of what there may be, the database is whole, and the history tells what has begun."""
     site.rpm("--verifydb")
+    assert history(site) == expected_history(moment, way)
     installed = site.installed()
     if EVERY.index(moment) < BEGUN:
         assert installed == BEFORE
-    elif way != KILL_CHILD or moment in EVERY[-2:]:
+    elif way != KILL_CHILD or moment in EVERY[-3:]:
         assert installed == AFTER
     else:
         assert BEFORE & AFTER <= installed <= BEFORE | AFTER
@@ -152,9 +162,7 @@ def test_without_a_window(berth: Estate, programs: Programs, stop: Stop, moment:
 def is_unfinished(site: Estate) -> bool:
     """The history has no end, or a package is there twice."""
     names = [package.rsplit("-", 2)[0] for package in site.installed()]
-    with contextlib.closing(sqlite3.connect(site.root / "var/lib/dnf/history.sqlite")) as history:
-        states = [state for (state,) in history.execute("select state from trans order by id")]
-    return len(set(names)) < len(names) or 0 in states[-1:]
+    return len(set(names)) < len(names) or OPEN in history(site)[-1:]
 
 
 def next_start(desk: Desk, told: bool) -> str:
@@ -198,7 +206,7 @@ def test_in_a_window(
     else:
         kill(desk.program.process.pid, NUMBERS[way])
         leave_behind(stop, child, moment)
-    log = next_start(desk, way == KILL_CHILD and begun and is_unfinished(berth))
+    log = next_start(desk, (way == KILL_CHILD or not begun) and is_unfinished(berth))
     assert not at_work(child)
     assert_sound(berth, moment, way)
     for words in (CUT_OFF, CAME_TO_ITS_END):
