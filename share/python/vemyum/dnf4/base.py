@@ -19,6 +19,7 @@ import hawkey
 import libdnf.error
 from dnf.exceptions import RepoError
 
+from ..acts import reading_begins, reading_ends
 from ..database import point_rpm_at
 from ..errors import YumBaseError
 from ..inhibitor import inhibited
@@ -31,7 +32,7 @@ from . import keys
 from .configuration import misread
 from .encoding import RepositoryReader
 from .logfiles import tell_transaction
-from .metadata import ReadingProgress, RepositoryProgress
+from .metadata import RepositoryProgress, is_to_be_converted
 from .plugins import Plugins
 from .queries import ask_by_complete_address, base_addresses, fetch_metadata, rounds
 
@@ -48,7 +49,7 @@ class Base(dnf.Base):
         """What is configured and had to be left out, each with its reason."""
         self._plugins = Plugins(self.lacking.append, strict)
         self._ds_callback = dnf.cli.output.DepSolveProgressCallBack()
-        self._report = ReadingProgress(conf.cachedir) if progress else None
+        self._shows = progress
         self._read: Optional[Callable[[dnf.repo.Repo], None]] = None
         self.before_run: Optional[Callable[[], None]] = None
         """Called when the test transaction is over and the real one begins."""
@@ -120,7 +121,7 @@ class Base(dnf.Base):
 
     def _fill(self, with_system: bool, available: bool = True) -> None:
         point_rpm_at(self.conf.installroot)
-        if self._report is not None:
+        if self._shows:
             for repo in self.repos.iter_enabled():
                 # What is fetched by query shows a progress of its own.
                 if not base_addresses(repo):
@@ -169,8 +170,8 @@ class Base(dnf.Base):
                 self._fetch_by_query(repo)
                 # Fetches; the call inherited below finds it done and only reads.
                 keys.load(repo, self.asks_for_keys)
-                if self._report is not None:
-                    self._report.begin(repo)
+                if self._shows:
+                    reading_begins(repo.id, is_to_be_converted(repo, self.conf.cachedir))
                 (self._read or super()._add_repo_to_sack)(repo)
             except RepoError as error:
                 if error.__context__ is not None:
@@ -183,14 +184,14 @@ class Base(dnf.Base):
             except OSError as error:
                 raise RepoError(_failure_text(repo, error, causes, self.conf.cachedir)) from error
             finally:
-                if self._report is not None:
-                    self._report.end(repo)
+                if self._shows:
+                    reading_ends(repo.id)
 
     def _fetch_by_query(self, repo: dnf.repo.Repo) -> None:
         """Fetches what dnf's library could not find, see `queries`."""
         if not base_addresses(repo):
             return
-        meter = self.conf.cachedir if self._report is not None else None
+        meter = self.conf.cachedir if self._shows else None
         lazy = repo._repo.getSyncStrategy() != dnf.repo.SYNC_TRY_CACHE
         fetch_metadata(repo, lazy, meter)
 

@@ -20,6 +20,7 @@ from typing import Callable, Collection, Iterable, Iterator, List, Optional
 import libdnf5.exception
 import libdnf5.repo
 
+from ..acts import MIRROR_LISTS
 from ..backend import CHANGELOGS, FILE_LISTS, PRIMARY
 from ..errors import RepoError, os_error_text
 from ..mirrors import TRIES, mirrors_in
@@ -31,7 +32,7 @@ from ..webpage import asked
 from .base import Base
 from .failures import FAILURES, words
 from .log import LOGGER
-from .progress import MIRROR_LISTS, FetchingProgress
+from .progress import FetchingProgress
 
 _ALWAYS = frozenset(("primary", "group", "group_gz", "modules"))
 _OPTIONAL = frozenset((FILE_LISTS, CHANGELOGS, "updateinfo"))
@@ -145,7 +146,7 @@ class Metadata:
             raise RepoError(told_of(repo, text, progress.causes, directory)) from error
         finally:
             self._base.downloads.listener = None
-            progress.close()
+            progress.acts.close()
             self._base.log.tell()
 
     def path(self, repo: libdnf5.repo.Repo, kind: str) -> Optional[str]:
@@ -214,7 +215,7 @@ class Metadata:
 
     def _fetch_file(self, repo: libdnf5.repo.Repo, progress: FetchingProgress, file: File, target: str) -> None:
         if self._meter is not None:
-            progress.open("primary", file.size)
+            progress.acts.open("primary", file.size)
         self._base.downloads.listener = None
         fault: Optional[Exception] = None
         try:
@@ -228,7 +229,7 @@ class Metadata:
             raise RepoError(words(fault) if fault is not None else _("no address")) from fault
         finally:
             self._base.downloads.listener = progress
-            progress.close()
+            progress.acts.close()
 
     def _bring_by_query(self, repo: libdnf5.repo.Repo, cached: bool) -> None:
         # The acts are those of the files, which are known here.

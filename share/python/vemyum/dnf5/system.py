@@ -17,6 +17,7 @@ import libdnf5.rpm
 import rpm
 
 from .. import versions
+from ..acts import reading_begins, reading_ends
 from ..backend import CHANGELOGS, GROUPS, Dependency, OpenEntry, RepositoryState
 from ..database import point_rpm_at
 from ..errors import RepoError, YumBaseError, os_error_text
@@ -32,7 +33,7 @@ from .history import LAYOUT, history_path
 from .keys import load_signed
 from .log import LOGGER
 from .metadata import Metadata, told_of
-from .progress import ReadingProgress, must_convert
+from .progress import is_to_be_converted
 from .rows import InstalledRow, Row, checksum, dependencies, rows
 from .settings import Settings
 
@@ -130,18 +131,17 @@ class System:
     def load_changelogs(self, read: Callable[[str, Optional[str]], None]) -> None:
         base = self.base
         metadata = self._metadata(base, (CHANGELOGS,))
-        reading = ReadingProgress()
         for repo in list(base.repositories(enabled_only=True)):
             # Those of the packages that have been read, not of newer ones.
             if not self._brought(metadata, repo, lazy=True):
                 continue
-            reading.begin(repo, False)
+            reading_begins(repo.get_id(), False)
             try:
                 read(repo.get_id(), metadata.path(repo, CHANGELOGS))
             except OSError as error:
                 raise RepoError(told_of(repo, os_error_text(error), [], self.settings.cache_directory)) from error
             finally:
-                reading.end(repo)
+                reading_ends(repo.get_id())
 
     def _metadata(self, base: Base, kinds: Sequence[str]) -> Metadata:
         def load(repo: libdnf5.repo.Repo, fetch: Callable[[], None]) -> None:
@@ -159,7 +159,7 @@ class System:
                 raise
             self._leave_out(repo, str(error))
             if self._progress:
-                ReadingProgress().end(repo)
+                reading_ends(repo.get_id())
             return False
 
     def _leave_out(self, repo: libdnf5.repo.Repo, text: str) -> None:
@@ -171,27 +171,26 @@ class System:
     def _load(self) -> None:
         base = self.base
         metadata = self._metadata(base, ())
-        reading = ReadingProgress()
         converts = False
         latest: Optional[libdnf5.repo.Repo] = None
         unread = False
         for repo in list(base.repositories(enabled_only=True)):
             if latest is not None and unread and self._progress:
                 # The library reads all of them in one go, behind the last one.
-                reading.begin(latest, must_convert(latest))
-                reading.end(latest)
+                reading_begins(latest.get_id(), is_to_be_converted(latest))
+                reading_ends(latest.get_id())
             unread = self._brought(metadata, repo)
             if unread:
                 latest = repo
-                converts = converts or must_convert(repo)
+                converts = converts or is_to_be_converted(repo)
                 repo.set_sync_strategy(repo.SyncStrategy_ONLY_CACHE)
         if latest is not None and self._progress:
-            reading.begin(latest, converts)
+            reading_begins(latest.get_id(), converts)
         try:
             self._read(base)
         finally:
             if latest is not None and self._progress:
-                reading.end(latest)
+                reading_ends(latest.get_id())
         self._loaded = True
 
     def _read(self, base: Base) -> None:
