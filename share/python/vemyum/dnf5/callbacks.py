@@ -13,6 +13,8 @@ import logging
 import traceback
 from typing import Any, Callable, TypeVar
 
+from ..messages import LOGGER
+
 _Method = TypeVar("_Method", bound=Callable[..., Any])
 
 
@@ -26,7 +28,7 @@ def guarded(answer: Any = None) -> Callable[[_Method], _Method]:
                 return method(*arguments)
             except BaseException:  # noqa: BLE001 - the process would end
                 with contextlib.suppress(BaseException):
-                    logging.getLogger("dnf").error("%s", traceback.format_exc())
+                    logging.getLogger(LOGGER).error("%s", traceback.format_exc())
                 return answer
 
         return safe  # type: ignore[return-value]

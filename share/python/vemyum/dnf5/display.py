@@ -58,20 +58,20 @@ class Display(libdnf5_rpm.TransactionCallbacks):  # type: ignore[misc]
         """Behind the test transaction: rpm begins in earnest."""
         self.begun = True
         self._count = total
-        self._log.take()
+        self._log.tell()
         # What rpm has said of the test is over.
         self._log.rpm_said.clear()
         self._begins()
 
     @guarded()
     def after_complete(self, _success: bool) -> None:
-        self._log.take()
+        self._log.tell()
 
     @guarded()
     def elem_progress(self, _item: Any, amount: int, total: int) -> None:
         self._ordinal = amount + 1
         self._count = total
-        self._log.take()
+        self._log.tell()
 
     @guarded()
     def install_start(self, item: Any, total: int) -> None:
@@ -107,13 +107,13 @@ class Display(libdnf5_rpm.TransactionCallbacks):  # type: ignore[misc]
 
     @guarded()
     def script_start(self, _item: Any, _nevra: Any, _kind: int) -> None:
-        self._log.take()
+        self._log.tell()
 
     @guarded()
     def script_stop(self, _item: Any, nevra: Any, kind: int, code: int) -> None:
         for line in valid(self._transaction.get_last_script_output()).splitlines():
             host.stdout_write(line + "\n")
-        self._log.take()
+        self._log.tell()
         if code == _NOT_CRITICAL:
             self.faults.append(_script_text(nevra, kind))
 

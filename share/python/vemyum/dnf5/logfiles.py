@@ -21,20 +21,10 @@ from ..root import as_configured
 from ..text import valid
 from ..texts import _
 from .failures import FAILURES
-from .librarylog import NOTICE
-from .log import LOGGER
+from .log import LEVELS, LOGGER
 from .settings import Settings
 
 _NAME = "dnf5.log"
-_NAMES = (
-    (logging.CRITICAL, "CRITICAL"),
-    (logging.ERROR, "ERROR"),
-    (logging.WARNING, "WARNING"),
-    (NOTICE, "NOTICE"),
-    (logging.INFO, "INFO"),
-    (logging.DEBUG, "DEBUG"),
-    (0, "TRACE"),
-)
 _log = logging.getLogger(ONLY_IN_FILES)
 
 
@@ -43,7 +33,7 @@ class _Lines(logging.Formatter):
 
     def format(self, record: logging.LogRecord) -> str:
         when = time.strftime("%Y-%m-%dT%H:%M:%S+0000", time.gmtime(record.created))
-        name = next(name for level, name in _NAMES if record.levelno >= level)
+        name = next((level.name for level in LEVELS if record.levelno >= level.in_files), LEVELS[-1].name)
         return masked(valid(f"{when} [{record.process}] {name} {record.getMessage()}"))
 
 

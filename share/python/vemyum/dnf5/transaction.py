@@ -117,7 +117,7 @@ class Transaction:
                 self._solved = solver.solved
                 return changes
         finally:
-            self._log.take()
+            self._log.tell()
 
     def _gone_without(self, removed: Sequence[Any]) -> Set[PkgTup]:
         """Of the system alone, whatever is excluded."""
@@ -154,7 +154,7 @@ class Transaction:
 
     def _take_log(self) -> None:
         if self._log is not None:
-            self._log.take()
+            self._log.tell()
 
     # The transaction ---------------------------------------------------------------------------------------------
 
@@ -187,7 +187,7 @@ class Transaction:
                     # The library would note down as done what is only to be tested.
                     result = transaction.test() if self.only_tested() else transaction.run()
             finally:
-                self._log.take()
+                self._log.tell()
         if result != _Transaction.TransactionRunResult_SUCCESS and not self._display.faults:
             raise YumBaseError("\n".join(self._refusal(result)))
 
