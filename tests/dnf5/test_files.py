@@ -37,17 +37,6 @@ def failure(apply: Apply) -> str:
     return str(error.value)
 
 
-def meters(host: Any) -> List[Any]:
-    """Per file: its name, its size and the values that were told."""
-    found: List[Any] = []
-    for call in host.named("applyGrabMeterStart", "applyGrabMeterUpdate", "applyGrabMeterEnd"):
-        if call[0] == "applyGrabMeterStart":
-            found.append((call[1], call[2], []))
-        else:
-            found[-1][2].append(call[1])
-    return found
-
-
 # Downloads -----------------------------------------------------------------------------------------------------------
 
 
@@ -59,7 +48,7 @@ def test_each_file_has_its_meter(estate: Estate, rpms: Catalogue, host: Any, web
     sizes = {rpms[key].name: rpms[key].stat().st_size for key in keys}
     assert sorted(apply.transaction.downloads()) == sorted(sizes.values())
     apply.transaction.download()
-    told = meters(host)
+    told = host.meters()
     assert {name: size for name, size, _ in told} == sizes and len(told) == len(sizes)
     for _name, size, values in told:
         assert values == sorted(values) and values[-1] == size
@@ -70,7 +59,7 @@ def test_what_lies_on_this_machine_is_no_download(estate: Estate, rpms: Catalogu
     """The library copies it."""
     estate.repository("base", rpms.some("battery-1.0", "lone-1.0"))
     Apply(rpms.some("battery-1.0", "lone-1.0")).run()
-    assert meters(host) == []
+    assert host.meters() == []
     assert estate.installed() == {"battery-1.0-1.noarch", "lone-1.0-1.noarch"}
 
 
@@ -81,7 +70,7 @@ def test_what_the_cache_has_is_not_told(estate: Estate, rpms: Catalogue, host: A
     first.transaction.download()
     host.reset()
     Apply(rpms.some("battery-1.0", "lone-1.0")).run()
-    assert [name for name, _size, _values in meters(host)] == [rpms["battery-1.0"].name]
+    assert [name for name, _size, _values in host.meters()] == [rpms["battery-1.0"].name]
 
 
 def test_a_half_file_in_the_cache_is_fetched(estate: Estate, rpms: Catalogue, host: Any) -> None:
@@ -143,8 +132,8 @@ def test_packages_of_an_address_with_a_query(
             f"/base/{rpms[key].name}" for key in ("battery-1.0", "lone-1.0")
         ]
     assert estate.installed() == {"lone-1.0-1.noarch", "battery-1.0-1.noarch"}
-    assert sorted(name for name, *_ in meters(host)) == sorted(rpms[key].name for key in ("lone-1.0", "battery-1.0"))
-    for _name, size, values in meters(host):
+    assert sorted(name for name, *_ in host.meters()) == sorted(rpms[key].name for key in ("lone-1.0", "battery-1.0"))
+    for _name, size, values in host.meters():
         assert values[-1] == size
 
 

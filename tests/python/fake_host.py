@@ -42,6 +42,16 @@ class FakeHost(types.ModuleType):
         prefix = "TSINFO: "
         return [call[2][len(prefix) :] for call in self.named("log") if call[2].startswith(prefix)]
 
+    def meters(self) -> List[Tuple[str, int, List[int]]]:
+        """Of an apply's downloads, per file: its name, its size and the values that were told."""
+        found: List[Tuple[str, int, List[int]]] = []
+        for call in self.named("applyGrabMeterStart", "applyGrabMeterUpdate", "applyGrabMeterEnd"):
+            if call[0] == "applyGrabMeterStart":
+                found.append((call[1], call[2], []))
+            else:
+                found[-1][2].append(call[1])
+        return found
+
     # The formats ---------------------------------------------------------------------------------------
 
     @staticmethod

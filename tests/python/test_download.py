@@ -28,22 +28,11 @@ def install_all(program: Program) -> Any:
     return found, lambda: found.yumio.apply(list(found.available), [], [])
 
 
-def meters(host: FakeHost) -> List[Tuple[str, int, List[int]]]:
-    """Per file: its name, its size and the values that were told."""
-    found: List[Tuple[str, int, List[int]]] = []
-    for call in host.named("applyGrabMeterStart", "applyGrabMeterUpdate", "applyGrabMeterEnd"):
-        if call[0] == "applyGrabMeterStart":
-            found.append((call[1], call[2], []))
-        else:
-            found[-1][2].append(call[1])
-    return found
-
-
 def test_each_file_has_its_meter(served: Estate, rpms: Catalogue, program: Program, host: FakeHost) -> None:
     _, apply = install_all(program)
     apply()
     sizes = {rpms[key].name: rpms[key].stat().st_size for key in PACKAGES}
-    told = meters(host)
+    told = host.meters()
     assert {name: size for name, size, _ in told} == sizes and len(told) == len(sizes)
     for name, size, values in told:
         assert values == sorted(values) and values[-1] == size
@@ -78,7 +67,7 @@ def test_cached_file_is_not_fetched_again(
     web.forget_requests()
     host.calls.clear()
     found.yumio.apply([found.offered("battery")], [], [])
-    assert web.requests() == [] and meters(host) == []
+    assert web.requests() == [] and host.meters() == []
     assert served.installed() == {"battery-1.0-1.noarch", "desk-1.0-1.noarch"}
 
 
@@ -220,7 +209,7 @@ def run_meter(host: FakeHost, *steps: Tuple[str, Any]) -> List[Tuple[str, int, L
         else:
             meter.end(payloads[name], step, "")
     meter.finish()
-    return meters(host)
+    return host.meters()
 
 
 @pytest.mark.dnf4
