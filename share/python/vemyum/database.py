@@ -52,6 +52,12 @@ def database_directory(root: str) -> str:
     return within(root, below(root, stated or _usual_directory(os.path.expanduser("~"))))
 
 
+def unreadable(root: str, error: object, said: Sequence[str]) -> YumBaseError:
+    """That the database cannot be read: a library's words, and what rpm has said."""
+    told = _("The rpm database of {root} cannot be read: {error}").format(root=root, error=error)
+    return YumBaseError("\n".join([told, *said]))
+
+
 def _macro_files(root: str) -> Tuple[Tuple[str, int], ...]:
     """The root's macro files, with what tells whether one has changed."""
     found = []

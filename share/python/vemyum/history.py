@@ -11,9 +11,10 @@ import contextlib
 import os
 import sqlite3
 import urllib.parse
-from typing import Collection, NamedTuple, Optional, Set, Tuple, Union
+from typing import Callable, Collection, Iterator, List, NamedTuple, Optional, Set, Tuple, Union
 
 from .backend import OpenEntry
+from .errors import FAILURES, YumBaseError
 from .root import as_configured
 from .space import scarce_space
 from .texts import _
@@ -71,6 +72,36 @@ def fault(path: str) -> Optional[str]:
     except OSError as error:
         return error.strerror or str(error)
     return None
+
+
+@contextlib.contextmanager
+def usable(
+    path: str, make: Optional[Callable[[], None]], told_by: Callable[[Exception], Optional[List[str]]]
+) -> Iterator[None]:
+    """Lets a block use the history. YumBaseError where it cannot be used, which a library would find out late; also
+    when that fails in the block. One that was made for nothing, since there was no room for more, is removed again.
+
+    `make` is called where there is none; without it the library makes one in the block. `told_by` gives the lines that
+    tell of a failure in the block, None for one that is not about the history."""
+    existed = os.path.exists(path)
+    made_for_nothing = not existed
+    try:
+        if make is not None and not existed:
+            make()
+        cause = fault(path) if existed or make is not None else None
+        if cause is not None:
+            raise YumBaseError(told(path, cause, existed))
+        try:
+            yield
+            made_for_nothing = False
+        except FAILURES as error:
+            lines = told_by(error)
+            if lines is None:
+                raise
+            raise YumBaseError("\n".join(lines)) from error
+    finally:
+        if made_for_nothing:
+            remove_useless(path)
 
 
 def told(path: str, cause: str, anew: bool) -> str:

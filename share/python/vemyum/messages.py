@@ -6,11 +6,12 @@ A library puts the causes of many failures (curl's words, rpm's lines) only into
 
 from __future__ import annotations
 
+import locale
 import logging
 import os
 import sys
 from contextlib import contextmanager
-from typing import Callable, Iterator, List
+from typing import Callable, Iterator, List, Tuple
 
 import rpm
 
@@ -95,6 +96,12 @@ def unheard() -> Iterator[None]:
         yield
     finally:
         logger.setLevel(before)
+
+
+def rpm_prefixes() -> Tuple[str, str]:
+    """How rpm's lines of errors and of warnings begin: it speaks the user's language. To be asked before it changes the
+    root, below which there may be no catalogue."""
+    return locale.dgettext("rpm", "error: "), locale.dgettext("rpm", "warning: ")
 
 
 @contextmanager

@@ -3,9 +3,13 @@
 
 from __future__ import annotations
 
+import glob
+import logging
+import os
 import re
 from typing import Dict, Iterable
 
+from .messages import LOGGER
 from .space import scarce_space
 from .texts import _
 
@@ -21,6 +25,17 @@ def is_unreadable(text: str) -> bool:
 def without_durations(text: str) -> str:
     """A failure's text as it is each time that it happens."""
     return _DURATION.sub("", text)
+
+
+def drop_damaged(caches: Iterable[str]) -> bool:
+    """Removes the files that match these patterns: forms of the metadata that are made for fast reading, where the
+    library says that one is damaged. Whether there was anything to remove: it is made anew from the metadata."""
+    found = [path for pattern in caches for path in glob.glob(pattern)]
+    for path in found:
+        os.unlink(path)
+    if found:
+        logging.getLogger(LOGGER).warning("%s", _("The cache of the metadata was damaged: it is made anew"))
+    return bool(found)
 
 
 def failure_text(id: str, addresses: Iterable[str], text: str, causes: Iterable[str], cache: str) -> str:

@@ -6,7 +6,7 @@ from __future__ import annotations
 import hashlib
 import os
 import urllib.parse
-from typing import List, NamedTuple, Tuple
+from typing import List, NamedTuple, Optional, Tuple
 from xml.etree import ElementTree
 
 from .errors import RepoError
@@ -68,17 +68,25 @@ def listed(repomd: str, left_out: Tuple[str, ...] = LEFT_OUT) -> List[File]:
 
 def verify(file: File, path: str) -> None:
     """RepoError where `path` holds something else than was announced. OSError."""
-    name = "sha1" if file.checksum_type == "sha" else file.checksum_type
-    try:
-        digest = hashlib.new(name)
-        if not digest.digest_size:
-            raise ValueError("a digest of any length proves nothing")
-    except ValueError as error:
+    found = digest(path, file.checksum_type)
+    if found is None:
         raise RepoError(
             _("{file}: the checksum type {type} is not known").format(file=file.href, type=file.checksum_type)
-        ) from error
+        )
+    if found != file.checksum.lower():
+        raise RepoError(_("{file}: the checksum is not the announced one").format(file=file.href))
+
+
+def digest(path: str, kind: str) -> Optional[str]:
+    """The checksum of a file in lower-case hexadecimal digits; None for a kind that isn't known. OSError."""
+    try:
+        found = hashlib.new("sha1" if kind == "sha" else kind)
+    except ValueError:
+        return None
+    if not found.digest_size:
+        # A digest of any length proves nothing.
+        return None
     with open(path, "rb") as stream:
         for chunk in iter(lambda: stream.read(1 << 20), b""):
-            digest.update(chunk)
-    if digest.hexdigest() != file.checksum.lower():
-        raise RepoError(_("{file}: the checksum is not the announced one").format(file=file.href))
+            found.update(chunk)
+    return found.hexdigest()

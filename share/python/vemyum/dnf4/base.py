@@ -7,7 +7,6 @@ import contextlib
 import functools
 import glob
 import logging
-import os
 from typing import Any, Callable, Dict, Iterable, List, Optional, Sequence
 
 import dnf
@@ -20,13 +19,11 @@ import libdnf.error
 from dnf.exceptions import RepoError
 
 from ..acts import reading_begins, reading_ends
-from ..database import point_rpm_at
-from ..errors import YumBaseError
+from ..database import point_rpm_at, unreadable
 from ..inhibitor import inhibited
 from ..messages import heard, rpms_words
-from ..reading import failure_text, is_unreadable, without_durations
+from ..reading import drop_damaged, failure_text, is_unreadable, without_durations
 from ..sections import RepositorySection
-from ..texts import _
 from ..webpage import asked
 from . import keys
 from .configuration import misread
@@ -137,23 +134,13 @@ class Base(dnf.Base):
             except OSError as error:
                 if "RPMDB" not in str(error):
                     raise
-                text = _("The rpm database of {root} cannot be read: {error}")
-                lines = [text.format(root=self.conf.installroot, error=error), *said()]
-                raise YumBaseError("\n".join(lines)) from error
+                raise unreadable(self.conf.installroot, error, said()) from error
 
     def _drop_damaged_cache(self, text: str) -> bool:
-        """Removes the form of the metadata that is made for fast reading, where the library says that it is damaged.
-        Whether there was anything to remove: it is made anew from the metadata."""
-        if "repo_add_solv" not in text:
-            return False
-        found = []
-        for repo in self.repos.iter_enabled():
-            found += glob.glob(os.path.join(glob.escape(self.conf.cachedir), glob.escape(repo.id) + "*.solv*"))
-        for path in found:
-            os.unlink(path)
-        if found:
-            logging.getLogger("dnf").warning("%s", _("The cache of the metadata was damaged: it is made anew"))
-        return bool(found)
+        """Whether the library's words are about one, and there was one to remove."""
+        caches = glob.escape(self.conf.cachedir)
+        enabled = self.repos.iter_enabled()
+        return "repo_add_solv" in text and drop_damaged(f"{caches}/{glob.escape(repo.id)}*.solv*" for repo in enabled)
 
     def _add_repo_to_sack(self, repo: dnf.repo.Repo) -> None:
         try:

@@ -26,13 +26,13 @@ from ..configuration import (
     protected_packages,
     regular_main_file,
     require_utf8,
+    tell_unclear,
     variable,
     variable_files,
 )
 from ..database import point_rpm_at
 from ..errors import YumBaseError
 from ..root import as_configured, below, managed_root
-from ..texts import _
 
 
 class Settings:
@@ -110,18 +110,14 @@ def _read(root: str) -> dnf.conf.MainConf:
 
 
 def check_signatures_unless_told(settings: Any, parser: libdnf.conf.ConfigParser, section: str, priority: int) -> None:
-    """Switches the check of signatures on where the configuration says something else than yes or no.
-
-    dnf reports such a value and goes on as if it weren't there, which may mean without a check.
-    """
+    """Switches the check of signatures on where the configuration says something else than yes or no."""
     for name in SIGNATURE_OPTIONS:
         if parser.hasSection(section) and name in parser.options(section):
             try:
                 libdnf.conf.OptionBool(True).fromString(parser.getSubstitutedValue(section, name))
             except RuntimeError:
                 settings._set_value(name, True, priority)
-                text = _("[{section}]: {option} counts as switched on, since its value is neither yes nor no")
-                logging.getLogger("dnf").error("%s", text.format(section=section, option=name))
+                tell_unclear(section, name)
 
 
 @contextlib.contextmanager

@@ -3,7 +3,6 @@
 
 from __future__ import annotations
 
-import locale
 from typing import Any, Dict, List, Set
 
 import dnf.yum.rpmtrans
@@ -12,6 +11,7 @@ import libdnf.transaction as lt
 from .. import host
 from .base import Base
 from ..host import TS_ERASE, TS_INSTALL, TS_OBSOLETED, TS_OBSOLETING, TS_TRUEINSTALL, TS_UPDATE, TS_UPDATED
+from ..messages import rpm_prefixes
 from ..text import valid
 
 _CODES: Dict[int, int] = {
@@ -25,7 +25,6 @@ _CODES: Dict[int, int] = {
     lt.TransactionItemAction_REINSTALL: TS_INSTALL,
     lt.TransactionItemAction_REINSTALLED: TS_ERASE,
 }
-_RPM_PREFIXES = ("error: ", "warning: ")
 
 
 class Display(dnf.yum.rpmtrans.TransactionDisplay):
@@ -42,8 +41,7 @@ class Display(dnf.yum.rpmtrans.TransactionDisplay):
         """rpm's own error and warning lines."""
         self._ordinal = 0
         self._last: Any = None
-        # rpm speaks the user's language, with the catalogue that is loaded here: below another root it finds none.
-        self._rpm_prefixes = tuple(locale.dgettext("rpm", prefix) for prefix in _RPM_PREFIXES)
+        self._rpm_prefixes = rpm_prefixes()
         self._install_only = {str(package) for package in base._get_installonly_query()}
         self._obsoleting: Set[str] = {
             str(package)

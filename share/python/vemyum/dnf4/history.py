@@ -3,16 +3,15 @@
 
 from __future__ import annotations
 
-import contextlib
 import os
-from typing import Iterator
+from typing import ContextManager, List, Optional
 
 import dnf.conf
 import dnf.transaction
 import libdnf.transaction as lt
 
 from ..errors import YumBaseError
-from ..history import Layout, fault, remove_useless, told
+from ..history import Layout, told, usable
 from ..messages import unheard
 from ..root import as_configured
 from ..space import scarce_space
@@ -32,31 +31,15 @@ def history_path(directory: str) -> str:
     return os.path.join(directory, "history.sqlite")
 
 
-@contextlib.contextmanager
-def usable_history(conf: dnf.conf.MainConf) -> Iterator[None]:
-    """Lets a block use the history, which is made if there is none. YumBaseError where it cannot be used, which dnf
-    would find out late and tell several times; also when that fails in the block. One that was made for nothing, since
-    there was no room for more, is removed again."""
+def usable_history(conf: dnf.conf.MainConf) -> ContextManager[None]:
+    """See `history.usable`. dnf would tell several times what is wrong."""
     path = history_path(conf.persistdir)
-    existed = os.path.exists(path)
-    made_for_nothing = not existed
-    try:
-        if not existed:
-            _make(path)
-        cause = fault(path)
-        if cause is not None:
-            raise YumBaseError(told(path, cause, existed))
-        try:
-            yield
-            made_for_nothing = False
-        except (YumBaseError, *FAILURES) as error:
-            first, *rest = str(error).split("\n")
-            if path not in first:
-                raise
-            raise YumBaseError("\n".join([told(path, _cause(first), False), *rest])) from error
-    finally:
-        if made_for_nothing:
-            remove_useless(path)
+
+    def told_by(error: Exception) -> Optional[List[str]]:
+        first, *rest = str(error).split("\n")
+        return [told(path, _cause(first), False), *rest] if path in first else None
+
+    return usable(path, lambda: _make(path), told_by)
 
 
 def _make(path: str) -> None:

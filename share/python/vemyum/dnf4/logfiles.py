@@ -2,14 +2,13 @@
 """dnf's own log files: an administrator finds the transactions of this program where those of the command line are.
 
 dnf.log tells what was done, dnf.rpm.log which packages rpm went through and what their scripts said, in dnf's
-format and with its rotation. A log never stands in the way: what cannot be written is left out.
+format and with its rotation.
 """
 
 from __future__ import annotations
 
 import logging
 import os
-from typing import Any
 
 import dnf
 import dnf.cli.output
@@ -19,35 +18,14 @@ import dnf.lock
 import dnf.logging
 from dnf.i18n import _ as in_dnfs_words
 
-from ..credentials import masked
-from ..errors import os_error_text
+from ..logfiles import KeptOpen, Masked, tell_unwritable
 from ..messages import ONLY_IN_FILES, PYTHONS_WARNINGS, RPM_LOGGER
-from ..root import as_configured
-from ..text import valid
-from ..texts import _
 
 _log = logging.getLogger(ONLY_IN_FILES)
 
 
-class _Masked(logging.Formatter):
-    """Another formatter's lines without the passwords that stand in addresses."""
-
-    def __init__(self, original: logging.Formatter) -> None:
-        super().__init__()
-        self._original = original
-
-    def format(self, record: logging.LogRecord) -> str:
-        return masked(valid(self._original.format(record)))
-
-
-class _LogFile(dnf.logging.MultiprocessRotatingFileHandler):
-    """One of dnf's log files, kept open: while rpm works on another root there is no path to it."""
-
-    def shouldRollover(self, record: logging.LogRecord) -> Any:
-        return os.path.exists(self.baseFilename) and super().shouldRollover(record)
-
-    def handleError(self, record: logging.LogRecord) -> None:
-        """A full disk: there is nobody to tell in the middle of a transaction."""
+class _LogFile(KeptOpen, dnf.logging.MultiprocessRotatingFileHandler):
+    """One of dnf's, with what `KeptOpen` changes about it."""
 
 
 def open_log_files(conf: dnf.conf.MainConf) -> None:
@@ -69,13 +47,12 @@ def _open(conf: dnf.conf.MainConf, name: str, logger: str, level: int) -> None:
             os.path.join(conf.logdir, name), conf.log_size, conf.log_rotate, conf.log_compress
         )
     except OSError as error:
-        text = _("The log file cannot be written: {cause}").format(cause=as_configured(os_error_text(error)))
-        logging.getLogger("dnf").warning("%s", text)
+        tell_unwritable(error)
         return
     # dnf has made it, with format and rotation; it only has to bear more.
     file.__class__ = _LogFile
     file.rotate_lock = dnf.lock.build_log_lock(conf.logdir, True)
-    file.setFormatter(_Masked(file.formatter))
+    file.setFormatter(Masked(file.formatter))
     file.setLevel(level)
     if logger != RPM_LOGGER:
         # dnf keeps rpm's lines out of its own file.

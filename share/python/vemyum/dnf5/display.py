@@ -3,7 +3,6 @@
 
 from __future__ import annotations
 
-import locale
 import logging
 from typing import Any, Callable, Dict, Iterable, List, Set, Tuple
 
@@ -13,6 +12,7 @@ from libdnf5 import transaction as kinds
 from .. import host
 from ..backend import PkgTup
 from ..host import TS_ERASE, TS_INSTALL, TS_OBSOLETED, TS_OBSOLETING, TS_TRUEINSTALL, TS_UPDATE, TS_UPDATED
+from ..messages import rpm_prefixes
 from ..text import valid
 from ..texts import _
 from .callbacks import guarded
@@ -22,7 +22,6 @@ from .plan import Solved, pkgtup
 _NOT_CRITICAL = 1
 """A scriptlet's end that keeps its package neither out nor in."""
 
-_RPM_PREFIXES = ("error: ", "warning: ")
 
 _CODES: Dict[int, int] = {
     kinds.TransactionItemAction_INSTALL: TS_INSTALL,
@@ -174,5 +173,5 @@ def _script_text(nevra: Any, kind: int) -> str:
 
 def rpms_lines(said: Iterable[Tuple[int, str]]) -> List[str]:
     """rpm's warnings and errors, as it would print them."""
-    error, warning = (locale.dgettext("rpm", prefix) for prefix in _RPM_PREFIXES)
+    error, warning = rpm_prefixes()
     return [f"{warning if level <= logging.WARNING else error}{text}" for level, text in said]

@@ -3,7 +3,6 @@
 
 from __future__ import annotations
 
-import hashlib
 import os
 from typing import Any, Collection, List, Optional
 
@@ -11,7 +10,7 @@ import libdnf5.repo
 
 from ..download import Causes, File, Meter, Place, failure, require_files
 from ..errors import YumBaseError
-from ..repomd import join
+from ..repomd import digest, join
 from ..text import valid
 from ..texts import _
 from .base import Base
@@ -176,16 +175,9 @@ class _Wrong(Exception):
 
 def _verify(package: Any, path: str) -> None:
     announced = package.get_checksum()
-    name = announced.get_type_str()
-    try:
-        digest = hashlib.new("sha1" if name == "sha" else name)
-    except ValueError:
-        # The library looks at it, and says so.
-        return
-    with open(path, "rb") as file:
-        for chunk in iter(lambda: file.read(1 << 20), b""):
-            digest.update(chunk)
-    if digest.hexdigest() != announced.get_checksum().lower():
+    found = digest(path, announced.get_type_str())
+    # One of another kind the library looks at, and says so.
+    if found is not None and found != announced.get_checksum().lower():
         raise _Wrong(_("{file}: the checksum is not the announced one").format(file=package.get_location()))
 
 

@@ -3,18 +3,16 @@
 
 from __future__ import annotations
 
-import contextlib
 import os
 import re
-from typing import Iterator
+from typing import ContextManager, List, Optional
 
 import libdnf5.base
 import libdnf5.conf
 
-from ..errors import YumBaseError
-from ..history import Layout, fault, remove_useless, told
+from ..history import Layout, fault, told, usable
 from ..root import below
-from .failures import FAILURES, words
+from .failures import words
 from .settings import Settings
 
 LAYOUT = Layout(
@@ -39,33 +37,20 @@ def history_path(settings: Settings, config: libdnf5.conf.ConfigMain) -> str:
     return os.path.join(below(settings.root, directory), "transaction_history.sqlite")
 
 
-@contextlib.contextmanager
-def usable_history(settings: Settings) -> Iterator[None]:
-    """Lets a block use the history, which the library makes if there is none. YumBaseError where it cannot be used;
-    also when that fails in the block. One that was made for nothing, since there was no room for more, is removed
-    again."""
+def usable_history(settings: Settings) -> ContextManager[None]:
+    """See `history.usable`. The library makes one itself, and doesn't name the file when that is at fault. The
+    library's failures."""
     path = _path(settings)
-    existed = os.path.exists(path)
-    made_for_nothing = not existed
-    try:
-        cause = fault(path) if existed else None
-        if cause is not None:
-            raise YumBaseError(told(path, cause, True))
-        try:
-            yield
-            made_for_nothing = False
-        except (YumBaseError, *FAILURES) as error:
-            # The library doesn't name the file.
-            text = _STATEMENT.sub(r"\1", words(error))
-            cause = fault(path) if os.path.exists(path) else None
-            about_history = _ABOUT_HISTORY.search(text) is not None
-            if cause is None and not about_history:
-                raise
-            lines = [told(path, cause or text, False), *([] if about_history else [text])]
-            raise YumBaseError("\n".join(lines)) from error
-    finally:
-        if made_for_nothing:
-            remove_useless(path)
+
+    def told_by(error: Exception) -> Optional[List[str]]:
+        text = _STATEMENT.sub(r"\1", words(error))
+        cause = fault(path) if os.path.exists(path) else None
+        about_history = _ABOUT_HISTORY.search(text) is not None
+        if cause is None and not about_history:
+            return None
+        return [told(path, cause or text, False), *([] if about_history else [text])]
+
+    return usable(path, None, told_by)
 
 
 def _path(settings: Settings) -> str:

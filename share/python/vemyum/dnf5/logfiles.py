@@ -2,24 +2,19 @@
 """The command line's log file: an administrator finds the transactions of this program where those of `dnf5` are.
 
 It has what was done, which packages rpm went through and what their scripts said, in the command line's format and with
-its rotation. A log never stands in the way: what cannot be written is left out.
+its rotation.
 """
 
 from __future__ import annotations
 
 import logging
-import logging.handlers
 import os
 import time
 
 import libdnf5.base
 
-from ..credentials import masked
-from ..errors import os_error_text
+from ..logfiles import KeptOpen, Masked, tell_unwritable
 from ..messages import ONLY_IN_FILES, PYTHONS_WARNINGS
-from ..root import as_configured
-from ..text import valid
-from ..texts import _
 from .failures import FAILURES
 from .log import LEVELS, LOGGER
 from .settings import Settings
@@ -29,20 +24,15 @@ _log = logging.getLogger(ONLY_IN_FILES)
 
 
 class _Lines(logging.Formatter):
-    """The command line's, without the passwords that stand in addresses."""
+    """The command line's."""
 
     def format(self, record: logging.LogRecord) -> str:
         when = time.strftime("%Y-%m-%dT%H:%M:%S+0000", time.gmtime(record.created))
         name = next((level.name for level in LEVELS if record.levelno >= level.in_files), LEVELS[-1].name)
-        return masked(valid(f"{when} [{record.process}] {name} {record.getMessage()}"))
+        return f"{when} [{record.process}] {name} {record.getMessage()}"
 
 
-class _LogFile(logging.handlers.RotatingFileHandler):
-    """Kept open: while rpm works on another root there is no path to it."""
-
-    def shouldRollover(self, record: logging.LogRecord) -> bool:
-        return os.path.exists(self.baseFilename) and bool(super().shouldRollover(record))
-
+class _LogFile(KeptOpen):
     def emit(self, record: logging.LogRecord) -> None:
         self._follow()
         super().emit(record)
@@ -58,9 +48,6 @@ class _LogFile(logging.handlers.RotatingFileHandler):
             self.stream.close()
             self.stream = self._open()
 
-    def handleError(self, record: logging.LogRecord) -> None:
-        """A full disk: there is nobody to tell in the middle of a transaction."""
-
 
 def open_log_files(settings: Settings) -> None:
     """From here on the loggers write into the file, too, to the end of the process. Never raises: there is a warning
@@ -70,10 +57,9 @@ def open_log_files(settings: Settings) -> None:
     try:
         file = _LogFile(path, maxBytes=size if count else 0, backupCount=count, encoding="utf-8", errors="replace")
     except OSError as error:
-        text = _("The log file cannot be written: {cause}").format(cause=as_configured(os_error_text(error)))
-        logging.getLogger(LOGGER).warning("%s", text)
+        tell_unwritable(error)
         return
-    file.setFormatter(_Lines())
+    file.setFormatter(Masked(_Lines()))
     for name in (LOGGER, PYTHONS_WARNINGS):
         logging.getLogger(name).addHandler(file)
 

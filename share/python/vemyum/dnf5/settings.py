@@ -25,13 +25,13 @@ from ..configuration import (
     protected_packages,
     regular_main_file,
     require_utf8,
+    tell_unclear,
     variable,
     variable_files,
 )
 from ..database import point_rpm_at
 from ..errors import YumBaseError
 from ..root import as_configured, below, managed_root
-from ..texts import _
 from .failures import FAILURES, words
 from .log import LOGGER, Log
 
@@ -175,10 +175,7 @@ def read_settings() -> Settings:
 
 def unclear(parser: libdnf5.conf.ConfigParser, section: str, variables: Optional[libdnf5.conf.Vars]) -> List[str]:
     """The options for the check of signatures for which a section says something else than yes or no, as the library
-    calls them.
-
-    It reports such a value and goes on as if it weren't there, which may mean without a check.
-    """
+    calls them."""
     found = []
     for name, option in _CHECKS.items():
         if parser.has_option(section, name):
@@ -187,8 +184,7 @@ def unclear(parser: libdnf5.conf.ConfigParser, section: str, variables: Optional
                 libdnf5.conf.OptionBool(True).from_string(value if variables is None else variables.substitute(value))
             except libdnf5.exception.OptionError:
                 found.append(option)
-                text = _("[{section}]: {option} counts as switched on, since its value is neither yes nor no")
-                logging.getLogger(LOGGER).error("%s", text.format(section=section, option=name))
+                tell_unclear(section, name)
     return found
 
 
