@@ -10,31 +10,29 @@ import logging
 import os
 import re
 import urllib.parse
-from typing import Any, Callable, Dict, Iterable, List, Optional, Sequence, Set, Tuple
+from typing import Any, Callable, Dict, List, Optional, Sequence, Set, Tuple
 
 import libdnf5.repo
-import libdnf5.rpm
 import rpm
 
-from .. import versions
 from ..acts import reading_begins, reading_ends
 from ..backend import CHANGELOGS, GROUPS, Dependency, OpenEntry, RepositoryState
-from ..database import point_rpm_at
+from ..database import point_rpm_at, unreadable
 from ..errors import RepoError, YumBaseError, os_error_text
 from ..history import open_entry
 from ..messages import rpms_words
-from ..reading import without_durations
+from ..reading import drop_damaged, without_durations
 from ..sections import RepositorySection
 from ..texts import _
-from ..vendors import by_name, refused
 from .base import Base, open_base
 from .failures import FAILURES, in_full, words
 from .history import LAYOUT, history_path
 from .keys import load_signed
+from .lists import Lists, installed_rows
 from .log import LOGGER
 from .metadata import Metadata, told_of
 from .progress import is_to_be_converted
-from .rows import InstalledRow, Row, checksum, dependencies, rows
+from .rows import Row, checksum, dependencies
 from .settings import Settings
 
 _MAIN = "main"
@@ -207,13 +205,12 @@ class System:
                 text = words(error)
                 repo = self._told(base, text)
                 if repo is not None:
-                    unreadable = told_of(repo, text, [], self.settings.cache_directory)
-                    raise _Unreadable(unreadable, repo) from error
-                told = _("The rpm database of {root} cannot be read: {error}")
-                raise YumBaseError("\n".join([told.format(root=self.settings.root, error=text), *said()])) from error
+                    cause = told_of(repo, text, [], self.settings.cache_directory)
+                    raise _Unreadable(cause, repo) from error
+                raise unreadable(self.settings.root, text, said()) from error
             finally:
                 base.log.tell()
-        self._installed = self._query_installed(base)
+        self._installed = installed_rows(base)
         config.disable_excludes = disabled
         base.library.get_rpm_package_sack().load_config_excludes_includes()
         base.log.tell()
@@ -236,18 +233,10 @@ class System:
         self._sections = base.sections
 
     def _drop_damaged_cache(self, text: str) -> bool:
-        """Removes the form of the metadata that is made for fast reading, where the library says that it is damaged.
-        Whether there was anything to remove: it is made anew from the metadata."""
-        if not _DAMAGED_CACHE.search(text):
-            return False
-        found = []
-        for repo in self.base.repositories(enabled_only=True):
-            found += glob.glob(os.path.join(glob.escape(repo.get_cachedir()), "solv", "*.solv*"))
-        for path in found:
-            os.unlink(path)
-        if found:
-            logging.getLogger(LOGGER).warning("%s", _("The cache of the metadata was damaged: it is made anew"))
-        return bool(found)
+        """Whether the library's words are about one, and there was one to remove."""
+        caches = (repo.get_cachedir() for repo in self.base.repositories(enabled_only=True))
+        about_one = _DAMAGED_CACHE.search(text) is not None
+        return about_one and drop_damaged(f"{glob.escape(cache)}/solv/*.solv*" for cache in caches)
 
     # Packages ----------------------------------------------------------------------------------------------------
 
@@ -255,96 +244,24 @@ class System:
         return list(self._installed)
 
     def available(self) -> List[Row]:
-        base = self.base
-        query = self._offered(base)
-        query.filter_latest_evr()
-        return self._cheapest_first(query, base)
+        return self._lists.available()
 
     def upgrades(self) -> List[Row]:
-        base = self.base
-        query = self._changeable(base, self._offered(base))
-        query.filter_upgrades()
-        query.filter_latest_evr()
-        return self._cheapest_first(query, base)
+        return self._lists.upgrades()
 
     def replacing(self, upgrades: Set[str]) -> List[Tuple[Row, List[Row]]]:
-        base = self.base
-        if not base.config.obsoletes:
-            return []
-        query = self._changeable(base, self._offered(base))
-        # Who excludes an installed package wants it left alone.
-        present = libdnf5.rpm.PackageQuery(base.library)
-        present.filter_installed()
-        query.filter_obsoletes(present)
-        query.filter_latest_evr()
-        installed = by_name(self._installed)
-        # An installed package that makes others obsolete in a newer version is an upgrade already.
-        covered = upgrades.union(installed)
-        new = [row for row in self._cheapest_first(query, base) if row.name not in covered]
-        return [(row, self._replaced(row, installed)) for row in new]
+        return self._lists.replacing(upgrades)
 
     def duplicated(self) -> List[List[Row]]:
-        base = self.base
-        query = libdnf5.rpm.PackageQuery(base.library)
-        query.filter_installonly()
-        meant = set(query)
-        found: Dict[Tuple[str, str], List[Any]] = {}
-        for row in self._installed:
-            found.setdefault((row.name, row.arch), []).append(row)
-        several = [same for same in found.values() if len(same) > 1 and not meant.intersection(same)]
-        return [sorted(same, key=versions.oldest_first) for same in several]
+        return self._lists.duplicated()
 
     def native(self) -> Sequence[str]:
         variables = self.settings.variables
         return [variables["basearch"], variables["arch"], "noarch"]
 
-    def _offered(self, base: Base) -> libdnf5.rpm.PackageQuery:
-        """What the repositories offer to this machine, by their priorities."""
-        query = libdnf5.rpm.PackageQuery(base.library)
-        query.filter_available()
-        query.filter_priority()
-        query.filter_arch(_fitting())
-        return query
-
-    @staticmethod
-    def _cheapest_first(query: libdnf5.rpm.PackageQuery, base: Base) -> List[Any]:
-        """The rows of a query. Of a package that several repositories have, the solver takes the one that costs least;
-        the library's own order is the one in which they happened to be read."""
-        found = rows(query, base)
-        costs = {repo.get_id(): repo.get_cost() for repo in base.repositories(enabled_only=True)}
-        if len(set(costs.values())) > 1:
-            found.sort(key=lambda row: costs[row.reponame])
-        return found
-
-    def _changeable(self, base: Base, query: libdnf5.rpm.PackageQuery) -> libdnf5.rpm.PackageQuery:
-        """The query without the updates that the solver refuses."""
-        if base.config.allow_vendor_change:
-            return query
-        newer = libdnf5.rpm.PackageQuery(query)
-        newer.filter_upgrades()
-        replacing = libdnf5.rpm.PackageQuery(query)
-        replacing.filter_obsoletes(_set(base, self._installed))
-        installed = by_name(self._installed)
-        query.difference(_set(base, refused(rows(newer, base), rows(replacing, base), installed, self._replaced)))
-        return query
-
-    @staticmethod
-    def _query_installed(base: Base) -> List[Any]:
-        query = libdnf5.rpm.PackageQuery(base.library)
-        query.filter_installed()
-        return rows(query, base, InstalledRow)
-
-    def _replaced(self, row: Any, installed: Dict[str, List[Any]]) -> List[Any]:
-        """Those of the installed packages, by their names, that a package of another name makes obsolete."""
-        base = self.base
-        names = dict.fromkeys(reldep.get_name() for reldep in row.get_obsoletes())
-        found = []
-        for old in (old for name in names if name != row.name for old in installed.get(name, [])):
-            query = libdnf5.rpm.PackageQuery(_set(base, [row]))
-            query.filter_obsoletes(_set(base, [old]))
-            if not query.empty():
-                found.append(old)
-        return found
+    @property
+    def _lists(self) -> Lists:
+        return Lists(self.base, self._installed)
 
     # Of a package ------------------------------------------------------------------------------------------------
 
@@ -407,16 +324,3 @@ def open_system(settings: Settings, sections: Optional[Sequence[RepositorySectio
     """See `backend.Library`."""
     with in_full():
         return System(settings, sections)
-
-
-def _fitting() -> List[str]:
-    """The architectures of packages that this machine can run."""
-    known = libdnf5.rpm.get_supported_arches()
-    return [arch for arch in known if arch == "noarch" or rpm.archscore(arch)]
-
-
-def _set(base: Base, packages: Iterable[Any]) -> libdnf5.rpm.PackageSet:
-    found = libdnf5.rpm.PackageSet(base.library)
-    for package in packages:
-        found.add(package)
-    return found
