@@ -6,7 +6,6 @@ from __future__ import annotations
 import contextlib
 import os
 import re
-import shutil
 from typing import Dict, Iterable, Iterator, Tuple
 
 _OF_A_REPOSITORY = re.compile(r".+-[0-9a-f]{16}")
@@ -45,6 +44,7 @@ def _remove(path: str) -> int:
     if not os.path.isdir(path) or os.path.islink(path):
         os.unlink(path)
         return 1
-    count = sum(len(files) for _folder, _folders, files in os.walk(path))
-    shutil.rmtree(path)
+    # A failure names the file; shutil's would name the folder.
+    count = sum(_remove(entry.path) for entry in list(os.scandir(path)))
+    os.rmdir(path)
     return count
