@@ -6,7 +6,17 @@ from __future__ import annotations
 from typing import Any, Callable
 
 import pytest
+from libraries import by_library
 from program import Program
+
+_OF_THE_RUN = by_library("dnf.db.history", "libdnf5.base")
+
+RUN_END = by_library(
+    "\n    dnf.db.history.SwdbInterface.end = fail",
+    "\n    run = libdnf5.base.Transaction.run"
+    "\n    libdnf5.base.Transaction.run = lambda transaction: (run(transaction), fail())[1]",
+)
+"""For `in_work`: lets the library fail with `fail` when rpm has done its work, as where its history has no end."""
 
 
 def fails(program: Program, apply: Any, *words: str) -> str:
@@ -29,7 +39,7 @@ do = child._work
 def changed(parent):
     from vemyum import backend
     from vemyum.apply import work
-    import dnf.db.history
+    import {_OF_THE_RUN}
     Transaction = backend.library().Transaction
     {line}
     return do(parent)

@@ -6,20 +6,25 @@ from __future__ import annotations
 import os
 import sys
 from pathlib import Path
+from typing import TypeVar
 
 import pytest
 
 sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "share/python"))
 
 from vemyum import choice  # noqa: E402
+from vemyum.choice import DNF4, DNF5  # noqa: E402
 
-BACKEND = os.environ.get(choice.VARIABLE) or next(iter(choice.present()), choice.DNF4)
+BACKEND = os.environ.get(choice.VARIABLE) or next(iter(choice.present()), DNF4)
 """Without a word, the first of those that this machine has."""
 
 
-def by_library(dnf4: str, dnf5: str) -> str:
+_Word = TypeVar("_Word")
+
+
+def by_library(dnf4: _Word, dnf5: _Word) -> _Word:
     """The word of the library that the tests run on."""
-    return {choice.DNF4: dnf4, choice.DNF5: dnf5}[BACKEND]
+    return {DNF4: dnf4, DNF5: dnf5}[BACKEND]
 
 
 CACHE = by_library("var/cache/dnf", "var/cache/libdnf5")

@@ -7,13 +7,10 @@ from typing import Any, Callable
 
 import pytest
 from catalogue import Catalogue
-from failing import fail_with, fails, in_work
+from failing import RUN_END, fail_with, fails, in_work
 from fake_host import FakeHost
 from program import Program
 from rpmestate import Estate
-
-# The steps that are made to fail are those of this library.
-pytestmark = pytest.mark.dnf4
 
 ALL_DONE = (
     "The packages have been changed as asked, and only what comes after that has failed: please refresh the list of "
@@ -22,7 +19,6 @@ ALL_DONE = (
 REFRESH = "A part of the transaction may have been done: please refresh the list of packages."
 NO_SPACE = "OSError(28, os.strerror(28), '/var/lib/dnf/history.sqlite')"
 CLOSE = "\n    Transaction.close = fail"
-HISTORY_END = "\n    dnf.db.history.SwdbInterface.end = fail"
 SECOND_LOOK = """
     looks = []
     present = work.Work._present
@@ -32,12 +28,12 @@ SECOND_LOOK = """
 @pytest.mark.parametrize(
     "step, error, words",
     [
-        (HISTORY_END, NO_SPACE, "/var/lib/dnf/history.sqlite: No space left on device"),
-        (HISTORY_END, "BrokenPipeError(32, 'a pipe')", "[Errno 32] a pipe"),
+        (RUN_END, NO_SPACE, "/var/lib/dnf/history.sqlite: No space left on device"),
+        (RUN_END, "BrokenPipeError(32, 'a pipe')", "[Errno 32] a pipe"),
         (CLOSE, NO_SPACE, "/var/lib/dnf/history.sqlite: No space left on device"),
         (CLOSE, "RuntimeError('no such table: trans')", "no such table: trans"),
         (CLOSE, "BrokenPipeError(32, 'a pipe')", "[Errno 32] a pipe"),
-        (CLOSE + HISTORY_END, "RuntimeError('full')", "full"),
+        (CLOSE + RUN_END, "RuntimeError('full')", "full"),
     ],
 )
 def test_failure_behind_the_transaction_tells_that_all_is_done(
@@ -59,7 +55,7 @@ def test_failure_behind_the_transaction_tells_that_all_is_done(
     assert estate.installed() == {"lib-2.0-1.noarch"}
 
 
-@pytest.mark.parametrize("step", [HISTORY_END, CLOSE, HISTORY_END + CLOSE])
+@pytest.mark.parametrize("step", [RUN_END, CLOSE, RUN_END + CLOSE])
 def test_failure_behind_a_part_of_the_transaction_tells_what_was_not_done(
     estate: Estate, rpms: Catalogue, program: Program, host: FakeHost, in_child: Callable[[str], None], step: str
 ) -> None:
@@ -69,7 +65,7 @@ def test_failure_behind_a_part_of_the_transaction_tells_what_was_not_done(
     marks = [found.offered("badpre"), found.offered("lone")]
     text = fails(program, lambda: found.yumio.apply(marks, [], []), "badpre-1.0-1.noarch was not installed")
     assert text.endswith(f"\n{REFRESH}") and ALL_DONE not in text
-    assert text.startswith("full\n" if HISTORY_END in step else "Not everything went as it should:\n")
+    assert text.startswith("full\n" if RUN_END in step else "Not everything went as it should:\n")
     assert estate.installed() == {"lone-1.0-1.noarch"}
 
 

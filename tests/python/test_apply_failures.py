@@ -195,6 +195,7 @@ def test_locked_history_is_told_and_not_to_be_moved(
     assert estate.installed() == {"battery-1.0-1.noarch", "lone-1.0-1.noarch"}
 
 
+# Where dnf 5's lies there is more beside it: see tests/dnf5/test_apply.py.
 @pytest.mark.parametrize("kib", [8, 64, 124, 160])
 @pytest.mark.dnf4
 def test_full_disk_leaves_no_half_made_history(

@@ -284,6 +284,7 @@ def test_cache_lies_below_the_root_by_default(lamp: Tuple[Estate, Program]) -> N
     assert list((estate.root / "var/cache/yum").glob("base-*"))
 
 
+# dnf 5 writes none while it reads.
 @pytest.mark.dnf4
 def test_the_librarys_log_lies_below_the_root_by_default(lamp: Tuple[Estate, Program]) -> None:
     estate, program = lamp
@@ -431,6 +432,7 @@ def test_texts_beyond_ascii(estate: Estate, rpms: Catalogue, program: Program, h
     assert package.returnSimple("summary") == "Tische und St\u00fchle \u2014 \u6728"
 
 
+# dnf 5 knows no deltas.
 @pytest.mark.dnf4
 def test_deltas_are_off_whatever_the_configuration_says(lamp: Tuple[Estate, Program]) -> None:
     estate, program = lamp

@@ -5,11 +5,12 @@ from __future__ import annotations
 
 import os
 from pathlib import Path
-from typing import Any, Callable, Dict, List, Tuple
+from typing import Any, Callable, Dict, Iterable, List, Tuple
 
 import pytest
 from catalogue import Catalogue
 from fake_host import FakeHost
+from libraries import BACKEND, DNF4, DNF5
 from program import Program
 from rpmestate import Estate
 from web import Web
@@ -162,6 +163,7 @@ def test_part_of_a_file_is_still_to_be_downloaded(
     assert "lone-1.0-1.noarch" in served.installed()
 
 
+# dnf 5 knows no deltas.
 @pytest.mark.dnf4
 def test_no_section_asks_for_deltas(served: Estate, program: Program) -> None:
     served.write_repo_file("base", extra={"deltarpm": "1"})
@@ -196,10 +198,30 @@ class Payload:
     def __str__(self) -> str:
         return self.name
 
+    # As dnf 5 asks a package.
+
+    def get_location(self) -> str:
+        return self.name
+
+    get_nevra = get_repo_id = get_location
+
+    def get_download_size(self) -> int:
+        return self.download_size
+
+
+GOOD, FAILED, FAILED_MIRROR = "good", "failed", "failed mirror"
 
 def run_meter(host: FakeHost, *steps: Tuple[str, Any]) -> List[Tuple[str, int, List[int]]]:
+    """A number is what there is of a file by then."""
+    {DNF4: move_files_of_dnf_4, DNF5: move_files_of_dnf_5}[BACKEND](steps)
+    return host.meters()
+
+
+def move_files_of_dnf_4(steps: Iterable[Tuple[str, Any]]) -> None:
+    import dnf.callback as ends
     from vemyum.dnf4.download import DownloadMeter
 
+    codes = {GOOD: None, FAILED: ends.STATUS_FAILED, FAILED_MIRROR: ends.STATUS_MIRROR}
     payloads: Dict[str, Payload] = {name: Payload(name, 100) for name in "abc"}
     meter = DownloadMeter()
     meter.start(3, 300)
@@ -207,29 +229,38 @@ def run_meter(host: FakeHost, *steps: Tuple[str, Any]) -> List[Tuple[str, int, L
         if isinstance(step, float):
             meter.progress(payloads[name], step)
         else:
-            meter.end(payloads[name], step, "")
+            meter.end(payloads[name], codes[step], "")
     meter.finish()
-    return host.meters()
 
 
-@pytest.mark.dnf4
+def move_files_of_dnf_5(steps: Iterable[Tuple[str, Any]]) -> None:
+    from libdnf5.repo import DownloadCallbacks as Ends
+    from vemyum.dnf5.download import DownloadMeter
+
+    codes = {GOOD: Ends.TransferStatus_SUCCESSFUL, FAILED: Ends.TransferStatus_ERROR}
+    meter = DownloadMeter([Payload(name, 100) for name in "abc"])
+    for name, step in steps:
+        place = "abc".index(name) + 1
+        if isinstance(step, float):
+            meter.progress(place, 100, int(step))
+        elif step == FAILED_MIRROR:
+            meter.mirror_failed(place, "gone", "http://mirror")
+        else:
+            meter.end(place, codes[step], "")
+    meter.finish()
+
+
 def test_files_fetched_side_by_side_are_told_one_after_the_other(program: Program, host: FakeHost) -> None:
     begun = ("a", 10.0), ("b", 20.0), ("a", 50.0), ("c", 5.0)
-    told = run_meter(host, *begun, ("b", None), ("a", None), ("c", 60.0), ("c", None))
+    told = run_meter(host, *begun, ("b", GOOD), ("a", GOOD), ("c", 60.0), ("c", GOOD))
     assert told == [("a", 100, [10, 50, 100, 100]), ("b", 100, [100, 100]), ("c", 100, [5, 60, 100, 100])]
 
 
-@pytest.mark.dnf4
 def test_failed_file_ends_where_it_stood(program: Program, host: FakeHost) -> None:
-    import dnf.callback
-
-    told = run_meter(host, ("a", 10.0), ("b", 20.0), ("a", dnf.callback.STATUS_FAILED))
+    told = run_meter(host, ("a", 10.0), ("b", 20.0), ("a", FAILED))
     assert told == [("a", 100, [10, 10, 10]), ("b", 100, [20, 20])]
 
 
-@pytest.mark.dnf4
 def test_failed_mirror_is_no_end(program: Program, host: FakeHost) -> None:
-    import dnf.callback
-
-    told = run_meter(host, ("a", 10.0), ("a", dnf.callback.STATUS_MIRROR), ("a", 40.0), ("a", None))
+    told = run_meter(host, ("a", 10.0), ("a", FAILED_MIRROR), ("a", 40.0), ("a", GOOD))
     assert told == [("a", 100, [10, 40, 100, 100])]

@@ -233,6 +233,7 @@ def test_running_transaction_of_dnf_is_respected(lamp: Tuple[Estate, Program]) -
         other.wait()
 
 
+# The command line of dnf 5 waits: see tests/dnf5/test_locks.py.
 @pytest.mark.dnf4
 def test_dnf_is_refused_meanwhile(lamp: Tuple[Estate, Program]) -> None:
     import dnf.lock
@@ -261,7 +262,6 @@ def test_malformed_lock_file_is_told(lamp: Tuple[Estate, Program]) -> None:
         program.start()
 
 
-@pytest.mark.dnf4
 def test_full_disk_is_told_with_the_file(
     lamp: Tuple[Estate, Program], monkeypatch: pytest.MonkeyPatch
 ) -> None:

@@ -192,6 +192,7 @@ def test_files_of_an_available_package_are_files_only(
     assert found.offered("lamp").returnFileEntries("dir") == []
 
 
+# Those of dnf 5 hold their Base by one: see tests/dnf5/test_rows.py.
 @pytest.mark.dnf4
 def test_packages_of_the_table_have_no_dictionary_and_know_their_repository(
     lamp: Tuple[Estate, Program],

@@ -7,15 +7,17 @@ import bz2
 import errno
 import gzip
 import hashlib
+import importlib
 import lzma
 import re
 import shutil
 import subprocess
 from pathlib import Path
-from typing import Callable, Dict, Iterator
+from typing import Any, Callable, Dict, Iterator
 
 import pytest
 from fake_host import FakeHost
+from libraries import by_library
 from program import Program
 from rpmestate import Estate, spec
 
@@ -106,11 +108,11 @@ def test_zchunk_that_cannot_be_read_is_told(tmp_path: Path, monkeypatch: pytest.
     commands.mkdir()
     monkeypatch.setenv("PATH", str(commands))
     with pytest.raises(FileNotFoundError, match="unzck"):
-        list(chunks(str(path)))
+        list(chunks(path))
     (commands / "unzck").write_text("#!/bin/sh\necho part\nexit 1\n")
     (commands / "unzck").chmod(0o755)
     with pytest.raises(OSError, match="unzck cannot read it: .*filelists.xml.zck"):
-        list(chunks(str(path)))
+        list(chunks(path))
 
 
 @pytest.mark.usefixtures("chunk_size", "unzck")
@@ -201,16 +203,29 @@ def test_metadata_whose_reader_is_missing_cost_no_more_than_they_tell(
     assert (host.text("log").count(sentence), host.text("errorlog").count(sentence)) == (1, 1)
 
 
+PLACES = by_library(
+    ("dnf.repo", "Repo", "get_metadata_path"), ("vemyum.dnf5.metadata", "Metadata", "path")
+)
+
 LOG = "* Sat Nov 21 2026 Ada <ada@estate.example> - 1.0-1\n- First"
 
 
-@pytest.mark.dnf4
+def change_places(monkeypatch: pytest.MonkeyPatch, changed: Callable[[str, str, str], str]) -> None:
+    """Where the library says that metadata are: `changed` is asked with a repository's id, the kind and the path."""
+    module, name, method = PLACES
+    owner = getattr(importlib.import_module(module), name)
+    place = getattr(owner, method)
+
+    def elsewhere(*about: Any) -> Any:
+        repo, kind = about[-2:]
+        return changed(repo.id if hasattr(repo, "id") else repo.get_id(), kind, place(*about))
+
+    monkeypatch.setattr(owner, method, elsewhere)
+
+
 def test_repository_whose_metadata_is_not_recognised_costs_only_itself(
     estate: Estate, program: Program, host: FakeHost, tmp_path: Path, monkeypatch: pytest.MonkeyPatch
 ) -> None:
-    from dnf.repo import Repo
-
-    place = Repo.get_metadata_path
     odd = tmp_path / "odd.xml"
     odd.write_text("something else")
     for id, name in (("base", "shed"), ("more", "barn")):
@@ -218,9 +233,7 @@ def test_repository_whose_metadata_is_not_recognised_costs_only_itself(
         estate.repository(id, estate.build([package]))
     found = program.collect()
     shed, barn = found.offered("shed"), found.offered("barn")
-    monkeypatch.setattr(
-        Repo, "get_metadata_path", lambda repo, kind: str(odd) if repo.id == "base" else place(repo, kind)
-    )
+    change_places(monkeypatch, lambda id, _kind, path: str(odd) if id == "base" else path)
     assert found.yumio.collectFileLists() and found.yumio.collectOtherData()
     fault = f"[Errno {errno.EILSEQ}] no package is recognised in it: '{odd}'"
     assert host.text("errorlog").splitlines() == [
@@ -234,29 +247,25 @@ def test_repository_whose_metadata_is_not_recognised_costs_only_itself(
 
 
 @pytest.mark.usefixtures("unzck")
-@pytest.mark.dnf4
 def test_zchunk_metadata_tell_files_changes_and_build_host(
     estate: Estate, program: Program, host: FakeHost, monkeypatch: pytest.MonkeyPatch
 ) -> None:
-    """As where dnf's libraries read zchunk; where they don't, they fetch the other form."""
-    from dnf.repo import Repo
+    """As where the library reads zchunk; where it doesn't, it fetches the other form."""
     from vemyum.records import chunks
 
     asked = set()
-    place = Repo.get_metadata_path
 
-    def zchunk_place(repo: Repo, kind: str) -> str:
-        path = Path(place(repo, kind))
-        copy = path.with_suffix(".zck")
+    def zchunk_place(_id: str, kind: str, path: str) -> str:
+        copy = Path(path).with_suffix(".zck")
         if not copy.exists():
-            zchunk(b"".join(chunks(str(path))), copy)
+            zchunk(b"".join(chunks(path)), copy)
         asked.add(kind)
         return str(copy)
 
     package = spec("shed", "1.0", files={"/usr/share/shed/door": "x"}, changelog=LOG)
     estate.repository("base", estate.build([package]))
     found = program.collect()
-    monkeypatch.setattr(Repo, "get_metadata_path", zchunk_place)
+    change_places(monkeypatch, zchunk_place)
     assert found.yumio.collectFileLists() and found.yumio.collectOtherData()
     shed = found.offered("shed")
     assert shed.returnFileEntries("file") == ["/usr/share/shed/door"]

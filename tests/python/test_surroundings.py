@@ -50,6 +50,15 @@ def test_version_is_dnfs(program: Program) -> None:
     assert program.namespace["yum"].__version__ == dnf.const.VERSION
 
 
+@pytest.mark.dnf5
+def test_version_is_libdnf5s(program: Program) -> None:
+    import libdnf5.conf
+
+    version = libdnf5.conf.get_library_version()
+    assert program.namespace["yum"].__version__ == f"{version.prime}.{version.major}.{version.minor}"
+
+
+# With dnf 5 yum's names are classes of this program's own.
 @pytest.mark.dnf4
 def test_exceptions_by_yums_names_catch_dnfs(program: Program) -> None:
     import dnf.exceptions
@@ -166,6 +175,19 @@ def test_failures_of_dnf_become_the_expected_class(program: Program) -> None:
     )
 
 
+@pytest.mark.dnf5
+def test_failures_of_libdnf5_become_the_expected_class(program: Program, tmp_path: Path) -> None:
+    import libdnf5.conf
+    from vemyum.errors import RepoError, reported_as
+
+    missing = tmp_path / "missing.repo"
+    with pytest.raises(RepoError) as caught:
+        with reported_as(RepoError):
+            libdnf5.conf.ConfigParser().read(str(missing))
+    # The outermost cause and those below it.
+    assert str(missing) in caught.value.value and "No such file or directory" in caught.value.value
+
+
 @pytest.mark.parametrize("error", [BrokenPipeError(32, "Broken pipe"), KeyError("x"), SystemExit(1)])
 def test_other_exceptions_pass(program: Program, error: BaseException) -> None:
     from vemyum.errors import YumBaseError, reported_as
@@ -175,6 +197,7 @@ def test_other_exceptions_pass(program: Program, error: BaseException) -> None:
             raise error
 
 
+# What dnf 5 raises has neither.
 @pytest.mark.dnf4
 def test_text_of_an_exception_is_its_value(program: Program) -> None:
     """The engine shows the attribute `value`; dnf leaves it empty in some of its classes."""
