@@ -11,6 +11,17 @@ from catalogue import Catalogue
 from rpmestate import Estate, install_options
 
 
+LOCK = """
+version = "1.0"
+[[packages]]
+name = "lib"
+[[packages.conditions]]
+key = "evr"
+comparator = "="
+value = "1.0-1"
+"""
+
+
 def refusal(incoming: List[str], removes: List[str], rpms: Catalogue) -> str:
     from vemyum.errors import YumBaseError
 
@@ -67,6 +78,27 @@ def test_nothing_comes_in_with_removals_alone(estate: Estate, rpms: Catalogue) -
     estate.install(rpms.some("lib-1.0", "tool-1.0"))
     estate.repository("base", rpms.some("lib-2.0"))
     assert kinds(Apply([], [rpms["lib-1.0"]]).plan()) == {"lib-1.0": "remove", "tool-1.0": "(remove)"}
+
+
+def test_a_locked_version_stays_and_is_no_update(estate: Estate, rpms: Catalogue) -> None:
+    from vemyum.dnf5 import settings, system
+
+    def updates() -> List[str]:
+        table = system.open_system(settings.read_settings())
+        table.load()
+        return sorted(row.name for row in table.upgrades())
+
+    estate.install(rpms.some("lib-1.0", "tool-1.0"))
+    estate.repository("base", rpms.some("lib-2.0", "tool-2.0"))
+    assert updates() == ["lib", "tool"]
+    locks = estate.root / "etc/dnf/versionlock.toml"
+    locks.parent.mkdir(parents=True, exist_ok=True)
+    locks.write_text(LOCK)
+    assert updates() == ["tool"]
+    # It needs the one that is kept out.
+    assert "lib" in refusal(["tool-2.0"], [], rpms)
+    locks.unlink()
+    assert kinds(Apply([rpms["tool-2.0"]]).plan()) == {"tool-2.0": "upgrade", "lib-2.0": "(upgrade)"}
 
 
 def test_a_protected_package_stays(estate: Estate, rpms: Catalogue) -> None:
