@@ -61,7 +61,9 @@ def test_variable_below_a_link_out_of_the_root_is_that_systems_own(estate: Estat
 
 
 def test_main_file_that_is_missing_asks_for_signatures(estate: Estate, opened: Callable[..., Any]) -> None:  # noqa: F811
-    assert not opened().base.config.pkg_gpgcheck
+    # The library's configuration goes with its Base.
+    base = opened().base
+    assert not base.config.pkg_gpgcheck
     (estate.root / "etc/yum.conf").unlink()
     system = opened()
     assert system.base.config.pkg_gpgcheck
@@ -82,6 +84,39 @@ def test_unclear_check_of_signatures_counts_as_switched_on(
     assert not getattr(base.repository("no").get_config(), name)
     for section in ("main", "base"):
         assert f"[{section}]: {option} counts as switched on" in host.text("errorlog")
+
+
+@pytest.mark.parametrize("folder", ["usr/share/dnf5/libdnf.conf.d", "etc/dnf/libdnf5.conf.d"])
+def test_unclear_check_of_signatures_counts_beside_the_main_file_too(
+    estate: Estate, opened: Callable[..., Any], folder: str  # noqa: F811
+) -> None:
+    def checks() -> bool:
+        base = opened().base
+        return bool(base.config.pkg_gpgcheck)
+
+    place = estate.root / folder
+    place.mkdir(parents=True)
+    main = estate.root / "etc/yum.conf"
+    stated = main.read_text()
+    main.write_text(stated.replace("gpgcheck=0\n", ""))
+    assert not checks()
+    (place / "10-first.conf").write_text("[main]\ngpgcheck=perhaps\n")
+    assert checks()
+    # What comes later counts: another file, and behind all of them the main one.
+    (place / "20-second.conf").write_text("[main]\npkg_gpgcheck=0\n")
+    assert not checks()
+    (place / "20-second.conf").write_text("[main]\npkg_gpgcheck=surely\n")
+    assert checks()
+    main.write_text(f"{main.read_text()}\ngpgcheck=0\n")
+    assert not checks()
+
+
+def test_own_file_takes_the_place_of_its_like(estate: Estate, opened: Callable[..., Any]) -> None:  # noqa: F811
+    for folder, value in (("usr/share/dnf5/libdnf.conf.d", "perhaps"), ("etc/dnf/libdnf5.conf.d", "0")):
+        (estate.root / folder).mkdir(parents=True)
+        (estate.root / folder / "10-first.conf").write_text(f"[main]\nlocalpkg_gpgcheck={value}\n")
+    base = opened().base
+    assert not base.config.localpkg_gpgcheck
 
 
 def test_main_file_that_is_not_utf8_is_named_with_its_line(estate: Estate) -> None:

@@ -7,10 +7,11 @@ the configuration editor takes them to be, so that both speak of the same files.
 
 from __future__ import annotations
 
+import contextlib
 import itertools
 import logging
 import os
-from typing import Dict, Iterable, List, Optional, Sequence, Tuple
+from typing import Dict, Iterable, Iterator, List, Optional, Sequence, Tuple
 
 import libdnf5.base
 import libdnf5.conf
@@ -31,7 +32,7 @@ from ..configuration import (
 )
 from ..database import point_rpm_at
 from ..errors import YumBaseError
-from ..root import as_configured, below, managed_root
+from ..root import as_configured, below, files, managed_root
 from .failures import FAILURES, words
 from .log import LOGGER, Log
 
@@ -47,6 +48,7 @@ _CHECKS = {
 """Options for the check of signatures, with the names by which the library wants them to be set."""
 METADATA = ("comps", "updateinfo", "filelists")
 """What is fetched beside the packages, unless the configuration says something else."""
+_DROP_INS = ("/usr/share/dnf5/libdnf.conf.d", "/etc/dnf/libdnf5.conf.d")
 _PROTECTED = "dnf5"
 _COMMENT = "#"
 _CLASSIC_VARIABLES = "/etc/yum/vars"
@@ -138,7 +140,7 @@ def read_settings() -> Settings:
     log = Log(library)
     try:
         stated = _main_section(path)
-        settings.checks = unclear(stated, "main", None)
+        settings.checks = _unclear_in_main(root, stated)
         settings.load_into(library)
         config = library.get_config()
         variables = _variables(root, config.varsdir)
@@ -186,6 +188,28 @@ def unclear(parser: libdnf5.conf.ConfigParser, section: str, variables: Optional
                 found.append(option)
                 tell_unclear(section, name)
     return found
+
+
+def _unclear_in_main(root: str, main: libdnf5.conf.ConfigParser) -> List[str]:
+    """The same of the main file and the files that the library reads before it; what comes later counts."""
+    found: List[str] = []
+    for parser in (*_drop_ins(root), main):
+        stated = {option for name, option in _CHECKS.items() if parser.has_option("main", name)}
+        found = [option for option in found if option not in stated] + unclear(parser, "main", None)
+    return found
+
+
+def _drop_ins(root: str) -> Iterator[libdnf5.conf.ConfigParser]:
+    found: Dict[str, str] = {}
+    for folder in _DROP_INS:
+        # One of the system's own takes the place of its like.
+        found.update((os.path.basename(path), place) for path, place in files(root, folder, "*.conf"))
+    for _name, place in sorted(found.items()):
+        parser = libdnf5.conf.ConfigParser()
+        # The library tells of one that it cannot read.
+        with contextlib.suppress(*FAILURES):
+            parser.read(place)
+        yield parser
 
 
 def options(section: Iterable[Tuple[str, str]]) -> Dict[str, str]:
