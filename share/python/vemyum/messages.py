@@ -28,6 +28,9 @@ ONLY_IN_FILES = "dnf.vem"
 PYTHONS_WARNINGS = "py.warnings"
 """The logger of what Python warns of, such as something in a plugin. dnf takes it from the standard error."""
 
+# Not texts of this program, for which the extraction of those would take them in a call.
+_RPM_PREFIXES = ("error: ", "warning: ")
+
 _ALL = 2
 """The lowest level that dnf uses; Python's own begin at 10."""
 
@@ -101,7 +104,8 @@ def unheard() -> Iterator[None]:
 def rpm_prefixes() -> Tuple[str, str]:
     """How rpm's lines of errors and of warnings begin: it speaks the user's language. To be asked before it changes the
     root, below which there may be no catalogue."""
-    return locale.dgettext("rpm", "error: "), locale.dgettext("rpm", "warning: ")
+    error, warning = (locale.dgettext("rpm", prefix) for prefix in _RPM_PREFIXES)
+    return error, warning
 
 
 @contextmanager
