@@ -20,6 +20,7 @@ enum StateFilter
     Installable = 1,
     Removable = 2,
     All = 3,
+    Marked = 4, ///< by its mark, whatever its state and kind
 };
 
 } // namespace PackageTable

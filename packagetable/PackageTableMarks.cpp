@@ -9,6 +9,18 @@
 namespace PackageTable
 {
 
+MarkCounts::MarkCounts(YumIO const& yumIO)
+{
+    walkMarks(yumIO, [this](int, Package::Entry const& entry) {
+        if (entry.action == Package::Remove) {
+            ++removals;
+        } else if (entry.action != Package::None) {
+            ++(entry.action == Package::Install ? installs : updates);
+            bytes += entry.size;
+        }
+    });
+}
+
 Marks::Marks(YumIO const& yumIO)
 {
     walkMarks(yumIO, [this](int, Package::Entry const& entry) {

@@ -14,6 +14,17 @@ namespace PackageTable
 
 class Model;
 
+/// How many rows are marked, by what is wanted with them.
+struct MarkCounts
+{
+    qsizetype installs = 0;
+    qsizetype updates = 0;
+    qsizetype removals = 0;
+    unsigned long long bytes = 0; ///< the packages that installations and updates bring
+
+    explicit MarkCounts(YumIO const& yumIO);
+};
+
 /// The marks of a list of packages, to be set again in the list that takes its place. GUI thread.
 class Marks
 {

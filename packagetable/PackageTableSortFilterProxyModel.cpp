@@ -90,6 +90,9 @@ void takeShownTexts(Package::Entry const& entry, QByteArray& line)
 
 bool passesStateAndKind(Package::Entry const& entry, SortFilterProxyModel::Conditions const& wanted)
 {
+    if (wanted.stateFilter == Marked) {
+        return entry.action != Package::None;
+    }
     if (!wanted.groups && entry.kind == Package::Group) {
         return false;
     }
@@ -101,6 +104,7 @@ bool passesStateAndKind(Package::Entry const& entry, SortFilterProxyModel::Condi
     case Removable:
         return entry.state != Package::Available;
     case All:
+    case Marked:
         break;
     }
     return true;
@@ -132,6 +136,13 @@ void SortFilterProxyModel::setStateFilter(StateFilter newStateFilter)
 {
     if (newStateFilter != present.stateFilter) {
         present.stateFilter = newStateFilter;
+        forgetVerdicts();
+    }
+}
+
+void SortFilterProxyModel::marksChanged()
+{
+    if (present.stateFilter == Marked) {
         forgetVerdicts();
     }
 }

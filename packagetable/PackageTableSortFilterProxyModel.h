@@ -33,6 +33,9 @@ public:
     /// The present expression stays and is tried anew in the other way.
     void setMode(Mode mode);
     void setStateFilter(StateFilter stateFilter);
+    /// Rows have been marked, or marks taken away: what shows may depend on that. A row whose mark has been
+    /// changed by itself stays until then.
+    void marksChanged();
     /// Whether rows of the kind Group may show.
     void setGroupsFilter(bool groups);
 

@@ -102,6 +102,11 @@ void View::stateFilterChanged(StateFilter stateFilter)
     proxy->setStateFilter(stateFilter);
 }
 
+void View::marksChanged()
+{
+    proxy->marksChanged();
+}
+
 void View::groupsFilterChanged(bool groups)
 {
     proxy->setGroupsFilter(groups);

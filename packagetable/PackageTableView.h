@@ -48,6 +48,7 @@ public:
     [[nodiscard]] qsizetype count(
         StateFilter stateFilter, bool groups, Qt::CaseSensitivity caseSensitivity) const;
     void stateFilterChanged(StateFilter stateFilter);
+    void marksChanged();
     void groupsFilterChanged(bool groups);
 
     /// Finds out what `resizeColumnsToContents` needs to know, and serves events in between, but no input of

@@ -174,6 +174,7 @@ void MainWindow::rebuild()
     // A search in force tests the new rows, and needs their data before.
     prepareFilterSearch(yumIO->collect(reposEnabled) && view->hasExpression());
     model->reset();
+    showMarks();
 }
 
 void MainWindow::resize()
@@ -193,6 +194,8 @@ void MainWindow::refresh()
 void MainWindow::restore(PackageTable::Marks const& marks)
 {
     qsizetype const lost = marks.restore(*yumIO, *model);
+    view->marksChanged();
+    showMarks();
     statusLine->setWarning(
         lost > 0 ? tr("Actions that are gone with their rows: %1").arg(lost) : regExpEdit->fault());
 }
@@ -376,6 +379,11 @@ void MainWindow::matchesCaseChanged(bool matches)
     isSearching() ? whileBusy(step) : step();
 }
 
+void MainWindow::showMarks()
+{
+    statusLine->setMarks(PackageTable::MarkCounts(*yumIO));
+}
+
 void MainWindow::showRowCounts()
 {
     statusLine->setRows(view->model()->rowCount(), yumIO->count());
@@ -418,6 +426,10 @@ void MainWindow::currentChanged(int current, int)
 
 void MainWindow::stateChanged(int row)
 {
+    if (row == -1) {
+        view->marksChanged();
+    }
+    showMarks();
     auto const isMarked = [](Package::Entry const* entry) { return entry->action != Package::None; };
     if (row != -1 && isMarked((*yumIO)[row])) {
         applyButton->setEnabled(true);

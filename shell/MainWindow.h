@@ -80,6 +80,7 @@ public Q_SLOTS:
     void followTyping();
     void matchesCaseChanged(bool matches);
     void showRowCounts();
+    void showMarks();
     void currentChanged(int current, int previous);
     void stateChanged(int row = -1);
     void modeChanged(int mode);

@@ -110,6 +110,7 @@ QHBoxLayout* MainWindow::createFilterRow()
     stateFilterCombo->addItem(tr("View Installable"), 1);
     stateFilterCombo->addItem(tr("View Removable"), 2);
     stateFilterCombo->addItem(tr("View All"), 3);
+    stateFilterCombo->addItem(tr("View Marked"), 4);
     stateFilterCombo->setToolTip(tr("Filter for those packages which are eligible for updating,\n"
                                     "for installing, or for removing; or show all packages"));
     stateFilterCombo->setAccessibleName(tr("View"));
@@ -194,6 +195,9 @@ void MainWindow::createMainArea()
     new EmptyTableNote(view, yumIO, {modeCombo, regExpEdit, stateFilterCombo, includeGroupsBox});
     statusLine = new StatusLine(tableArea);
     inner->addWidget(statusLine);
+    connect(statusLine, &StatusLine::marksWanted, this, [this] {
+        stateFilterCombo->setCurrentIndex(PackageTable::Marked);
+    });
     connect(view->model(), &QAbstractItemModel::modelReset, this, &MainWindow::showRowCounts);
     connect(view->selectionModel(), &QItemSelectionModel::selectionChanged, this, &MainWindow::showRowCounts);
 

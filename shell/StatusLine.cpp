@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "shell/StatusLine.h"
 
+#include "engine/YumIO.h"
+#include "packagetable/PackageTableMarks.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QStyle>
@@ -9,6 +12,7 @@ StatusLine::StatusLine(QWidget* parent)
     : QWidget(parent),
       rows(new QLabel(this)),
       selected(new QLabel(this)),
+      marks(new QLabel(this)),
       sign(new QLabel(this)),
       warning(new QLabel(this))
 {
@@ -28,8 +32,13 @@ StatusLine::StatusLine(QWidget* parent)
     warning->setTextInteractionFlags(Qt::TextSelectableByMouse);
     line->addWidget(rows);
     line->addWidget(selected);
+    line->addWidget(marks);
     line->addWidget(sign);
     line->addWidget(warning, 1);
+    marks->setTextFormat(Qt::RichText);
+    marks->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    marks->hide();
+    connect(marks, &QLabel::linkActivated, this, &StatusLine::marksWanted);
     setSelected(0);
     setWarning(QString());
 }
@@ -43,6 +52,31 @@ void StatusLine::setSelected(qsizetype count)
 {
     selected->setText(tr("%1 selected").arg(count));
     selected->setVisible(count > 0);
+}
+
+void StatusLine::setMarks(PackageTable::MarkCounts const& counts)
+{
+    QStringList kinds;
+    auto const add = [&kinds](qsizetype count, QString const& one, QString const& several) {
+        if (count > 0) {
+            kinds.append(count == 1 ? one : several.arg(count));
+        }
+    };
+    add(counts.installs, tr("1 install"), tr("%1 installs"));
+    add(counts.updates, tr("1 update"), tr("%1 updates"));
+    add(counts.removals, tr("1 removal"), tr("%1 removals"));
+    //: %1 is a number, %2 something like "2 installs, 1 removal"
+    QString words = tr("%1 marked: %2")
+                        .arg(
+                            QString::number(counts.installs + counts.updates + counts.removals),
+                            kinds.join(QLatin1String(", ")));
+    if (counts.bytes > 0) {
+        //: %1 is the sentence about marks, %2 a size
+        words = tr("%1; %2 to download").arg(words, YumIO::bytesFormat(counts.bytes));
+    }
+    marks->setText(QStringLiteral("<a href=\"marks\">%1</a>").arg(words.toHtmlEscaped()));
+    marks->setAccessibleName(words);
+    marks->setVisible(!kinds.isEmpty());
 }
 
 void StatusLine::setWarning(QString const& words)

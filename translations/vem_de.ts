@@ -570,6 +570,10 @@ Das Fenster bleibt offen, bis das zu Ende ist.</translation>
         <source>Actions that are gone with their rows: %1</source>
         <translation>Aktionen, die mit ihren Zeilen weggefallen sind: %1</translation>
     </message>
+    <message>
+        <source>View Marked</source>
+        <translation>Markierte anzeigen</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>
@@ -1468,6 +1472,40 @@ Lässt sich für eine einzelne Sitzung übersteuern.</translation>
     <message>
         <source>%1 selected</source>
         <translation>%1 ausgewählt</translation>
+    </message>
+    <message>
+        <source>1 install</source>
+        <translation>1 Installation</translation>
+    </message>
+    <message>
+        <source>%1 installs</source>
+        <translation>%1 Installationen</translation>
+    </message>
+    <message>
+        <source>1 update</source>
+        <translation>1 Aktualisierung</translation>
+    </message>
+    <message>
+        <source>%1 updates</source>
+        <translation>%1 Aktualisierungen</translation>
+    </message>
+    <message>
+        <source>1 removal</source>
+        <translation>1 Entfernung</translation>
+    </message>
+    <message>
+        <source>%1 removals</source>
+        <translation>%1 Entfernungen</translation>
+    </message>
+    <message>
+        <source>%1 marked: %2</source>
+        <extracomment>%1 is a number, %2 something like &quot;2 installs, 1 removal&quot;</extracomment>
+        <translation>%1 markiert: %2</translation>
+    </message>
+    <message>
+        <source>%1; %2 to download</source>
+        <extracomment>%1 is the sentence about marks, %2 a size</extracomment>
+        <translation>%1; %2 herunterzuladen</translation>
     </message>
 </context>
 <context>

@@ -570,6 +570,10 @@ La ventana permanece abierta hasta que termine.</translation>
         <source>Actions that are gone with their rows: %1</source>
         <translation>Acciones perdidas con sus filas: %1</translation>
     </message>
+    <message>
+        <source>View Marked</source>
+        <translation>Ver marcados</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>
@@ -1468,6 +1472,40 @@ Se puede cambiar para una sesión concreta.</translation>
     <message>
         <source>%1 selected</source>
         <translation>%1 seleccionados</translation>
+    </message>
+    <message>
+        <source>1 install</source>
+        <translation>1 instalación</translation>
+    </message>
+    <message>
+        <source>%1 installs</source>
+        <translation>%1 instalaciones</translation>
+    </message>
+    <message>
+        <source>1 update</source>
+        <translation>1 actualización</translation>
+    </message>
+    <message>
+        <source>%1 updates</source>
+        <translation>%1 actualizaciones</translation>
+    </message>
+    <message>
+        <source>1 removal</source>
+        <translation>1 eliminación</translation>
+    </message>
+    <message>
+        <source>%1 removals</source>
+        <translation>%1 eliminaciones</translation>
+    </message>
+    <message>
+        <source>%1 marked: %2</source>
+        <extracomment>%1 is a number, %2 something like &quot;2 installs, 1 removal&quot;</extracomment>
+        <translation>%1 marcados: %2</translation>
+    </message>
+    <message>
+        <source>%1; %2 to download</source>
+        <extracomment>%1 is the sentence about marks, %2 a size</extracomment>
+        <translation>%1; %2 por descargar</translation>
     </message>
 </context>
 <context>

@@ -570,6 +570,10 @@ La fenêtre reste ouverte jusqu’à la fin de l’opération.</translation>
         <source>Actions that are gone with their rows: %1</source>
         <translation>Actions disparues avec leurs lignes : %1</translation>
     </message>
+    <message>
+        <source>View Marked</source>
+        <translation>Voir marqués</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>
@@ -1468,6 +1472,40 @@ Peut être modifié pour une session donnée.</translation>
     <message>
         <source>%1 selected</source>
         <translation>%1 sélectionnés</translation>
+    </message>
+    <message>
+        <source>1 install</source>
+        <translation>1 installation</translation>
+    </message>
+    <message>
+        <source>%1 installs</source>
+        <translation>%1 installations</translation>
+    </message>
+    <message>
+        <source>1 update</source>
+        <translation>1 mise à jour</translation>
+    </message>
+    <message>
+        <source>%1 updates</source>
+        <translation>%1 mises à jour</translation>
+    </message>
+    <message>
+        <source>1 removal</source>
+        <translation>1 suppression</translation>
+    </message>
+    <message>
+        <source>%1 removals</source>
+        <translation>%1 suppressions</translation>
+    </message>
+    <message>
+        <source>%1 marked: %2</source>
+        <extracomment>%1 is a number, %2 something like &quot;2 installs, 1 removal&quot;</extracomment>
+        <translation>%1 marqués : %2</translation>
+    </message>
+    <message>
+        <source>%1; %2 to download</source>
+        <extracomment>%1 is the sentence about marks, %2 a size</extracomment>
+        <translation>%1 ; %2 à télécharger</translation>
     </message>
 </context>
 <context>

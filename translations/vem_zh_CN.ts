@@ -570,6 +570,10 @@ The window stays open until that has come to its end.</source>
         <source>Actions that are gone with their rows: %1</source>
         <translation>随行一起消失的操作：%1</translation>
     </message>
+    <message>
+        <source>View Marked</source>
+        <translation>查看已标记</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>
@@ -1468,6 +1472,40 @@ It can be overridden for a particular session.</source>
     <message>
         <source>%1 selected</source>
         <translation>已选 %1</translation>
+    </message>
+    <message>
+        <source>1 install</source>
+        <translation>安装 1</translation>
+    </message>
+    <message>
+        <source>%1 installs</source>
+        <translation>安装 %1</translation>
+    </message>
+    <message>
+        <source>1 update</source>
+        <translation>更新 1</translation>
+    </message>
+    <message>
+        <source>%1 updates</source>
+        <translation>更新 %1</translation>
+    </message>
+    <message>
+        <source>1 removal</source>
+        <translation>移除 1</translation>
+    </message>
+    <message>
+        <source>%1 removals</source>
+        <translation>移除 %1</translation>
+    </message>
+    <message>
+        <source>%1 marked: %2</source>
+        <extracomment>%1 is a number, %2 something like &quot;2 installs, 1 removal&quot;</extracomment>
+        <translation>已标记 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1; %2 to download</source>
+        <extracomment>%1 is the sentence about marks, %2 a size</extracomment>
+        <translation>%1；需下载 %2</translation>
     </message>
 </context>
 <context>

@@ -152,7 +152,8 @@ private Q_SLOTS:
             choices, QList<QStringList>(
                          {{QStringLiteral("Filter=0"), QStringLiteral("Search=1")},
                           {QStringLiteral("View Updatable=0"), QStringLiteral("View Installable=1"),
-                           QStringLiteral("View Removable=2"), QStringLiteral("View All=3")}}));
+                           QStringLiteral("View Removable=2"), QStringLiteral("View All=3"),
+                           QStringLiteral("View Marked=4")}}));
         QCOMPARE(window->findChild<QLineEdit*>()->text(), QStringLiteral(".*"));
         auto* const groups = window->findChild<QCheckBox*>();
         QCOMPARE(groups->text(), QStringLiteral("Include Groups"));

@@ -65,6 +65,36 @@ private Q_SLOTS:
         QVERIFY(!tells(QStringLiteral("Actions that are gone with their rows: 1")));
     }
 
+    void theStatusLineCountsMarksAndLeadsToThem()
+    {
+        window->clearActions();
+        clickAction(QStringLiteral("alder"));
+        clickAction(QStringLiteral("hazel"));
+        clickAction(QStringLiteral("cedar"));
+        auto* const line = window->findChild<StatusLine*>();
+        auto const labels = line->findChildren<QLabel*>();
+        auto const at = std::ranges::find_if(labels, [](QLabel const* label) {
+            return label->accessibleName() ==
+                   QLatin1String("3 marked: 1 install, 1 update, 1 removal; 244Kb to download");
+        });
+        QVERIFY(at != labels.end());
+        QVERIFY((*at)->isVisible());
+        Q_EMIT(*at)->linkActivated(QStringLiteral("marks"));
+        QCOMPARE(
+            names(),
+            QStringList({QStringLiteral("alder"), QStringLiteral("cedar"), QStringLiteral("hazel")}));
+        // A row stays until something else changes, so that the click can be taken back.
+        clickAction(QStringLiteral("alder"));
+        clickAction(QStringLiteral("alder"));
+        QCOMPARE(names().size(), 3);
+        refresh();
+        QCOMPARE(names(), QStringList({QStringLiteral("cedar"), QStringLiteral("hazel")}));
+        window->clearActions();
+        QCOMPARE(names(), QStringList());
+        QVERIFY(!(*at)->isVisible());
+        window->findChildren<QComboBox*>().at(1)->setCurrentIndex(3);
+    }
+
     void noMarkSurvivesAnApply()
     {
         window->clearActions();
