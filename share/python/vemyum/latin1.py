@@ -8,8 +8,11 @@ texts and in names of files. Such bytes are read here as the characters that the
 from __future__ import annotations
 
 import codecs
-from typing import Optional, Tuple
+import logging
+from typing import List, Optional, Tuple
 
+from .errors import os_error_text
+from .messages import LOGGER
 from .texts import _
 
 _UTF8_ELSE_LATIN1 = "vem.latin1"
@@ -43,3 +46,21 @@ def fault(path: str, content: bytes) -> Optional[str]:
             path=path, line=line
         )
     return None
+
+
+def content_of(path: str, refused: List[str]) -> Optional[Tuple[bytes, bool]]:
+    """What is in a repository file, and whether it is to be read as `decoded`, of which the log then tells. None for a
+    file that can't be opened, which holds nothing; why is added to `refused`, unless it isn't there."""
+    logger = logging.getLogger(LOGGER)
+    try:
+        with open(path, "rb") as file:
+            content = file.read()
+    except OSError as error:
+        if not isinstance(error, FileNotFoundError):
+            logger.warning("%s", os_error_text(error))
+            refused.append(os_error_text(error))
+        return None
+    oddity = fault(path, content)
+    if oddity is not None:
+        logger.warning("%s", oddity)
+    return content, oddity is not None

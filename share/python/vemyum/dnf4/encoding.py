@@ -15,8 +15,7 @@ import dnf.exceptions
 import libdnf.conf
 
 from ..configuration import repository_files
-from ..errors import os_error_text
-from ..latin1 import decoded, fault
+from ..latin1 import content_of, decoded
 from ..sections import RepositorySection
 from ..text import valid
 from .configuration import check_signatures_unless_told, library_words
@@ -101,20 +100,10 @@ def _utf8_file(path: str, refused: List[str]) -> Iterator[str]:
     Only those bytes that can't be UTF-8 count as Latin-1. A file that can't be opened is left to the reader,
     for whom it is an empty one; why is added to `refused`.
     """
-    try:
-        with open(path, "rb") as file:
-            content = file.read()
-    except OSError as error:
-        if not isinstance(error, FileNotFoundError):
-            logging.getLogger("dnf").warning("%s", os_error_text(error))
-            refused.append(os_error_text(error))
+    content, is_odd = content_of(path, refused) or (b"", False)
+    if not is_odd:
         yield path
         return
-    oddity = fault(path, content)
-    if oddity is None:
-        yield path
-        return
-    logging.getLogger("dnf").warning("%s", oddity)
     # For its owner's eyes only: an address may hold a password.
     with tempfile.NamedTemporaryFile(prefix="vem-", suffix=".repo") as copy:
         copy.write(decoded(content).encode("utf-8"))

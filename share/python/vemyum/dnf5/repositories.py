@@ -17,8 +17,7 @@ import libdnf5.exception
 import libdnf5.repo
 
 from ..configuration import repository_files
-from ..errors import os_error_text
-from ..latin1 import decoded, fault
+from ..latin1 import content_of, decoded
 from ..root import files
 from ..sections import RepositorySection
 from ..text import valid
@@ -113,18 +112,10 @@ class RepositoryReader:
 
     def _sections_of(self, path: str) -> Iterator[_Section]:
         """The library's failures name the file."""
-        try:
-            with open(path, "rb") as file:
-                content = file.read()
-        except OSError as error:
-            if not isinstance(error, FileNotFoundError):
-                self._said.warning("%s", os_error_text(error))
-                self.refused.append(os_error_text(error))
+        found = content_of(path, self.refused)
+        if found is None:
             return
-        oddity = fault(path, content)
-        if oddity is not None:
-            self._said.warning("%s", oddity)
-        for section in _parsed(path, content, oddity is not None):
+        for section in _parsed(path, *found):
             if section.name != "main":
                 yield section
 
