@@ -8,13 +8,11 @@ both speak of the same files. Every path of them lies below the root.
 from __future__ import annotations
 
 import contextlib
-import logging
 import os
 from typing import Dict, Iterable, Iterator, List, Mapping, NamedTuple, Optional, Sequence, Tuple
 
 from . import rights
 from .errors import YumBaseError
-from .messages import LOGGER
 from .root import below, files, managed_root, within
 from .texts import _
 
@@ -104,11 +102,11 @@ def require_utf8(file: str, stumble: Exception) -> None:
         ) from stumble
 
 
-def tell_unclear(section: str, option: str) -> None:
+def unclear_check(section: str, option: str) -> str:
     """That a section says something else than yes or no about a check of signatures. A library reports such a value and
     goes on as if it weren't there, which may mean without a check."""
     text = _("[{section}]: {option} counts as switched on, since its value is neither yes nor no")
-    logging.getLogger(LOGGER).error("%s", text.format(section=section, option=option))
+    return text.format(section=section, option=option)
 
 
 def repository_files(root: str, main: str, directories: Iterable[str]) -> List[str]:

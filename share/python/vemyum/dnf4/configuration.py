@@ -26,7 +26,7 @@ from ..configuration import (
     protected_packages,
     regular_main_file,
     require_utf8,
-    tell_unclear,
+    unclear_check,
     variable,
     variable_files,
 )
@@ -117,7 +117,7 @@ def check_signatures_unless_told(settings: Any, parser: libdnf.conf.ConfigParser
                 libdnf.conf.OptionBool(True).fromString(parser.getSubstitutedValue(section, name))
             except RuntimeError:
                 settings._set_value(name, True, priority)
-                tell_unclear(section, name)
+                logging.getLogger("dnf").error("%s", unclear_check(section, name))
 
 
 @contextlib.contextmanager

@@ -26,7 +26,7 @@ from ..configuration import (
     protected_packages,
     regular_main_file,
     require_utf8,
-    tell_unclear,
+    unclear_check,
     variable,
     variable_files,
 )
@@ -186,7 +186,7 @@ def unclear(parser: libdnf5.conf.ConfigParser, section: str, variables: Optional
                 libdnf5.conf.OptionBool(True).from_string(value if variables is None else variables.substitute(value))
             except libdnf5.exception.OptionError:
                 found.append(option)
-                tell_unclear(section, name)
+                logging.getLogger(LOGGER).error("%s", unclear_check(section, name))
     return found
 
 
