@@ -1,14 +1,14 @@
 # SPDX-License-Identifier: GPL-2.0-or-later
 """Packages as the table reads them.
 
-Tens of thousands are made and read in one go. The library's objects become rows by getting another class, whose
-attributes are the library's functions themselves, without a Python function between. A row holds the Base that it is of:
-the library ends the process when a package is asked for anything after its Base has gone.
+Tens of thousands are made and read in one go. The library's own objects for packages would each have a dictionary, and
+look themselves up in it for every value. A row has nothing but what the library's functions want: they take whatever has
+the attribute `this`, and a row's attributes are these functions themselves, without a Python function between.
 """
 
 from __future__ import annotations
 
-from typing import Any, Callable, Iterable, List, Optional
+from typing import Any, Callable, Iterable, Iterator, List, Optional
 
 import libdnf5.rpm
 
@@ -18,6 +18,7 @@ from ..text import valid
 from .base import Base
 
 _functions = libdnf5.rpm._rpm
+_Package = libdnf5.rpm.Package
 
 
 def _text(function: Callable[[Any], str]) -> property:
@@ -30,8 +31,22 @@ def _optional(function: Callable[[Any], str]) -> property:
     return property(lambda row: valid(function(row)) or None)
 
 
-class Row(libdnf5.rpm.Package):  # type: ignore[misc]
-    """A package of a repository. See `backend.Row`; the attribute `base` holds the Base."""
+class Row:
+    """A package of a repository. See `backend.Row`; it has the methods of the library's packages, too.
+
+    It holds the Base that it is of: the library ends the process when a package is asked for anything after its Base has
+    gone.
+    """
+
+    __slots__ = ("this", "base")
+    # With each value the library's functions spell out the name of the type, which takes as long as the rest if a module
+    # stands before it.
+    __module__ = "builtins"
+
+    def __init__(self, this: Any, base: Base) -> None:
+        """`this` is the attribute of that name of one of the library's packages."""
+        self.this = this
+        self.base = base
 
     name = property(_functions.Package_get_name)
     arch = property(_functions.Package_get_arch)
@@ -41,9 +56,10 @@ class Row(libdnf5.rpm.Package):  # type: ignore[misc]
     evr = property(_functions.Package_get_evr)
     size = property(_functions.Package_get_download_size)
     reponame = property(_functions.Package_get_repo_id)
-    summary = _text(_functions.Package_get_summary)
+    # Of these two the table wants everyone's, and the engine takes them whatever their bytes.
+    summary = property(_functions.Package_get_summary)
+    group = property(_functions.Package_get_group)
     description = _text(_functions.Package_get_description)
-    group = _text(_functions.Package_get_group)
     vendor = _optional(_functions.Package_get_vendor)
     sourcerpm = _optional(_functions.Package_get_sourcerpm)
     license = _optional(_functions.Package_get_license)
@@ -52,12 +68,25 @@ class Row(libdnf5.rpm.Package):  # type: ignore[misc]
     buildtime = property(_functions.Package_get_build_time)
     location = _optional(_functions.Package_get_location)
 
+    __eq__ = _Package.__eq__
+    __ne__ = _Package.__ne__
+    __lt__ = _Package.__lt__
+    __hash__ = _Package.__hash__
+
     def __str__(self) -> str:
         return str(self.get_nevra())
 
 
+for _name, _method in vars(_Package).items():
+    if callable(_method) and not _name.startswith("_"):
+        setattr(Row, _name, _method)
+
+
 class InstalledRow(Row):
     """A package of the rpm database."""
+
+    __slots__ = ()
+    __module__ = Row.__module__
 
     size = property(_functions.Package_get_install_size)
     vendor = property(lambda row: _stated(_functions.Package_get_vendor(row)))
@@ -70,18 +99,34 @@ def _stated(vendor: str) -> Optional[str]:
 
 
 def rows(packages: Iterable[Any], base: Base, kind: type = Row) -> List[Any]:
-    """The packages of a query as rows."""
-    found = list(packages)
-    for package in found:
-        package.__class__ = kind
-        package.base = base
-    return found
+    """Packages as rows."""
+    if isinstance(packages, libdnf5.rpm.PackageSet):
+        packages = _each(packages)
+    return [kind(package.this, base) for package in packages]
 
 
-def dependencies(found: Iterable[Any]) -> List[Dependency]:
-    return [
-        dependency(str(reldep), reldep.get_name(), reldep.get_relation(), reldep.get_version()) for reldep in found
-    ]
+def _each(packages: libdnf5.rpm.PackageSet) -> Iterator[Any]:
+    """As the library's own iterator, which goes through several Python functions for each package."""
+    iterator = packages.begin()
+    place = iterator.this
+    value, step = _functions.PackageSetIterator_value, _functions.PackageSetIterator_next
+    for _number in range(packages.size()):
+        yield value(place)
+        step(place)
+
+
+def dependencies(found: libdnf5.rpm.ReldepList) -> List[Dependency]:
+    these, get = found.this, _functions.ReldepList_get
+    return [_dependency(get(these, number).this) for number in range(_functions.ReldepList_size(these))]
+
+
+def _dependency(this: Any) -> Dependency:
+    return dependency(
+        _functions.Reldep_to_string(this),
+        _functions.Reldep_get_name(this),
+        _functions.Reldep_get_relation(this),
+        _functions.Reldep_get_version(this),
+    )
 
 
 def checksum(row: Any) -> Optional[str]:

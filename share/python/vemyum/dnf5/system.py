@@ -69,6 +69,7 @@ class System:
         self._asks_for_keys = asks_for_keys
         self._installed: List[Any] = []
         self._base: Optional[Base] = None
+        self._database: Optional[rpm.TransactionSet] = None
         self._loaded = False
         base = self._opened(sections)
         self._sections = base.sections
@@ -289,13 +290,12 @@ class System:
         return dependencies(getattr(row, f"get_{kind}")())
 
     def header(self, row: Any) -> Any:
-        transaction = rpm.TransactionSet(self.settings.root)
-        try:
+        if self._database is None:
+            # Kept open: a search asks for thousands of headers.
             point_rpm_at(self.settings.root)
-            for header in transaction.dbMatch(rpm.RPMDBI_PACKAGES, row.get_rpmdbid()):
-                return header
-        finally:
-            transaction.closeDB()
+            self._database = rpm.TransactionSet(self.settings.root)
+        for header in self._database.dbMatch(rpm.RPMDBI_PACKAGES, row.get_rpmdbid()):
+            return header
         raise FileNotFoundError(errno.ENOENT, os.strerror(errno.ENOENT), str(row))
 
     def local_path(self, row: Any) -> Optional[str]:
@@ -318,6 +318,7 @@ class System:
     def close(self) -> None:
         self._base = None
         self._installed = []
+        self._database = None
 
 
 def open_system(settings: Settings, sections: Optional[Sequence[RepositorySection]] = None) -> System:
