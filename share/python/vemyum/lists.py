@@ -7,7 +7,7 @@ within each list is part of the result: native architecture first, newest versio
 
 from __future__ import annotations
 
-from functools import cmp_to_key
+from functools import cached_property, cmp_to_key
 from operator import attrgetter
 from typing import Dict, FrozenSet, Iterable, List
 
@@ -40,7 +40,7 @@ class Collector:
         self._details = details
         self.updatable: FrozenSet[str] = frozenset()
         self.installed_names: FrozenSet[str] = frozenset()
-        self.available_names: FrozenSet[str] = frozenset()
+        self._available: List[Row] = []
 
     def updates(self) -> List[AvailablePackage]:
         """Newer versions of installed packages, and packages that make installed ones obsolete."""
@@ -65,11 +65,16 @@ class Collector:
         self.installed_names = _names(installed)
         self._check_installed(len(installed))
         available = self._best_first(self._system.available())
-        self.available_names = _names(available)
+        self._available = available
         return PackageLists(
             [InstalledPackage(row, self._details) for row in installed],
             [AvailablePackage(row, self._details) for row in available],
         )
+
+    @cached_property
+    def available_names(self) -> FrozenSet[str]:
+        """Made when the first apply asks for them: they take as much memory as a tenth of the table."""
+        return _names(self._available)
 
     @classmethod
     def known_installed(cls, root: str) -> int:
