@@ -9,24 +9,42 @@ VEM_BENCH_SCRIPT names the program's helper script, VEM_BENCH_TIMES the file for
 from __future__ import annotations
 
 import functools
+import importlib
 import inspect
 import os
 import sys
 import time
-from typing import Any, Callable, List
+from typing import Any, Callable, List, Tuple
 
 sys.path[0] = os.path.dirname(os.environ["VEM_BENCH_SCRIPT"])
 
-import dnf  # noqa: E402
 from vemyum import choice  # noqa: E402
 
-choice.settle(sys.argv[3])
+_BACKEND = sys.argv[3]
+choice.settle(_BACKEND)
 
 from vemyum.apply import child  # noqa: E402
 
-_DNF_WORK = (
-    "read_all_repos fill_sack resolve download_packages do_transaction package_signature_check close".split()
-)
+
+def _dnf_work() -> List[Tuple[Any, str]]:
+    """The classes of the library that do what an apply is about, each with the names of the functions."""
+    if _BACKEND == choice.DNF4:
+        import dnf
+
+        names = "read_all_repos fill_sack resolve download_packages do_transaction package_signature_check close"
+        return [(dnf.Base, names)]
+    import libdnf5.base
+    import libdnf5.repo
+
+    return [
+        (libdnf5.base.Base, "load_config setup"),
+        (libdnf5.repo.RepoSackWeakPtr, "load_repos"),
+        (libdnf5.base.Goal, "resolve"),
+        (libdnf5.repo.PackageDownloader, "download"),
+        (libdnf5.base.Transaction, "check_gpg_signatures test run"),
+    ]
+
+
 
 # Now: during a transaction, paths may mean something else.
 _output = open(os.environ["VEM_BENCH_TIMES"], "w", encoding="utf-8")  # noqa: SIM115
@@ -77,10 +95,10 @@ def _tell(end: Callable[..., None]) -> Callable[..., None]:
 def _measured(work: Callable[..., Any]) -> Callable[..., Any]:
     def measured(*arguments: Any) -> Any:
         # Not before: these want the host module, which is made when the process begins.
-        from vemyum.dnf4 import display
-
-        for name in _DNF_WORK:
-            setattr(dnf.Base, name, _dnf.timed(getattr(dnf.Base, name), True))
+        display = importlib.import_module(f"vemyum.{_BACKEND}.display")
+        for kind, names in _dnf_work():
+            for name in names.split():
+                setattr(kind, name, _dnf.timed(getattr(kind, name), True))
         for name, function in inspect.getmembers(display.Display, inspect.isfunction):
             if name in vars(display.Display) and not name.startswith("__"):
                 setattr(display.Display, name, _dnf.timed(function, False))

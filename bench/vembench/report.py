@@ -7,13 +7,28 @@ import contextlib
 import os
 import platform
 from pathlib import Path
-from typing import Iterable, Mapping, Sequence
+from typing import Iterable, Mapping, NamedTuple, Optional, Sequence
 
-from .rows import ROWS, Figure, Row
+from vemyum.choice import DNF4, NAMES
+
+from .rows import LISTING, UPGRADE, Figure, Row, rows_of
 from .samples import Samples
 
 Times = Mapping[str, Mapping[int, float]]
 """By scenario and number of packages: seconds."""
+
+
+class Measured(NamedTuple):
+    """What has been measured with a package library: the program, and the library's own command line."""
+
+    backend: str
+    samples: Samples
+    dnf: Samples
+    first: Optional[Samples] = None
+    """The program's with the first library of the run, where this is another one."""
+
+    def figures(self, wanted: Iterable[str]) -> list[Figure]:
+        return figures(self.samples, self.dnf, wanted, self.backend, self.first)
 
 
 def machine() -> str:
@@ -26,8 +41,10 @@ def machine() -> str:
     return ", ".join(words)
 
 
-def figures(samples: Samples, dnf: Samples, wanted: Iterable[str]) -> list[Figure]:
-    found = [row.figure(samples, dnf) for row in ROWS if row.id in set(wanted)]
+def figures(
+    samples: Samples, dnf: Samples, wanted: Iterable[str], backend: str = DNF4, first: Optional[Samples] = None
+) -> list[Figure]:
+    found = [row.figure(samples, dnf, first) for row in rows_of(backend) if row.id in set(wanted)]
     return [figure for figure in found if figure is not None]
 
 
@@ -96,31 +113,32 @@ def scale_table(times: Times) -> list[str]:
     return table(("packages", *(f"{size:,}" for size in sizes)), "l" + "r" * len(sizes), rows)
 
 
-def report(
-    samples: Samples, dnf: Samples, wanted: Sequence[str], packages: int, runs: int, scale: Times
-) -> str:
+def report(measured: Sequence[Measured], wanted: Sequence[str], packages: int, runs: int, scale: Times) -> str:
     lines = [f"# What VEM costs on {packages:,} packages", ""]
     lines += [f"Warm caches, medians of {runs} runs (of slow ones fewer), in turns with dnf's."]
     lines += [f"Machine: {machine()}. Written by `bench/run`.", ""]
-    lines += main_table(figures(samples, dnf, wanted))
+    lines += main_table([figure for one in measured for figure in one.figures(wanted)])
     lines += ["", "A row's figure is its worst case, which stands in brackets.", ""]
-    lines += ["## Single figures", ""]
-    lines += ["In the units of the table above; start, refresh and upgrade in seconds, memory in MiB."]
-    lines += ["", *single_table(samples, (row for row in ROWS if row.id in wanted)), ""]
-    lines += peers(samples, dnf)
+    for one in measured:
+        with_which = f" with {NAMES[one.backend]}" if len(measured) > 1 else ""
+        lines += [f"## Single figures{with_which}", ""]
+        lines += ["In the units of the table above; start, refresh and upgrade in seconds, memory in MiB."]
+        lines += ["", *single_table(one.samples, (row for row in rows_of(one.backend) if row.id in wanted)), ""]
+        lines += peers(one)
     if scale:
         lines += ["## Other sizes", "", *scale_table(scale), ""]
     return "\n".join(lines)
 
 
-def peers(samples: Samples, dnf: Samples) -> list[str]:
+def peers(measured: Measured) -> list[str]:
     """What stands beside the rows: dnf's own figures, and where an apply's time goes."""
+    backend, samples, dnf, _first = measured
     rows = []
     for name, what, unit in (
-        ("seconds", "`dnf -q list -C`", "s"),
+        ("seconds", f"`{LISTING[backend]}`", "s"),
         ("mebibytes", "its peak memory", "MiB"),
         ("lines", "lines that it lists", ""),
-        ("upgrade", "`dnf -C -y upgrade`, the same 2,000 updates", "s"),
+        ("upgrade", f"`{UPGRADE[backend]}`, the same 2,000 updates", "s"),
     ):
         if name in dnf:
             rows.append((what, f"{dnf.median(name):.{2 if unit == 's' else 0}f} {unit}".strip()))
@@ -133,12 +151,11 @@ def peers(samples: Samples, dnf: Samples) -> list[str]:
     return ["## Beside it", "", *table(("what", ""), "lr", rows), ""] if rows else []
 
 
-def pair_report(
-    both: tuple[Samples, Samples], names: tuple[str, str], dnf: Samples, wanted: Sequence[str], runs: int
-) -> str:
-    first, second = (figures(samples, dnf, wanted) for samples in both)
+def pair_report(both: tuple[Measured, Measured], names: tuple[str, str], wanted: Sequence[str], runs: int) -> str:
+    first, second = (one.figures(wanted) for one in both)
     lines = [f"# {names[0]} beside {names[1]}", ""]
     lines += [f"Medians of {runs} alternating runs. Machine: {machine()}."]
     lines += ["", *pair_table(first, second, ("first", "second")), "", "## Single figures", ""]
-    lines += [*single_pairs(*both, (row for row in ROWS if row.id in wanted)), ""]
+    shown = (row for row in rows_of(both[0].backend) if row.id in wanted)
+    lines += [*single_pairs(both[0].samples, both[1].samples, shown), ""]
     return "\n".join(lines)

@@ -16,6 +16,7 @@ from pathlib import Path
 from typing import Any, Iterator, Mapping, Optional, Sequence
 
 from rpmestate import Estate
+from vemyum import choice
 
 DNF_MODULE = "import sys; from dnf.cli import main; main.user_main(sys.argv[1:], exit_code=True)"
 LONGEST_RUN_SECONDS = 600
@@ -50,12 +51,14 @@ class Build:
 
 
 class Ground:
-    """What all runs of one benchmark share: the driver, a display, and a home without settings."""
+    """What runs of one benchmark share: the driver, a display, a home without settings, and the package library, which
+    is that of the dnf beside, too."""
 
-    def __init__(self, driver: Path, home: Path, environment: Mapping[str, str]) -> None:
+    def __init__(self, driver: Path, home: Path, environment: Mapping[str, str], backend: str) -> None:
         self.driver = driver
         self.home = home
-        self.environment = {**os.environ, "LC_ALL": "C.UTF-8"}
+        self.backend = backend
+        self.environment = {**os.environ, "LC_ALL": "C.UTF-8", choice.VARIABLE: backend}
         self._shown = dict(environment)
 
     def dnf(self, estate: Estate, *words: str) -> DnfRun:
@@ -63,7 +66,7 @@ class Ground:
         with tempfile.TemporaryFile() as output, tempfile.TemporaryFile() as said:
             start = time.monotonic()
             process = subprocess.Popen(
-                dnf_command(estate.root, *words),
+                dnf_command(self.backend, estate.root, *words),
                 env={**estate.command_environment(), "LC_ALL": "C.UTF-8"},
                 stdin=subprocess.DEVNULL,
                 stdout=output,
@@ -76,7 +79,8 @@ class Ground:
             if process.returncode != 0:
                 said.seek(0)
                 text = said.read().decode(errors="replace").strip()[-800:]
-                raise BenchError(f"dnf {' '.join(words)} ended with status {process.returncode}. {text}")
+                command = f"{self.backend} {' '.join(words)}"
+                raise BenchError(f"{command} ended with status {process.returncode}. {text}")
             output.seek(0)
             lines = sum(block.count(b"\n") for block in iter(lambda: output.read(1 << 20), b""))
         return DnfRun(seconds, usage.ru_maxrss / 1024, lines)
@@ -149,11 +153,20 @@ def parsed(text: str) -> list[dict[str, Any]]:
     return lines
 
 
-def dnf_command(root: Path, *words: str) -> list[str]:
-    dnf = shutil.which("dnf", path="/usr/bin:/bin")
-    # The command is a wrapper around this call, in a package that need not be installed.
+def backends() -> list[str]:
+    """The package libraries that this machine has, each with the command line that it is measured beside."""
+    return [one for one in choice.BACKENDS if choice.can_be_imported(one) and (one == choice.DNF4 or _command(one))]
+
+
+def _command(backend: str) -> Optional[str]:
+    return shutil.which({choice.DNF4: "dnf-3", choice.DNF5: "dnf5"}[backend], path="/usr/bin:/bin")
+
+
+def dnf_command(backend: str, root: Path, *words: str) -> list[str]:
+    dnf = _command(backend)
+    # dnf 4's is a wrapper around this call, in a package that need not be installed.
     start = [dnf] if dnf else ["/usr/bin/python3", "-c", DNF_MODULE]
-    where = [f"--installroot={root}", "-c", f"{root}/etc/yum.conf"]
+    where = [f"--installroot={root}", f"--config={root}/etc/yum.conf"]
     where += [f"--setopt=reposdir={root}/etc/yum.repos.d"]
     return [*start, *where, "--releasever=1", "-q", *words]
 

@@ -12,6 +12,7 @@ from typing import Any, Sequence
 
 from rpmestate import Estate
 
+from .rows import UPGRADE
 from .running import BenchError, Build, Ground, Line, Step
 from .samples import Samples, slope
 
@@ -204,7 +205,7 @@ def upgrade(ground: Ground, estate: Estate, samples: Samples) -> None:
     """The same transaction by dnf, on a copy of its own."""
     with tempfile.TemporaryDirectory(dir=IN_MEMORY) as directory:
         copy = copied(estate, Path(directory) / "estate")
-        samples.add("upgrade", ground.dnf(copy, "-C", "-y", "upgrade").seconds)
+        samples.add("upgrade", ground.dnf(copy, *UPGRADE[ground.backend].split()[1:]).seconds)
 
 
 def copied(estate: Estate, directory: Path) -> Estate:

@@ -14,11 +14,11 @@ from pathlib import Path
 import pytest
 
 TOP = Path(__file__).resolve().parents[2]
-sys.path[:0] = [str(TOP / "bench"), str(TOP / "estate")]
+sys.path[:0] = [str(TOP / "bench"), str(TOP / "estate"), str(TOP / "share/python")]
 
 from rpmestate import Estate  # noqa: E402
 from vembench import scenarios  # noqa: E402
-from vembench.running import BenchError, Build, Ground, display  # noqa: E402
+from vembench.running import BenchError, Build, Ground, backends, display  # noqa: E402
 from vembench.samples import Samples  # noqa: E402
 
 BUILD = Build(Path(os.environ["VEM_PROGRAM"]))
@@ -35,11 +35,11 @@ def estate(tmp_path_factory: pytest.TempPathFactory) -> Estate:
     return made(tmp_path_factory.mktemp("bench") / "estate")
 
 
-@pytest.fixture
-def ground(tmp_path: Path) -> Ground:
+@pytest.fixture(params=backends())
+def ground(tmp_path: Path, request: pytest.FixtureRequest) -> Ground:
     (tmp_path / "home").mkdir()
     with display() as shown:
-        return Ground(Path(os.environ["VEM_BENCH_DRIVER"]), tmp_path / "home", shown)
+        return Ground(Path(os.environ["VEM_BENCH_DRIVER"]), tmp_path / "home", shown, request.param)
 
 
 def test_a_start_and_a_refresh_are_measured_beside_dnf(ground: Ground, estate: Estate) -> None:

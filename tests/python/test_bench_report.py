@@ -10,10 +10,11 @@ from pathlib import Path
 import pytest
 
 TOP = Path(__file__).resolve().parents[2]
-sys.path[:0] = [str(TOP / "bench"), str(TOP / "estate")]
+sys.path[:0] = [str(TOP / "bench"), str(TOP / "estate"), str(TOP / "share/python")]
 
 from vembench import plots, report  # noqa: E402
-from vembench.rows import ROWS, Figure, Row  # noqa: E402
+from vembench.report import Measured  # noqa: E402
+from vembench.rows import ROWS, Figure, Row, rows_of  # noqa: E402
 from vembench.running import BenchError, parsed  # noqa: E402
 from vembench.samples import Samples, exponent, slope  # noqa: E402
 from vembench.scenarios import add_growth, costs  # noqa: E402
@@ -53,6 +54,16 @@ def test_a_figure_with_a_peer_is_a_ratio_of_medians() -> None:
     assert figure.share == pytest.approx(1.5)
     assert not figure.kept
     assert START.figure(samples(start=[1.4]), Samples()) is None
+
+
+def test_a_start_with_dnf_5_may_take_a_little_longer_than_with_dnf_4() -> None:
+    row = next(row for row in rows_of("dnf5") if row.id == "start")
+    ours, dnf = samples(start=[1.0]), samples(seconds=[1.25])
+    alone, quick, slow = (row.figure(ours, dnf, samples(start=[one]) if one else None) for one in (0, 0.5, 1.0))
+    assert alone is not None and quick is not None and slow is not None
+    assert (alone.row.aim, quick.row.aim, slow.row.aim) == (0.6, 0.6, 0.88)
+    assert alone.value == slow.value == 0.8 and slow.kept and not alone.kept
+    assert slow.row.unit == "of `dnf5 -q list -C`"
 
 
 def test_what_is_not_allowed_at_all_has_no_share() -> None:
@@ -108,7 +119,7 @@ def test_the_report_tells_figure_aim_and_share() -> None:
     dnf = samples(seconds=[1.2], mebibytes=[100.0], lines=[7])
     wanted = [row.id for row in ROWS]
     scale = {"start": {1_000: 0.1, 10_000: 0.2}}
-    text = report.report(measured(), dnf, wanted, 66_000, 5, scale)
+    text = report.report([Measured("dnf4", measured(), dnf)], wanted, 66_000, 5, scale)
     lines = text.splitlines()
     assert "| sort by any column | 10 ms | at most 80 ms | 0.12 |" in lines
     assert f"| {START.what} | 0.50 of `dnf -q list -C` | at most 0.5 of `dnf -q list -C` | 1.00 |" in lines
@@ -118,16 +129,30 @@ def test_the_report_tells_figure_aim_and_share() -> None:
     assert all(line.endswith("|") for line in tables)
 
 
+def test_a_second_library_has_rows_and_figures_of_its_own() -> None:
+    ours, dnf = measured(), samples(seconds=[1.2], mebibytes=[100.0])
+    second = Measured("dnf5", samples(start=[0.5], gap=[20]), samples(seconds=[1.0]), ours)
+    text = report.report([Measured("dnf4", ours, dnf), second], [row.id for row in ROWS], 66_000, 5, {})
+    lines = text.splitlines()
+    assert f"| {START.what} | 0.50 of `dnf -q list -C` | at most 0.5 of `dnf -q list -C` | 1.00 |" in lines
+    theirs = f"| {START.what}, with dnf 5 | 0.50 of `dnf5 -q list -C` | at most 0.66 of `dnf5 -q list -C` | 0.76 |"
+    assert theirs in lines
+    assert "sort by any column, with dnf 5" not in text
+    assert lines.index("## Single figures with dnf 4") < lines.index("## Single figures with dnf 5")
+    assert "| `dnf5 -q list -C` | 1.00 s |" in lines
+
+
 def test_only_what_was_asked_for_is_reported() -> None:
-    text = report.report(measured(), Samples(), ["sort"], 66_000, 5, {})
+    text = report.report([Measured("dnf4", measured(), Samples())], ["sort"], 66_000, 5, {})
     assert "sort by any column" in text
     assert "Clear Actions" not in text
 
 
 def test_two_builds_are_told_as_a_ratio() -> None:
-    both = (samples(sort__Name=[10.0]), samples(sort__Name=[40.0], sort__Size=[30.0]))
-    both[1].add("sort/Name", 20)
-    text = report.pair_report(both, ("a/vem", "b/vem"), Samples(), ["sort"], 3)
+    ours, theirs = samples(sort__Name=[10.0]), samples(sort__Name=[40.0], sort__Size=[30.0])
+    theirs.add("sort/Name", 20)
+    both = (Measured("dnf4", ours, Samples()), Measured("dnf4", theirs, Samples()))
+    text = report.pair_report(both, ("a/vem", "b/vem"), ["sort"], 3)
     lines = text.splitlines()
     assert "| sort by any column | at most 80 ms | 10 ms | 30 ms (Name) | 0.33 |" in lines
     assert "| sort: Name | 10.00 | 30.00 | 10.00 | 20.00 | 0.50 |" in lines
