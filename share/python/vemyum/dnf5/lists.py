@@ -3,6 +3,7 @@
 
 from __future__ import annotations
 
+import functools
 from typing import Any, Dict, Iterable, List, Set, Tuple
 
 import libdnf5.rpm
@@ -66,7 +67,11 @@ class Lists:
         return [sorted(same, key=versions.oldest_first) for same in several]
 
     def _offered(self) -> libdnf5.rpm.PackageQuery:
-        """What the repositories offer to this machine, by their priorities."""
+        """A new query for what the repositories offer to this machine, by their priorities."""
+        return libdnf5.rpm.PackageQuery(self._offer)
+
+    @functools.cached_property
+    def _offer(self) -> libdnf5.rpm.PackageQuery:
         query = libdnf5.rpm.PackageQuery(self._base.library)
         query.filter_available()
         query.filter_priority()

@@ -68,6 +68,7 @@ class System:
         self._strict = strict
         self._asks_for_keys = asks_for_keys
         self._installed: List[Any] = []
+        self._made_lists: Optional[Lists] = None
         self._base: Optional[Base] = None
         self._database: Optional[rpm.TransactionSet] = None
         self._loaded = False
@@ -262,7 +263,10 @@ class System:
 
     @property
     def _lists(self) -> Lists:
-        return Lists(self.base, self._installed)
+        base = self.base
+        if self._made_lists is None:
+            self._made_lists = Lists(base, self._installed)
+        return self._made_lists
 
     # Of a package ------------------------------------------------------------------------------------------------
 
@@ -318,6 +322,7 @@ class System:
     def close(self) -> None:
         self._base = None
         self._installed = []
+        self._made_lists = None
         self._database = None
 
 
