@@ -64,6 +64,30 @@ def test_row_tells_what_the_metadata_says(estate: Estate, rpms: Catalogue, loade
     assert system.local_path(lamp) == str(estate.repos_dir / "base/lamp-1.1-1.noarch.rpm")
 
 
+def test_row_is_no_larger_than_it_must_be(estate: Estate, rpms: Catalogue, loaded: Callable[..., Any]) -> None:  # noqa: F811
+    estate.install(rpms.some("clock-1.0"))
+    estate.repository("base", rpms.some("lamp-1.1"))
+    system = loaded()
+    for row in (*system.available(), *system.installed()):
+        assert not hasattr(row, "__dict__")
+
+
+def test_dependencies_are_those_that_the_library_itself_goes_through(
+    estate: Estate, rpms: Catalogue, loaded: Callable[..., Any]  # noqa: F811
+) -> None:
+    estate.repository("base", rpms.some("lamp-1.1"))
+    from vemyum.packages import dependency
+
+    system = loaded()
+    (lamp,) = system.available()
+    for kind in ("provides", "requires", "conflicts", "obsoletes"):
+        found = [
+            dependency(str(reldep), reldep.get_name(), reldep.get_relation(), reldep.get_version())
+            for reldep in getattr(lamp, f"get_{kind}")()
+        ]
+        assert system.dependencies(lamp, kind) == found
+
+
 def test_texts_are_valid_whatever_the_bytes(estate: Estate, loaded: Callable[..., Any]) -> None:  # noqa: F811
     source = estate.directory / "odd.spec"
     text = spec("odd", tags={"Vendor": "M\u00f6bel", "Packager": "M\u00f6bel"})
