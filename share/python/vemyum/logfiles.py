@@ -15,6 +15,9 @@ from .root import as_configured
 from .text import valid
 from .texts import _
 
+_LONG_LINE = 65_536
+"""More bytes than a line has."""
+
 
 class Masked(logging.Formatter):
     """Another formatter's lines without the passwords that stand in addresses."""
@@ -31,6 +34,9 @@ class KeptOpen(logging.handlers.RotatingFileHandler):
     """While rpm works on another root there is no path to the file."""
 
     def shouldRollover(self, record: logging.LogRecord) -> bool:
+        # What is inherited makes the line's text for this, a second time.
+        if self.stream is not None and os.fstat(self.stream.fileno()).st_size + _LONG_LINE < self.maxBytes:
+            return False
         return os.path.exists(self.baseFilename) and bool(super().shouldRollover(record))
 
     def handleError(self, record: logging.LogRecord) -> None:

@@ -78,7 +78,7 @@ class Display(libdnf5_rpm.TransactionCallbacks):  # type: ignore[misc]
 
     @guarded()
     def install_progress(self, item: Any, amount: int, total: int) -> None:
-        self._tell(item, amount, total)
+        self._tell_part(item, amount, total)
 
     @guarded()
     def install_stop(self, item: Any, _amount: int, total: int) -> None:
@@ -90,7 +90,7 @@ class Display(libdnf5_rpm.TransactionCallbacks):  # type: ignore[misc]
 
     @guarded()
     def uninstall_progress(self, item: Any, amount: int, total: int) -> None:
-        self._tell(item, amount, total)
+        self._tell_part(item, amount, total)
 
     @guarded()
     def uninstall_stop(self, item: Any, _amount: int, total: int) -> None:
@@ -127,6 +127,11 @@ class Display(libdnf5_rpm.TransactionCallbacks):  # type: ignore[misc]
         package = item.get_package()
         self.failed.add(pkgtup(package))
         self.faults.append(words.format(package=valid(package.get_nevra())))
+
+    def _tell_part(self, item: Any, done: int, total: int) -> None:
+        # The whole of it is told at the end.
+        if done < total:
+            self._tell(item, done, total)
 
     def _tell(self, item: Any, done: float, total: float) -> None:
         name, code = self._codes[item.get_action(), pkgtup(item.get_package())]
