@@ -14,6 +14,7 @@
 #include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QJsonDocument>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
@@ -24,6 +25,7 @@
 #include <QTableView>
 #include <QTimer>
 #include <algorithm>
+#include <chrono>
 #include <cstddef>
 #include <cstdlib>
 #include <ctime>
@@ -248,6 +250,8 @@ void Driver::perform(QJsonObject const& step)
         check(values.at(0).toString(), values.at(1).toBool());
     } else if (what == QLatin1String("type")) {
         type(value.toString());
+    } else if (what == QLatin1String("write")) {
+        writeByKeys(value.toString());
     } else if (what == QLatin1String("reveal")) {
         table->scrollTo(table->model()->index(0, value.toInt()));
     } else if (what == QLatin1String("header")) {
@@ -300,6 +304,32 @@ void Driver::type(QString const& text)
         fail(QStringLiteral("no line for an expression"));
     }
     edit->setText(text);
+}
+
+void Driver::writeByKeys(QString const& text)
+{
+    auto* const edit = called<QLineEdit>(QStringLiteral("Regular expression"), window);
+    if (!edit) {
+        fail(QStringLiteral("no line for an expression"));
+    }
+    QEventLoop loop;
+    bool followed = false;
+    QObject::connect(table->model(), &QAbstractItemModel::modelReset, &loop, [&] {
+        followed = true;
+        loop.quit();
+    });
+    QTimer::singleShot(std::chrono::seconds(30), &loop, &QEventLoop::quit);
+    edit->selectAll();
+    for (QChar const letter : text) {
+        for (QEvent::Type const kind : {QEvent::KeyPress, QEvent::KeyRelease}) {
+            QKeyEvent event(kind, 0, Qt::NoModifier, QString(letter));
+            QCoreApplication::sendEvent(edit, &event);
+        }
+    }
+    loop.exec();
+    if (!followed) {
+        fail(QStringLiteral("the table did not follow \"%1\"").arg(text));
+    }
 }
 
 void Driver::select(QJsonValue const& what)

@@ -44,6 +44,8 @@ private:
     void choose(QString const& combo, QString const& item);
     void check(QString const& text, bool on);
     void type(QString const& text);
+    /// By the keyboard, up to the table that follows.
+    void writeByKeys(QString const& text);
     /// All rows or none, or the first so many.
     void select(QJsonValue const& what);
     /// Has the row described, and closes the description as soon as it is painted.

@@ -91,6 +91,7 @@ ROWS = (
     Row("start", "exec to filled, sorted, enabled table", "start", 0.5, beside("seconds"), 2, "seconds"),
     Row("refresh", "Re&fresh", "refresh", 0.4, beside("seconds"), 2, "seconds"),
     Row("filter", "state filter, groups flag, expression; also with all selected", "filter", 50, "ms", 0),
+    Row("typing", "longest freeze while the table follows the typing", "typing", 50, "ms", 0),
     Row("sort", "sort by any column", "sort", 80, "ms", 0),
     Row("resize", "Re&size: nine columns, all rows", "resize", 80, "ms", 0),
     Row("widths", "columns whose width is not that of a walk over all cells", "widths", 0, "", 0),

@@ -82,6 +82,15 @@ def filter_steps() -> list[Step]:
     return steps
 
 
+def typing_steps() -> list[Step]:
+    """What counts is how long the window stands still while the table follows."""
+    steps: list[Step] = []
+    for expression, share in EXPRESSIONS:
+        steps.append({"do": "write", "value": expression, "name": f"typing/expression that keeps {share}"})
+        steps.append({"do": "write", "value": ".*", "name": f"typing/no expression after {share}"})
+    return steps
+
+
 def sort_steps() -> list[Step]:
     steps: list[Step] = []
     for number, title in enumerate(COLUMNS):
@@ -96,7 +105,7 @@ def table(ground: Ground, build: Build, estate: Estate, samples: Samples, walk: 
 
     `walk` also compares the column widths with those of a walk over all cells, which takes seconds.
     """
-    steps: list[Step] = [*EVERYTHING, *filter_steps(), *sort_steps()]
+    steps: list[Step] = [*EVERYTHING, *filter_steps(), *typing_steps(), *sort_steps()]
     # The rows that are there have been measured at the start, those of a refresh have not.
     steps.append({"do": "press", "value": "Resize", "name": "resize/again"})
     steps.append({"do": "press", "value": "Refresh"})
@@ -109,7 +118,7 @@ def table(ground: Ground, build: Build, estate: Estate, samples: Samples, walk: 
     steps.append({"do": "press", "value": "Clear Actions"})
     for line in ground.program(build, estate, steps)[1:]:
         if "name" in line:
-            samples.add(line["name"], line["ms"])
+            samples.add(line["name"], line["gap" if line["do"] == "write" else "ms"])
         if line.get("do") == "walk":
             differ = [a != b for a, b in zip(line["widths"], line["walked"])]
             samples.add("widths", sum(differ))

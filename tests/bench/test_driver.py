@@ -61,6 +61,7 @@ def test_every_filter_column_and_button_is_measured(ground: Ground, estate: Esta
     ours = Samples()
     scenarios.table(ground, BUILD, estate, ours, walk=True)
     assert len(ours.names_of("filter")) == 2 * (len(scenarios.STATES) + 2 + 2 * len(scenarios.EXPRESSIONS))
+    assert len(ours.names_of("typing")) == 2 * len(scenarios.EXPRESSIONS)
     assert len(ours.names_of("sort")) == 2 * 9
     assert len(ours.names_of("marks")) == 3
     assert ours.median("resize/after a refresh") > 0
