@@ -11,9 +11,8 @@ from typing import Callable, Iterator, List
 import pytest
 
 from desk import AFTER, BEFORE, Desk, Disk
+from libraries import HISTORY, by_library
 from rpmestate import Estate, spec
-
-HISTORY = "var/lib/dnf/history.sqlite"
 
 BALLAST = spec(
     "fleet-ballast",
@@ -26,7 +25,7 @@ BALLAST = spec(
 BARGE = spec("fleet-barge", files={"/usr/share/barge": "x" * (2 << 20)})
 ANCHOR = spec("fleet-anchor", requires=["fleet-ballast"], files={"/usr/share/anchor": "y" * 60000})
 
-CANNOT_USE = "The history of transactions, /var/lib/dnf/history.sqlite, cannot be used: "
+CANNOT_USE = f"The history of transactions, /{HISTORY}, cannot be used: "
 APPLYING = "Error applying changes"
 REFRESH = "A part of the transaction may have been done: please refresh the list of packages."
 
@@ -50,8 +49,8 @@ def test_full_before_the_apply(desk: Desk, root: Disk) -> None:
         root.fill(spare)
         desk.program.press("Apply Actions")
         first, second, last = desk.told().splitlines()
-        assert first.startswith("The history of transactions, /var/lib/dnf/history.sqlite, cannot be ")
-        assert re.fullmatch(r"Only \d+ KiB are free in /var/lib/dnf\.", second) and last == APPLYING
+        assert first.startswith(f"The history of transactions, /{HISTORY}, cannot be ")
+        assert re.fullmatch(rf"Only \d+ KiB are free in {Path('/', HISTORY).parent}\.", second) and last == APPLYING
         assert not (desk.site.root / HISTORY).exists()
         root.make_room()
     root.fill(1600)
@@ -72,12 +71,13 @@ def test_filling_in_the_middle(desk: Desk, root: Disk) -> None:
     desk.mark("fleet-ballast", "fleet-anchor")
     desk.apply()
     told = desk.told().splitlines()
-    assert "Error unpacking rpm package fleet-anchor-1.0-1.noarch" in told
+    unpacking = by_library("Error unpacking rpm package {}", "{} could not be unpacked")
+    assert unpacking.format("fleet-anchor-1.0-1.noarch") in told
     # Whose words they are depends on who has met it last.
     assert any("No space left on device" in line or "disk is full" in line for line in told)
     assert told[-2:] == [REFRESH, APPLYING]
     root.make_room()
-    desk.sound(*BEFORE, "fleet-ballast-1.0-1.noarch")
+    desk.sound(*BEFORE, "fleet-ballast-1.0-1.noarch", cut_off=True)
     desk.refresh()
     # The end of the transaction found no room in the history either.
     first, *rest = desk.told_unfinished().splitlines()
@@ -102,14 +102,14 @@ def read_only(file: Path) -> Iterator[None]:
 
 def test_history(desk: Desk, own_mounts: None) -> None:
     history = desk.site.root / HISTORY
+    history.parent.mkdir(parents=True, exist_ok=True)
     desk.mark("fleet-lamp")
     for content, fault in ((b"", "no such table: config"), (b"no database " * 1000, "file is not a database")):
         history.write_bytes(content)
         desk.program.press("Apply Actions")
         assert desk.told() == f"{CANNOT_USE}{fault}\nMove it elsewhere, and it is made anew.\n{APPLYING}"
-    desk.sound(*BEFORE)
-
     history.unlink()
+    desk.sound(*BEFORE)
     desk.apply()
     desk.untold()
     desk.sound(*AFTER)

@@ -14,7 +14,7 @@ import urllib.parse
 from typing import Callable, Collection, Iterator, List, NamedTuple, Optional, Set, Tuple, Union
 
 from .backend import OpenEntry
-from .errors import FAILURES, YumBaseError
+from .errors import FAILURES, YumBaseError, words
 from .root import as_configured
 from .space import scarce_space
 from .texts import _
@@ -37,6 +37,46 @@ class Layout(NamedTuple):
     incoming: Collection[_Code]
     outgoing: Collection[_Code]
     """Actions."""
+
+
+@contextlib.contextmanager
+def usable(path: str, make: Callable[[], None], told_of: Callable[[str], List[str]]) -> Iterator[None]:
+    """Lets a block use the history at that path, which `make` makes if there is none. YumBaseError where it cannot be
+    used, which a library would find out late; also when that fails in the block. One that was made for nothing, since
+    there was no room for more, is removed again.
+
+    `told_of` is given the text of a failure in the block, and gives that of the history first and then the other lines;
+    nothing where it is about something else.
+    """
+    existed = os.path.exists(path)
+    made_for_nothing = not existed
+    try:
+        if not existed:
+            _make(path, make, told_of)
+        cause = fault(path)
+        if cause is not None:
+            raise YumBaseError(_told(path, cause, existed))
+        try:
+            yield
+            made_for_nothing = False
+        except FAILURES as error:
+            found = told_of(words(error))
+            if not found:
+                raise
+            raise YumBaseError("\n".join([_told(path, found[0], False), *found[1:]])) from error
+    finally:
+        if made_for_nothing:
+            _remove_useless(path)
+
+
+def _make(path: str, make: Callable[[], None], told_of: Callable[[str], List[str]]) -> None:
+    try:
+        make()
+    except FAILURES as error:
+        text = _("The history of transactions, {file}, cannot be made.").format(file=as_configured(path))
+        # On a full disk a library may find that there is no error.
+        causes = scarce_space(os.path.dirname(path)) or told_of(words(error)) or [words(error)]
+        raise YumBaseError("\n".join([text, *causes])) from error
 
 
 def open_entry(path: str, layout: Layout) -> Optional[OpenEntry]:
@@ -74,37 +114,7 @@ def fault(path: str) -> Optional[str]:
     return None
 
 
-@contextlib.contextmanager
-def usable(
-    path: str, make: Optional[Callable[[], None]], told_by: Callable[[Exception], Optional[List[str]]]
-) -> Iterator[None]:
-    """Lets a block use the history. YumBaseError where it cannot be used, which a library would find out late; also
-    when that fails in the block. One that was made for nothing, since there was no room for more, is removed again.
-
-    `make` is called where there is none; without it the library makes one in the block. `told_by` gives the lines that
-    tell of a failure in the block, None for one that is not about the history."""
-    existed = os.path.exists(path)
-    made_for_nothing = not existed
-    try:
-        if make is not None and not existed:
-            make()
-        cause = fault(path) if existed or make is not None else None
-        if cause is not None:
-            raise YumBaseError(told(path, cause, existed))
-        try:
-            yield
-            made_for_nothing = False
-        except FAILURES as error:
-            lines = told_by(error)
-            if lines is None:
-                raise
-            raise YumBaseError("\n".join(lines)) from error
-    finally:
-        if made_for_nothing:
-            remove_useless(path)
-
-
-def told(path: str, cause: str, anew: bool) -> str:
+def _told(path: str, cause: str, anew: bool) -> str:
     """That a history cannot be used; `anew` for one that one could do without."""
     words = _("The history of transactions, {file}, cannot be used: {fault}")
     lines = [words.format(file=as_configured(path), fault=cause)]
@@ -115,7 +125,7 @@ def told(path: str, cause: str, anew: bool) -> str:
     return "\n".join(lines + space)
 
 
-def remove_useless(path: str) -> None:
+def _remove_useless(path: str) -> None:
     """Removes one that cannot be used and holds nothing: it was made when there was no room for more."""
     if os.path.exists(path) and fault(path) is not None and not _holds_anything(path):
         for ending in _BESIDE:

@@ -4,19 +4,14 @@
 from __future__ import annotations
 
 import os
-from typing import ContextManager, List, Optional
+from typing import ContextManager, List
 
 import dnf.conf
 import dnf.transaction
 import libdnf.transaction as lt
 
-from ..errors import YumBaseError
-from ..history import Layout, told, usable
+from ..history import Layout, usable
 from ..messages import unheard
-from ..root import as_configured
-from ..space import scarce_space
-from ..texts import _
-from .exceptions import FAILURES
 
 LAYOUT = Layout(
     "select id, dt_begin, cmdline, state from trans order by id desc limit 1",
@@ -32,27 +27,16 @@ def history_path(directory: str) -> str:
 
 
 def usable_history(conf: dnf.conf.MainConf) -> ContextManager[None]:
-    """See `history.usable`. dnf would tell several times what is wrong."""
+    """See `backend.Library`."""
     path = history_path(conf.persistdir)
 
-    def told_by(error: Exception) -> Optional[List[str]]:
-        first, *rest = str(error).split("\n")
-        return [told(path, _cause(first), False), *rest] if path in first else None
-
-    return usable(path, lambda: _make(path), told_by)
-
-
-def _make(path: str) -> None:
-    with unheard():
-        try:
+    def make() -> None:
+        with unheard():
             lt.Swdb(path)
-        except FAILURES as error:
-            words = _("The history of transactions, {file}, cannot be made.").format(file=as_configured(path))
-            # On a full disk the library finds that there is no error.
-            causes = scarce_space(os.path.dirname(path)) or [_cause(str(error))]
-            raise YumBaseError("\n".join([words, *causes])) from error
 
+    def told_of(text: str) -> List[str]:
+        first, *rest = text.split("\n")
+        # The path stands before the cause.
+        return [first.rpartition('": ')[2], *rest] if path in first else []
 
-def _cause(text: str) -> str:
-    """The library's words without the path, which stands before."""
-    return text.rpartition('": ')[2]
+    return usable(path, make, told_of)

@@ -5,14 +5,14 @@ from __future__ import annotations
 
 import os
 import re
-from typing import ContextManager, List, Optional
+from typing import ContextManager, List
 
 import libdnf5.base
 import libdnf5.conf
 
-from ..history import Layout, fault, told, usable
+from ..database import point_rpm_at
+from ..history import Layout, fault, usable
 from ..root import below
-from .failures import words
 from .settings import Settings
 
 LAYOUT = Layout(
@@ -26,9 +26,8 @@ LAYOUT = Layout(
     ("Remove", "Replaced"),
 )
 
-_ABOUT_HISTORY = re.compile(r"\bSQL")
-_STATEMENT = re.compile(r'(\bSQL\b[^"]*?): ".*"', re.S)
-"""What the library quotes of its own, a hundred lines at times."""
+_STATEMENT = re.compile(r'(\bSQL\b[^"\n]*): ".*?"(?=$|: )', re.S | re.M)
+"""What the library quotes of its own, a hundred lines at times. It doesn't name the file."""
 
 
 def history_path(settings: Settings, config: libdnf5.conf.ConfigMain) -> str:
@@ -38,23 +37,31 @@ def history_path(settings: Settings, config: libdnf5.conf.ConfigMain) -> str:
 
 
 def usable_history(settings: Settings) -> ContextManager[None]:
-    """See `history.usable`. The library makes one itself, and doesn't name the file when that is at fault. The
-    library's failures."""
-    path = _path(settings)
+    """See `backend.Library`."""
+    library = _read(settings)
+    # What it gives ends with it.
+    path = history_path(settings, library.get_config())
 
-    def told_by(error: Exception) -> Optional[List[str]]:
-        text = _STATEMENT.sub(r"\1", words(error))
-        cause = fault(path) if os.path.exists(path) else None
-        about_history = _ABOUT_HISTORY.search(text) is not None
-        if cause is None and not about_history:
-            return None
-        return [told(path, cause or text, False), *([] if about_history else [text])]
+    def make() -> None:
+        library = _read(settings)
+        settings.put_into(library)
+        # They have nothing to do with it.
+        library.get_config().plugins = False
+        point_rpm_at(settings.root)
+        library.setup()
+        library.get_transaction_history().list_all_transactions()
 
-    return usable(path, None, told_by)
+    def told_of(text: str) -> List[str]:
+        lines = _STATEMENT.sub(r"\1", text).splitlines()
+        about = [line for line in lines if "SQL" in line.split()]
+        cause = "; ".join(about) or (fault(path) if os.path.exists(path) else None)
+        return [cause, *(line for line in lines if line not in about)] if cause else []
+
+    return usable(path, make, told_of)
 
 
-def _path(settings: Settings) -> str:
-    """The library's failures."""
+def _read(settings: Settings) -> libdnf5.base.Base:
+    """With the configuration alone. The library's failures."""
     library = libdnf5.base.Base()
     settings.load_into(library)
-    return history_path(settings, library.get_config())
+    return library
