@@ -9,6 +9,7 @@ from typing import Callable
 import pytest
 
 from desk import BEFORE, Desk, assert_told
+from libraries import by_library
 from rpmestate import Estate
 from web import Web
 
@@ -87,7 +88,7 @@ def test_servers_that_give_something_else(harbour: Harbour) -> None:
     page = f'{web.url}{REPOMD} gives a web page in place of the metadata. It begins: "Welcome aboard Please log in."'
     for body in (PAGE, ZEROS):
         web.lie(body, REPOMD)
-        told = harbour.assert_unread("repomd.xml")
+        told = harbour.assert_unread(by_library("repomd.xml", "Parsing unsuccessful"))
         assert (page in told.splitlines()) == (body == PAGE) and ("web page" in told) == (body == PAGE)
         harbour.assert_mended()
 
