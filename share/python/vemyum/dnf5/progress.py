@@ -33,8 +33,9 @@ class FetchingProgress:
     def end(self, _number: int, _status: int, _message: str) -> None:
         self.acts.close()
 
-    def mirror_failed(self, _number: int, message: str, _address: str) -> None:
-        self.causes.append(message)
+    def mirror_failed(self, _number: int, message: str, address: str) -> None:
+        # Of a file that isn't what was announced the library doesn't say which it is.
+        self.causes.append(message if address in message else f"{address}: {message.strip()}")
         log_mirror(message)
 
 
