@@ -45,21 +45,21 @@
     <message>
         <source>Nothing matches %1 in %2.</source>
         <extracomment>%1 is an expression, %2 one of the choices beside it, such as &quot;View All&quot;</extracomment>
-        <translation>Nichts in %2 passt zu %1.</translation>
+        <translation>Nichts in „%2“ passt zu %1.</translation>
     </message>
     <message>
         <source>There is nothing in %1.</source>
         <extracomment>%1 is one of the choices above the table, such as &quot;View Updatable&quot;</extracomment>
-        <translation>In %1 ist nichts.</translation>
+        <translation>In „%1“ ist nichts.</translation>
     </message>
     <message>
         <source>%1 match in %2</source>
         <extracomment>%1 is a number of rows, %2 is &quot;View All&quot;</extracomment>
-        <translation>%1 passend in %2</translation>
+        <translation>%1 passend in „%2“</translation>
     </message>
     <message>
         <source>%1 in %2</source>
-        <translation>%1 in %2</translation>
+        <translation>%1 in „%2“</translation>
     </message>
     <message>
         <source>%1 match among groups</source>

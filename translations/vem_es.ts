@@ -45,21 +45,21 @@
     <message>
         <source>Nothing matches %1 in %2.</source>
         <extracomment>%1 is an expression, %2 one of the choices beside it, such as &quot;View All&quot;</extracomment>
-        <translation>Nada en %2 coincide con %1.</translation>
+        <translation>Nada en «%2» coincide con %1.</translation>
     </message>
     <message>
         <source>There is nothing in %1.</source>
         <extracomment>%1 is one of the choices above the table, such as &quot;View Updatable&quot;</extracomment>
-        <translation>No hay nada en %1.</translation>
+        <translation>No hay nada en «%1».</translation>
     </message>
     <message>
         <source>%1 match in %2</source>
         <extracomment>%1 is a number of rows, %2 is &quot;View All&quot;</extracomment>
-        <translation>%1 coinciden en %2</translation>
+        <translation>%1 coinciden en «%2»</translation>
     </message>
     <message>
         <source>%1 in %2</source>
-        <translation>%1 en %2</translation>
+        <translation>%1 en «%2»</translation>
     </message>
     <message>
         <source>%1 match among groups</source>

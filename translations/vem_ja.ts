@@ -45,21 +45,21 @@
     <message>
         <source>Nothing matches %1 in %2.</source>
         <extracomment>%1 is an expression, %2 one of the choices beside it, such as &quot;View All&quot;</extracomment>
-        <translation>%2 に %1 と一致するものはありません。</translation>
+        <translation>「%2」に %1 と一致するものはありません。</translation>
     </message>
     <message>
         <source>There is nothing in %1.</source>
         <extracomment>%1 is one of the choices above the table, such as &quot;View Updatable&quot;</extracomment>
-        <translation>%1 には何もありません。</translation>
+        <translation>「%1」には何もありません。</translation>
     </message>
     <message>
         <source>%1 match in %2</source>
         <extracomment>%1 is a number of rows, %2 is &quot;View All&quot;</extracomment>
-        <translation>%2 で %1 件が一致</translation>
+        <translation>「%2」で %1 件が一致</translation>
     </message>
     <message>
         <source>%1 in %2</source>
-        <translation>%2 に %1 件</translation>
+        <translation>「%2」に %1 件</translation>
     </message>
     <message>
         <source>%1 match among groups</source>

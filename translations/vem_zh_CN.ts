@@ -45,21 +45,21 @@
     <message>
         <source>Nothing matches %1 in %2.</source>
         <extracomment>%1 is an expression, %2 one of the choices beside it, such as &quot;View All&quot;</extracomment>
-        <translation>%2 中没有与 %1 匹配的项。</translation>
+        <translation>“%2”中没有与 %1 匹配的项。</translation>
     </message>
     <message>
         <source>There is nothing in %1.</source>
         <extracomment>%1 is one of the choices above the table, such as &quot;View Updatable&quot;</extracomment>
-        <translation>%1 中没有内容。</translation>
+        <translation>“%1”中没有内容。</translation>
     </message>
     <message>
         <source>%1 match in %2</source>
         <extracomment>%1 is a number of rows, %2 is &quot;View All&quot;</extracomment>
-        <translation>%2 中有 %1 项匹配</translation>
+        <translation>“%2”中有 %1 项匹配</translation>
     </message>
     <message>
         <source>%1 in %2</source>
-        <translation>%2 中有 %1 项</translation>
+        <translation>“%2”中有 %1 项</translation>
     </message>
     <message>
         <source>%1 match among groups</source>
