@@ -112,6 +112,9 @@ public:
     /// whether to look at them. False when the user would rather leave; true without a word where they can be
     /// changed. GUI thread, after `initialize`.
     [[nodiscard]] bool offerLooking();
+    /// Why this user can't change the packages, as the script knows it; empty where they can be changed. GUI
+    /// thread, after `initialize`.
+    [[nodiscard]] QString whyNoChange();
 
     /// The package library that the script works with, and its version; empty before `initialize`, and for
     /// scripts that don't tell.

@@ -64,6 +64,12 @@ bool YumIO::offerLooking()
                tr("VEM Looking Only"), reason, tr("&Look"), tr("&Quit"), QString(), look, quit) == look;
 }
 
+QString YumIO::whyNoChange()
+{
+    PyGILStateWrapper const lock(initialized);
+    return initialized ? toldByScript("whyNoChange") : QString();
+}
+
 QByteArray YumIO::lastReport() const
 {
     return lastReportText.trimmed().toUtf8();

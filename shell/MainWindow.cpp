@@ -91,6 +91,7 @@ void MainWindow::initialize()
         quit();
         return;
     }
+    statusLine->setLooking(yumIO->whyNoChange());
     if (repoEditorFlag) {
         model->reset();
         setReady(true);
@@ -535,9 +536,14 @@ void MainWindow::tellIncomplete()
         return;
     }
     incompleteTold = yumIO->incomplete();
-    if (incompleteTold.isEmpty()) {
-        return;
+    statusLine->setIncomplete(!incompleteTold.isEmpty());
+    if (!incompleteTold.isEmpty()) {
+        showIncomplete();
     }
+}
+
+void MainWindow::showIncomplete()
+{
     QStringList const paragraphs =
         QStringList{tr(
             "Not everything that is configured could be used, so the table may not show what it should:")} +

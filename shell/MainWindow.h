@@ -95,6 +95,7 @@ public Q_SLOTS:
     void tellCollected();
     /// Sums up what the collection had to do without, whenever that has changed.
     void tellIncomplete();
+    void showIncomplete();
     /// Tells what a transaction that was cut off has left, once for each that there is to tell, and offers to
     /// remove the older versions of packages that are there twice.
     void tellUnfinished();

@@ -198,6 +198,7 @@ void MainWindow::createMainArea()
     connect(statusLine, &StatusLine::marksWanted, this, [this] {
         stateFilterCombo->setCurrentIndex(PackageTable::Marked);
     });
+    connect(statusLine, &StatusLine::incompleteWanted, this, &MainWindow::showIncomplete);
     connect(view->model(), &QAbstractItemModel::modelReset, this, &MainWindow::showRowCounts);
     connect(view->selectionModel(), &QItemSelectionModel::selectionChanged, this, &MainWindow::showRowCounts);
 

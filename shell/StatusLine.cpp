@@ -12,9 +12,11 @@ StatusLine::StatusLine(QWidget* parent)
     : QWidget(parent),
       rows(new QLabel(this)),
       selected(new QLabel(this)),
-      marks(new QLabel(this)),
+      marks(makeLink()),
       sign(new QLabel(this)),
-      warning(new QLabel(this))
+      warning(new QLabel(this)),
+      incomplete(makeLink()),
+      looking(new QLabel(tr("Looking only"), this))
 {
     auto* const line = new QHBoxLayout(this);
     line->setContentsMargins(0, 0, 0, 0);
@@ -35,12 +37,29 @@ StatusLine::StatusLine(QWidget* parent)
     line->addWidget(marks);
     line->addWidget(sign);
     line->addWidget(warning, 1);
-    marks->setTextFormat(Qt::RichText);
-    marks->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
-    marks->hide();
+    line->addWidget(incomplete);
+    line->addWidget(looking);
     connect(marks, &QLabel::linkActivated, this, &StatusLine::marksWanted);
+    connect(incomplete, &QLabel::linkActivated, this, &StatusLine::incompleteWanted);
+    setLink(incomplete, tr("Incomplete Table"));
+    setLooking(QString());
     setSelected(0);
     setWarning(QString());
+}
+
+QLabel* StatusLine::makeLink()
+{
+    auto* const label = new QLabel(this);
+    label->setTextFormat(Qt::RichText);
+    label->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    label->hide();
+    return label;
+}
+
+void StatusLine::setLink(QLabel* label, QString const& words)
+{
+    label->setText(QStringLiteral("<a href=\"more\">%1</a>").arg(words.toHtmlEscaped()));
+    label->setAccessibleName(words);
 }
 
 void StatusLine::setRows(qsizetype shown, qsizetype all)
@@ -74,9 +93,19 @@ void StatusLine::setMarks(PackageTable::MarkCounts const& counts)
         //: %1 is the sentence about marks, %2 a size
         words = tr("%1; %2 to download").arg(words, YumIO::bytesFormat(counts.bytes));
     }
-    marks->setText(QStringLiteral("<a href=\"marks\">%1</a>").arg(words.toHtmlEscaped()));
-    marks->setAccessibleName(words);
+    setLink(marks, words);
     marks->setVisible(!kinds.isEmpty());
+}
+
+void StatusLine::setIncomplete(bool lacks)
+{
+    incomplete->setVisible(lacks);
+}
+
+void StatusLine::setLooking(QString const& reason)
+{
+    looking->setToolTip(reason);
+    looking->setVisible(!reason.isEmpty());
 }
 
 void StatusLine::setWarning(QString const& words)

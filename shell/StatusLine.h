@@ -10,8 +10,8 @@ namespace PackageTable
 struct MarkCounts;
 }
 
-/// The line below the main window's buttons: how many rows show, are selected and marked, and a word on what
-/// is wrong. Owned by its parent; GUI thread.
+/// The line below the main window's buttons: how many rows show, are selected and marked, what is
+/// wrong, and what can't be had. Owned by its parent; GUI thread.
 class StatusLine final : public QWidget
 {
     Q_OBJECT
@@ -22,17 +22,28 @@ public:
     void setRows(qsizetype shown, qsizetype all);
     void setSelected(qsizetype selected);
     void setMarks(PackageTable::MarkCounts const& counts);
+    /// That the table lacks something.
+    void setIncomplete(bool lacks);
+    /// Why packages can't be changed; empty where they can.
+    void setLooking(QString const& reason);
     /// A warning that stays until the next one; empty for none.
     void setWarning(QString const& words);
 
 Q_SIGNALS:
     /// The marks have been clicked.
     void marksWanted();
+    /// What the table lacks is to be told once more.
+    void incompleteWanted();
 
 private:
+    QLabel* makeLink();
+    static void setLink(QLabel* label, QString const& words);
+
     QLabel* rows;
     QLabel* selected;
     QLabel* marks;
     QLabel* sign;
     QLabel* warning;
+    QLabel* incomplete;
+    QLabel* looking;
 };

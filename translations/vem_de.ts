@@ -1507,6 +1507,14 @@ Lässt sich für eine einzelne Sitzung übersteuern.</translation>
         <extracomment>%1 is the sentence about marks, %2 a size</extracomment>
         <translation>%1; %2 herunterzuladen</translation>
     </message>
+    <message>
+        <source>Looking only</source>
+        <translation>Nur ansehen</translation>
+    </message>
+    <message>
+        <source>Incomplete Table</source>
+        <translation>Unvollständige Tabelle</translation>
+    </message>
 </context>
 <context>
     <name>TextDialog</name>

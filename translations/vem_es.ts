@@ -1507,6 +1507,14 @@ Se puede cambiar para una sesión concreta.</translation>
         <extracomment>%1 is the sentence about marks, %2 a size</extracomment>
         <translation>%1; %2 por descargar</translation>
     </message>
+    <message>
+        <source>Looking only</source>
+        <translation>Solo consulta</translation>
+    </message>
+    <message>
+        <source>Incomplete Table</source>
+        <translation>Tabla incompleta</translation>
+    </message>
 </context>
 <context>
     <name>TextDialog</name>

@@ -1507,6 +1507,14 @@ Peut être modifié pour une session donnée.</translation>
         <extracomment>%1 is the sentence about marks, %2 a size</extracomment>
         <translation>%1 ; %2 à télécharger</translation>
     </message>
+    <message>
+        <source>Looking only</source>
+        <translation>Consultation seule</translation>
+    </message>
+    <message>
+        <source>Incomplete Table</source>
+        <translation>Tableau incomplet</translation>
+    </message>
 </context>
 <context>
     <name>TextDialog</name>

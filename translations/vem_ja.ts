@@ -1507,6 +1507,14 @@ It can be overridden for a particular session.</source>
         <extracomment>%1 is the sentence about marks, %2 a size</extracomment>
         <translation>%1、ダウンロード %2</translation>
     </message>
+    <message>
+        <source>Looking only</source>
+        <translation>閲覧のみ</translation>
+    </message>
+    <message>
+        <source>Incomplete Table</source>
+        <translation>不完全な表</translation>
+    </message>
 </context>
 <context>
     <name>TextDialog</name>

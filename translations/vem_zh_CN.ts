@@ -1507,6 +1507,14 @@ It can be overridden for a particular session.</source>
         <extracomment>%1 is the sentence about marks, %2 a size</extracomment>
         <translation>%1；需下载 %2</translation>
     </message>
+    <message>
+        <source>Looking only</source>
+        <translation>仅供查看</translation>
+    </message>
+    <message>
+        <source>Incomplete Table</source>
+        <translation>表格不完整</translation>
+    </message>
 </context>
 <context>
     <name>TextDialog</name>

@@ -58,6 +58,11 @@ def whyOnlyLooking() -> Optional[str]:
     return rights.unchangeable(managed_root())
 
 
+def whyNoChange() -> Optional[str]:
+    """Why this user can't change the packages, in one sentence; None where they can be changed."""
+    return rights.unchangeable(managed_root()) or (None if rights.is_administrator() else rights.LOOK_ONLY)
+
+
 class YumIO:
     """One session. The lock is the process's and outlives it.
 

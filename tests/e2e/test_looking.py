@@ -86,6 +86,7 @@ def test_table_search_and_description_work(coast: System, program: Program) -> N
     before = coast.files()
     assert program.names() == ["coast-horn", "coast-light", "coast-shell"]
     assert LOOK_ONLY in program.log_text().split("\n")
+    assert program.wait("Looking only", Atspi.Role.LABEL)
     program.key("Escape")
     program.wait_closed("VEM Log")
 

@@ -148,9 +148,14 @@ def test_program_tells_the_engine(
     estate: Estate, program: Program, monkeypatch: pytest.MonkeyPatch
 ) -> None:
     assert program.namespace["whyOnlyLooking"]() is None
+    assert program.namespace["whyNoChange"]() is None
+    monkeypatch.setattr(os, "geteuid", lambda: 65534)
+    assert program.namespace["whyOnlyLooking"]() is None
+    assert program.namespace["whyNoChange"]().startswith("Started without administrator rights")
     (estate.root / "usr").mkdir(exist_ok=True)
     pretend_read_only(monkeypatch, str(estate.root / "usr"))
-    assert program.namespace["whyOnlyLooking"]() == READ_ONLY.format(directory=estate.root / "usr")
+    for name in "whyOnlyLooking", "whyNoChange":
+        assert program.namespace[name]() == READ_ONLY.format(directory=estate.root / "usr")
 
 
 # What remains -------------------------------------------------------------------------------------------

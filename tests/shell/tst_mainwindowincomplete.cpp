@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // What a collection had to do without: summed up in one dialog, and again only when it has changed.
 #include "ShellTest.h"
+#include "shell/StatusLine.h"
 #include "tests/Eventually.h"
 
 #include <QAbstractItemView>
+#include <QLabel>
 #include <QTest>
+#include <algorithm>
 
 class MainWindowIncompleteTest : public ShellTest
 {
@@ -58,6 +61,24 @@ private Q_SLOTS:
         QCOMPARE(seen.first(), summary(QStringLiteral("extras: no harbour\n\nmore.repo:\n  <b>")));
         QCOMPARE(seen.last().text, QStringLiteral("Cut off."));
         QVERIFY(table()->isEnabled() && !names().isEmpty());
+    }
+
+    void theStatusLineTellsItOnceMoreOnRequest()
+    {
+        auto const labels = window->findChild<StatusLine*>()->findChildren<QLabel*>();
+        auto const at = std::ranges::find_if(labels, [](QLabel const* label) {
+            return label->accessibleName() == QLatin1String("Incomplete Table");
+        });
+        QVERIFY(at != labels.end() && (*at)->isVisible());
+        Q_EMIT(*at)->linkActivated(QString());
+        QCOMPARE(
+            boxes->take(),
+            QList<Boxes::Box>{summary(QStringLiteral("extras: no harbour\n\nmore.repo:\n  <b>"))});
+        lacks("[]");
+        QCOMPARE(seenBehindARefresh(), QList<Boxes::Box>());
+        QVERIFY(!(*at)->isVisible());
+        lacks("['extras: no harbour', 'more.repo:\\n  <b>']");
+        QCOMPARE(seenBehindARefresh().size(), 1);
     }
 
     void isNotToldAgainUnlessItHasChanged()

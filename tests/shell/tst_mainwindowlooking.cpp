@@ -2,11 +2,14 @@
 // The start on a system whose packages can't be changed, with a user who gives the answer that
 // VEM_TEST_ANSWER names.
 #include "ShellTest.h"
+#include "shell/StatusLine.h"
 #include "tests/Eventually.h"
 
 #include <QAbstractItemView>
+#include <QLabel>
 #include <QPushButton>
 #include <QTest>
+#include <algorithm>
 
 class MainWindowLookingTest : public ShellTest
 {
@@ -17,7 +20,7 @@ private Q_SLOTS:
     {
         QString const answer = qEnvironmentVariable("VEM_TEST_ANSWER", QStringLiteral("Look"));
         qputenv(
-            "VEM_TEST_STATEMENTS", "whyOnlyLooking = lambda: 'The trees are painted.'\n"
+            "VEM_TEST_STATEMENTS", "whyOnlyLooking = whyNoChange = lambda: 'The trees are painted.'\n"
                                    "standin.fail('apply', standin.YumBaseError(whyOnlyLooking()))\n");
         makeWindow();
         boxes->press({answer});
@@ -34,6 +37,11 @@ private Q_SLOTS:
                                 {QStringLiteral("Look"), QStringLiteral("Quit")}}}));
         if (answer == QLatin1String("Look")) {
             QCOMPARE(names(), QStringList({QStringLiteral("alder"), QStringLiteral("dogwood")}));
+            auto const labels = window->findChild<StatusLine*>()->findChildren<QLabel*>();
+            QVERIFY(std::ranges::any_of(labels, [](QLabel const* label) {
+                return label->isVisible() && label->text() == QLatin1String("Looking only") &&
+                       label->toolTip() == QLatin1String("The trees are painted.");
+            }));
             clickAction(QStringLiteral("alder"));
             QString const mark = tipOfAction(QStringLiteral("alder"));
             button(QStringLiteral("Apply Actions"))->click();
