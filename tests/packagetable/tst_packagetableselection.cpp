@@ -2,6 +2,7 @@
 // What is done with all selected rows at a time, and the table's keys.
 #include "ViewTest.h"
 #include "tests/ClickEntry.h"
+#include "tests/Eventually.h"
 
 #include "packagetable/PackageTableMarks.h"
 
@@ -117,7 +118,7 @@ private Q_SLOTS:
         window->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(window.get()));
         view->setFocus();
-        QTRY_COMPARE(QApplication::focusWidget(), view);
+        EVENTUALLY_COMPARE(QApplication::focusWidget(), view);
         view->selectRow(cell(0, 3).row());
         QTest::keyClick(view, key);
         QTEST(action(0), "expected");

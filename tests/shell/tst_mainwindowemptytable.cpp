@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // A table without rows says why, and what would show some.
 #include "ShellTest.h"
+#include "tests/Eventually.h"
 
 #include "shell/EmptyTableNote.h"
 
@@ -70,7 +71,7 @@ private Q_SLOTS:
     {
         state()->setCurrentIndex(0);
         apply(QStringLiteral("^(elm|cedar)"));
-        QTRY_VERIFY(note()->isVisible());
+        EVENTUALLY_VERIFY(note()->isVisible());
         QCOMPARE(
             lines(), QStringList(
                          {QStringLiteral("Nothing matches ^(elm|cedar) in View Updatable."),
@@ -84,7 +85,7 @@ private Q_SLOTS:
     void theOtherCaseIsOffered()
     {
         apply(QStringLiteral("ELM"));
-        QTRY_VERIFY(note()->isVisible());
+        EVENTUALLY_VERIFY(note()->isVisible());
         QCOMPARE(
             lines(), QStringList(
                          {QStringLiteral("Nothing matches ELM in View All."),
@@ -97,7 +98,7 @@ private Q_SLOTS:
     void groupsAreOffered()
     {
         apply(QStringLiteral("^Trees"));
-        QTRY_VERIFY(note()->isVisible());
+        EVENTUALLY_VERIFY(note()->isVisible());
         follow(QStringLiteral("1 match among groups"));
         QCOMPARE(names(), QStringList{QStringLiteral("Trees")});
     }
@@ -105,7 +106,7 @@ private Q_SLOTS:
     void theExpressionCanBeCleared()
     {
         apply(QStringLiteral("<none & such>"));
-        QTRY_VERIFY(note()->isVisible());
+        EVENTUALLY_VERIFY(note()->isVisible());
         QCOMPARE(lines().first(), QStringLiteral("Nothing matches <none & such> in View All."));
         follow(QStringLiteral("Clear the expression"));
         QCOMPARE(expression()->text(), QString());
@@ -117,7 +118,7 @@ private Q_SLOTS:
     {
         mode()->setCurrentIndex(1);
         apply(QStringLiteral("ELMS?"));
-        QTRY_VERIFY(note()->isVisible());
+        EVENTUALLY_VERIFY(note()->isVisible());
         QCOMPARE(
             lines(), QStringList(
                          {QStringLiteral("Nothing matches ELMS? in View All."),
