@@ -70,7 +70,8 @@ said["asks for signatures"] = bool(configuration.Settings().conf.gpgcheck)
 """,
     """
 from vemyum.dnf5 import base, settings
-said["asks for signatures"] = bool(base.Base(settings.read_settings()).config.pkg_gpgcheck)
+kept = base.Base(settings.read_settings())
+said["asks for signatures"] = bool(kept.config.pkg_gpgcheck)
 """,
 )
 
