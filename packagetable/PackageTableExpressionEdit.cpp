@@ -130,9 +130,9 @@ void ExpressionEdit::findFault()
     // What is redundant in front isn't looked at.
     QString const expression = SortFilterProxyModel::essentialPart(text());
     std::optional<PosixRegex::Fault> const found = PosixRegex::fault(expression);
-    QString words;
-    if (found) {
-        qsizetype const place = text().indexOf(expression) + found->at;
+    QString words = found ? found->words : QString();
+    if (found && found->at) {
+        qsizetype const place = text().indexOf(expression) + *found->at;
         //: %1 is what the system's library says is wrong, %2 the number of the letter, from 1, %3 the letter
         words = tr("%1, at letter %2 of the expression: %3")
                     .arg(found->words, QString::number(place + 1), text().mid(place, 1));

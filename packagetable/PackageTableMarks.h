@@ -23,6 +23,7 @@ struct MarkCounts
     unsigned long long bytes = 0; ///< the packages that installations and updates bring
 
     explicit MarkCounts(YumIO const& yumIO);
+    [[nodiscard]] qsizetype all() const { return installs + updates + removals; }
 };
 
 /// The marks of a list of packages, to be set again in the list that takes its place. GUI thread.

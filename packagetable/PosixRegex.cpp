@@ -94,6 +94,10 @@ std::optional<PosixRegex::Fault> PosixRegex::fault(QString const& pattern)
     if (words.isEmpty()) {
         return std::nullopt;
     }
+    constexpr qsizetype longestSearched = 300;
+    if (pattern.size() > longestSearched) {
+        return Fault{words, std::nullopt};
+    }
     // regcomp(3) doesn't tell where. As long as the beginning of a pattern compiles, nothing is wrong with
     // it.
     qsizetype good = pattern.size() - 1;

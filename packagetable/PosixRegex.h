@@ -17,7 +17,9 @@ public:
     struct Fault
     {
         QString words; ///< regerror(3), in the user's language
-        int at = 0;    ///< which of the pattern's characters it is that nothing behind it makes good, from 0
+        /// Which of the pattern's characters it is that nothing behind it makes good, from 0. Nothing for
+        /// long patterns: to find out takes as many compilations.
+        std::optional<int> at;
     };
     /// Nothing for a pattern that compiles.
     [[nodiscard]] static std::optional<Fault> fault(QString const& pattern);

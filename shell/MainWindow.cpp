@@ -29,7 +29,6 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
-#include <algorithm>
 #include <utility>
 
 namespace
@@ -380,9 +379,11 @@ void MainWindow::matchesCaseChanged(bool matches)
     isSearching() ? whileBusy(step) : step();
 }
 
-void MainWindow::showMarks()
+qsizetype MainWindow::showMarks()
 {
-    statusLine->setMarks(PackageTable::MarkCounts(*yumIO));
+    PackageTable::MarkCounts const counts(*yumIO);
+    statusLine->setMarks(counts);
+    return counts.all();
 }
 
 void MainWindow::showRowCounts()
@@ -430,13 +431,7 @@ void MainWindow::stateChanged(int row)
     if (row == -1) {
         view->marksChanged();
     }
-    showMarks();
-    auto const isMarked = [](Package::Entry const* entry) { return entry->action != Package::None; };
-    if (row != -1 && isMarked((*yumIO)[row])) {
-        applyButton->setEnabled(true);
-        return;
-    }
-    applyButton->setEnabled(std::any_of(yumIO->begin(), yumIO->end(), isMarked));
+    applyButton->setEnabled(showMarks() > 0);
 }
 
 void MainWindow::modeChanged(int mode)

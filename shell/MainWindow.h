@@ -80,7 +80,8 @@ public Q_SLOTS:
     void followTyping();
     void matchesCaseChanged(bool matches);
     void showRowCounts();
-    void showMarks();
+    /// Answers how many there are.
+    qsizetype showMarks();
     void currentChanged(int current, int previous);
     void stateChanged(int row = -1);
     void modeChanged(int mode);

@@ -85,10 +85,7 @@ void StatusLine::setMarks(PackageTable::MarkCounts const& counts)
     add(counts.updates, tr("1 update"), tr("%1 updates"));
     add(counts.removals, tr("1 removal"), tr("%1 removals"));
     //: %1 is a number, %2 something like "2 installs, 1 removal"
-    QString words = tr("%1 marked: %2")
-                        .arg(
-                            QString::number(counts.installs + counts.updates + counts.removals),
-                            kinds.join(QLatin1String(", ")));
+    QString words = tr("%1 marked: %2").arg(QString::number(counts.all()), kinds.join(QLatin1String(", ")));
     if (counts.bytes > 0) {
         //: %1 is the sentence about marks, %2 a size
         words = tr("%1; %2 to download").arg(words, YumIO::bytesFormat(counts.bytes));

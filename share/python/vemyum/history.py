@@ -116,8 +116,8 @@ def fault(path: str) -> Optional[str]:
 
 def _told(path: str, cause: str, anew: bool) -> str:
     """That a history cannot be used; `anew` for one that one could do without."""
-    words = _("The history of transactions, {file}, cannot be used: {fault}")
-    lines = [words.format(file=as_configured(path), fault=cause)]
+    template = _("The history of transactions, {file}, cannot be used: {fault}")
+    lines = [template.format(file=as_configured(path), fault=cause)]
     space = scarce_space(os.path.dirname(path))
     # Somebody works with one that is locked.
     if anew and not space and "locked" not in cause and os.access(path, os.W_OK):
