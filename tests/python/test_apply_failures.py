@@ -9,7 +9,7 @@ import re
 import sqlite3
 import subprocess
 from pathlib import Path
-from typing import Any, Callable, ContextManager, Iterator, Tuple
+from typing import Callable, ContextManager, Iterator, Tuple
 
 import pytest
 from catalogue import Catalogue

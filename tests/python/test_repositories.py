@@ -7,7 +7,6 @@ import hashlib
 import os
 import re
 import types
-from pathlib import Path
 from typing import List, Optional, Tuple
 
 import pytest
