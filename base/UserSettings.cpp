@@ -44,6 +44,11 @@ void UserSettings::setValue(QString const& key, QVariant const& value)
     open()->setValue(key, value);
 }
 
+void UserSettings::remove(QString const& key)
+{
+    open()->remove(key);
+}
+
 QString UserSettings::putAside()
 {
     return damaged;

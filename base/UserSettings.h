@@ -13,6 +13,7 @@ class UserSettings
 public:
     [[nodiscard]] static QVariant value(QString const& key, QVariant const& fallback);
     static void setValue(QString const& key, QVariant const& value);
+    static void remove(QString const& key);
 
     /// Where a damaged file has been put by this process; empty as long as none has.
     [[nodiscard]] static QString putAside();

@@ -1,18 +1,59 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "packagetable/PackageTableColumns.h"
 
+#include <algorithm>
 #include <array>
 
 namespace PackageTable
 {
 
+namespace
+{
+
+constexpr std::array<char const*, ColumnCount> columnIds{
+    "action",       "state", "kind",      "name",    "version",         "repository",
+    "architecture", "size",  "buildTime", "summary", "installedVersion"};
+
+// Of what is installed; an update has it behind it.
+QString const& installedVersion(Package::Entry const& entry)
+{
+    static QString const none;
+    if (entry.installed) {
+        return entry.installed->verRel;
+    }
+    return entry.state == Package::UpToDate ? entry.verRel : none;
+}
+
+} // namespace
+
 QString const& columnText(Package::Entry const& entry, int column)
 {
     using Package::Entry;
-    static constexpr std::array<QString Entry::*, ColumnCount - NameColumn> fields{
-        &Entry::name, &Entry::verRel, &Entry::repo, &Entry::arch, &Entry::sizeText, &Entry::buildTimeText};
+    if (column == InstalledVersionColumn) {
+        return installedVersion(entry);
+    }
+    static constexpr std::array<QString Entry::*, InstalledVersionColumn - NameColumn> fields{
+        &Entry::name,     &Entry::verRel,        &Entry::repo,   &Entry::arch,
+        &Entry::sizeText, &Entry::buildTimeText, &Entry::summary};
     Q_ASSERT(column >= NameColumn && column < ColumnCount);
     return entry.*fields[static_cast<size_t>(column - NameColumn)];
+}
+
+QString columnId(int column)
+{
+    return QLatin1String(columnIds.at(static_cast<size_t>(column)));
+}
+
+int columnOfId(QString const& name)
+{
+    auto const* const found =
+        std::ranges::find_if(columnIds, [&](char const* id) { return name == QLatin1String(id); });
+    return found == columnIds.end() ? -1 : static_cast<int>(found - columnIds.begin());
+}
+
+bool isShownAtFirst(int column)
+{
+    return column <= BuildTimeColumn;
 }
 
 bool isNumericColumn(int column)

@@ -20,14 +20,24 @@ enum Column
     ArchitectureColumn,
     SizeColumn,
     BuildTimeColumn,
+    SummaryColumn,
+    InstalledVersionColumn,
     ColumnCount,
 };
 
-/// The text that `column` shows for `entry`. `column` is one from NameColumn to BuildTimeColumn.
+/// The text that `column` shows for `entry`. `column` is one from NameColumn on.
 [[nodiscard]] QString const& columnText(Package::Entry const& entry, int column);
 
 /// Whether `column` sorts by a number, and not by its text.
 [[nodiscard]] bool isNumericColumn(int column);
+
+/// A column's name in what is remembered of the user: the same in all languages and releases.
+[[nodiscard]] QString columnId(int column);
+/// -1 for what is no column's name.
+[[nodiscard]] int columnOfId(QString const& name);
+
+/// Whether somebody who has arranged nothing sees the column.
+[[nodiscard]] bool isShownAtFirst(int column);
 
 /// The number by which `column` sorts; 0 for a column that sorts by its text. Sizes and build times keep
 /// their low 32 bits only, as a signed number.

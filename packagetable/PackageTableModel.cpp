@@ -52,6 +52,10 @@ constexpr std::array<ColumnHeader, ColumnCount> columnHeaders{{
      QT_TRANSLATE_NOOP("PackageTable::Model", "Size of the package")},
     {QT_TRANSLATE_NOOP("PackageTable::Model", "Build Time"),
      QT_TRANSLATE_NOOP("PackageTable::Model", "Date and time at which the package was created")},
+    {QT_TRANSLATE_NOOP("PackageTable::Model", "Summary"),
+     QT_TRANSLATE_NOOP("PackageTable::Model", "What the package is, in one line")},
+    {QT_TRANSLATE_NOOP("PackageTable::Model", "Installed Version"),
+     QT_TRANSLATE_NOOP("PackageTable::Model", "Version and release that is installed, if any")},
 }};
 
 Package::Action nextAction(Package::State state, Package::Action present)

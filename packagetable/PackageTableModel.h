@@ -23,10 +23,10 @@ namespace Describe
 class Dialog;
 }
 
-/// The engine's list of packages, groups and suites as a table of nine columns, and the place where a
-/// user's marks land. It holds no rows of its own: row n is the n-th entry of the engine, read when it is
-/// asked for. Owned by the main window; GUI thread only. The engine's list must not be rebuilt while the
-/// table can paint, and `reset` must follow each rebuild.
+/// The engine's list of packages, groups and suites as a table, one column for each of enum Column, and the
+/// place where a user's marks land. It holds no rows of its own: row n is the n-th entry of the engine, read
+/// when it is asked for. Owned by the main window; GUI thread only. The engine's list must not be rebuilt
+/// while the table can paint, and `reset` must follow each rebuild.
 ///
 /// All indexes are in this model's own terms. An index that is invalid or whose row has vanished is
 /// harmless everywhere: nothing happens.

@@ -5,32 +5,44 @@
 
 #include <QAction>
 #include <QMenu>
+#include <QTableView>
 #include <algorithm>
 #include <utility>
 
 namespace PackageTable
 {
 
-SelectionActions::SelectionActions(Model* tableModel, Selected selectedRows, QWidget* view)
+SelectionActions::SelectionActions(Model* tableModel, Selected selectedRows, QTableView* view)
     : QObject(view),
       model(tableModel),
       selected(std::move(selectedRows)),
+      table(view),
       choices{
-          {{Package::Install, new QAction(this)},
-           {Package::Remove, new QAction(this)},
-           {Package::None, new QAction(this)}}}
+          {{Package::Install, add(QString(), {Qt::Key_Plus})},
+           {Package::Remove, add(QString(), {Qt::Key_Delete, Qt::Key_Minus})},
+           {Package::None, add(QString(), {Qt::Key_Backspace})}}},
+      describe(add(tr("&Describe"), {Qt::Key_Return, Qt::Key_Enter})),
+      browse(add(tr("Browse Repository"), {})),
+      selectAll(add(tr("Select &All"), QKeySequence::keyBindings(QKeySequence::SelectAll)))
 {
-    choices[0].action->setShortcut(QKeySequence(Qt::Key_Plus));
-    choices[1].action->setShortcuts({QKeySequence(Qt::Key_Delete), QKeySequence(Qt::Key_Minus)});
-    choices[2].action->setShortcut(QKeySequence(Qt::Key_Backspace));
     for (Choice const& choice : choices) {
-        choice.action->setShortcutContext(Qt::WidgetShortcut);
-        // A menu tells the key, whatever the desktop usually does in context menus.
-        choice.action->setShortcutVisibleInContextMenu(true);
-        view->addAction(choice.action);
         connect(
             choice.action, &QAction::triggered, this, [this, wanted = choice.wanted] { carryOut(wanted); });
     }
+    connect(describe, &QAction::triggered, this, &SelectionActions::describeWanted);
+    connect(browse, &QAction::triggered, this, &SelectionActions::browseWanted);
+    connect(selectAll, &QAction::triggered, table, &QTableView::selectAll);
+}
+
+QAction* SelectionActions::add(QString const& text, QList<QKeySequence> const& keys)
+{
+    auto* const action = new QAction(text, this);
+    action->setShortcuts(keys);
+    action->setShortcutContext(Qt::WidgetShortcut);
+    // A menu tells the key, whatever the desktop usually does in context menus.
+    action->setShortcutVisibleInContextMenu(true);
+    table->addAction(action);
+    return action;
 }
 
 void SelectionActions::carryOut(Package::Action wanted)
@@ -47,13 +59,33 @@ void SelectionActions::addTo(QMenu& menu)
         for (Choice const& choice : choices) {
             menu.addAction(choice.action);
         }
-        // What the menu greys out is a key all the same, for rows that are selected later.
-        connect(&menu, &QMenu::aboutToHide, this, [this] {
-            for (Choice const& choice : choices) {
-                choice.action->setEnabled(true);
-            }
-        });
+        connect(&menu, &QMenu::aboutToHide, this, &SelectionActions::enableAll);
     }
+}
+
+void SelectionActions::fill(QMenu& menu)
+{
+    menu.addAction(describe);
+    menu.addAction(browse);
+    addTo(menu);
+    menu.addSeparator();
+    menu.addAction(selectAll);
+    connect(&menu, &QMenu::aboutToShow, this, [this] {
+        count();
+        bool const hasRow = table->currentIndex().isValid();
+        describe->setEnabled(hasRow);
+        browse->setEnabled(hasRow);
+    });
+}
+
+// What a menu greys out is a key all the same, for rows that are selected later.
+void SelectionActions::enableAll()
+{
+    for (Choice const& choice : choices) {
+        choice.action->setEnabled(true);
+    }
+    describe->setEnabled(true);
+    browse->setEnabled(true);
 }
 
 void SelectionActions::count()

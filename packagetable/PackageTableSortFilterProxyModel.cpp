@@ -75,19 +75,6 @@ void append(QByteArray& bytes, QString const& text)
     }
 }
 
-/// Makes `line` the texts that the table shows for the entry, in UTF-8, as if they were separated by blanks,
-/// so that an expression can span two columns.
-void takeShownTexts(Package::Entry const& entry, QByteArray& line)
-{
-    line.resize(0);
-    for (int column = NameColumn; column < ColumnCount; ++column) {
-        if (!line.isEmpty()) {
-            line += ' ';
-        }
-        append(line, columnText(entry, column));
-    }
-}
-
 bool passesStateAndKind(Package::Entry const& entry, SortFilterProxyModel::Conditions const& wanted)
 {
     if (wanted.stateFilter == Marked) {
@@ -122,6 +109,28 @@ SortFilterProxyModel::SortFilterProxyModel(
     // A row whose mark changes stays where it is, also in a table that is sorted by Action: it would
     // leave the mouse between two clicks, and marking all of 66,000 rows would move each by itself.
     setDynamicSortFilter(false);
+    for (int column = NameColumn; column < ColumnCount; ++column) {
+        if (isShownAtFirst(column)) {
+            textColumns.push_back(column);
+        }
+    }
+}
+
+void SortFilterProxyModel::setColumnShown(int column, bool shown)
+{
+    auto const place = std::ranges::lower_bound(textColumns, column);
+    bool const wasShown = place != textColumns.end() && *place == column;
+    if (column < NameColumn || shown == wasShown) {
+        return;
+    }
+    if (shown) {
+        textColumns.insert(place, column);
+    } else {
+        textColumns.erase(place);
+    }
+    if (mode == Filter && !present.expression.isEmpty()) {
+        forgetVerdicts();
+    }
 }
 
 void SortFilterProxyModel::setMode(Mode newMode)
@@ -296,13 +305,28 @@ void SortFilterProxyModel::testShownTexts() const
     }
 }
 
+/// Makes `line` the texts that the table shows for the entry, in UTF-8, as if they were separated by blanks,
+/// so that an expression can span two columns.
+void SortFilterProxyModel::takeShownTexts(Package::Entry const& entry, QByteArray& line) const
+{
+    line.resize(0);
+    for (int const column : textColumns) {
+        if (!line.isEmpty()) {
+            line += ' ';
+        }
+        append(line, columnText(entry, column));
+    }
+}
+
 template <typename Judge>
 void SortFilterProxyModel::testShownTexts(Conditions const& wanted, Judge const& judge) const
 {
     QByteArray const pattern = wanted.expression.toUtf8();
     auto const fetch = [&](Package::Entry const& entry) {
-        for (int column = NameColumn; column < ColumnCount && !pattern.isEmpty(); ++column) {
-            fetchLetters(columnText(entry, column));
+        if (!pattern.isEmpty()) {
+            for (int const column : textColumns) {
+                fetchLetters(columnText(entry, column));
+            }
         }
     };
     Parallel::forParts(static_cast<std::size_t>(yumIO->count()), [&](std::size_t begin, std::size_t end) {

@@ -39,6 +39,10 @@ public:
     /// Whether rows of the kind Group may show.
     void setGroupsFilter(bool groups);
 
+    /// Whether the text of that column takes part in mode Filter. At first those of the columns that show at
+    /// first do. A column of pictures takes no part.
+    void setColumnShown(int column, bool shown);
+
     /// False switches all filtering off: every row shows. Rows keep their verdicts meanwhile.
     void setFilter(bool filter);
     [[nodiscard]] bool getFilter() const;
@@ -90,6 +94,7 @@ private:
     /// Calls `judge(row, accepted)` for each row, in several threads.
     template <typename Judge>
     void testShownTexts(Conditions const& wanted, Judge const& judge) const;
+    void takeShownTexts(Package::Entry const& entry, QByteArray& line) const;
     bool matchesAnyField(Package::Entry const& entry) const;
     void forgetVerdicts();
     bool isSearch() const;
@@ -103,6 +108,7 @@ private:
     bool filter = true;
     Conditions present; ///< the base has the expression only once the rows have been tested
     YumIO* yumIO;
+    std::vector<int> textColumns;             ///< in the order of enum Column
     mutable std::vector<Verdict> acceptCache; ///< row by row
     /// The list whose rows `acceptCache` is about: rows get other entries with each rebuild.
     mutable quint64 testedList = 0;

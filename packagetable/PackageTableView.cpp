@@ -4,6 +4,7 @@
 #include "engine/YumIO.h"
 #include "packagetable/PackageTableActionContextMenu.h"
 #include "packagetable/PackageTableColumns.h"
+#include "packagetable/PackageTableHeader.h"
 #include "packagetable/PackageTableModel.h"
 #include "packagetable/PackageTableOtherContextMenu.h"
 #include "packagetable/PackageTableSelectionActions.h"
@@ -26,12 +27,17 @@ View::View(Model* tableModel, StateFilter stateFilter, bool groups, YumIO* yumIO
     : HTableView(QStyleOptionViewItem::Left, 10, std::numeric_limits<int>::max(), parent),
       packages(tableModel),
       proxy(new SortFilterProxyModel(stateFilter, groups, yumIO, parent ? parent : this)),
-      engine(yumIO)
+      engine(yumIO),
+      columns(new Header(this))
 {
     setAccessibleName(tr("Packages"));
     selectionActions = new SelectionActions(
         packages, [this] { return selectedRows(); }, this);
     connect(selectionActions, &SelectionActions::marked, this, [this] { Q_EMIT stateChanged(-1); });
+    connect(selectionActions, &SelectionActions::describeWanted, this, &View::describe);
+    connect(selectionActions, &SelectionActions::browseWanted, this, [this] {
+        packages->browse(proxy->mapToSource(currentIndex()), this);
+    });
     packages->setPalette(palette());
     proxy->setSourceModel(packages);
     setModel(proxy);
@@ -45,16 +51,14 @@ View::View(Model* tableModel, StateFilter stateFilter, bool groups, YumIO* yumIO
     setTabKeyNavigation(false);
     verticalHeader()->hide();
 
-    auto* const header = new QHeaderView(Qt::Horizontal, this);
-    header->setSelectionBehavior(SelectColumns);
-    header->setSectionsMovable(true);
-    header->setSectionsClickable(true);
-    setHorizontalHeader(header);
+    setHorizontalHeader(columns);
+    columns->setUp();
+    connect(columns, &Header::shownChanged, this, &View::showColumn);
 
     sortByColumn(KindColumn, Qt::AscendingOrder);
     proxy->setFilterKeyColumn(KindColumn);
 
-    connect(header, &QHeaderView::sectionClicked, this, &View::handleHorizontalHeaderClicked);
+    connect(columns, &QHeaderView::sectionClicked, this, &View::handleHorizontalHeaderClicked);
     connect(this, &View::clicked, this, &View::handleActivated);
     connect(this, &View::doubleClicked, this, &View::handleDoubleClicked);
     connect(this, &View::customContextMenuRequested, this, &View::handleCustomContextMenuRequested);
@@ -125,11 +129,20 @@ void View::resizeColumnsToContents()
 {
     {
         QScopedValueRollback const guard(fitsAllRows, true);
-        HTableView::resizeColumnsToContents();
+        columns->fitWidths([this] { HTableView::resizeColumnsToContents(); });
     }
     // What a table that shows all rows for a moment goes through, in one pass of two.
     if (proxy->getFilter()) {
         proxy->clear();
+    }
+}
+
+void View::showColumn(int column, bool shown)
+{
+    proxy->setColumnShown(column, shown);
+    if (shown && !columns->hasWidthByHand(column)) {
+        QScopedValueRollback const guard(fitsAllRows, true);
+        columns->fit(column);
     }
 }
 
@@ -148,7 +161,10 @@ int View::widestCell(ColumnWidth const& width, int column) const
     if (column < NameColumn) {
         return widestPicture(width, column);
     }
-    return fitsAllRows ? widestOfAllRows(width, column) : widestText(width, column);
+    int const widest = fitsAllRows ? widestOfAllRows(width, column) : widestText(width, column);
+    // A sentence may be longer than the screen is wide.
+    constexpr int letters = 50;
+    return isShownAtFirst(column) ? widest : std::min(widest, letters * fontMetrics().averageCharWidth());
 }
 
 int View::widestOfAllRows(ColumnWidth const& width, int column) const
@@ -190,7 +206,7 @@ void View::measureColumns()
 {
     ensurePolished();
     for (int column = NameColumn; column < ColumnCount; ++column) {
-        {
+        if (!columns->isSectionHidden(column)) {
             QScopedValueRollback const guard(fitsAllRows, true);
             static_cast<void>(sizeHintForColumn(column));
         }
@@ -306,9 +322,6 @@ void View::keyPressEvent(QKeyEvent* event)
         if (!event->isAutoRepeat()) {
             handleActivated(currentIndex());
         }
-    } else if (
-        (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && currentIndex().isValid()) {
-        describe();
     } else {
         HTableView::keyPressEvent(event);
     }

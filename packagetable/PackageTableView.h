@@ -15,6 +15,7 @@ namespace PackageTable
 {
 
 class ActionContextMenu;
+class Header;
 class Model;
 class OtherContextMenu;
 class SelectionActions;
@@ -22,8 +23,8 @@ class SortFilterProxyModel;
 
 /// The table of packages that the user sees. It turns a click in the Action column, or the space bar on its
 /// cells, into a change of the row's mark and offers two context menus. Columns can be sorted by a click on
-/// their header and moved. Owned by its parent widget; GUI thread. All row numbers and indexes that it hands
-/// out are the model's.
+/// their header, moved and hidden. Owned by its parent widget; GUI thread. All row numbers and indexes that
+/// it hands out are the model's.
 class View final : public HTableView
 {
     Q_OBJECT
@@ -55,6 +56,11 @@ public:
     /// the user's: for a table of new rows that nobody can use yet.
     void measureColumns();
 
+    /// Which columns show, where and how wide.
+    [[nodiscard]] Header* header() const { return columns; }
+    /// The table's own keys as entries of a menu, each with what it concerns now.
+    [[nodiscard]] SelectionActions* actions() const { return selectionActions; }
+
     /// The model's indexes of the selected rows.
     [[nodiscard]] QList<QModelIndex> selectedRows() const;
 
@@ -84,6 +90,7 @@ protected:
     [[nodiscard]] int rowsForHint() const override;
 
 private:
+    void showColumn(int column, bool shown);
     /// What the widths of all rows' cells were found for.
     struct Measured
     {
@@ -104,6 +111,7 @@ private:
     Model* packages; ///< not the view's own model(), which is the proxy
     SortFilterProxyModel* proxy;
     YumIO const* engine;
+    Header* columns;
     mutable Widths knownWidths; ///< of the columns whose cells stay as they are until a rebuild
     mutable Measured measured;  ///< what `knownWidths` holds for, as long as font and style stay
     bool fitsAllRows = false;   ///< sizes follow all rows of the engine, and not only those that show

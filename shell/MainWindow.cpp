@@ -17,6 +17,7 @@
 #include "services/LogWindow.h"
 #include "services/ScrollableErrorDialog.h"
 #include "shell/StatusLine.h"
+#include "shell/WindowMemory.h"
 #include "widgets/HMenu.h"
 
 #include <QAction>
@@ -56,6 +57,7 @@ void MainWindow::setVisible(bool visible)
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
+    memory->keep();
     if (!yumIO || !yumIO->jobRuns()) {
         QMainWindow::closeEvent(event);
     } else if (!yumIO->transactionRuns()) {
@@ -118,6 +120,7 @@ void MainWindow::showTable()
     view->measureColumns();
     tableArea->setVisible(true);
     view->resizeColumnsToContents();
+    memory->restoreSizes();
     // The first letters that are typed take the place of what matches everything.
     focusWhenReady = regExpEdit;
     regExpEdit->selectAll();
@@ -140,6 +143,9 @@ void MainWindow::setReady(bool ready)
     cleanXmlMetadataAction->setEnabled(ready);
     cleanPickledCacheAction->setEnabled(ready && yumIO->hasPickledCache());
     cleanAllAction->setEnabled(ready);
+    resetAction->setEnabled(ready);
+    selectionMenu->setEnabled(ready);
+    findAction->setEnabled(ready);
     if (!ready) {
         focusWhenReady = focusWidget();
     }
@@ -180,6 +186,16 @@ void MainWindow::rebuild()
 void MainWindow::resize()
 {
     view->resizeColumnsToContents();
+}
+
+void MainWindow::reset()
+{
+    memory->forget();
+    regExpEdit->setMatchesCase(true);
+    modeCombo->setCurrentIndex(0);
+    view->sortByColumn(PackageTable::KindColumn, Qt::AscendingOrder);
+    QMainWindow::resize(sizeHint());
+    resize();
 }
 
 void MainWindow::refresh()
@@ -434,7 +450,7 @@ void MainWindow::stateChanged(int row)
     applyButton->setEnabled(showMarks() > 0);
 }
 
-void MainWindow::modeChanged(int mode)
+void MainWindow::tellMode(int mode)
 {
     bool const search = mode == 1;
     filterButton->setText(search ? tr("Search") : tr("Filter"));
@@ -444,12 +460,17 @@ void MainWindow::modeChanged(int mode)
     filterButton->setToolTip(
         search ? tr("Perform the search for the regular expression specified to the left")
                : tr("Apply the filter specified to the left"));
+}
+
+void MainWindow::modeChanged(int mode)
+{
+    tellMode(mode);
     auto const step = [this, mode] {
         // The expression in force is tried in the new way, whatever the line holds.
         prepareFilterSearch(lineHoldsExpression() || view->hasExpression());
         view->setMode(static_cast<PackageTable::Mode>(mode));
     };
-    search ? whileBusy(step) : step();
+    mode == 1 ? whileBusy(step) : step();
 }
 
 void MainWindow::collectedExtraData()

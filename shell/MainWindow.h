@@ -16,6 +16,7 @@ class QComboBox;
 class QHBoxLayout;
 class QPushButton;
 class StatusLine;
+class WindowMemory;
 class YumConfIO;
 class YumIO;
 
@@ -60,6 +61,8 @@ public:
 
 public Q_SLOTS:
     void resize();
+    /// As it is for somebody of whom nothing is remembered.
+    void reset();
     void refresh();
     void reposChanged();
     void initialize();
@@ -108,6 +111,9 @@ protected:
 private:
     void createMenuBar();
     void createMainArea();
+    void fillSelectionMenu();
+    /// Says on the controls what they do in that mode.
+    void tellMode(int mode);
     QHBoxLayout* createFilterRow();
     QHBoxLayout* createButtonRow();
     /// Switches between busy and idle. Calls must pair, since each busy one pushes a cursor.
@@ -150,6 +156,9 @@ private:
     QAction* cleanXmlMetadataAction = nullptr;
     QAction* cleanPickledCacheAction = nullptr;
     QAction* cleanAllAction = nullptr;
+    QAction* resetAction = nullptr;
+    HMenu* selectionMenu = nullptr;
+    QAction* findAction = nullptr;
     QStringList incompleteTold;       ///< what `tellIncomplete` has told last
     QString unfinishedTold;           ///< what `tellUnfinished` has told last
     QPointer<QWidget> closeBox;       ///< says why the window stays, while it does
@@ -165,6 +174,7 @@ private:
     QPushButton* describeButton = nullptr;
     QPushButton* applyButton = nullptr;
     StatusLine* statusLine = nullptr;
+    WindowMemory* memory = nullptr;
     RepoEditor::Dialog* repoEditorDialog = nullptr; ///< null until first used
     Log::Window* logWindow = nullptr; ///< null until first used; top-level, deleted with this window
 };

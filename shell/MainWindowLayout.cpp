@@ -6,11 +6,14 @@
 #include "base/UserSettings.h"
 #include "engine/YumIO.h"
 #include "packagetable/PackageTableExpressionEdit.h"
+#include "packagetable/PackageTableHeader.h"
 #include "packagetable/PackageTableModel.h"
+#include "packagetable/PackageTableSelectionActions.h"
 #include "packagetable/PackageTableView.h"
 #include "services/HProgressBar.h"
 #include "shell/EmptyTableNote.h"
 #include "shell/StatusLine.h"
+#include "shell/WindowMemory.h"
 #include "widgets/HMenu.h"
 
 #include <QAction>
@@ -61,6 +64,8 @@ void MainWindow::createMenuBar()
 
     HMenu* const windowsMenu = addMenu(tr("&Windows"));
     addEntry(windowsMenu, tr("&Log"), &MainWindow::displayLog)->setShortcut(QKeySequence(tr("Ctrl+L")));
+    windowsMenu->addSeparator();
+    resetAction = addEntry(windowsMenu, tr("&Reset Window"), &MainWindow::reset);
 
     repositoriesMenu = addMenu(tr("&Repositories"));
     editRepositoriesAction =
@@ -74,6 +79,8 @@ void MainWindow::createMenuBar()
     cleanPickledCacheAction = addEntry(cacheMenu, tr("Clean Pickled Data"), &MainWindow::cleanPickledCache);
     cacheMenu->addSeparator();
     cleanAllAction = addEntry(cacheMenu, tr("Clean All"), &MainWindow::cleanAll);
+
+    selectionMenu = addMenu(tr("S&election"));
 
     HMenu* const helpMenu = addMenu(tr("&Help"));
     addEntry(helpMenu, tr("Manual (html)"), &MainWindow::manualHtml)->setShortcut(QKeySequence(tr("F1")));
@@ -173,6 +180,20 @@ QHBoxLayout* MainWindow::createButtonRow()
     return row;
 }
 
+void MainWindow::fillSelectionMenu()
+{
+    findAction = selectionMenu->addAction(tr("&Find"));
+    findAction->setShortcut(QKeySequence::Find);
+    connect(findAction, &QAction::triggered, this, [this] {
+        regExpEdit->setFocus(Qt::ShortcutFocusReason);
+        regExpEdit->selectAll();
+    });
+    selectionMenu->addSeparator();
+    view->actions()->fill(*selectionMenu);
+    selectionMenu->addSeparator();
+    selectionMenu->addMenu(view->header()->columnsMenu());
+}
+
 void MainWindow::createMainArea()
 {
     auto* const central = new QWidget(this);
@@ -191,6 +212,7 @@ void MainWindow::createMainArea()
         view, qOverload<int, int>(&PackageTable::View::currentChanged), this, &MainWindow::currentChanged);
     connect(view, &PackageTable::View::stateChanged, this, &MainWindow::stateChanged);
     inner->addWidget(view);
+    fillSelectionMenu();
     inner->addLayout(createButtonRow());
     new EmptyTableNote(view, yumIO, {modeCombo, regExpEdit, stateFilterCombo, includeGroupsBox});
     statusLine = new StatusLine(tableArea);
@@ -214,6 +236,9 @@ void MainWindow::createMainArea()
     setCentralWidget(central);
     regExpEdit->setMatchesCase(UserSettings::value(matchCaseSetting, true).toBool());
     collectedExtraData();
-    modeChanged(0);
+    memory = new WindowMemory(this, view->header(), modeCombo);
+    memory->restore();
+    tellMode(modeCombo->currentIndex());
+    view->setMode(static_cast<PackageTable::Mode>(modeCombo->currentIndex()));
     setReady(false);
 }

@@ -574,6 +574,18 @@ Das Fenster bleibt offen, bis das zu Ende ist.</translation>
         <source>View Marked</source>
         <translation>Markierte anzeigen</translation>
     </message>
+    <message>
+        <source>&amp;Reset Window</source>
+        <translation>Fenster &amp;zurücksetzen</translation>
+    </message>
+    <message>
+        <source>S&amp;election</source>
+        <translation>Aus&amp;wahl</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>&amp;Finden</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>
@@ -824,6 +836,13 @@ Das Fenster bleibt offen, bis das zu Ende ist.</translation>
     </message>
 </context>
 <context>
+    <name>PackageTable::Header</name>
+    <message>
+        <source>&amp;Columns</source>
+        <translation>&amp;Spalten</translation>
+    </message>
+</context>
+<context>
     <name>PackageTable::Model</name>
     <message>
         <source>Action</source>
@@ -963,6 +982,22 @@ In mehr als einer Version installiert: %1</translation>
         <translation>Ersetzt: %1
 </translation>
     </message>
+    <message>
+        <source>Summary</source>
+        <translation>Kurzbeschreibung</translation>
+    </message>
+    <message>
+        <source>What the package is, in one line</source>
+        <translation>Was das Paket ist, in einer Zeile</translation>
+    </message>
+    <message>
+        <source>Installed Version</source>
+        <translation>Installierte Version</translation>
+    </message>
+    <message>
+        <source>Version and release that is installed, if any</source>
+        <translation>Version und Release, die installiert sind, falls das Paket installiert ist</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::OtherContextMenu</name>
@@ -989,6 +1024,18 @@ In mehr als einer Version installiert: %1</translation>
     <message>
         <source>No Action for Selected: %1</source>
         <translation>Keine Aktion für Ausgewählte: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Describe</source>
+        <translation>&amp;Beschreiben</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Alles auswählen</translation>
+    </message>
+    <message>
+        <source>Browse Repository</source>
+        <translation>Im Browser öffnen</translation>
     </message>
 </context>
 <context>

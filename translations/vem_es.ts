@@ -574,6 +574,18 @@ La ventana permanece abierta hasta que termine.</translation>
         <source>View Marked</source>
         <translation>Ver marcados</translation>
     </message>
+    <message>
+        <source>&amp;Reset Window</source>
+        <translation>Restablecer &amp;ventana</translation>
+    </message>
+    <message>
+        <source>S&amp;election</source>
+        <translation>Selecció&amp;n</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>B&amp;uscar</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>
@@ -824,6 +836,13 @@ La ventana permanece abierta hasta que termine.</translation>
     </message>
 </context>
 <context>
+    <name>PackageTable::Header</name>
+    <message>
+        <source>&amp;Columns</source>
+        <translation>&amp;Columnas</translation>
+    </message>
+</context>
+<context>
     <name>PackageTable::Model</name>
     <message>
         <source>Action</source>
@@ -963,6 +982,22 @@ Instalado en más de una versión: %1</translation>
         <translation>Reemplaza: %1
 </translation>
     </message>
+    <message>
+        <source>Summary</source>
+        <translation>Resumen</translation>
+    </message>
+    <message>
+        <source>What the package is, in one line</source>
+        <translation>Qué es el paquete, en una línea</translation>
+    </message>
+    <message>
+        <source>Installed Version</source>
+        <translation>Versión instalada</translation>
+    </message>
+    <message>
+        <source>Version and release that is installed, if any</source>
+        <translation>Versión y publicación instaladas, si las hay</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::OtherContextMenu</name>
@@ -989,6 +1024,18 @@ Instalado en más de una versión: %1</translation>
     <message>
         <source>No Action for Selected: %1</source>
         <translation>Ninguna acción para lo seleccionado: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Describe</source>
+        <translation>&amp;Describir</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Seleccionar todo</translation>
+    </message>
+    <message>
+        <source>Browse Repository</source>
+        <translation>Explorar repositorio</translation>
     </message>
 </context>
 <context>

@@ -574,6 +574,18 @@ La fenêtre reste ouverte jusqu’à la fin de l’opération.</translation>
         <source>View Marked</source>
         <translation>Voir marqués</translation>
     </message>
+    <message>
+        <source>&amp;Reset Window</source>
+        <translation>&amp;Réinitialiser la fenêtre</translation>
+    </message>
+    <message>
+        <source>S&amp;election</source>
+        <translation>Sélect&amp;ion</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>Rec&amp;hercher</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>
@@ -824,6 +836,13 @@ La fenêtre reste ouverte jusqu’à la fin de l’opération.</translation>
     </message>
 </context>
 <context>
+    <name>PackageTable::Header</name>
+    <message>
+        <source>&amp;Columns</source>
+        <translation>&amp;Colonnes</translation>
+    </message>
+</context>
+<context>
     <name>PackageTable::Model</name>
     <message>
         <source>Action</source>
@@ -963,6 +982,22 @@ Installé en plusieurs versions&#xa0;: %1</translation>
         <translation>Remplace&#xa0;: %1
 </translation>
     </message>
+    <message>
+        <source>Summary</source>
+        <translation>Résumé</translation>
+    </message>
+    <message>
+        <source>What the package is, in one line</source>
+        <translation>Ce qu&apos;est le paquet, en une ligne</translation>
+    </message>
+    <message>
+        <source>Installed Version</source>
+        <translation>Version installée</translation>
+    </message>
+    <message>
+        <source>Version and release that is installed, if any</source>
+        <translation>Version et révision installées, le cas échéant</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::OtherContextMenu</name>
@@ -989,6 +1024,18 @@ Installé en plusieurs versions&#xa0;: %1</translation>
     <message>
         <source>No Action for Selected: %1</source>
         <translation>Aucune action pour la sélection : %1</translation>
+    </message>
+    <message>
+        <source>&amp;Describe</source>
+        <translation>Déc&amp;rire</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>Browse Repository</source>
+        <translation>Parcourir le dépôt</translation>
     </message>
 </context>
 <context>

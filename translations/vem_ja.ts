@@ -574,6 +574,18 @@ The window stays open until that has come to its end.</source>
         <source>View Marked</source>
         <translation>指定済みを表示</translation>
     </message>
+    <message>
+        <source>&amp;Reset Window</source>
+        <translation>ウィンドウを初期状態に戻す(&amp;R)</translation>
+    </message>
+    <message>
+        <source>S&amp;election</source>
+        <translation>選択(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>検索(&amp;F)</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>
@@ -824,6 +836,13 @@ The window stays open until that has come to its end.</source>
     </message>
 </context>
 <context>
+    <name>PackageTable::Header</name>
+    <message>
+        <source>&amp;Columns</source>
+        <translation>列(&amp;C)</translation>
+    </message>
+</context>
+<context>
     <name>PackageTable::Model</name>
     <message>
         <source>Action</source>
@@ -963,6 +982,22 @@ Installed in more than one version: %1</source>
         <translation>置き換え対象: %1
 </translation>
     </message>
+    <message>
+        <source>Summary</source>
+        <translation>概要</translation>
+    </message>
+    <message>
+        <source>What the package is, in one line</source>
+        <translation>パッケージの説明 (1 行)</translation>
+    </message>
+    <message>
+        <source>Installed Version</source>
+        <translation>インストール済みバージョン</translation>
+    </message>
+    <message>
+        <source>Version and release that is installed, if any</source>
+        <translation>インストール済みのバージョンとリリース (ある場合)</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::OtherContextMenu</name>
@@ -989,6 +1024,18 @@ Installed in more than one version: %1</source>
     <message>
         <source>No Action for Selected: %1</source>
         <translation>選択したものは何もしない: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Describe</source>
+        <translation>詳細(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>すべて選択(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Browse Repository</source>
+        <translation>リポジトリを閲覧</translation>
     </message>
 </context>
 <context>

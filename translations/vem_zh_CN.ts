@@ -574,6 +574,18 @@ The window stays open until that has come to its end.</source>
         <source>View Marked</source>
         <translation>查看已标记</translation>
     </message>
+    <message>
+        <source>&amp;Reset Window</source>
+        <translation>重置窗口(&amp;R)</translation>
+    </message>
+    <message>
+        <source>S&amp;election</source>
+        <translation>选择(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>查找(&amp;F)</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>
@@ -824,6 +836,13 @@ The window stays open until that has come to its end.</source>
     </message>
 </context>
 <context>
+    <name>PackageTable::Header</name>
+    <message>
+        <source>&amp;Columns</source>
+        <translation>列(&amp;C)</translation>
+    </message>
+</context>
+<context>
     <name>PackageTable::Model</name>
     <message>
         <source>Action</source>
@@ -963,6 +982,22 @@ Installed in more than one version: %1</source>
         <translation>替换：%1
 </translation>
     </message>
+    <message>
+        <source>Summary</source>
+        <translation>摘要</translation>
+    </message>
+    <message>
+        <source>What the package is, in one line</source>
+        <translation>一行的软件包说明</translation>
+    </message>
+    <message>
+        <source>Installed Version</source>
+        <translation>已安装版本</translation>
+    </message>
+    <message>
+        <source>Version and release that is installed, if any</source>
+        <translation>已安装的版本和发行号（如有）</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::OtherContextMenu</name>
@@ -989,6 +1024,18 @@ Installed in more than one version: %1</source>
     <message>
         <source>No Action for Selected: %1</source>
         <translation>对所选不执行操作：%1</translation>
+    </message>
+    <message>
+        <source>&amp;Describe</source>
+        <translation>详细信息(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>全选(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Browse Repository</source>
+        <translation>浏览仓库</translation>
     </message>
 </context>
 <context>

@@ -55,7 +55,6 @@ QSize HTableView::sizeHint() const
         minimumRows = std::min(std::max(rowsForHint(), minimumRows), maximumRows);
         maximumRows = minimumRows;
     }
-    int const last = model()->columnCount() - 1;
     // A header without sections may answer at first that it has no size at all, which is -1.
     auto const shown = [](QHeaderView const* header) {
         return header->isHidden() ? QSize(0, 0) : header->sizeHint().expandedTo(QSize(0, 0));
@@ -63,8 +62,8 @@ QSize HTableView::sizeHint() const
     int const rowHeaderWidth = shown(verticalHeader()).width();
     int const columnHeaderHeight = shown(horizontalHeader()).height();
     return {
-        frameWidth() + rowHeaderWidth + columnViewportPosition(last) + columnWidth(last) +
-            frameOnlyAroundContentsPixels() + verticalScrollBar()->sizeHint().width() + frameWidth(),
+        frameWidth() + rowHeaderWidth + horizontalHeader()->length() + frameOnlyAroundContentsPixels() +
+            verticalScrollBar()->sizeHint().width() + frameWidth(),
         frameWidth() + columnHeaderHeight + rowHeightForHint() + frameWidth()};
 }
 

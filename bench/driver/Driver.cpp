@@ -229,7 +229,9 @@ void Driver::measure(QJsonObject const& step)
     if (step.value(QLatin1String("do")) == QLatin1String("walk")) {
         QJsonArray widths;
         for (int column = 0; column < table->model()->columnCount(); ++column) {
-            widths.append(table->columnWidth(column));
+            if (!table->isColumnHidden(column)) {
+                widths.append(table->columnWidth(column));
+            }
         }
         line.insert(QLatin1String("widths"), widths);
         line.insert(QLatin1String("walked"), walkedWidths());
@@ -387,6 +389,9 @@ QJsonArray Driver::walkedWidths() const
     int const grid = table->showGrid() ? 1 : 0;
     QJsonArray widths;
     for (int column = 0; column < model.columnCount(); ++column) {
+        if (table->isColumnHidden(column)) {
+            continue;
+        }
         int widest = table->horizontalHeader()->sectionSizeHint(column);
         for (int row = 0; row < model.rowCount(); ++row) {
             QModelIndex const index = model.index(row, column);

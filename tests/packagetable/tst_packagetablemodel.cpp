@@ -73,7 +73,7 @@ private Q_SLOTS:
         model.reset();
     }
 
-    void hasARowForEachEntryAndNineColumnsWhateverTheParent()
+    void hasARowForEachEntryAndAllColumnsWhateverTheParent()
     {
         TestEngine engine;
         Model const model(&engine, nullptr);
@@ -82,8 +82,8 @@ private Q_SLOTS:
         engine.add("zsh", Package::Available);
         QCOMPARE(model.rowCount(), 2);
         QCOMPARE(model.rowCount(model.index(1, 3)), 2);
-        QCOMPARE(model.columnCount(), 9);
-        QCOMPARE(model.columnCount(model.index(1, 3)), 9);
+        QCOMPARE(model.columnCount(), int{PackageTable::ColumnCount});
+        QCOMPARE(model.columnCount(model.index(1, 3)), int{PackageTable::ColumnCount});
     }
 
     void everyCellIsEnabledAndSelectableAndNotEditable()
@@ -142,7 +142,7 @@ private Q_SLOTS:
         TestEngine engine;
         engine.add("bash", Package::OutOfDate);
         Model const model(&engine, nullptr);
-        QVERIFY(!model.headerData(9, Qt::Horizontal, Qt::DisplayRole).isValid());
+        QVERIFY(!model.headerData(PackageTable::ColumnCount, Qt::Horizontal, Qt::DisplayRole).isValid());
         QVERIFY(!model.headerData(-1, Qt::Horizontal, Qt::DisplayRole).isValid());
         QVERIFY(!model.headerData(0, Qt::Vertical, Qt::DisplayRole).isValid());
         QVERIFY(!model.headerData(0, Qt::Horizontal, Qt::DecorationRole).isValid());
@@ -359,7 +359,7 @@ private Q_SLOTS:
              {int(Qt::DisplayRole), int(Qt::DecorationRole), int(Qt::ToolTipRole), int(Qt::ForegroundRole),
               int(Qt::UserRole)}) {
             QVERIFY(!model.data(QModelIndex(), role).isValid());
-            QVERIFY(!model.data(model.createIndex(0, 9), role).isValid());
+            QVERIFY(!model.data(model.createIndex(0, PackageTable::ColumnCount), role).isValid());
             QVERIFY(!model.data(model.createIndex(1, 3), role).isValid());
         }
     }
@@ -425,7 +425,7 @@ private Q_SLOTS:
         QCOMPARE(entry.action, Package::Remove);
         model.setAction(model.index(0, 8), Package::None);
         QCOMPARE(entry.action, Package::None);
-        model.setAction(model.createIndex(0, 9), Package::Remove);
+        model.setAction(model.createIndex(0, PackageTable::ColumnCount), Package::Remove);
         QCOMPARE(entry.action, Package::None);
         QCOMPARE(changes.count(), 0);
     }
@@ -494,7 +494,7 @@ private Q_SLOTS:
         QVERIFY(model.index(0, 0).isValid());
         QCOMPARE(model.index(0, 8).column(), 8);
         QVERIFY(!model.index(1, 0).isValid());
-        QVERIFY(!model.index(0, 9).isValid());
+        QVERIFY(!model.index(0, PackageTable::ColumnCount).isValid());
         QVERIFY(!model.index(-1, 0).isValid());
         QVERIFY(!model.index(0, -1).isValid());
     }

@@ -59,7 +59,7 @@ QString ShellTest::era()
     return qEnvironmentVariable("VEM_TEST_ERA", QStringLiteral("3.2.19"));
 }
 
-void ShellTest::makeWindow()
+void ShellTest::prepare()
 {
     application = qobject_cast<QApplication*>(QCoreApplication::instance());
     static QTemporaryDir const root;
@@ -80,6 +80,13 @@ void ShellTest::makeWindow()
     static QTemporaryDir const configuration;
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, configuration.path());
     qputenv("TZ", "UTC");
+}
+
+void ShellTest::makeWindow()
+{
+    if (qEnvironmentVariableIsEmpty("VEMROOT")) {
+        prepare();
+    }
     boxes = std::make_unique<Boxes>();
     window = new MainWindow(nullptr);
 }

@@ -22,8 +22,10 @@ class ShellTest : public QObject
 
 protected:
     static QString era();
-    /// Points the program to the stand-in, with the real pictures, and to an empty root, and makes the
-    /// window. Not shown yet.
+    /// Points the program to the stand-in, with the real pictures, to an empty root, and to a user of whom
+    /// nothing is remembered.
+    static void prepare();
+    /// The same, where it hasn't been done, and makes the window. Not shown yet.
     void makeWindow();
     /// Shows it and waits for the table.
     bool openWindow();

@@ -69,6 +69,7 @@ class MainWindowTest : public ShellTest
 
     void apply(QString const& text)
     {
+        expression()->setFocus();
         expression()->setText(text);
         QTest::keyClick(expression(), Qt::Key_Return);
     }

@@ -109,6 +109,8 @@ private Q_SLOTS:
 
     void returnDescribesTheCurrentRow()
     {
+        window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(window));
         table()->setFocus();
         table()->setCurrentIndex(table()->model()->index(rowOf(QStringLiteral("cedar")), 3));
         QTest::keyClick(table(), Qt::Key_Return);
