@@ -80,6 +80,16 @@ bool CollectBuildHostThread::work()
     return yumIO->collectBuildHostReal(entry);
 }
 
+CollectDetailsThread::CollectDetailsThread(YumIO* engine, QEventLoop& callersLoop)
+    : WorkThread(engine, callersLoop)
+{
+}
+
+bool CollectDetailsThread::work()
+{
+    return yumIO->collectDetailsReal();
+}
+
 ApplyThread::ApplyThread(YumIO* engine, QEventLoop& callersLoop, YumIO::ApplyOf whatToApply)
     : WorkThread(engine, callersLoop),
       what(whatToApply)

@@ -108,6 +108,17 @@ private:
     Package::Entry const& entry;
 };
 
+class CollectDetailsThread final : public WorkThread
+{
+    Q_OBJECT
+
+public:
+    CollectDetailsThread(YumIO* engine, QEventLoop& callersLoop);
+
+protected:
+    bool work() override;
+};
+
 class ApplyThread final : public WorkThread
 {
     Q_OBJECT

@@ -210,6 +210,9 @@ void YumIO::detachEntries()
     detached += entries.isEmpty() ? entryHash.values() : entries;
     entries.clear();
     entryHash.clear();
+    for (Package::RowDetails& those : rowDetails) {
+        those.clear();
+    }
     left.text.clear();
     left.versions.clear();
 }
@@ -287,6 +290,7 @@ bool YumIO::collect(QHash<QString, bool> const& repoStates)
     execWorkThread(loop, thread);
     if (thread.result) {
         takeEntries();
+        takeDetails();
     }
     return thread.result;
 }

@@ -5,6 +5,7 @@
 #include "bridge/Python.h"
 #include "bridge/YumIOHost.h"
 #include "engine/Package.h"
+#include "engine/RowDetails.h"
 #include "services/CaptureSink.h"
 #include "services/Log.h"
 
@@ -13,6 +14,7 @@
 #include <QObject>
 #include <QSet>
 #include <QStringList>
+#include <array>
 #include <atomic>
 #include <functional>
 #include <string_view>
@@ -136,6 +138,13 @@ public:
     /// Whether that job has nothing to do: the entry is installed or a group, or a package of its repository
     /// has been asked for its build host in this collection.
     [[nodiscard]] bool buildHostAtHand(Package::Entry const& entry) const;
+    /// Job: says whether a detail of all rows is wanted, from now on and behind each collection, and loads
+    /// it. False after a report; the texts are empty then, as where a script doesn't tell. No job where it is
+    /// at hand, and none before the first collection.
+    bool wantDetails(Package::Detail detail, bool wanted);
+    /// Whether that, for what is wanted by now, has nothing to do.
+    [[nodiscard]] bool detailsAtHand() const;
+    [[nodiscard]] Package::RowDetails const& details(Package::Detail detail) const;
     /// Job: applies all marks in one transaction. True when the user confirmed and the script's `apply`
     /// ended without an expected exception; the caller must then rebuild. False: nothing to rebuild, marks
     /// and table stay as they are.
@@ -304,6 +313,7 @@ protected:
     friend class CollectFileListsThread;
     friend class CollectOtherDataThread;
     friend class CollectBuildHostThread;
+    friend class CollectDetailsThread;
     friend class ApplyThread;
 
     // Jobs.
@@ -361,6 +371,14 @@ protected:
     bool collectExtraDataReal(
         bool YumIO::*collected, QString const& heading, QString const& contents, QString const& total,
         char const* method, QString const& failure);
+    bool collectDetails();
+    bool collectDetailsReal();
+    /// Reads all that are wanted, on the worker; `takeDetails` makes them those of the table's rows.
+    bool readDetails(QList<Package::Entry*> const& rows);
+    void takeDetails();
+    void askPackages(Package::Detail detail, QList<Package::Entry*> const& rows, Package::RowDetails& those);
+    bool askScript(char const* name, QList<Package::Entry*> const& rows, Package::RowDetails& those);
+    PyRef scriptDetails(char const* name, QList<Package::Entry*> const& rows);
     QString getPrco(PyObject* pkg, char const* hdrPrefix, char const* prcoKey);
     QString headerCapabilities(PyObject* pkg, QByteArray const& prefix);
     QString capabilityLine(PyObject* item);
@@ -500,6 +518,8 @@ protected:
 
     Package::EntryList entries;
     QList<Package::Entry*> detached; ///< the rows of the last collection, still to be freed
+    std::array<Package::RowDetails, Package::detailCount> rowDetails, arrivingDetails;
+    std::array<bool, Package::detailCount> detailsWanted{};
     QStringList incompleteTexts;
     Unfinished left;
     EntryHash entryHash;                 ///< the same entries by key; while collecting, the only holder

@@ -66,6 +66,8 @@ bool YumIO::collectReal(QHash<QString, bool> const& repoStates)
     if (collected) {
         collectIncomplete();
         collectUnfinished();
+        // In the order in which they become rows. What can't be read stays empty.
+        readDetails(entryHash.values());
     }
     sharedTexts = {};
     // An expected exception that was reported without being fetched must not meet the next call.

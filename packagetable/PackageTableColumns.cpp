@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 
 namespace PackageTable
 {
@@ -11,8 +12,9 @@ namespace
 {
 
 constexpr std::array<char const*, ColumnCount> columnIds{
-    "action",       "state", "kind",      "name",    "version",         "repository",
-    "architecture", "size",  "buildTime", "summary", "installedVersion"};
+    "action",       "state",   "kind",      "name",    "version",          "repository",
+    "architecture", "size",    "buildTime", "summary", "installedVersion", "installedSize",
+    "group",        "licence", "vendor",    "reason",  "advisory"};
 
 // Of what is installed; an update has it behind it.
 QString const& installedVersion(Package::Entry const& entry)
@@ -35,8 +37,35 @@ QString const& columnText(Package::Entry const& entry, int column)
     static constexpr std::array<QString Entry::*, InstalledVersionColumn - NameColumn> fields{
         &Entry::name,     &Entry::verRel,        &Entry::repo,   &Entry::arch,
         &Entry::sizeText, &Entry::buildTimeText, &Entry::summary};
-    Q_ASSERT(column >= NameColumn && column < ColumnCount);
+    Q_ASSERT(column >= NameColumn && column <= InstalledVersionColumn);
     return entry.*fields[static_cast<size_t>(column - NameColumn)];
+}
+
+std::optional<Package::Detail> columnDetail(int column)
+{
+    using Package::Detail;
+    switch (column) {
+    case InstalledSizeColumn:
+        return Detail::InstalledSize;
+    case GroupColumn:
+        return Detail::Group;
+    case LicenceColumn:
+        return Detail::Licence;
+    case VendorColumn:
+        return Detail::Vendor;
+    case ReasonColumn:
+        return Detail::Reason;
+    case AdvisoryColumn:
+        return Detail::Advisory;
+    default:
+        return std::nullopt;
+    }
+}
+
+QString const& columnText(YumIO const& yumIO, int row, int column)
+{
+    std::optional<Package::Detail> const detail = columnDetail(column);
+    return detail ? yumIO.details(*detail).text(row) : columnText(*yumIO[row], column);
 }
 
 QString columnId(int column)
@@ -64,10 +93,21 @@ bool isNumericColumn(int column)
     case KindColumn:
     case SizeColumn:
     case BuildTimeColumn:
+    case InstalledSizeColumn:
         return true;
     default:
         return false;
     }
+}
+
+int columnNumber(YumIO const& yumIO, int row, int column)
+{
+    std::optional<Package::Detail> const detail = columnDetail(column);
+    if (!detail) {
+        return columnNumber(*yumIO[row], column);
+    }
+    constexpr long long most = std::numeric_limits<int>::max();
+    return static_cast<int>(std::min(yumIO.details(*detail).number(row), most));
 }
 
 int columnNumber(Package::Entry const& entry, int column)

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "engine/Package.h"
+#include "engine/YumIO.h"
 
 #include <QString>
+#include <optional>
 
 namespace PackageTable
 {
@@ -22,10 +23,22 @@ enum Column
     BuildTimeColumn,
     SummaryColumn,
     InstalledVersionColumn,
+    InstalledSizeColumn,
+    GroupColumn,
+    LicenceColumn,
+    VendorColumn,
+    ReasonColumn,
+    AdvisoryColumn,
     ColumnCount,
 };
 
-/// The text that `column` shows for `entry`. `column` is one from NameColumn on.
+/// What the engine must load of all rows before the column can show anything; nothing for the columns that
+/// are there with the rows.
+[[nodiscard]] std::optional<Package::Detail> columnDetail(int column);
+
+/// The text that `column` shows in a row of the engine. `column` is one from NameColumn on.
+[[nodiscard]] QString const& columnText(YumIO const& yumIO, int row, int column);
+/// The same, for a column without a detail.
 [[nodiscard]] QString const& columnText(Package::Entry const& entry, int column);
 
 /// Whether `column` sorts by a number, and not by its text.
@@ -41,6 +54,8 @@ enum Column
 
 /// The number by which `column` sorts; 0 for a column that sorts by its text. Sizes and build times keep
 /// their low 32 bits only, as a signed number.
+[[nodiscard]] int columnNumber(YumIO const& yumIO, int row, int column);
+/// The same, for a column without a detail.
 [[nodiscard]] int columnNumber(Package::Entry const& entry, int column);
 
 } // namespace PackageTable

@@ -56,6 +56,20 @@ constexpr std::array<ColumnHeader, ColumnCount> columnHeaders{{
      QT_TRANSLATE_NOOP("PackageTable::Model", "What the package is, in one line")},
     {QT_TRANSLATE_NOOP("PackageTable::Model", "Installed Version"),
      QT_TRANSLATE_NOOP("PackageTable::Model", "Version and release that is installed, if any")},
+    {QT_TRANSLATE_NOOP("PackageTable::Model", "Installed Size"),
+     QT_TRANSLATE_NOOP("PackageTable::Model", "What the package takes on the disk")},
+    {QT_TRANSLATE_NOOP("PackageTable::Model", "Group"),
+     QT_TRANSLATE_NOOP("PackageTable::Model", "Kind of software, as the package states it")},
+    {QT_TRANSLATE_NOOP("PackageTable::Model", "Licence"),
+     QT_TRANSLATE_NOOP("PackageTable::Model", "Terms under which the package may be used and passed on")},
+    {QT_TRANSLATE_NOOP("PackageTable::Model", "Vendor"),
+     QT_TRANSLATE_NOOP("PackageTable::Model", "Who has published the package")},
+    {QT_TRANSLATE_NOOP("PackageTable::Model", "Reason"),
+     QT_TRANSLATE_NOOP(
+         "PackageTable::Model",
+         "Why the package is installed: asked for by the user, by a group, or as a dependency")},
+    {QT_TRANSLATE_NOOP("PackageTable::Model", "Advisory"),
+     QT_TRANSLATE_NOOP("PackageTable::Model", "Advisories that the update carries out")},
 }};
 
 Package::Action nextAction(Package::State state, Package::Action present)
@@ -132,7 +146,7 @@ QVariant Model::data(QModelIndex const& index, int role) const
 
     switch (role) {
     case Qt::DisplayRole:
-        return column < NameColumn ? QVariant() : QVariant(columnText(*entry, column));
+        return column < NameColumn ? QVariant() : QVariant(columnText(*yumIO, index.row(), column));
     case Qt::DecorationRole:
         return decoration(*entry, column);
     case Qt::ToolTipRole:
@@ -140,7 +154,7 @@ QVariant Model::data(QModelIndex const& index, int role) const
     case Qt::ForegroundRole:
         return column < KindColumn ? QVariant() : foreground(*entry);
     case Qt::UserRole:
-        return rawValue(entry, column);
+        return rawValue(entry, index.row(), column);
     default:
         return {};
     }
@@ -279,13 +293,15 @@ QVariant Model::foreground(Package::Entry const& entry) const
     return color.isValid() ? QVariant(color) : QVariant();
 }
 
-QVariant Model::rawValue(Package::Entry* entry, int column)
+QVariant Model::rawValue(Package::Entry* entry, int row, int column) const
 {
     switch (column) {
     case ActionColumn:
     case StateColumn:
     case KindColumn:
         return columnNumber(*entry, column);
+    case InstalledSizeColumn:
+        return yumIO->details(Package::Detail::InstalledSize).number(row);
     case SizeColumn:
         return entry->size;
     case BuildTimeColumn:
@@ -319,7 +335,7 @@ Package::State Model::getState(int row) const
 QString const& Model::text(int row, int column) const
 {
     static QString const none;
-    return row >= 0 && row < yumIO->count() ? columnText(*(*yumIO)[row], column) : none;
+    return row >= 0 && row < yumIO->count() ? columnText(*yumIO, row, column) : none;
 }
 
 int Model::picture(int row, int column) const
@@ -375,6 +391,22 @@ void Model::describe(QModelIndex const& index, QWidget* parent)
     }
     describeDialog->config(yumIO, *entry, yumConfIO);
     describeDialog->exec();
+}
+
+void Model::showColumn(int column, bool shown)
+{
+    std::optional<Package::Detail> const detail = columnDetail(column);
+    if (!detail) {
+        return;
+    }
+    bool const takesTime = shown && !yumIO->details(*detail).isFor(yumIO->count());
+    if (takesTime) {
+        Q_EMIT busy(true);
+    }
+    yumIO->wantDetails(*detail, shown);
+    if (takesTime) {
+        Q_EMIT busy(false);
+    }
 }
 
 void Model::browse(QModelIndex const& index, QWidget* parent)

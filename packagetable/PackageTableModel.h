@@ -75,6 +75,8 @@ public:
     /// Shows the description of the entry as a modal dialog. The dialog is made by the first call, over the
     /// `parent` of that call, and used again. What takes long to read is read by a job before, see `busy`.
     void describe(QModelIndex const& index, QWidget* parent);
+    /// A column shows from now on, or no longer: what it shows is loaded by a job, see `busy`.
+    void showColumn(int column, bool shown);
     /// Shows the repository of the entry in the user's browser; `parent` is the parent of error messages.
     void browse(QModelIndex const& index, QWidget* parent);
 
@@ -93,8 +95,8 @@ public Q_SLOTS:
     void clearActions();
 
 Q_SIGNALS:
-    /// `describe` begins, or has ended, a job of the engine: events are served meanwhile, and until its end
-    /// nobody may ask for another job or rebuild the list.
+    /// `describe` or `showColumn` begins, or has ended, a job of the engine: events are served meanwhile, and
+    /// until its end nobody may ask for another job or rebuild the list.
     void busy(bool begins);
 
 private:
@@ -114,7 +116,7 @@ private:
     static QString stateToolTip(Package::Entry const& entry);
     /// Where a transaction that was cut off has left more than one version of the package: which. Else empty.
     QString installedVersions(Package::Entry const& entry) const;
-    static QVariant rawValue(Package::Entry* entry, int column);
+    QVariant rawValue(Package::Entry* entry, int row, int column) const;
 
     YumIO* yumIO;
     YumConfIO* yumConfIO = nullptr;

@@ -170,9 +170,9 @@ RowRanks::Ranks RowRanks::byText(int column) const
     std::vector<QStringView> texts(items.size());
     auto const fetch = [](Package::Entry const&) {};
     Parallel::forParts(items.size(), [&](std::size_t begin, std::size_t end) {
-        walkRows(*yumIO, begin, end, fetch, [&](std::size_t row, Package::Entry const& entry) {
+        walkRows(*yumIO, begin, end, fetch, [&](std::size_t row, Package::Entry const&) {
             items[row].row = static_cast<quint32>(row);
-            texts[row] = columnText(entry, column);
+            texts[row] = columnText(*yumIO, static_cast<int>(row), column);
         });
     });
     sortByText(items, texts);
@@ -191,8 +191,9 @@ RowRanks::Ranks RowRanks::byNumber(int column) const
     Items items(static_cast<std::size_t>(yumIO->count()));
     auto const fetch = [](Package::Entry const&) {};
     Parallel::forParts(items.size(), [&](std::size_t begin, std::size_t end) {
-        walkRows(*yumIO, begin, end, fetch, [&](std::size_t row, Package::Entry const& entry) {
-            quint64 const key = static_cast<quint32>(columnNumber(entry, column)) ^ lowest;
+        walkRows(*yumIO, begin, end, fetch, [&](std::size_t row, Package::Entry const&) {
+            int const number = columnNumber(*yumIO, static_cast<int>(row), column);
+            quint64 const key = static_cast<quint32>(number) ^ lowest;
             items[row] = {key << 32 | ranks[NameColumn][row], static_cast<quint32>(row)};
         });
     });

@@ -128,7 +128,10 @@ void SortFilterProxyModel::setColumnShown(int column, bool shown)
     } else {
         textColumns.erase(place);
     }
-    if (mode == Filter && !present.expression.isEmpty()) {
+    // What it shows may have been loaded only now.
+    ranks.forget();
+    bool const isSorted = shown && sortColumn() == column;
+    if (isSorted || (mode == Filter && !present.expression.isEmpty())) {
         forgetVerdicts();
     }
 }
@@ -305,16 +308,16 @@ void SortFilterProxyModel::testShownTexts() const
     }
 }
 
-/// Makes `line` the texts that the table shows for the entry, in UTF-8, as if they were separated by blanks,
+/// Makes `line` the texts that the table shows for the row, in UTF-8, as if they were separated by blanks,
 /// so that an expression can span two columns.
-void SortFilterProxyModel::takeShownTexts(Package::Entry const& entry, QByteArray& line) const
+void SortFilterProxyModel::takeShownTexts(int row, QByteArray& line) const
 {
     line.resize(0);
     for (int const column : textColumns) {
         if (!line.isEmpty()) {
             line += ' ';
         }
-        append(line, columnText(entry, column));
+        append(line, columnText(*yumIO, row, column));
     }
 }
 
@@ -325,7 +328,9 @@ void SortFilterProxyModel::testShownTexts(Conditions const& wanted, Judge const&
     auto const fetch = [&](Package::Entry const& entry) {
         if (!pattern.isEmpty()) {
             for (int const column : textColumns) {
-                fetchLetters(columnText(entry, column));
+                if (!columnDetail(column)) {
+                    fetchLetters(columnText(entry, column));
+                }
             }
         }
     };
@@ -337,7 +342,7 @@ void SortFilterProxyModel::testShownTexts(Conditions const& wanted, Judge const&
         walkRows(*yumIO, begin, end, fetch, [&](std::size_t row, Package::Entry const& entry) {
             bool accepted = passesStateAndKind(entry, wanted);
             if (accepted && !pattern.isEmpty()) {
-                takeShownTexts(entry, texts);
+                takeShownTexts(static_cast<int>(row), texts);
                 accepted = expression.matches(texts);
             }
             judge(row, accepted);
@@ -371,7 +376,7 @@ bool SortFilterProxyModel::matches(QString const& text) const
     return regex.matches(text.toUtf8());
 }
 
-bool SortFilterProxyModel::acceptRow(Package::Entry* entry, int, QModelIndex const&) const
+bool SortFilterProxyModel::acceptRow(Package::Entry* entry, int sourceRow, QModelIndex const&) const
 {
     if (!entry || !passesStateAndKind(*entry, present)) {
         return false;
@@ -383,7 +388,7 @@ bool SortFilterProxyModel::acceptRow(Package::Entry* entry, int, QModelIndex con
         return matchesAnyField(*entry);
     }
     QByteArray texts;
-    takeShownTexts(*entry, texts);
+    takeShownTexts(sourceRow, texts);
     return regex.matches(texts);
 }
 
@@ -415,7 +420,7 @@ bool SortFilterProxyModel::lessThan(QModelIndex const& left, QModelIndex const& 
     }
     if (comparedWithoutRanks < rows || column != right.column()) {
         ++comparedWithoutRanks;
-        return isLower(*(*yumIO)[left.row()], column, *(*yumIO)[right.row()], right.column());
+        return isLower(left.row(), column, right.row(), right.column());
     }
 
     int rankedColumn = column;
@@ -431,16 +436,16 @@ bool SortFilterProxyModel::lessThan(QModelIndex const& left, QModelIndex const& 
     return places[static_cast<std::size_t>(left.row())] < places[static_cast<std::size_t>(right.row())];
 }
 
-bool SortFilterProxyModel::isLower(
-    Package::Entry const& left, int leftColumn, Package::Entry const& right, int rightColumn)
+bool SortFilterProxyModel::isLower(int left, int leftColumn, int right, int rightColumn) const
 {
+    auto const nameIsLower = [&] { return (*yumIO)[left]->name < (*yumIO)[right]->name; };
     if (isNumericColumn(leftColumn)) {
-        int const leftNumber = columnNumber(left, leftColumn);
-        int const rightNumber = columnNumber(right, rightColumn);
-        return leftNumber != rightNumber ? leftNumber < rightNumber : left.name < right.name;
+        int const leftNumber = columnNumber(*yumIO, left, leftColumn);
+        int const rightNumber = columnNumber(*yumIO, right, rightColumn);
+        return leftNumber != rightNumber ? leftNumber < rightNumber : nameIsLower();
     }
-    int const order = columnText(left, leftColumn).compare(columnText(right, rightColumn));
-    return order != 0 ? order < 0 : left.name < right.name;
+    int const order = columnText(*yumIO, left, leftColumn).compare(columnText(*yumIO, right, rightColumn));
+    return order != 0 ? order < 0 : nameIsLower();
 }
 
 QVariant SortFilterProxyModel::data(QModelIndex const& index, int role) const

@@ -94,15 +94,14 @@ private:
     /// Calls `judge(row, accepted)` for each row, in several threads.
     template <typename Judge>
     void testShownTexts(Conditions const& wanted, Judge const& judge) const;
-    void takeShownTexts(Package::Entry const& entry, QByteArray& line) const;
+    void takeShownTexts(int row, QByteArray& line) const;
     bool matchesAnyField(Package::Entry const& entry) const;
     void forgetVerdicts();
     bool isSearch() const;
     void searchAllRows();
     void testShownTexts() const;
     void expectLongSort() const;
-    static bool isLower(
-        Package::Entry const& left, int leftColumn, Package::Entry const& right, int rightColumn);
+    bool isLower(int left, int leftColumn, int right, int rightColumn) const;
 
     Mode mode = Filter;
     bool filter = true;

@@ -139,6 +139,7 @@ void View::resizeColumnsToContents()
 
 void View::showColumn(int column, bool shown)
 {
+    packages->showColumn(column, shown);
     proxy->setColumnShown(column, shown);
     if (shown && !columns->hasWidthByHand(column)) {
         QScopedValueRollback const guard(fitsAllRows, true);

@@ -998,6 +998,54 @@ In mehr als einer Version installiert: %1</translation>
         <source>Version and release that is installed, if any</source>
         <translation>Version und Release, die installiert sind, falls das Paket installiert ist</translation>
     </message>
+    <message>
+        <source>Installed Size</source>
+        <translation>Größe installiert</translation>
+    </message>
+    <message>
+        <source>What the package takes on the disk</source>
+        <translation>Was das Paket auf der Platte belegt</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message>
+        <source>Kind of software, as the package states it</source>
+        <translation>Art der Software, wie das Paket sie angibt</translation>
+    </message>
+    <message>
+        <source>Licence</source>
+        <translation>Lizenz</translation>
+    </message>
+    <message>
+        <source>Terms under which the package may be used and passed on</source>
+        <translation>Bedingungen, unter denen das Paket benutzt und weitergegeben werden darf</translation>
+    </message>
+    <message>
+        <source>Vendor</source>
+        <translation>Anbieter</translation>
+    </message>
+    <message>
+        <source>Who has published the package</source>
+        <translation>Wer das Paket veröffentlicht hat</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Grund</translation>
+    </message>
+    <message>
+        <source>Why the package is installed: asked for by the user, by a group, or as a dependency</source>
+        <translation>Warum das Paket installiert ist: vom Benutzer gewünscht, durch eine Gruppe oder als Abhängigkeit</translation>
+    </message>
+    <message>
+        <source>Advisory</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>Advisories that the update carries out</source>
+        <translation>Hinweise, die die Aktualisierung umsetzt</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::OtherContextMenu</name>
@@ -2234,6 +2282,10 @@ Wie soll fortgefahren werden?</translation>
 </source>
         <translation>	%1
 </translation>
+    </message>
+    <message>
+        <source>Unable to read what a column shows</source>
+        <translation>Was eine Spalte zeigt, lässt sich nicht lesen</translation>
     </message>
 </context>
 <context>

@@ -998,6 +998,54 @@ Instalado en más de una versión: %1</translation>
         <source>Version and release that is installed, if any</source>
         <translation>Versión y publicación instaladas, si las hay</translation>
     </message>
+    <message>
+        <source>Installed Size</source>
+        <translation>Tamaño instalado</translation>
+    </message>
+    <message>
+        <source>What the package takes on the disk</source>
+        <translation>Lo que ocupa el paquete en el disco</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Grupo</translation>
+    </message>
+    <message>
+        <source>Kind of software, as the package states it</source>
+        <translation>Tipo de software, según indica el paquete</translation>
+    </message>
+    <message>
+        <source>Licence</source>
+        <translation>Licencia</translation>
+    </message>
+    <message>
+        <source>Terms under which the package may be used and passed on</source>
+        <translation>Condiciones de uso y distribución del paquete</translation>
+    </message>
+    <message>
+        <source>Vendor</source>
+        <translation>Proveedor</translation>
+    </message>
+    <message>
+        <source>Who has published the package</source>
+        <translation>Quién ha publicado el paquete</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Motivo</translation>
+    </message>
+    <message>
+        <source>Why the package is installed: asked for by the user, by a group, or as a dependency</source>
+        <translation>Por qué está instalado el paquete: a petición del usuario, por un grupo o como dependencia</translation>
+    </message>
+    <message>
+        <source>Advisory</source>
+        <translation>Aviso</translation>
+    </message>
+    <message>
+        <source>Advisories that the update carries out</source>
+        <translation>Avisos que aplica la actualización</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::OtherContextMenu</name>
@@ -2234,6 +2282,10 @@ pero también pertenece al grupo %5 y por ello se marcó con la acción %6.
 </source>
         <translation>	%1
 </translation>
+    </message>
+    <message>
+        <source>Unable to read what a column shows</source>
+        <translation>No se puede leer lo que muestra una columna</translation>
     </message>
 </context>
 <context>

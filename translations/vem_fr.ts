@@ -998,6 +998,54 @@ Installé en plusieurs versions&#xa0;: %1</translation>
         <source>Version and release that is installed, if any</source>
         <translation>Version et révision installées, le cas échéant</translation>
     </message>
+    <message>
+        <source>Installed Size</source>
+        <translation>Taille installée</translation>
+    </message>
+    <message>
+        <source>What the package takes on the disk</source>
+        <translation>Ce que le paquet occupe sur le disque</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Groupe</translation>
+    </message>
+    <message>
+        <source>Kind of software, as the package states it</source>
+        <translation>Type de logiciel, tel que le paquet l&apos;indique</translation>
+    </message>
+    <message>
+        <source>Licence</source>
+        <translation>Licence</translation>
+    </message>
+    <message>
+        <source>Terms under which the package may be used and passed on</source>
+        <translation>Conditions d&apos;utilisation et de diffusion du paquet</translation>
+    </message>
+    <message>
+        <source>Vendor</source>
+        <translation>Fournisseur</translation>
+    </message>
+    <message>
+        <source>Who has published the package</source>
+        <translation>Qui a publié le paquet</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Raison</translation>
+    </message>
+    <message>
+        <source>Why the package is installed: asked for by the user, by a group, or as a dependency</source>
+        <translation>Pourquoi le paquet est installé : à la demande de l&apos;utilisateur, par un groupe ou comme dépendance</translation>
+    </message>
+    <message>
+        <source>Advisory</source>
+        <translation>Avis</translation>
+    </message>
+    <message>
+        <source>Advisories that the update carries out</source>
+        <translation>Avis que la mise à jour applique</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::OtherContextMenu</name>
@@ -2234,6 +2282,10 @@ Comment voulez-vous procéder&#xa0;?</translation>
 </source>
         <translation>	%1
 </translation>
+    </message>
+    <message>
+        <source>Unable to read what a column shows</source>
+        <translation>Impossible de lire ce qu&apos;une colonne affiche</translation>
     </message>
 </context>
 <context>

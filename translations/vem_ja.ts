@@ -998,6 +998,54 @@ Installed in more than one version: %1</source>
         <source>Version and release that is installed, if any</source>
         <translation>インストール済みのバージョンとリリース (ある場合)</translation>
     </message>
+    <message>
+        <source>Installed Size</source>
+        <translation>インストールサイズ</translation>
+    </message>
+    <message>
+        <source>What the package takes on the disk</source>
+        <translation>パッケージがディスク上で占める容量</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>グループ</translation>
+    </message>
+    <message>
+        <source>Kind of software, as the package states it</source>
+        <translation>パッケージに記されたソフトウェアの種類</translation>
+    </message>
+    <message>
+        <source>Licence</source>
+        <translation>ライセンス</translation>
+    </message>
+    <message>
+        <source>Terms under which the package may be used and passed on</source>
+        <translation>パッケージの使用と再配布の条件</translation>
+    </message>
+    <message>
+        <source>Vendor</source>
+        <translation>ベンダー</translation>
+    </message>
+    <message>
+        <source>Who has published the package</source>
+        <translation>パッケージの発行元</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>理由</translation>
+    </message>
+    <message>
+        <source>Why the package is installed: asked for by the user, by a group, or as a dependency</source>
+        <translation>インストールされた理由: ユーザーの要求、グループ、または依存関係</translation>
+    </message>
+    <message>
+        <source>Advisory</source>
+        <translation>アドバイザリ</translation>
+    </message>
+    <message>
+        <source>Advisories that the update carries out</source>
+        <translation>更新によって反映されるアドバイザリ</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::OtherContextMenu</name>
@@ -2234,6 +2282,10 @@ How do you wish to proceed?</source>
 </source>
         <translation>	%1
 </translation>
+    </message>
+    <message>
+        <source>Unable to read what a column shows</source>
+        <translation>列に表示する内容を読み取れません</translation>
     </message>
 </context>
 <context>

@@ -998,6 +998,54 @@ Installed in more than one version: %1</source>
         <source>Version and release that is installed, if any</source>
         <translation>已安装的版本和发行号（如有）</translation>
     </message>
+    <message>
+        <source>Installed Size</source>
+        <translation>安装大小</translation>
+    </message>
+    <message>
+        <source>What the package takes on the disk</source>
+        <translation>软件包占用的磁盘空间</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>组</translation>
+    </message>
+    <message>
+        <source>Kind of software, as the package states it</source>
+        <translation>软件包注明的软件类别</translation>
+    </message>
+    <message>
+        <source>Licence</source>
+        <translation>许可证</translation>
+    </message>
+    <message>
+        <source>Terms under which the package may be used and passed on</source>
+        <translation>软件包的使用和再分发条款</translation>
+    </message>
+    <message>
+        <source>Vendor</source>
+        <translation>供应商</translation>
+    </message>
+    <message>
+        <source>Who has published the package</source>
+        <translation>软件包的发布者</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>原因</translation>
+    </message>
+    <message>
+        <source>Why the package is installed: asked for by the user, by a group, or as a dependency</source>
+        <translation>安装原因：用户要求、所属组或依赖关系</translation>
+    </message>
+    <message>
+        <source>Advisory</source>
+        <translation>公告</translation>
+    </message>
+    <message>
+        <source>Advisories that the update carries out</source>
+        <translation>更新所实施的公告</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::OtherContextMenu</name>
@@ -2234,6 +2282,10 @@ How do you wish to proceed?</source>
 </source>
         <translation>	%1
 </translation>
+    </message>
+    <message>
+        <source>Unable to read what a column shows</source>
+        <translation>无法读取列所显示的内容</translation>
     </message>
 </context>
 <context>

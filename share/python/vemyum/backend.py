@@ -11,6 +11,7 @@ beside what its text names.
 
 from __future__ import annotations
 
+import enum
 import functools
 import importlib
 from typing import (
@@ -56,6 +57,8 @@ class Row(Protocol):
     """"[epoch:]version-release", the epoch only where it isn't 0."""
     size: int
     """Bytes to download, of an installed package those that it takes."""
+    installsize: int
+    """Bytes that it takes once it is installed."""
     reponame: str
     summary: str
     description: str
@@ -87,6 +90,28 @@ class RepositoryState(NamedTuple):
     id: str
     name: str
     enabled: bool
+
+
+class Reason(enum.Enum):
+    """Why a package is installed."""
+
+    USER = enum.auto()
+    GROUP = enum.auto()
+    DEPENDENCY = enum.auto()
+    WEAK = enum.auto()
+    UNKNOWN = enum.auto()
+
+
+class Advised(NamedTuple):
+    """A package that an advisory names."""
+
+    name: str
+    arch: str
+    epoch: str
+    version: str
+    release: str
+    advisory: str
+    """The advisory's identifier."""
 
 
 class OpenEntry(NamedTuple):
@@ -155,6 +180,13 @@ class System(Protocol):
     def duplicated(self) -> List[List[Row]]:
         """Installed packages of which there is more than one version for one architecture and there may be only one;
         each with all of them, oldest first."""
+
+    def reasons(self) -> List[Tuple[Row, Reason]]:
+        """Of everything that is installed."""
+
+    def advised(self) -> List[Advised]:
+        """Versions that advisories name and that are newer than what is installed of their name and architecture,
+        whether a repository has them or not."""
 
     def native(self) -> Sequence[str]:
         """The architectures that go before others."""

@@ -260,6 +260,12 @@ def dependency(text: str, name: str, relation: str, version: str) -> Dependency:
     return (valid(name), _OPERATORS[operator], split_evr(version))
 
 
+def whole_evr(text: str) -> Tuple[str, str, str]:
+    """Epoch, version and release of "[epoch:]version-release"."""
+    epoch, version, release = split_evr(text)
+    return (epoch or "0", version or "", release or "")
+
+
 def split_evr(text: str) -> Tuple[Optional[str], Optional[str], Optional[str]]:
     """Epoch, version and release of "[epoch:]version[-release]"."""
     epoch, colon, rest = text.partition(":")

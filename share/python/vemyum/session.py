@@ -11,7 +11,7 @@ import dataclasses
 import gc
 from typing import Any, Iterator, List, Optional, Sequence
 
-from . import backend, host, rights
+from . import backend, columns, host, rights
 from .apply.journal import await_transaction, tell_last
 from .backend import Settings, System
 from .comps import CompsGroup
@@ -160,6 +160,9 @@ class Session:
                 host.errorlog(host.LEVEL_NOTICE, line)
         text = "\n".join(filter(None, (failure, found.text)))
         return Unfinished(text, found.versions, [InstalledPackage(one, self._details) for one in found.older])
+
+    def row_details(self, kind: str, packages: Sequence[Any]) -> List[Any]:
+        return columns.told(kind, packages, self.system)
 
     # Extra data ------------------------------------------------------------------------------------------
 

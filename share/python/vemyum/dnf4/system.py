@@ -9,15 +9,23 @@ import dnf.package
 import dnf.repo
 import hawkey
 
-from ..backend import CHANGELOGS, GROUPS, Dependency, OpenEntry, RepositoryState
+from ..backend import CHANGELOGS, GROUPS, Advised, Dependency, OpenEntry, Reason, RepositoryState
 from ..history import open_entry
-from ..packages import dependency
+from ..packages import dependency, whole_evr
 from ..sections import RepositorySection
 from ..vendors import by_name, refused
 from .base import open_base
 from .configuration import Settings
 from .history import LAYOUT, history_path
 from .sack import light_packages
+
+
+_REASONS = {
+    "user": Reason.USER,
+    "group": Reason.GROUP,
+    "dependency": Reason.DEPENDENCY,
+    "weak-dependency": Reason.WEAK,
+}
 
 
 class System:
@@ -90,6 +98,17 @@ class System:
         for package in installed.duplicated().difference(self._base._get_installonly_query(installed)):
             found.setdefault((package.name, package.arch), []).append(package)
         return [sorted(packages) for packages in found.values() if len(packages) > 1]
+
+    def reasons(self) -> List[Tuple[dnf.package.Package, Reason]]:
+        return [(package, _REASONS.get(package.reason, Reason.UNKNOWN)) for package in self._all_installed()]
+
+    def advised(self) -> List[Advised]:
+        sack = self._base.sack
+        found = self._all_installed().get_advisory_pkgs(hawkey.GT)
+        return [
+            Advised(one.name, one.arch, *whole_evr(one.evr), one.get_advisory(sack).id)
+            for one in found
+        ]
 
     def native(self) -> Sequence[str]:
         variables = self._base.conf.substitutions

@@ -6,10 +6,14 @@ from __future__ import annotations
 import functools
 from typing import Any, Dict, Iterable, List, Set, Tuple
 
+import libdnf5.advisory
+import libdnf5.common
 import libdnf5.rpm
 import rpm
 
 from .. import versions
+from ..backend import Advised
+from ..packages import whole_evr
 from ..vendors import by_name, refused
 from .base import Base
 from .rows import InstalledRow, Row, rows
@@ -65,6 +69,15 @@ class Lists:
             found.setdefault((row.name, row.arch), []).append(row)
         several = [same for same in found.values() if len(same) > 1 and not meant.intersection(same)]
         return [sorted(same, key=versions.oldest_first) for same in several]
+
+    def advised(self) -> List[Advised]:
+        found = libdnf5.advisory.AdvisoryQuery(self._base.library).get_advisory_packages_sorted(
+            self._set(self._installed), libdnf5.common.QueryCmp_GT
+        )
+        return [
+            Advised(one.get_name(), one.get_arch(), *whole_evr(one.get_evr()), one.get_advisory().get_name())
+            for one in found
+        ]
 
     def _offered(self) -> libdnf5.rpm.PackageQuery:
         """A new query for what the repositories offer to this machine, by their priorities."""

@@ -11,8 +11,9 @@ from __future__ import annotations
 from typing import Any, Callable, Iterable, Iterator, List, Optional
 
 import libdnf5.rpm
+import libdnf5.transaction
 
-from ..backend import Dependency
+from ..backend import Dependency, Reason
 from ..packages import dependency
 from ..text import valid
 from .base import Base
@@ -55,6 +56,7 @@ class Row:
     release = property(_functions.Package_get_release)
     evr = property(_functions.Package_get_evr)
     size = property(_functions.Package_get_download_size)
+    installsize = property(_functions.Package_get_install_size)
     reponame = property(_functions.Package_get_repo_id)
     # Of these two the table wants everyone's, and the engine takes them whatever their bytes.
     summary = property(_functions.Package_get_summary)
@@ -127,6 +129,20 @@ def _dependency(this: Any) -> Dependency:
         _functions.Reldep_get_relation(this),
         _functions.Reldep_get_version(this),
     )
+
+
+_REASONS = {
+    libdnf5.transaction.TransactionItemReason_USER: Reason.USER,
+    libdnf5.transaction.TransactionItemReason_EXTERNAL_USER: Reason.USER,
+    libdnf5.transaction.TransactionItemReason_GROUP: Reason.GROUP,
+    libdnf5.transaction.TransactionItemReason_DEPENDENCY: Reason.DEPENDENCY,
+    libdnf5.transaction.TransactionItemReason_WEAK_DEPENDENCY: Reason.WEAK,
+}
+
+
+def reason(row: Any) -> Reason:
+    """Of an installed package."""
+    return _REASONS.get(row.get_reason(), Reason.UNKNOWN)
 
 
 def checksum(row: Any) -> Optional[str]:

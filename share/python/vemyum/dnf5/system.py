@@ -16,7 +16,7 @@ import libdnf5.repo
 import rpm
 
 from ..acts import reading_begins, reading_ends
-from ..backend import CHANGELOGS, GROUPS, Dependency, OpenEntry, RepositoryState
+from ..backend import CHANGELOGS, GROUPS, Advised, Dependency, OpenEntry, Reason, RepositoryState
 from ..database import point_rpm_at, unreadable
 from ..errors import RepoError, YumBaseError, os_error_text
 from ..history import open_entry
@@ -32,7 +32,7 @@ from .lists import Lists, installed_rows
 from .log import LOGGER
 from .metadata import Metadata, told_of
 from .progress import is_to_be_converted
-from .rows import Row, checksum, dependencies
+from .rows import Row, checksum, dependencies, reason
 from .settings import Settings
 
 _MAIN = "main"
@@ -256,6 +256,12 @@ class System:
 
     def duplicated(self) -> List[List[Row]]:
         return self._lists.duplicated()
+
+    def reasons(self) -> List[Tuple[Row, Reason]]:
+        return [(row, reason(row)) for row in self._installed]
+
+    def advised(self) -> List[Advised]:
+        return self._lists.advised()
 
     def native(self) -> Sequence[str]:
         variables = self.settings.variables

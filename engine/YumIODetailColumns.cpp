@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+// Details of all rows at a time, for whoever shows them as a column.
+#include "bridge/PythonApi.h"
+
+#include "engine/WorkThreads.h"
+#include "engine/YumIO.h"
+#include "services/ProgressUser.h"
+#include "services/YumIODialogsUser.h"
+
+#include <QEventLoop>
+#include <utility>
+
+using Package::Detail;
+
+namespace
+{
+
+/// How the script's function `rowDetails` calls those that it can tell; null for what each package tells.
+char const* scriptName(Detail detail)
+{
+    switch (detail) {
+    case Detail::InstalledSize:
+        return "installedSize";
+    case Detail::Reason:
+        return "reason";
+    case Detail::Advisory:
+        return "advisory";
+    case Detail::Group:
+    case Detail::Licence:
+    case Detail::Vendor:
+        break;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+Package::RowDetails const& YumIO::details(Detail detail) const
+{
+    return rowDetails.at(static_cast<std::size_t>(detail));
+}
+
+bool YumIO::wantDetails(Detail detail, bool wanted)
+{
+    detailsWanted.at(static_cast<std::size_t>(detail)) = wanted;
+    return !wanted || collectDetails();
+}
+
+bool YumIO::detailsAtHand() const
+{
+    for (std::size_t detail = 0; detail < Package::detailCount; ++detail) {
+        if (detailsWanted.at(detail) && !rowDetails.at(detail).isFor(count())) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool YumIO::collectDetails()
+{
+    if (!yumIO || detailsAtHand()) {
+        return true;
+    }
+    QEventLoop loop;
+    CollectDetailsThread thread(this, loop);
+    execWorkThread(loop, thread);
+    takeDetails();
+    return thread.result;
+}
+
+bool YumIO::collectDetailsReal()
+{
+    ProgressUser const progressUser(progress, totalBar, itemBar);
+    YumIODialogsUser const dialogsUser(dialogs, parent);
+    PyGILStateWrapper const lock(true);
+    return readDetails(entries);
+}
+
+bool YumIO::readDetails(QList<Package::Entry*> const& rows)
+{
+    bool all = true;
+    for (std::size_t detail = 0; detail < Package::detailCount; ++detail) {
+        Package::RowDetails& those = arrivingDetails.at(detail);
+        those.clear();
+        if (detailsWanted.at(detail)) {
+            char const* const name = scriptName(static_cast<Detail>(detail));
+            if (name) {
+                all = askScript(name, rows, those) && all;
+            } else {
+                askPackages(static_cast<Detail>(detail), rows, those);
+            }
+            those.finish();
+        }
+    }
+    return all;
+}
+
+// On the GUI thread, which may paint the table at any moment of the job.
+void YumIO::takeDetails()
+{
+    rowDetails = std::exchange(arrivingDetails, {});
+}
+
+void YumIO::askPackages(Detail detail, QList<Package::Entry*> const& rows, Package::RowDetails& those)
+{
+    for (Package::Entry const* const entry : rows) {
+        if (entry->kind == Package::Group) {
+            those.append(QString());
+        } else if (detail == Detail::Group) {
+            those.append(getGroup(*entry));
+        } else if (detail == Detail::Licence) {
+            those.append(getLicense(*entry));
+        } else {
+            those.append(getVendor(*entry));
+        }
+    }
+}
+
+bool YumIO::askScript(char const* name, QList<Package::Entry*> const& rows, Package::RowDetails& those)
+{
+    PyRef const answer = scriptDetails(name, rows);
+    PyRef const values = PyRef::steal(answer ? PySequence_Fast(answer.get(), "not a sequence") : nullptr);
+    PyErr_Clear();
+    Py_ssize_t const told = values ? PySequence_Fast_GET_SIZE(values.get()) : 0;
+    Py_ssize_t next = 0;
+    for (Package::Entry const* const entry : rows) {
+        PyObject* value = Py_None;
+        if (entry->kind != Package::Group && next < told) {
+            value = PySequence_Fast_GET_ITEM(values.get(), next++);
+        }
+        if (PyLong_Check(value)) {
+            long long const number = PyLong_AsLongLong(value);
+            PyErr_Clear();
+            those.append(bytesFormat(static_cast<unsigned long long>(number)), number);
+        } else {
+            those.append(value == Py_None ? QString() : pyString(value), 0);
+        }
+    }
+    return bool(answer);
+}
+
+PyRef YumIO::scriptDetails(char const* name, QList<Package::Entry*> const& rows)
+{
+    constexpr char const* method = "rowDetails";
+    if (PyObject_HasAttrString(yumIO.get(), method) == 0) {
+        return PyRef::borrow(Py_None);
+    }
+    PyRef const packages = PyRef::steal(PyList_New(0));
+    for (Package::Entry const* const entry : rows) {
+        if (entry->kind != Package::Group && PyList_Append(packages.get(), entry->pyObject.get()) != 0) {
+            PyErr_Clear();
+            return PyRef();
+        }
+    }
+    PyObject* const baseError = pyLookup("yum.Errors.YumBaseError");
+    pyExceptStart();
+    pyExceptExpect(baseError);
+    PyRef answer = pyMethodCall(yumIO.get(), method, "(sO)", name, packages.get());
+    if (pyExceptMatches(answer.get(), baseError)) {
+        pythonExceptionV(tr("Unable to read what a column shows"));
+        return PyRef();
+    }
+    pyExceptClear();
+    return answer;
+}
