@@ -77,6 +77,7 @@ PyMethodDef functions[] = {
     entry<&YumIOHost::confirmKey>("confirmKey", METH_VARARGS),
     entry<&YumIOHost::reportDownloadSize>("reportDownloadSize", METH_VARARGS),
     entry<&YumIOHost::listTransaction>("listTransaction", METH_VARARGS),
+    entry<&YumIOHost::transactionDetails>("transactionDetails", METH_VARARGS),
     entry<&YumIOHost::tsInitCallback>("tsInitCallback", METH_VARARGS),
     entry<&YumIOHost::tsCallback>("tsCallback", METH_VARARGS),
     entry<&YumIOHost::tsEvent>("tsEvent", METH_VARARGS),

@@ -55,6 +55,9 @@ public:
     virtual PyObject* confirmKey(PyObject* self, PyObject* args) = 0;
     /// "O": packages
     virtual PyObject* reportDownloadSize(PyObject* self, PyObject* args) = 0;
+    /// "OLLO": rows, bytes to download, growth in bytes, changes; see YumIOConfirm.cpp. Scripts may leave it
+    /// out.
+    virtual PyObject* transactionDetails(PyObject* self, PyObject* args) = 0;
     /// "O": holder of tsInfo
     virtual PyObject* listTransaction(PyObject* self, PyObject* args) = 0;
 

@@ -53,6 +53,7 @@ YumIO::~YumIO()
         detachEntries();
         dropEntries();
         repos.reset();
+        run.changes.reset();
         yumIO.reset();
         pyYumIOClass.reset();
         internedNames.clear();

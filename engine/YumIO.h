@@ -8,6 +8,7 @@
 #include "engine/RowDetails.h"
 #include "services/CaptureSink.h"
 #include "services/Log.h"
+#include "services/TransactionDetails.h"
 
 #include <QHash>
 #include <QMutex>
@@ -285,6 +286,8 @@ protected:
     struct ApplyRun
     {
         QString transactionText;                ///< the text of the confirmation dialog
+        TransactionDetails details;             ///< its second page; without rows there is none
+        PyRef changes;                          ///< what tells the changes, as the script gave it
         bool applyConfirmed = false;            ///< the user accepted; also the apply's result
         unsigned long long actsDone = 0;        ///< position in the present item's acts
         QSet<QString> updateNames;              ///< packages that this transaction updates
@@ -432,6 +435,12 @@ protected:
     /// wrong, gives the lock back and ends the process.
     [[noreturn]] void leaveAfterInterrupt(bool succeeded);
     bool addUpdatePair(Package::Entry const& entry, PyObject* updates);
+    /// Shows the dialog, with details where the script has told them.
+    [[nodiscard]] bool askUser();
+    bool takeDetails(PyObject* rows);
+    /// What has changed between the versions, a text for each row of the details, with the changelogs loaded
+    /// if need be; empty after a report. While the user is asked, on the thread of the apply.
+    QStringList newerChanges();
     void prepareTransactionProgress();
     void dsTsInfo(QString const& line);
     void dsTsNewPkg(QString const& name, unsigned int weight, bool withHeader);
@@ -511,6 +520,7 @@ protected:
     PyObject* confirmKey(PyObject* self, PyObject* args) override;
     PyObject* reportDownloadSize(PyObject* self, PyObject* args) override;
     PyObject* listTransaction(PyObject* self, PyObject* args) override;
+    PyObject* transactionDetails(PyObject* self, PyObject* args) override;
     PyObject* tsInitCallback(PyObject* self, PyObject* args) override;
     PyObject* tsCallback(PyObject* self, PyObject* args) override;
     PyObject* tsEvent(PyObject* self, PyObject* args) override;

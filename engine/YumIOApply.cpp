@@ -182,7 +182,7 @@ PyObject* YumIO::userconfirm(PyObject*, PyObject*)
     }
     progress->endItemActs();
     progress->reset();
-    run.applyConfirmed = dialogs->confirm(tr("Apply"), run.transactionText) == QDialog::Accepted;
+    run.applyConfirmed = askUser();
     log(Log::Action, 0, run.applyConfirmed ? tr("Applying: OK") : tr("Not Applying: Canceled"));
     if (run.applyConfirmed) {
         prepareTransactionProgress();

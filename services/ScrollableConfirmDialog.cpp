@@ -1,18 +1,51 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "services/ScrollableConfirmDialog.h"
 
+#include "services/DetailsPage.h"
 #include "services/ScrollableDialogLayout.h"
 
 #include <QPushButton>
+#include <QTabWidget>
 
 ScrollableConfirmDialog::ScrollableConfirmDialog(QString const& text, QWidget* parent)
+    : ScrollableConfirmDialog(text, nullptr, parent)
+{
+}
+
+ScrollableConfirmDialog::ScrollableConfirmDialog(
+    QString const& text, TransactionDetails const& details, QWidget* parent)
+    : ScrollableConfirmDialog(text, &details, parent)
+{
+}
+
+ScrollableConfirmDialog::ScrollableConfirmDialog(
+    QString const& text, TransactionDetails const* details, QWidget* parent)
     : QDialog(parent)
 {
     auto* const ok = new QPushButton(tr("OK"), this);
     auto* const cancel = new QPushButton(tr("Cancel"), this);
     connect(ok, &QPushButton::clicked, this, &QDialog::accept);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    textLabel = layOutScrollableDialog(this, QStyle::SP_MessageBoxQuestion, text, {ok, cancel});
+    QTabWidget* pages = nullptr;
+    if (details) {
+        setSizeGripEnabled(true);
+        // Else the button that the focus comes by would stay it.
+        ok->setDefault(true);
+        pages = new QTabWidget(this);
+        page = new DetailsPage(*details, pages);
+        pages->addTab(page, tr("&Details"));
+        connect(page, &DetailsPage::changesWanted, this, &ScrollableConfirmDialog::changesWanted);
+    }
+    textLabel = layOutScrollableDialog(
+        this, QStyle::SP_MessageBoxQuestion, text, {ok, cancel}, pages, tr("&Transaction"));
+    ok->setFocus();
 }
 
 ScrollableConfirmDialog::~ScrollableConfirmDialog() = default;
+
+void ScrollableConfirmDialog::showChanges(QStringList const& texts)
+{
+    if (page) {
+        page->showChanges(texts);
+    }
+}

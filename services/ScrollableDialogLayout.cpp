@@ -8,10 +8,12 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QTabWidget>
 #include <QVBoxLayout>
 
 QLabel* layOutScrollableDialog(
-    QDialog* dialog, QStyle::StandardPixmap picture, QString const& text, QList<QPushButton*> const& buttons)
+    QDialog* dialog, QStyle::StandardPixmap picture, QString const& text, QList<QPushButton*> const& buttons,
+    QTabWidget* pages, QString const& title)
 {
     dialog->setAttribute(Qt::WA_ShowModal);
 
@@ -29,7 +31,13 @@ QLabel* layOutScrollableDialog(
     area->setFrameStyle(QFrame::Plain);
     auto* const textLabel = new TextLabel(text, area);
     area->setWidget(textLabel);
-    upper->addWidget(area);
+    if (pages) {
+        pages->insertTab(0, area, title);
+        pages->setCurrentIndex(0);
+        upper->addWidget(pages, 1);
+    } else {
+        upper->addWidget(area);
+    }
 
     lower->addStretch();
     for (QPushButton* const button : buttons) {

@@ -12,6 +12,9 @@ YumIODialogs::YumIODialogs(QWidget* parent)
     minion->moveToThread(application->thread());
     connect(minion, &YumIODialogsMinion::setResult, this, &YumIODialogs::setResult);
     connect(this, &YumIODialogs::confirmSig, minion, &YumIODialogsMinion::confirm);
+    connect(this, &YumIODialogs::confirmDetailsSig, minion, &YumIODialogsMinion::confirmDetails);
+    connect(this, &YumIODialogs::changesRead, minion, &YumIODialogsMinion::changesRead);
+    connect(minion, &YumIODialogsMinion::changesWanted, this, &YumIODialogs::readChanges);
     connect(this, &YumIODialogs::warningSig, minion, &YumIODialogsMinion::warning);
     connect(this, &YumIODialogs::criticalSig, minion, &YumIODialogsMinion::critical);
     connect(this, &YumIODialogs::scrollableSig, minion, &YumIODialogsMinion::scrollable);
@@ -29,6 +32,25 @@ int YumIODialogs::confirm(QString const& caption, QString const& text)
     Q_EMIT confirmSig(caption, text);
     waitForResult();
     return result;
+}
+
+int YumIODialogs::confirm(
+    QString const& caption, QString const& text, TransactionDetails const& details, Changes const& changes)
+{
+    resultReady = false;
+    changesOf = changes;
+    Q_EMIT confirmDetailsSig(caption, text, details);
+    waitForResult();
+    changesOf = nullptr;
+    return result;
+}
+
+void YumIODialogs::readChanges()
+{
+    // The answer may have come before the wish.
+    if (changesOf && !resultReady) {
+        Q_EMIT changesRead(changesOf());
+    }
 }
 
 int YumIODialogs::warning(

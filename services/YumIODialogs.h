@@ -1,11 +1,16 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "services/KeyQuestion.h" // whole: its values go from thread to thread
+// Whole: their values go from thread to thread.
+#include "services/KeyQuestion.h"
+#include "services/TransactionDetails.h"
 
 #include <QEventLoop>
 #include <QObject>
 #include <QString>
+#include <QStringList>
+
+#include <functional>
 
 class QWidget;
 class YumIODialogsMinion;
@@ -26,6 +31,13 @@ public:
 
     /// A question with the buttons OK and Cancel. Answers 1 for OK, 0 for Cancel or a closed window.
     [[nodiscard]] int confirm(QString const& caption, QString const& text);
+
+    /// The same with a page of details. `changes` tells what has changed, as DetailsPage::showChanges wants
+    /// it; it is called at most while the dialog stands, on this thread, and may ask by other fronts.
+    using Changes = std::function<QStringList()>;
+    [[nodiscard]] int confirm(
+        QString const& caption, QString const& text, TransactionDetails const& details,
+        Changes const& changes);
 
     /// A message box with up to three buttons; without any text it has an OK button. Answers the number
     /// of the button that was pressed, counted from 0 in the order of the texts. Escape and closing the
@@ -48,6 +60,8 @@ public:
 
 Q_SIGNALS:
     int confirmSig(QString const& caption, QString const& text);
+    int confirmDetailsSig(QString const& caption, QString const& text, TransactionDetails const& details);
+    void changesRead(QStringList const& texts);
     int warningSig(
         QString const& caption, QString const& text, QString const& button0Text = QString(),
         QString const& button1Text = QString(), QString const& button2Text = QString(),
@@ -62,12 +76,15 @@ Q_SIGNALS:
 public Q_SLOTS:
     /// The answer has come.
     void setResult(int value);
+    /// The user wants to know what has changed.
+    void readChanges();
 
 private:
     void waitForResult();
 
     YumIODialogsMinion* minion;
     QEventLoop loop;
+    Changes changesOf; ///< of the question that is being asked
     bool resultReady = false;
     int result = 0;
 };

@@ -21,6 +21,17 @@ void YumIODialogsMinion::confirm(QString const& caption, QString const& text)
     Q_EMIT setResult(answer);
 }
 
+void YumIODialogsMinion::confirmDetails(
+    QString const& caption, QString const& text, TransactionDetails const& details)
+{
+    ScrollableConfirmDialog dialog(text, details, parent);
+    dialog.setWindowTitle(caption);
+    connect(&dialog, &ScrollableConfirmDialog::changesWanted, this, &YumIODialogsMinion::changesWanted);
+    connect(this, &YumIODialogsMinion::changesRead, &dialog, &ScrollableConfirmDialog::showChanges);
+    int const answer = dialog.exec();
+    Q_EMIT setResult(answer);
+}
+
 void YumIODialogsMinion::warning(
     QString const& caption, QString const& text, QString const& button0Text, QString const& button1Text,
     QString const& button2Text, int defaultButtonNumber, int escapeButtonNumber)

@@ -2,10 +2,12 @@
 #pragma once
 
 #include "services/KeyQuestion.h"
+#include "services/TransactionDetails.h"
 
 #include <QMessageBox>
 #include <QObject>
 #include <QString>
+#include <QStringList>
 
 /// The half of YumIODialogs that shows the dialogs. Made by YumIODialogs, which gives it up with
 /// deleteLater(); lives on the GUI thread.
@@ -20,9 +22,13 @@ public:
 Q_SIGNALS:
     /// The user has answered.
     void setResult(int result);
+    /// Between the dialog that stands and the front.
+    void changesWanted();
+    void changesRead(QStringList const& texts);
 
 public Q_SLOTS:
     void confirm(QString const& caption, QString const& text);
+    void confirmDetails(QString const& caption, QString const& text, TransactionDetails const& details);
     void warning(
         QString const& caption, QString const& text, QString const& button0Text = QString(),
         QString const& button1Text = QString(), QString const& button2Text = QString(),

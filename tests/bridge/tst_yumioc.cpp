@@ -37,6 +37,7 @@ public:
     PyObject* confirmKey(PyObject* self, PyObject* args) override { return called("confirmKey", self, args); }
     PyObject* reportDownloadSize(PyObject* self, PyObject* args) override { return called("reportDownloadSize", self, args); }
     PyObject* listTransaction(PyObject* self, PyObject* args) override { return called("listTransaction", self, args); }
+    PyObject* transactionDetails(PyObject* self, PyObject* args) override { return called("transactionDetails", self, args); }
     PyObject* tsInitCallback(PyObject* self, PyObject* args) override { return called("tsInitCallback", self, args); }
     PyObject* tsCallback(PyObject* self, PyObject* args) override { return called("tsCallback", self, args); }
     PyObject* tsEvent(PyObject* self, PyObject* args) override { return called("tsEvent", self, args); }
@@ -154,20 +155,32 @@ void TestYumIOC::moduleHasExactlyTheNamedFunctions()
             "stdoutWrite stderrWrite log warninglog errorlog collectProgress collectGrabMeterStart "
             "collectGrabMeterUpdate collectGrabMeterEnd applyGrabMeterStart applyGrabMeterUpdate "
             "applyGrabMeterEnd dsTsCheck dsRestartLoop userconfirm confirmKey reportDownloadSize "
-            "listTransaction tsInitCallback tsCallback tsEvent postTransactionOutput"));
+            "listTransaction transactionDetails tsInitCallback tsCallback tsEvent postTransactionOutput"));
 }
 
 void TestYumIOC::functionReachesTheOperationOfItsName_data()
 {
     QTest::addColumn<QString>("call");
     for (char const* call :
-         {"stdoutWrite('out',)", "stderrWrite('err',)", "log(2, 'TSINFO: x')", "warninglog(1, 'skipped')",
-          "errorlog(0, 'gr\u00fc\u00df')", "collectProgress(-1, -1, None)",
-          "collectGrabMeterStart('u', 'a', 'b', 5, None)", "collectGrabMeterUpdate(9,)",
-          "collectGrabMeterEnd(9,)", "applyGrabMeterStart('u', None, None, 5000000000, 't')",
-          "applyGrabMeterUpdate(9,)", "applyGrabMeterEnd(9,)",
-          "confirmKey('l', 'r', 'p', 'u', 'f', 'k', 5, 0)", "reportDownloadSize([],)", "listTransaction(1,)",
-          "tsInitCallback(0,)", "tsCallback(1, 2, 3, ({'name': 'n'},), None)", "tsEvent('p', 1, 2, 3, 4, 5)",
+         {"stdoutWrite('out',)",
+          "stderrWrite('err',)",
+          "log(2, 'TSINFO: x')",
+          "warninglog(1, 'skipped')",
+          "errorlog(0, 'gr\u00fc\u00df')",
+          "collectProgress(-1, -1, None)",
+          "collectGrabMeterStart('u', 'a', 'b', 5, None)",
+          "collectGrabMeterUpdate(9,)",
+          "collectGrabMeterEnd(9,)",
+          "applyGrabMeterStart('u', None, None, 5000000000, 't')",
+          "applyGrabMeterUpdate(9,)",
+          "applyGrabMeterEnd(9,)",
+          "confirmKey('l', 'r', 'p', 'u', 'f', 'k', 5, 0)",
+          "reportDownloadSize([],)",
+          "listTransaction(1,)",
+          "transactionDetails([], 1, -5000000000, None)",
+          "tsInitCallback(0,)",
+          "tsCallback(1, 2, 3, ({'name': 'n'},), None)",
+          "tsEvent('p', 1, 2, 3, 4, 5)",
           "postTransactionOutput(1,)"}) {
         QTest::newRow(call) << QString::fromUtf8(call);
     }

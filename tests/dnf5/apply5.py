@@ -57,7 +57,7 @@ class Apply:
 
     def plan(self) -> List[Any]:
         self.transaction.load()
-        self.changes = self.transaction.solve()
+        self.changes = self.transaction.solve().changes
         return self.changes
 
     def run(self, begins: Callable[[], None] = lambda: None) -> Any:

@@ -21,15 +21,23 @@ from web import Web
 __all__ = ["fleet", "pytest_runtest_makereport", "serve", "site", "start"]
 
 
+LIT = "* Mon Jan 08 2024 A. Keeper <keeper@fleet.example> - 1.0-1\n- First light"
+
+
 @pytest.fixture(scope="session")
 def fleet(tmp_path_factory: pytest.TempPathFactory) -> Estate:
     estate = Estate(tmp_path_factory.mktemp("fleet"))
     shell, lamp, match, *offered = estate.build(
         [
             shell_spec("fleet-shell"),
-            spec("fleet-lamp", "1.0"),
+            spec("fleet-lamp", "1.0", changelog=LIT),
             spec("fleet-match", "1.0"),
-            spec("fleet-lamp", "1.1", scriptlets={"post -p <lua>": 'print("fleet-lamp: the board is lit")'}),
+            spec(
+                "fleet-lamp",
+                "1.1",
+                scriptlets={"post -p <lua>": 'print("fleet-lamp: the board is lit")'},
+                changelog=f"* Tue Mar 05 2024 A. Keeper <keeper@fleet.example> - 1.1-1\n- Brighter\n\n{LIT}",
+            ),
             spec("fleet-wick", "1.0", requires=["fleet-oil"]),
             spec("fleet-oil", "1.0"),
             spec("fleet-bellows", "1.0", scriptlets={"post": 'echo "fleet-bellows: blown by a shell"'}),

@@ -7,13 +7,18 @@ import signal
 from pathlib import Path
 from typing import Callable
 
+import gi
 import pytest
 
-from program import ACTION_COLUMN, NAME_COLUMN, REPOSITORY_COLUMN, Program, wait_for
-from rpmestate import Estate, spec
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi  # noqa: E402
+
+from program import ACTION_COLUMN, NAME_COLUMN, REPOSITORY_COLUMN, Program, wait_for  # noqa: E402
+from rpmestate import Estate, spec  # noqa: E402
 
 Start = Callable[..., Program]
 
+NAME_COLUMN_OF_DETAILS = 1
 BEFORE = {"fleet-lamp-1.0-1.noarch", "fleet-match-1.0-1.noarch", "fleet-shell-1.0-1.x86_64"}
 
 
@@ -67,6 +72,7 @@ def test_marks_are_applied_in_one_transaction(site: Estate, start: Start) -> Non
     assert "\tRemove: fleet-match 1.0-1 (noarch)" in text
     assert "Performing the following to resolve dependencies:\n\tInstall: fleet-oil 1.0-1" in text
     assert "Total download size: " in text
+    look_at_the_details(program, question)
     program.press("OK", question)
     program.wait_closed("Apply")
     program.wait_ready()
@@ -94,6 +100,34 @@ def test_marks_are_applied_in_one_transaction(site: Estate, start: Start) -> Non
         "fleet-bellows: blown by a shell",
     ):
         assert line in log
+
+
+def look_at_the_details(program: Program, question: Atspi.Accessible) -> None:
+    """The second page: every package with its reason, sorted by a click, and what has changed."""
+    program.click(program.wait("Details", Atspi.Role.PAGE_TAB, inside=question))
+    table = program.wait("Details", Atspi.Role.TABLE, inside=question)
+
+    def rows() -> list[str]:
+        cells = [[Atspi.Table.get_accessible_at(table, row, column).get_name() for column in (0, 1, 2, 6)]
+                 for row in range(Atspi.Table.get_n_rows(table))]
+        return [" | ".join(cell) for cell in cells]
+
+    told = [
+        "Remove | fleet-match | 1.0-1 | marked",
+        "Update | fleet-lamp | 1.0-1 \N{RIGHTWARDS ARROW} 1.1-1 | marked",
+        "Install | fleet-bellows | 1.0-1 | marked",
+        "Install | fleet-oil | 1.0-1 | required by fleet-wick",
+        "Install | fleet-wick | 1.0-1 | marked",
+    ]
+    wait_for(lambda: rows() == told, "the rows of the details")
+    x, y = program.centre(Atspi.Table.get_accessible_at(table, 0, NAME_COLUMN_OF_DETAILS))
+    program.click_at(x, y - 28)
+    wait_for(lambda: rows() == sorted(told, key=lambda row: row.split(" | ")[1]), "the rows by their names")
+    assert "Install: 3    Update: 1    Remove: 1    To download: " in program.texts(question)
+    program.press("Load Changes", question)
+    changes = program.wait("Changes", Atspi.Role.TEXT, inside=question)
+    wait_for(lambda: "- Brighter" in program.text_of(changes), "what has changed")
+    assert "First light" not in program.text_of(changes)
 
 
 def test_everything_that_can_be_updated_is_also_what_replaces_others(site: Estate, start: Start) -> None:

@@ -14,7 +14,8 @@ class FakeHost(types.ModuleType):
     """`calls` holds tuples of the function's name and its arguments, in order.
 
     `answer` is what `userconfirm` gives; `on_confirm` and `on_list` run inside those calls. `key_answer` gives what
-    `confirmKey` answers, by its arguments.
+    `confirmKey` answers, by its arguments. `details` are the last arguments of `transactionDetails`, which isn't among the
+    calls: hosts may lack it.
     """
 
     def __init__(self) -> None:
@@ -26,6 +27,7 @@ class FakeHost(types.ModuleType):
         self.answer = 1
         self.on_confirm: Optional[Callable[[], None]] = None
         self.on_list: Optional[Callable[[Any], None]] = None
+        self.details: Optional[Tuple[List[Any], int, int, Callable[[], List[str]]]] = None
         self.key_answer: Callable[..., int] = lambda *question: 0
 
     # What was recorded ---------------------------------------------------------------------------------
@@ -140,6 +142,14 @@ class FakeHost(types.ModuleType):
         self._note("listTransaction", holder)
         if self.on_list is not None:
             self.on_list(holder)
+
+    def transactionDetails(self, rows: Any, download: Any, growth: Any, changes: Any) -> None:
+        for row in rows:
+            action, name, arch, old, new, repository, size, why, whom, more, replaces, warnings = row
+            texts = [action, name, arch, old, new, repository, why, *whom, *replaces, *warnings]
+            assert all(self._s(text) == text for text in texts)
+            self._l(size), self._l(more)
+        self.details = (rows, self._l(download), self._l(growth), changes)
 
     def tsInitCallback(self, real: Any) -> None:
         self._note("tsInitCallback", self._l(real))

@@ -15,6 +15,10 @@ from vemyum.sections import RepositorySection
 
 CHANGE = messages.Change("install", True, "lamp", "noarch", "0", "1.1", "1", "base", -1)
 
+DETAIL = messages.Detail(
+    "upgrade", "lamp", "noarch", "1.0-1", "1.1-1", "base", 6000, "required", ["lone"], 2, ["wick"], ["unchecked"], "ab12"
+)
+
 ONE_OF_EACH: List[Any] = [
     messages.Request(
         messages.PROTOCOL,
@@ -35,7 +39,7 @@ ONE_OF_EACH: List[Any] = [
     messages.Output('"quoted"\n'),
     messages.ErrorOutput(""),
     messages.Solving(),
-    messages.Plan([CHANGE], ["lamp:1"], [1 << 40]),
+    messages.Plan([CHANGE], ["lamp:1"], [1 << 40], [DETAIL], -(1 << 40)),
     messages.KeyWanted("file:///key", "base", "lamp, lone", "An <owner>", "ABCD", "CD", 1, 1 << 40, True),
     messages.FileStarted("lamp.rpm", 6000),
     messages.FileProgress(0),
@@ -77,9 +81,10 @@ def test_there_is_a_test_for_every_message() -> None:
         b"7\n",
         b'{"is":"Hello","protocol":true}\n',
         b'{"is":"Log","level":0,"text":7}\n',
-        b'{"is":"Plan","changes":{},"downloads":[]}\n',
-        b'{"is":"Plan","changes":[7],"downloads":[]}\n',
-        b'{"is":"Plan","changes":[],"downloads":["1"]}\n',
+        b'{"is":"Plan","changes":{},"streams":[],"downloads":[],"details":[],"growth":0}\n',
+        b'{"is":"Plan","changes":[7],"streams":[],"downloads":[],"details":[],"growth":0}\n',
+        b'{"is":"Plan","changes":[],"streams":[],"downloads":["1"],"details":[],"growth":0}\n',
+        b'{"is":"Plan","changes":[],"streams":[],"downloads":[],"details":[{"action":"install"}],"growth":0}\n',
         b"[" * 100000 + b"\n",
         b"\xff\xfe\n",
     ],

@@ -235,9 +235,9 @@ class Transaction(Protocol):
     def installed_names(self) -> List[str]:
         """The name of every installed package, as often as there are versions of it."""
 
-    def solve(self) -> List[Any]:
-        """The changes (`messages.Change`) that the marks come to. YumBaseError with the solver's problems, or for a
-        marked package that isn't there any more or that nothing is done about."""
+    def solve(self) -> Any:
+        """What the marks come to (`solving.Solved`). YumBaseError with the solver's problems, or for a marked package
+        that isn't there any more or that nothing is done about."""
 
     def streams(self) -> List[str]:
         """The module streams that it enables, each as "name:stream"."""

@@ -16,6 +16,7 @@ from typing import AbstractSet, Dict, Optional, Sequence, Tuple
 
 import rpm
 
+from .backend import PkgTup
 from .errors import YumBaseError, os_error_text
 from .root import as_configured, below, files, within
 from .text import valid
@@ -120,6 +121,22 @@ def point_rpm_at(root: str) -> None:
     directory = database_directory(root)
     if rpm.expandMacro("%{_dbpath}") != directory:
         rpm.addMacro("_dbpath", directory)
+
+
+def running_kernel(root: str) -> Optional[PkgTup]:
+    """The package of the kernel that this machine runs; None below another root, which isn't what it runs."""
+    if root != "/":
+        return None
+    release = os.uname().release
+    transaction = rpm.TransactionSet(root)
+    try:
+        for path in (f"/lib/modules/{release}/vmlinuz", f"/usr/lib/modules/{release}/vmlinuz", f"/boot/vmlinuz-{release}"):
+            for header in transaction.dbMatch("basenames", path):
+                epoch = str(header["epoch"] or 0)
+                return (header["name"], header["arch"], epoch, header["version"], header["release"])
+    finally:
+        transaction.closeDB()
+    return None
 
 
 def require_sound(root: str, names: AbstractSet[str], count: int, known: int) -> None:

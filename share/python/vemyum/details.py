@@ -89,6 +89,12 @@ class PackageDetails:
         record = self._record(self._changelogs, row)
         return [] if record is None else changes(record)
 
+    def changes(self, repository: str, checksum: str) -> List[Tuple[int, str, str]]:
+        """The changelog of the package of a repository that has this checksum."""
+        records = self._changelogs.get(repository)
+        record = records.record(checksum) if records is not None else None
+        return [] if record is None else changes(record)
+
     def dependencies(self, row: Row, kind: str) -> List[Dependency]:
         return self._system.dependencies(row, kind)
 

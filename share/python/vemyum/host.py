@@ -7,7 +7,7 @@ itself (a refused argument) come through as they are. All functions run on the c
 
 from __future__ import annotations
 
-from typing import Any, Iterable, Optional
+from typing import Any, Callable, Iterable, Optional, Sequence
 
 import yumIOC  # type: ignore[import-not-found]
 
@@ -112,6 +112,18 @@ def report_download_size(packages: Iterable[Any]) -> None:
 
 def list_transaction(holder: Any) -> None:
     yumIOC.listTransaction(holder)
+
+
+def transaction_details(rows: Sequence[Sequence[Any]], download: int, growth: int, changes: Callable[[], Any]) -> None:
+    """What is told of each package behind the list, before the user is asked; not every host wants it.
+
+    A row is the values of a `messages.Detail` in their order, without the checksum. Both numbers are bytes. `changes`
+    answers for each row what its changelog has that the installed version's hasn't; the host calls it at most while the
+    user is asked, on the same thread, with the changelogs loaded (`collectOtherData`).
+    """
+    take = getattr(yumIOC, "transactionDetails", None)
+    if take is not None:
+        take(rows, download, growth, changes)
 
 
 def transaction_init(real: bool) -> None:

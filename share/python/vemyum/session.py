@@ -9,7 +9,7 @@ from __future__ import annotations
 import contextlib
 import dataclasses
 import gc
-from typing import Any, Iterator, List, Optional, Sequence
+from typing import Any, Iterator, List, Optional, Sequence, Tuple
 
 from . import backend, columns, host, rights
 from .apply.journal import await_transaction, tell_last
@@ -175,6 +175,10 @@ class Session:
         if self._details is None or self._settings is None:
             raise YumBaseError(_NOT_READ)
         self._details.load_changelogs(self._settings, self.repository_sections())
+
+    def changes(self, repository: str, checksum: str) -> List[Tuple[int, str, str]]:
+        """A package's changelog, as far as it is loaded."""
+        return [] if self._details is None else self._details.changes(repository, checksum)
 
     # What has been read ---------------------------------------------------------------------------------
 

@@ -17,7 +17,7 @@ from typing import Any, Dict, List, Type, Union
 
 from ..sections import RepositorySection
 
-PROTOCOL = 2
+PROTOCOL = 3
 """Raised whenever a message changes its form: child and parent are always of one version, or don't work together."""
 
 
@@ -140,14 +140,54 @@ class Change:
     replaced_by: int
 
 
+DOWNGRADE, REINSTALL = "downgrade", "reinstall"
+"""What details tell beside INSTALL, UPGRADE, OBSOLETED and REMOVE."""
+
+MARKED, REQUIRED, RECOMMENDED, TOGETHER = "marked", "required", "recommended", "together"
+"""Why a package comes in: the user wants it; another one that comes in requires it, or only recommends it; it needs
+another one that comes in."""
+NEEDS, SUPPLANTED, UNNEEDED, SOLVER = "needs", "supplanted", "unneeded", "solver"
+"""Why a package goes: it is marked, or needs what goes; gives way to one that comes in; nothing needs it any more; for
+either direction, the solver alone knows."""
+
+UNMARKED, PROTECTED, RUNNING, OLDER, UNCHECKED = "unmarked", "protected", "running", "older", "unchecked"
+"""What a user may not expect: a package goes that isn't marked; a protected one does; so does the running kernel; an
+older version comes in; nobody asks for the signature of what comes in."""
+
+
+@dataclasses.dataclass(frozen=True)
+class Detail:
+    """One package of the transaction, with its older version if it takes the place of one. `old` and `new` are
+    "[epoch:]version-release", empty where there is none. `size` is what is to be downloaded, of a package that goes what
+    it takes. `whom` are the names that `why` speaks of, `more` how many others there are; `replaces` the packages of
+    other names that give way to it. `checksum` is that of a package that comes in."""
+
+    action: str
+    name: str
+    arch: str
+    old: str
+    new: str
+    repository: str
+    size: int
+    why: str
+    whom: List[str]
+    more: int
+    replaces: List[str]
+    warnings: List[str]
+    checksum: str
+
+
 @dataclasses.dataclass(frozen=True)
 class Plan:
-    """The solved transaction, the module streams that it enables, each as "name:stream", and the sizes in bytes of the
-    files that are still to be fetched. Wants an answer."""
+    """The solved transaction, the module streams that it enables, each as "name:stream", the sizes in bytes of the
+    files that are still to be fetched, what is told of each package, and how many bytes more the packages take on the
+    disk behind it. Wants an answer."""
 
     changes: List[Change]
     streams: List[str]
     downloads: List[int]
+    details: List[Detail]
+    growth: int
 
 
 @dataclasses.dataclass(frozen=True)

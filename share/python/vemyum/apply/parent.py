@@ -10,18 +10,20 @@ import signal
 import socket
 import subprocess
 import sys
-from typing import Any, Optional, Sequence
+from typing import Any, List, Optional, Sequence, Tuple
 
 from .. import choice, host, processes
-from ..errors import ALL_DONE, REFRESH, LockError, YumBaseError
+from ..errors import ALL_DONE, REFRESH, LockError, YumBaseError, reported_as
 from ..lists import Collector
 from ..lock import LOCK
 from ..root import managed_root
 from ..session import Session
+from ..text import valid
 from ..texts import _
 from . import messages
 from .channel import Channel
 from .listing import TransactionInfo, solver_lines
+from .newer import newer_changes
 
 COMMAND = [
     sys.executable or "/usr/bin/python3",
@@ -153,7 +155,18 @@ class Apply:
         self.tsInfo = TransactionInfo(plan.changes, collector.updatable, plan.streams)
         host.list_transaction(self)
         host.report_download_size([_Download(size) for size in plan.downloads])
+        host.transaction_details(
+            [_values(detail) for detail in plan.details],
+            sum(plan.downloads),
+            plan.growth,
+            lambda: self._changes(plan.details),
+        )
         return host.confirmed()
+
+    def _changes(self, details: Sequence[messages.Detail]) -> List[str]:
+        """YumBaseError."""
+        with reported_as(YumBaseError):
+            return [valid(text) for text in newer_changes(details, managed_root(), self._session.changes)]
 
 
 class _Download:
@@ -161,6 +174,16 @@ class _Download:
 
     def __init__(self, size: int) -> None:
         self.size = size
+
+
+def _values(detail: messages.Detail) -> Tuple[Any, ...]:
+    *values, _checksum = vars(detail).values()
+    return tuple(map(_shown, values))
+
+
+def _shown(value: Any) -> Any:
+    """Texts of headers may hold anything."""
+    return [valid(one) for one in value] if isinstance(value, list) else valid(value) if isinstance(value, str) else value
 
 
 def _wish(package: Any, repository: str) -> messages.Wish:

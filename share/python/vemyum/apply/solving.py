@@ -13,6 +13,7 @@ from ..backend import PkgTup
 from ..errors import YumBaseError
 from ..packages import pkgtup
 from ..texts import _
+from .details import Details, Facts, counterpart, details
 from .messages import OBSOLETED, REMOVE, REPLACED, UPGRADE, Change, Wish
 from .work import NOT_INSTALLED
 
@@ -51,11 +52,15 @@ class Solution(NamedTuple):
     """What gives way to packages of other names."""
 
 
-class Solver(Protocol):
-    """A library, with what is to be read loaded."""
+class Solved(NamedTuple):
+    """What the marks come to, and what the user is told of it."""
 
-    native: str
-    """The architecture of this machine."""
+    changes: List[Change]
+    details: Details
+
+
+class Solver(Facts, Protocol):
+    """A library, with what is to be read loaded."""
 
     def offered(self, names: List[str]) -> Iterable[Any]:
         """What the repositories have of these names."""
@@ -75,7 +80,7 @@ class Solver(Protocol):
         """What goes when these packages are removed and nothing else is done."""
 
 
-def solve(solver: Solver, incoming: Sequence[Wish], removes: Sequence[Wish]) -> List[Change]:
+def solve(solver: Solver, incoming: Sequence[Wish], removes: Sequence[Wish]) -> Solved:
     """YumBaseError for a package that isn't there any more, or that nothing is to be done about; else as `resolve`."""
     marks = _marked(solver, incoming, removes)
     if marks.doubled:
@@ -88,7 +93,8 @@ def solve(solver: Solver, incoming: Sequence[Wish], removes: Sequence[Wish]) -> 
         raise YumBaseError(_("Nothing to do: the system is already as it was asked to be."))
     _require_marks(marks, solution)
     _require_doubled(solver, marks, solution)
-    return _changes(solver.native, marks.tuples(), solution)
+    marked = marks.tuples()
+    return Solved(_changes(solver.native, marked, solution), details(solver, marked, solution))
 
 
 def lists_all(installed: Iterable[Any], removes: Sequence[Wish]) -> bool:
@@ -204,7 +210,7 @@ def _changes(native: str, marked: Set[PkgTup], solution: Solution) -> List[Chang
         versions = [old for old in olds if old.name == package.name]
         if kind == UPGRADE and versions:
             # Who reads of the update knows that the old version goes; not so of the same in other architectures.
-            versions.remove(min(versions, key=lambda old: (old.arch != package.arch, old.arch != native)))
+            versions.remove(counterpart(package, versions, native))
         replaced.update((pkgtup(old), old) for old in versions)
         for old in olds:
             if old.name != package.name and pkgtup(old) in obsoleted:

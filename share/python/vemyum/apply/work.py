@@ -46,8 +46,9 @@ class Work:
             self._require_sound(transaction)
             host.solver_check()
             library.tell_command(self._settings, self._request.command)
-            changes = transaction.solve()
-            if not agreed(Plan(changes, transaction.streams(), transaction.downloads())):
+            changes, details = transaction.solve()
+            downloads = transaction.downloads()
+            if not agreed(Plan(changes, transaction.streams(), downloads, details.rows, details.growth)):
                 return False
             transaction.download()
             transaction.check_signatures()

@@ -3,7 +3,7 @@
 
 from __future__ import annotations
 
-from typing import List, Sequence, Set
+from typing import Collection, List, Optional, Sequence, Set
 
 import dnf.conf.config
 import dnf.goal
@@ -14,9 +14,10 @@ import libdnf.transaction as lt
 
 from ..apply.messages import INSTALL, UPGRADE
 from ..apply.solving import Incoming, Marks, Solution
-from ..backend import PkgTup
+from ..backend import Dependency, PkgTup
 from ..packages import pkgtup
 from .base import Base
+from .rows import checksum, dependencies
 
 
 class Solver:
@@ -26,6 +27,7 @@ class Solver:
         self._base = base
         self._asked = False
         self.native = str(base.conf.substitutions["arch"])
+        self.root = str(base.conf.installroot)
 
     def offered(self, names: List[str]) -> hawkey.Query:
         return self._base.sack.query().available().filter(name=names)
@@ -71,6 +73,26 @@ class Solver:
         goal.push_userinstalled(installed, base.history)
         goal.run(allow_uninstall=True)
         return set(map(pkgtup, goal.list_erasures()))
+
+    # What details rest on --------------------------------------------------------------------------------
+
+    def dependencies(self, package: dnf.package.Package, kind: str) -> List[Dependency]:
+        return dependencies(package, kind)
+
+    def files(self, package: dnf.package.Package) -> List[str]:
+        return list(package.files)
+
+    def installed_size(self, package: dnf.package.Package) -> int:
+        return int(package.installsize)
+
+    def checksum(self, package: dnf.package.Package) -> Optional[str]:
+        return checksum(package)
+
+    def protected(self) -> Collection[str]:
+        return list(self._base.conf.protected_packages)
+
+    def asks_for_signature(self, package: dnf.package.Package) -> bool:
+        return bool(self._base.repos[package.reponame].gpgcheck)
 
 
 def _put(base: Base, marks: Marks, along: Sequence[dnf.package.Package]) -> None:

@@ -11,12 +11,13 @@ import hawkey
 
 from ..backend import CHANGELOGS, GROUPS, Advised, Dependency, OpenEntry, Reason, RepositoryState
 from ..history import open_entry
-from ..packages import dependency, whole_evr
+from ..packages import whole_evr
 from ..sections import RepositorySection
 from ..vendors import by_name, refused
 from .base import open_base
 from .configuration import Settings
 from .history import LAYOUT, history_path
+from .rows import checksum, dependencies
 from .sack import light_packages
 
 
@@ -137,14 +138,13 @@ class System:
     # Packages --------------------------------------------------------------------------------------------
 
     def checksum(self, row: dnf.package.Package) -> Optional[str]:
-        checksum = row.chksum
-        return None if checksum is None else str(checksum[1].hex())
+        return checksum(row)
 
     def files(self, row: dnf.package.Package) -> List[str]:
         return list(row.files)
 
     def dependencies(self, row: dnf.package.Package, kind: str) -> List[Dependency]:
-        return [dependency(str(one), one.name, one.relation, one.version) for one in getattr(row, kind)]
+        return dependencies(row, kind)
 
     def header(self, row: dnf.package.Package) -> Any:
         return row.get_header()

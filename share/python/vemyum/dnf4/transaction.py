@@ -15,8 +15,8 @@ import dnf.transaction
 import hawkey
 import libdnf.transaction as lt
 
-from ..apply.messages import Change, Request
-from ..apply.solving import lists_all, only_doubled, solve
+from ..apply.messages import Request
+from ..apply.solving import Solved, lists_all, only_doubled, solve
 from ..backend import PkgTup
 from ..packages import pkgtup
 from ..signatures import require_signatures
@@ -65,10 +65,10 @@ class Transaction:
     def installed_names(self) -> List[str]:
         return [package.name for package in self._base.sack.query(flags=hawkey.IGNORE_EXCLUDES).installed()]
 
-    def solve(self) -> List[Change]:
-        changes = solve(Solver(self._base), self._request.incoming, self._request.removes)
+    def solve(self) -> Solved:
+        solved = solve(Solver(self._base), self._request.incoming, self._request.removes)
         self._incoming = sorted(self._base.transaction.install_set)
-        return changes
+        return solved
 
     def streams(self) -> List[str]:
         return enabled_streams(self._base)

@@ -3,7 +3,7 @@
 
 from __future__ import annotations
 
-from typing import Any, Callable, Iterable, List, Optional, Sequence, Set
+from typing import Any, Callable, Collection, Iterable, List, Optional, Sequence, Set
 
 from libdnf5 import base as libdnf5_base
 from libdnf5 import rpm as libdnf5_rpm
@@ -11,11 +11,11 @@ from libdnf5 import transaction as kinds
 
 from ..apply.messages import INSTALL, UPGRADE
 from ..apply.solving import Incoming, Marks, Solution
-from ..backend import PkgTup
+from ..backend import Dependency, PkgTup
 from ..errors import YumBaseError
 from ..packages import pkgtup as pkgtup_of_row
 from .base import Base
-from .rows import rows
+from .rows import checksum, dependencies, rows
 
 _INCOMING = (
     kinds.TransactionItemAction_UPGRADE,
@@ -69,6 +69,7 @@ class Solver:
         self.solved: Optional[Solved] = None
         """What was resolved last."""
         self.native = str(base.library.get_vars().get_value("arch"))
+        self.root = base.settings.root
         self.gone_without = gone_without
 
     def offered(self, names: List[str]) -> List[Any]:
@@ -115,6 +116,27 @@ class Solver:
             },
             packages(solved.obsoleted),
         )
+
+    # What details rest on ----------------------------------------------------------------------------------------
+
+    def dependencies(self, package: Any, kind: str) -> List[Dependency]:
+        return dependencies(getattr(package, f"get_{kind}")())
+
+    def files(self, package: Any) -> List[str]:
+        return list(package.get_files())
+
+    def installed_size(self, package: Any) -> int:
+        return int(package.get_install_size())
+
+    def checksum(self, package: Any) -> Optional[str]:
+        return checksum(package)
+
+    def protected(self) -> Collection[str]:
+        return list(self._base.config.protected_packages)
+
+    def asks_for_signature(self, package: Any) -> bool:
+        config = self._base.repository(package.reponame).get_config()
+        return bool(config.get_pkg_gpgcheck_option().get_value())
 
 
 def _kind(item: Any) -> str:

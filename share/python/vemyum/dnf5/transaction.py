@@ -15,8 +15,8 @@ from typing import Any, Callable, Iterator, List, Optional, Sequence, Set, Tuple
 import libdnf5.base
 import libdnf5.rpm
 
-from ..apply.messages import Change, Request
-from ..apply.solving import lists_all, only_doubled, solve
+from ..apply.messages import Request
+from ..apply.solving import Solved, lists_all, only_doubled, solve
 from ..backend import PkgTup
 from ..database import point_rpm_at
 from ..errors import YumBaseError
@@ -108,14 +108,14 @@ class Transaction:
 
     # Solving -----------------------------------------------------------------------------------------------------
 
-    def solve(self) -> List[Change]:
+    def solve(self) -> Solved:
         self._log = TransactionLog(self._loaded.library)
         solver = plan.Solver(self._loaded, self._gone_without)
         try:
             with in_full():
-                changes = solve(solver, self._request.incoming, self._request.removes)
+                solved = solve(solver, self._request.incoming, self._request.removes)
                 self._solved = solver.solved
-                return changes
+                return solved
         finally:
             self._log.tell()
 
