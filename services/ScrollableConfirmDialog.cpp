@@ -37,7 +37,8 @@ ScrollableConfirmDialog::ScrollableConfirmDialog(
         connect(page, &DetailsPage::changesWanted, this, &ScrollableConfirmDialog::changesWanted);
     }
     textLabel = layOutScrollableDialog(
-        this, QStyle::SP_MessageBoxQuestion, text, {ok, cancel}, pages, tr("&Transaction"));
+        this, QStyle::SP_MessageBoxQuestion, text, {ok, cancel}, pages,
+        details ? tr("&Transaction") : QString());
     ok->setFocus();
 }
 

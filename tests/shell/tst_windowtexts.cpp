@@ -11,6 +11,7 @@
 #include "services/KeyQuestion.h"
 #include "services/ScrollableConfirmDialog.h"
 #include "services/ScrollableErrorDialog.h"
+#include "services/TransactionDetails.h"
 #include "widgets/HMenu.h"
 
 #include <QApplication>
@@ -22,6 +23,7 @@
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QSet>
+#include <QTabWidget>
 #include <QTest>
 #include <QTimer>
 #include <QTranslator>
@@ -325,6 +327,21 @@ private Q_SLOTS:
         error.show();
         look(&error);
         ScrollableConfirmDialog question(text, window);
+        question.show();
+        look(&question);
+    }
+
+    void detailsOfATransaction()
+    {
+        TransactionDetails details;
+        TransactionDetails::Row row;
+        row.action = TransactionDetails::Action::Update;
+        row.name = row.arch = row.oldVersion = row.newVersion = row.repository = QStringLiteral("1");
+        row.warnings = TransactionDetails::Older | TransactionDetails::Unchecked;
+        details.rows = {row};
+        details.changes = true;
+        ScrollableConfirmDialog question(QStringLiteral("7"), details, window);
+        question.findChild<QTabWidget*>()->setCurrentIndex(1);
         question.show();
         look(&question);
     }
