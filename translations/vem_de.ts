@@ -37,6 +37,220 @@
     </message>
 </context>
 <context>
+    <name>DetailsModel</name>
+    <message>
+        <source>What happens to the package</source>
+        <translation>Was mit dem Paket geschieht</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>Aktion</translation>
+    </message>
+    <message>
+        <source>Name of the package</source>
+        <translation>Name des Pakets</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Installed version, and the version that takes its place</source>
+        <translation>Installierte Version und die Version, die an ihre Stelle tritt</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>Architecture of the package</source>
+        <translation>Architektur des Pakets</translation>
+    </message>
+    <message>
+        <source>Architecture</source>
+        <translation>Architektur</translation>
+    </message>
+    <message>
+        <source>Where the package comes from</source>
+        <translation>Woher das Paket kommt</translation>
+    </message>
+    <message>
+        <source>Repository</source>
+        <translation>Repository</translation>
+    </message>
+    <message>
+        <source>What is downloaded; of a package that goes, what it takes on the disk</source>
+        <translation>Was heruntergeladen wird; bei einem Paket, das entfernt wird, sein Platz auf der Platte</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Why the package is part of the transaction</source>
+        <translation>Warum das Paket Teil der Transaktion ist</translation>
+    </message>
+    <message>
+        <source>Why</source>
+        <translation>Warum</translation>
+    </message>
+    <message>
+        <source>Install</source>
+        <translation>Installieren</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message>
+        <source>Downgrade</source>
+        <translation>Herabstufen</translation>
+    </message>
+    <message>
+        <source>Reinstall</source>
+        <translation>Neu installieren</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>marked</source>
+        <translation>markiert</translation>
+    </message>
+    <message>
+        <source>required by %1</source>
+        <translation>benötigt von %1</translation>
+    </message>
+    <message>
+        <source>recommended by %1</source>
+        <translation>empfohlen von %1</translation>
+    </message>
+    <message>
+        <source>goes together with %1</source>
+        <translation>gehört zu %1</translation>
+    </message>
+    <message>
+        <source>needs %1</source>
+        <translation>braucht %1</translation>
+    </message>
+    <message>
+        <source>replaced by %1</source>
+        <translation>ersetzt durch %1</translation>
+    </message>
+    <message>
+        <source>no longer needed</source>
+        <translation>nicht mehr benötigt</translation>
+    </message>
+    <message>
+        <source>to resolve dependencies</source>
+        <translation>zum Auflösen von Abhängigkeiten</translation>
+    </message>
+    <message>
+        <source>%1; replaces %2</source>
+        <translation>%1; ersetzt %2</translation>
+    </message>
+    <message>
+        <source>Removed without being marked: %1</source>
+        <translation>Wird entfernt, ohne markiert zu sein: %1</translation>
+    </message>
+    <message>
+        <source>Protected, and goes all the same: %1</source>
+        <translation>Geschützt und wird dennoch entfernt: %1</translation>
+    </message>
+    <message>
+        <source>The running kernel goes: %1</source>
+        <translation>Der laufende Kernel wird entfernt: %1</translation>
+    </message>
+    <message>
+        <source>Older than the installed version: %1</source>
+        <translation>Älter als die installierte Version: %1</translation>
+    </message>
+    <message>
+        <source>Signature not checked, by the configuration of the repository: %1</source>
+        <translation>Signatur wird nach der Konfiguration des Repositorys nicht geprüft: %1</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 und %2 weitere</translation>
+    </message>
+</context>
+<context>
+    <name>DetailsPage</name>
+    <message>
+        <source>Totals</source>
+        <translation>Summen</translation>
+    </message>
+    <message>
+        <source>Warnings</source>
+        <translation>Warnungen</translation>
+    </message>
+    <message>
+        <source>What you may not expect of this transaction</source>
+        <translation>Was Sie von dieser Transaktion vielleicht nicht erwarten</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>To download: %1</source>
+        <translation>Herunterzuladen: %1</translation>
+    </message>
+    <message>
+        <source>On the disk: no change</source>
+        <translation>Auf der Platte: keine Änderung</translation>
+    </message>
+    <message>
+        <source>On the disk: %1 more</source>
+        <translation>Auf der Platte: %1 mehr</translation>
+    </message>
+    <message>
+        <source>On the disk: %1 less</source>
+        <translation>Auf der Platte: %1 weniger</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>The packages of the transaction, and why each is part of it</source>
+        <translation>Die Pakete der Transaktion und warum jedes dazugehört</translation>
+    </message>
+    <message>
+        <source>Load &amp;Changes</source>
+        <translation>Änderungen &amp;laden</translation>
+    </message>
+    <message>
+        <source>Reads the changelogs of the repositories, which may have to be downloaded</source>
+        <translation>Liest die Änderungsprotokolle der Repositorys, die vielleicht heruntergeladen werden müssen</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Änderungen</translation>
+    </message>
+    <message>
+        <source>What has changed since the installed versions</source>
+        <translation>Was sich seit den installierten Versionen geändert hat</translation>
+    </message>
+    <message>
+        <source>The changelogs are being read…</source>
+        <translation>Die Änderungsprotokolle werden gelesen …</translation>
+    </message>
+    <message>
+        <source>The changelogs tell nothing new of %1.</source>
+        <translation>Die Änderungsprotokolle melden nichts Neues über %1.</translation>
+    </message>
+    <message>
+        <source>The changelogs tell nothing new.</source>
+        <translation>Die Änderungsprotokolle melden nichts Neues.</translation>
+    </message>
+</context>
+<context>
     <name>EmptyTableNote</name>
     <message>
         <source>There are no packages.</source>
@@ -1550,6 +1764,14 @@ Lässt sich für eine einzelne Sitzung übersteuern.</translation>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
     </message>
+    <message>
+        <source>&amp;Details</source>
+        <translation>&amp;Details</translation>
+    </message>
+    <message>
+        <source>&amp;Transaction</source>
+        <translation>&amp;Transaktion</translation>
+    </message>
 </context>
 <context>
     <name>ScrollableErrorDialog</name>
@@ -2286,6 +2508,10 @@ Wie soll fortgefahren werden?</translation>
     <message>
         <source>Unable to read what a column shows</source>
         <translation>Was eine Spalte zeigt, lässt sich nicht lesen</translation>
+    </message>
+    <message>
+        <source>Unable to read the changes</source>
+        <translation>Änderungen können nicht gelesen werden</translation>
     </message>
 </context>
 <context>

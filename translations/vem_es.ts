@@ -37,6 +37,220 @@
     </message>
 </context>
 <context>
+    <name>DetailsModel</name>
+    <message>
+        <source>What happens to the package</source>
+        <translation>Qué ocurre con el paquete</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>Acción</translation>
+    </message>
+    <message>
+        <source>Name of the package</source>
+        <translation>Nombre del paquete</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Installed version, and the version that takes its place</source>
+        <translation>Versión instalada y la versión que ocupa su lugar</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Versión</translation>
+    </message>
+    <message>
+        <source>Architecture of the package</source>
+        <translation>Arquitectura del paquete</translation>
+    </message>
+    <message>
+        <source>Architecture</source>
+        <translation>Arquitectura</translation>
+    </message>
+    <message>
+        <source>Where the package comes from</source>
+        <translation>De dónde viene el paquete</translation>
+    </message>
+    <message>
+        <source>Repository</source>
+        <translation>Repositorio</translation>
+    </message>
+    <message>
+        <source>What is downloaded; of a package that goes, what it takes on the disk</source>
+        <translation>Lo que se descarga; de un paquete que se quita, lo que ocupa en el disco</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Tamaño</translation>
+    </message>
+    <message>
+        <source>Why the package is part of the transaction</source>
+        <translation>Por qué el paquete forma parte de la transacción</translation>
+    </message>
+    <message>
+        <source>Why</source>
+        <translation>Por qué</translation>
+    </message>
+    <message>
+        <source>Install</source>
+        <translation>Instalar</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Actualizar</translation>
+    </message>
+    <message>
+        <source>Downgrade</source>
+        <translation>Bajar de versión</translation>
+    </message>
+    <message>
+        <source>Reinstall</source>
+        <translation>Reinstalar</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Reemplazar</translation>
+    </message>
+    <message>
+        <source>marked</source>
+        <translation>marcado</translation>
+    </message>
+    <message>
+        <source>required by %1</source>
+        <translation>requerido por %1</translation>
+    </message>
+    <message>
+        <source>recommended by %1</source>
+        <translation>recomendado por %1</translation>
+    </message>
+    <message>
+        <source>goes together with %1</source>
+        <translation>va junto con %1</translation>
+    </message>
+    <message>
+        <source>needs %1</source>
+        <translation>necesita %1</translation>
+    </message>
+    <message>
+        <source>replaced by %1</source>
+        <translation>reemplazado por %1</translation>
+    </message>
+    <message>
+        <source>no longer needed</source>
+        <translation>ya no se necesita</translation>
+    </message>
+    <message>
+        <source>to resolve dependencies</source>
+        <translation>para resolver dependencias</translation>
+    </message>
+    <message>
+        <source>%1; replaces %2</source>
+        <translation>%1; reemplaza a %2</translation>
+    </message>
+    <message>
+        <source>Removed without being marked: %1</source>
+        <translation>Se quita sin estar marcado: %1</translation>
+    </message>
+    <message>
+        <source>Protected, and goes all the same: %1</source>
+        <translation>Protegido y se quita de todos modos: %1</translation>
+    </message>
+    <message>
+        <source>The running kernel goes: %1</source>
+        <translation>Se quita el núcleo en ejecución: %1</translation>
+    </message>
+    <message>
+        <source>Older than the installed version: %1</source>
+        <translation>Más antiguo que la versión instalada: %1</translation>
+    </message>
+    <message>
+        <source>Signature not checked, by the configuration of the repository: %1</source>
+        <translation>Firma sin comprobar, según la configuración del repositorio: %1</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 y %2 más</translation>
+    </message>
+</context>
+<context>
+    <name>DetailsPage</name>
+    <message>
+        <source>Totals</source>
+        <translation>Totales</translation>
+    </message>
+    <message>
+        <source>Warnings</source>
+        <translation>Avisos</translation>
+    </message>
+    <message>
+        <source>What you may not expect of this transaction</source>
+        <translation>Lo que quizá no espera de esta transacción</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>To download: %1</source>
+        <translation>A descargar: %1</translation>
+    </message>
+    <message>
+        <source>On the disk: no change</source>
+        <translation>En el disco: sin cambio</translation>
+    </message>
+    <message>
+        <source>On the disk: %1 more</source>
+        <translation>En el disco: %1 más</translation>
+    </message>
+    <message>
+        <source>On the disk: %1 less</source>
+        <translation>En el disco: %1 menos</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Detalles</translation>
+    </message>
+    <message>
+        <source>The packages of the transaction, and why each is part of it</source>
+        <translation>Los paquetes de la transacción y por qué cada uno forma parte de ella</translation>
+    </message>
+    <message>
+        <source>Load &amp;Changes</source>
+        <translation>Cargar &amp;cambios</translation>
+    </message>
+    <message>
+        <source>Reads the changelogs of the repositories, which may have to be downloaded</source>
+        <translation>Lee los registros de cambios de los repositorios, que quizá haya que descargar</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Cambios</translation>
+    </message>
+    <message>
+        <source>What has changed since the installed versions</source>
+        <translation>Qué ha cambiado desde las versiones instaladas</translation>
+    </message>
+    <message>
+        <source>The changelogs are being read…</source>
+        <translation>Leyendo los registros de cambios…</translation>
+    </message>
+    <message>
+        <source>The changelogs tell nothing new of %1.</source>
+        <translation>Los registros de cambios no dicen nada nuevo de %1.</translation>
+    </message>
+    <message>
+        <source>The changelogs tell nothing new.</source>
+        <translation>Los registros de cambios no dicen nada nuevo.</translation>
+    </message>
+</context>
+<context>
     <name>EmptyTableNote</name>
     <message>
         <source>There are no packages.</source>
@@ -1550,6 +1764,14 @@ Se puede cambiar para una sesión concreta.</translation>
         <source>Cancel</source>
         <translation>Cancelar</translation>
     </message>
+    <message>
+        <source>&amp;Details</source>
+        <translation>&amp;Detalles</translation>
+    </message>
+    <message>
+        <source>&amp;Transaction</source>
+        <translation>&amp;Transacción</translation>
+    </message>
 </context>
 <context>
     <name>ScrollableErrorDialog</name>
@@ -2286,6 +2508,10 @@ pero también pertenece al grupo %5 y por ello se marcó con la acción %6.
     <message>
         <source>Unable to read what a column shows</source>
         <translation>No se puede leer lo que muestra una columna</translation>
+    </message>
+    <message>
+        <source>Unable to read the changes</source>
+        <translation>No se pueden leer los cambios</translation>
     </message>
 </context>
 <context>

@@ -37,6 +37,220 @@
     </message>
 </context>
 <context>
+    <name>DetailsModel</name>
+    <message>
+        <source>What happens to the package</source>
+        <translation>Ce qui arrive au paquet</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>Action</translation>
+    </message>
+    <message>
+        <source>Name of the package</source>
+        <translation>Nom du paquet</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Installed version, and the version that takes its place</source>
+        <translation>Version installée et version qui prend sa place</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>Architecture of the package</source>
+        <translation>Architecture du paquet</translation>
+    </message>
+    <message>
+        <source>Architecture</source>
+        <translation>Architecture</translation>
+    </message>
+    <message>
+        <source>Where the package comes from</source>
+        <translation>D’où vient le paquet</translation>
+    </message>
+    <message>
+        <source>Repository</source>
+        <translation>Dépôt</translation>
+    </message>
+    <message>
+        <source>What is downloaded; of a package that goes, what it takes on the disk</source>
+        <translation>Ce qui est téléchargé ; pour un paquet qui part, la place qu’il occupe sur le disque</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Taille</translation>
+    </message>
+    <message>
+        <source>Why the package is part of the transaction</source>
+        <translation>Pourquoi le paquet fait partie de la transaction</translation>
+    </message>
+    <message>
+        <source>Why</source>
+        <translation>Raison</translation>
+    </message>
+    <message>
+        <source>Install</source>
+        <translation>Installer</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Mettre à jour</translation>
+    </message>
+    <message>
+        <source>Downgrade</source>
+        <translation>Rétrograder</translation>
+    </message>
+    <message>
+        <source>Reinstall</source>
+        <translation>Réinstaller</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Remplacer</translation>
+    </message>
+    <message>
+        <source>marked</source>
+        <translation>marqué</translation>
+    </message>
+    <message>
+        <source>required by %1</source>
+        <translation>requis par %1</translation>
+    </message>
+    <message>
+        <source>recommended by %1</source>
+        <translation>recommandé par %1</translation>
+    </message>
+    <message>
+        <source>goes together with %1</source>
+        <translation>va avec %1</translation>
+    </message>
+    <message>
+        <source>needs %1</source>
+        <translation>a besoin de %1</translation>
+    </message>
+    <message>
+        <source>replaced by %1</source>
+        <translation>remplacé par %1</translation>
+    </message>
+    <message>
+        <source>no longer needed</source>
+        <translation>n’est plus nécessaire</translation>
+    </message>
+    <message>
+        <source>to resolve dependencies</source>
+        <translation>pour résoudre les dépendances</translation>
+    </message>
+    <message>
+        <source>%1; replaces %2</source>
+        <translation>%1 ; remplace %2</translation>
+    </message>
+    <message>
+        <source>Removed without being marked: %1</source>
+        <translation>Supprimé sans être marqué : %1</translation>
+    </message>
+    <message>
+        <source>Protected, and goes all the same: %1</source>
+        <translation>Protégé, et part tout de même : %1</translation>
+    </message>
+    <message>
+        <source>The running kernel goes: %1</source>
+        <translation>Le noyau en cours d’exécution part : %1</translation>
+    </message>
+    <message>
+        <source>Older than the installed version: %1</source>
+        <translation>Plus ancien que la version installée : %1</translation>
+    </message>
+    <message>
+        <source>Signature not checked, by the configuration of the repository: %1</source>
+        <translation>Signature non vérifiée, selon la configuration du dépôt : %1</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 et %2 autres</translation>
+    </message>
+</context>
+<context>
+    <name>DetailsPage</name>
+    <message>
+        <source>Totals</source>
+        <translation>Totaux</translation>
+    </message>
+    <message>
+        <source>Warnings</source>
+        <translation>Avertissements</translation>
+    </message>
+    <message>
+        <source>What you may not expect of this transaction</source>
+        <translation>Ce que vous n’attendez peut-être pas de cette transaction</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>To download: %1</source>
+        <translation>À télécharger : %1</translation>
+    </message>
+    <message>
+        <source>On the disk: no change</source>
+        <translation>Sur le disque : aucun changement</translation>
+    </message>
+    <message>
+        <source>On the disk: %1 more</source>
+        <translation>Sur le disque : %1 de plus</translation>
+    </message>
+    <message>
+        <source>On the disk: %1 less</source>
+        <translation>Sur le disque : %1 de moins</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Détails</translation>
+    </message>
+    <message>
+        <source>The packages of the transaction, and why each is part of it</source>
+        <translation>Les paquets de la transaction et la raison de chacun</translation>
+    </message>
+    <message>
+        <source>Load &amp;Changes</source>
+        <translation>&amp;Charger les changements</translation>
+    </message>
+    <message>
+        <source>Reads the changelogs of the repositories, which may have to be downloaded</source>
+        <translation>Lit les journaux des changements des dépôts, qu’il faut peut-être télécharger</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Changements</translation>
+    </message>
+    <message>
+        <source>What has changed since the installed versions</source>
+        <translation>Ce qui a changé depuis les versions installées</translation>
+    </message>
+    <message>
+        <source>The changelogs are being read…</source>
+        <translation>Lecture des journaux des changements…</translation>
+    </message>
+    <message>
+        <source>The changelogs tell nothing new of %1.</source>
+        <translation>Les journaux des changements ne disent rien de nouveau de %1.</translation>
+    </message>
+    <message>
+        <source>The changelogs tell nothing new.</source>
+        <translation>Les journaux des changements ne disent rien de nouveau.</translation>
+    </message>
+</context>
+<context>
     <name>EmptyTableNote</name>
     <message>
         <source>There are no packages.</source>
@@ -1550,6 +1764,14 @@ Peut être modifié pour une session donnée.</translation>
         <source>Cancel</source>
         <translation>Annuler</translation>
     </message>
+    <message>
+        <source>&amp;Details</source>
+        <translation>&amp;Détails</translation>
+    </message>
+    <message>
+        <source>&amp;Transaction</source>
+        <translation>&amp;Transaction</translation>
+    </message>
 </context>
 <context>
     <name>ScrollableErrorDialog</name>
@@ -2286,6 +2508,10 @@ Comment voulez-vous procéder&#xa0;?</translation>
     <message>
         <source>Unable to read what a column shows</source>
         <translation>Impossible de lire ce qu&apos;une colonne affiche</translation>
+    </message>
+    <message>
+        <source>Unable to read the changes</source>
+        <translation>Impossible de lire les changements</translation>
     </message>
 </context>
 <context>

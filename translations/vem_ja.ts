@@ -37,6 +37,220 @@
     </message>
 </context>
 <context>
+    <name>DetailsModel</name>
+    <message>
+        <source>What happens to the package</source>
+        <translation>このパッケージに対する操作</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>アクション</translation>
+    </message>
+    <message>
+        <source>Name of the package</source>
+        <translation>パッケージの名前</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Installed version, and the version that takes its place</source>
+        <translation>インストール済みのバージョンと、それに置き換わるバージョン</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>バージョン</translation>
+    </message>
+    <message>
+        <source>Architecture of the package</source>
+        <translation>パッケージのアーキテクチャ</translation>
+    </message>
+    <message>
+        <source>Architecture</source>
+        <translation>アーキテクチャ</translation>
+    </message>
+    <message>
+        <source>Where the package comes from</source>
+        <translation>パッケージの入手元</translation>
+    </message>
+    <message>
+        <source>Repository</source>
+        <translation>リポジトリ</translation>
+    </message>
+    <message>
+        <source>What is downloaded; of a package that goes, what it takes on the disk</source>
+        <translation>ダウンロードする量。削除されるパッケージではディスク上の使用量</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>サイズ</translation>
+    </message>
+    <message>
+        <source>Why the package is part of the transaction</source>
+        <translation>このパッケージがトランザクションに含まれる理由</translation>
+    </message>
+    <message>
+        <source>Why</source>
+        <translation>理由</translation>
+    </message>
+    <message>
+        <source>Install</source>
+        <translation>インストール</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>Downgrade</source>
+        <translation>ダウングレード</translation>
+    </message>
+    <message>
+        <source>Reinstall</source>
+        <translation>再インストール</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>置き換え</translation>
+    </message>
+    <message>
+        <source>marked</source>
+        <translation>マークあり</translation>
+    </message>
+    <message>
+        <source>required by %1</source>
+        <translation>%1 が必要とする</translation>
+    </message>
+    <message>
+        <source>recommended by %1</source>
+        <translation>%1 が推奨</translation>
+    </message>
+    <message>
+        <source>goes together with %1</source>
+        <translation>%1 に伴う</translation>
+    </message>
+    <message>
+        <source>needs %1</source>
+        <translation>%1 に依存</translation>
+    </message>
+    <message>
+        <source>replaced by %1</source>
+        <translation>%1 に置き換え</translation>
+    </message>
+    <message>
+        <source>no longer needed</source>
+        <translation>不要になった</translation>
+    </message>
+    <message>
+        <source>to resolve dependencies</source>
+        <translation>依存関係の解決のため</translation>
+    </message>
+    <message>
+        <source>%1; replaces %2</source>
+        <translation>%1、%2 を置き換え</translation>
+    </message>
+    <message>
+        <source>Removed without being marked: %1</source>
+        <translation>マークなしで削除: %1</translation>
+    </message>
+    <message>
+        <source>Protected, and goes all the same: %1</source>
+        <translation>保護されているが削除: %1</translation>
+    </message>
+    <message>
+        <source>The running kernel goes: %1</source>
+        <translation>実行中のカーネルを削除: %1</translation>
+    </message>
+    <message>
+        <source>Older than the installed version: %1</source>
+        <translation>インストール済みより古いバージョン: %1</translation>
+    </message>
+    <message>
+        <source>Signature not checked, by the configuration of the repository: %1</source>
+        <translation>リポジトリの設定により署名を検証しない: %1</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 ほか %2 件</translation>
+    </message>
+</context>
+<context>
+    <name>DetailsPage</name>
+    <message>
+        <source>Totals</source>
+        <translation>合計</translation>
+    </message>
+    <message>
+        <source>Warnings</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>What you may not expect of this transaction</source>
+        <translation>このトランザクションで予期しない可能性のあること</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>To download: %1</source>
+        <translation>ダウンロード: %1</translation>
+    </message>
+    <message>
+        <source>On the disk: no change</source>
+        <translation>ディスク: 変化なし</translation>
+    </message>
+    <message>
+        <source>On the disk: %1 more</source>
+        <translation>ディスク: %1 増加</translation>
+    </message>
+    <message>
+        <source>On the disk: %1 less</source>
+        <translation>ディスク: %1 減少</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>詳細</translation>
+    </message>
+    <message>
+        <source>The packages of the transaction, and why each is part of it</source>
+        <translation>トランザクションのパッケージと、それぞれが含まれる理由</translation>
+    </message>
+    <message>
+        <source>Load &amp;Changes</source>
+        <translation>変更点を読み込む(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Reads the changelogs of the repositories, which may have to be downloaded</source>
+        <translation>リポジトリの変更ログを読み込む。ダウンロードが必要な場合もある</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>変更点</translation>
+    </message>
+    <message>
+        <source>What has changed since the installed versions</source>
+        <translation>インストール済みバージョンからの変更点</translation>
+    </message>
+    <message>
+        <source>The changelogs are being read…</source>
+        <translation>変更ログを読み込んでいます…</translation>
+    </message>
+    <message>
+        <source>The changelogs tell nothing new of %1.</source>
+        <translation>%1 について変更ログに新しい記載はありません。</translation>
+    </message>
+    <message>
+        <source>The changelogs tell nothing new.</source>
+        <translation>変更ログに新しい記載はありません。</translation>
+    </message>
+</context>
+<context>
     <name>EmptyTableNote</name>
     <message>
         <source>There are no packages.</source>
@@ -1550,6 +1764,14 @@ It can be overridden for a particular session.</source>
         <source>Cancel</source>
         <translation>キャンセル</translation>
     </message>
+    <message>
+        <source>&amp;Details</source>
+        <translation>詳細(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Transaction</source>
+        <translation>トランザクション(&amp;T)</translation>
+    </message>
 </context>
 <context>
     <name>ScrollableErrorDialog</name>
@@ -2286,6 +2508,10 @@ How do you wish to proceed?</source>
     <message>
         <source>Unable to read what a column shows</source>
         <translation>列に表示する内容を読み取れません</translation>
+    </message>
+    <message>
+        <source>Unable to read the changes</source>
+        <translation>変更点を読み込めません</translation>
     </message>
 </context>
 <context>

@@ -37,6 +37,220 @@
     </message>
 </context>
 <context>
+    <name>DetailsModel</name>
+    <message>
+        <source>What happens to the package</source>
+        <translation>对软件包执行的操作</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>Name of the package</source>
+        <translation>软件包名称</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Installed version, and the version that takes its place</source>
+        <translation>已安装的版本，以及取代它的版本</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>版本</translation>
+    </message>
+    <message>
+        <source>Architecture of the package</source>
+        <translation>软件包的架构</translation>
+    </message>
+    <message>
+        <source>Architecture</source>
+        <translation>架构</translation>
+    </message>
+    <message>
+        <source>Where the package comes from</source>
+        <translation>软件包的来源</translation>
+    </message>
+    <message>
+        <source>Repository</source>
+        <translation>软件仓库</translation>
+    </message>
+    <message>
+        <source>What is downloaded; of a package that goes, what it takes on the disk</source>
+        <translation>要下载的大小；对于将被删除的软件包，为其占用的磁盘空间</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>Why the package is part of the transaction</source>
+        <translation>该软件包包含在事务中的原因</translation>
+    </message>
+    <message>
+        <source>Why</source>
+        <translation>原因</translation>
+    </message>
+    <message>
+        <source>Install</source>
+        <translation>安装</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>Downgrade</source>
+        <translation>降级</translation>
+    </message>
+    <message>
+        <source>Reinstall</source>
+        <translation>重新安装</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>替换</translation>
+    </message>
+    <message>
+        <source>marked</source>
+        <translation>已标记</translation>
+    </message>
+    <message>
+        <source>required by %1</source>
+        <translation>%1 需要</translation>
+    </message>
+    <message>
+        <source>recommended by %1</source>
+        <translation>%1 推荐</translation>
+    </message>
+    <message>
+        <source>goes together with %1</source>
+        <translation>与 %1 配套</translation>
+    </message>
+    <message>
+        <source>needs %1</source>
+        <translation>依赖 %1</translation>
+    </message>
+    <message>
+        <source>replaced by %1</source>
+        <translation>被 %1 取代</translation>
+    </message>
+    <message>
+        <source>no longer needed</source>
+        <translation>不再需要</translation>
+    </message>
+    <message>
+        <source>to resolve dependencies</source>
+        <translation>为了解决依赖关系</translation>
+    </message>
+    <message>
+        <source>%1; replaces %2</source>
+        <translation>%1；取代 %2</translation>
+    </message>
+    <message>
+        <source>Removed without being marked: %1</source>
+        <translation>未标记但将被删除：%1</translation>
+    </message>
+    <message>
+        <source>Protected, and goes all the same: %1</source>
+        <translation>受保护但仍将被移除：%1</translation>
+    </message>
+    <message>
+        <source>The running kernel goes: %1</source>
+        <translation>正在运行的内核将被移除：%1</translation>
+    </message>
+    <message>
+        <source>Older than the installed version: %1</source>
+        <translation>比已安装的版本旧：%1</translation>
+    </message>
+    <message>
+        <source>Signature not checked, by the configuration of the repository: %1</source>
+        <translation>根据软件仓库的配置不检查签名：%1</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 及另外 %2 个</translation>
+    </message>
+</context>
+<context>
+    <name>DetailsPage</name>
+    <message>
+        <source>Totals</source>
+        <translation>合计</translation>
+    </message>
+    <message>
+        <source>Warnings</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>What you may not expect of this transaction</source>
+        <translation>此事务中您可能没有预料到的内容</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>To download: %1</source>
+        <translation>需下载：%1</translation>
+    </message>
+    <message>
+        <source>On the disk: no change</source>
+        <translation>磁盘：无变化</translation>
+    </message>
+    <message>
+        <source>On the disk: %1 more</source>
+        <translation>磁盘：增加 %1</translation>
+    </message>
+    <message>
+        <source>On the disk: %1 less</source>
+        <translation>磁盘：减少 %1</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>详细信息</translation>
+    </message>
+    <message>
+        <source>The packages of the transaction, and why each is part of it</source>
+        <translation>事务中的软件包，以及各自包含在内的原因</translation>
+    </message>
+    <message>
+        <source>Load &amp;Changes</source>
+        <translation>加载更改(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Reads the changelogs of the repositories, which may have to be downloaded</source>
+        <translation>读取软件仓库的更改日志，可能需要下载</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>更改</translation>
+    </message>
+    <message>
+        <source>What has changed since the installed versions</source>
+        <translation>自已安装版本以来的更改</translation>
+    </message>
+    <message>
+        <source>The changelogs are being read…</source>
+        <translation>正在读取更改日志……</translation>
+    </message>
+    <message>
+        <source>The changelogs tell nothing new of %1.</source>
+        <translation>更改日志中没有关于 %1 的新内容。</translation>
+    </message>
+    <message>
+        <source>The changelogs tell nothing new.</source>
+        <translation>更改日志中没有新内容。</translation>
+    </message>
+</context>
+<context>
     <name>EmptyTableNote</name>
     <message>
         <source>There are no packages.</source>
@@ -1550,6 +1764,14 @@ It can be overridden for a particular session.</source>
         <source>Cancel</source>
         <translation>取消</translation>
     </message>
+    <message>
+        <source>&amp;Details</source>
+        <translation>详细信息(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Transaction</source>
+        <translation>事务(&amp;T)</translation>
+    </message>
 </context>
 <context>
     <name>ScrollableErrorDialog</name>
@@ -2286,6 +2508,10 @@ How do you wish to proceed?</source>
     <message>
         <source>Unable to read what a column shows</source>
         <translation>无法读取列所显示的内容</translation>
+    </message>
+    <message>
+        <source>Unable to read the changes</source>
+        <translation>无法读取更改</translation>
     </message>
 </context>
 <context>
