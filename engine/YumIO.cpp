@@ -214,6 +214,7 @@ void YumIO::detachEntries()
     for (Package::RowDetails& those : rowDetails) {
         those.clear();
     }
+    installedSizes.clear();
     left.text.clear();
     left.versions.clear();
 }

@@ -11,6 +11,7 @@
 #include "services/TransactionDetails.h"
 
 #include <QHash>
+#include <QMap>
 #include <QMutex>
 #include <QObject>
 #include <QSet>
@@ -18,6 +19,7 @@
 #include <array>
 #include <atomic>
 #include <functional>
+#include <optional>
 #include <string_view>
 #include <unordered_map>
 
@@ -146,6 +148,9 @@ public:
     /// Whether that, for what is wanted by now, has nothing to do.
     [[nodiscard]] bool detailsAtHand() const;
     [[nodiscard]] Package::RowDetails const& details(Package::Detail detail) const;
+    /// What these packages of the table take on the disk once they are installed, in bytes. Nothing where the
+    /// script doesn't tell, or for more than can be asked about at once; during a job nothing either.
+    [[nodiscard]] std::optional<long long> installedSize(QList<Package::Entry const*> const& those);
     /// Job: applies all marks in one transaction. True when the user confirmed and the script's `apply`
     /// ended without an expected exception; the caller must then rebuild. False: nothing to rebuild, marks
     /// and table stay as they are.
@@ -155,6 +160,9 @@ public:
     /// succeeded: a text, of several lines at times, for each repository or file.
     [[nodiscard]] QStringList const& incomplete() const { return incompleteTexts; }
     [[nodiscard]] Unfinished const& unfinished() const { return left; }
+    /// When what the last collection used of each repository was found to be current, in seconds since 1970,
+    /// by the repository's name. Empty where the script doesn't tell.
+    [[nodiscard]] QMap<QString, qint64> const& repositoryTimes() const { return readTimes; }
     /// Job: removes the older versions that `unfinished` knows, as `apply` does what is marked.
     bool removeOlder();
 
@@ -343,6 +351,7 @@ protected:
     /// left. Nothing of it fails the collection.
     void collectIncomplete();
     void collectUnfinished();
+    void collectRepositoryTimes();
     void useRepos(PyObject* reposObject, QHash<QString, bool> const& repoStates);
     QStringList collectRepos(PyObject* reposDict);
     bool collectField(EntryHash& hash, PyObject* object, char const* field, Package::State state);
@@ -530,6 +539,8 @@ protected:
     QList<Package::Entry*> detached; ///< the rows of the last collection, still to be freed
     std::array<Package::RowDetails, Package::detailCount> rowDetails, arrivingDetails;
     std::array<bool, Package::detailCount> detailsWanted{};
+    QHash<quint64, long long> installedSizes; ///< by the serials of entries, of those that were asked for
+    QMap<QString, qint64> readTimes;
     QStringList incompleteTexts;
     Unfinished left;
     EntryHash entryHash;                 ///< the same entries by key; while collecting, the only holder

@@ -66,6 +66,7 @@ bool YumIO::collectReal(QHash<QString, bool> const& repoStates)
     if (collected) {
         collectIncomplete();
         collectUnfinished();
+        collectRepositoryTimes();
         // In the order in which they become rows. What can't be read stays empty.
         readDetails(entryHash.values());
     }

@@ -163,3 +163,39 @@ PyRef YumIO::scriptDetails(char const* name, QList<Package::Entry*> const& rows)
     pyExceptClear();
     return answer;
 }
+
+std::optional<long long> YumIO::installedSize(QList<Package::Entry const*> const& those)
+{
+    // A click marks one, and a button perhaps some thousand, which takes some milliseconds.
+    constexpr qsizetype most = 5000;
+    QList<Package::Entry*> unknown;
+    for (Package::Entry const* const entry : those) {
+        if (!installedSizes.contains(entry->serial)) {
+            unknown.append(const_cast<Package::Entry*>(entry));
+        }
+    }
+    if (unknown.size() > most || jobRuns()) {
+        return std::nullopt;
+    }
+    if (!unknown.isEmpty() && yumIO) {
+        PyGILStateWrapper const lock(true);
+        Package::RowDetails sizes;
+        if (!askScript("installedSize", unknown, sizes)) {
+            return std::nullopt;
+        }
+        for (qsizetype i = 0; i < unknown.size(); ++i) {
+            if (!sizes.text(static_cast<int>(i)).isEmpty()) {
+                installedSizes.insert(unknown[i]->serial, sizes.number(static_cast<int>(i)));
+            }
+        }
+    }
+    long long sum = 0;
+    for (Package::Entry const* const entry : those) {
+        auto const size = installedSizes.constFind(entry->serial);
+        if (size == installedSizes.constEnd()) {
+            return std::nullopt;
+        }
+        sum += *size;
+    }
+    return sum;
+}

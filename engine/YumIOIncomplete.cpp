@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-// What a collection had to do without: repositories that cannot be read and may be left out, files and
+// How current a collection is, and what it had to do without: repositories that cannot be read and may be left out, files and
 // sections of the configuration that nobody understands. Asked for behind each collection.
 #include "bridge/PythonApi.h"
 
@@ -28,4 +28,20 @@ void YumIO::collectIncomplete()
         return;
     }
     incompleteTexts = texts;
+}
+
+void YumIO::collectRepositoryTimes()
+{
+    constexpr char const* method = "repositoryTimes";
+    readTimes.clear();
+    if (PyObject_HasAttrString(yumIO.get(), method) == 0) {
+        return;
+    }
+    PyRef const answer = pyMethodCall(yumIO.get(), method, "()");
+    PyObject* name = nullptr;
+    PyObject* time = nullptr;
+    Py_ssize_t position = 0;
+    while (answer && PyDict_Check(answer.get()) && PyDict_Next(answer.get(), &position, &name, &time) != 0) {
+        readTimes.insert(pyString(name), pyTime(time));
+    }
 }

@@ -9,16 +9,45 @@
 namespace PackageTable
 {
 
-MarkCounts::MarkCounts(YumIO const& yumIO)
+namespace
 {
-    walkMarks(yumIO, [this](int, Package::Entry const& entry) {
+
+/// Of all its versions that are installed.
+long long presentSize(Package::Entry const& entry)
+{
+    long long size = entry.state == Package::UpToDate ? static_cast<long long>(entry.size) : 0;
+    for (Package::Entry const* link = entry.installed; link; link = link->installed) {
+        size += static_cast<long long>(link->size);
+    }
+    return size;
+}
+
+} // namespace
+
+MarkCounts::MarkCounts(YumIO& yumIO)
+{
+    QList<Package::Entry const*> incoming;
+    long long goes = 0;
+    walkMarks(yumIO, [&](int, Package::Entry const& entry) {
+        if (entry.action == Package::None) {
+            return;
+        }
         if (entry.action == Package::Remove) {
             ++removals;
-        } else if (entry.action != Package::None) {
-            ++(entry.action == Package::Install ? installs : updates);
-            bytes += entry.size;
+            goes += presentSize(entry);
+            return;
+        }
+        ++(entry.action == Package::Install ? installs : updates);
+        bytes += entry.size;
+        if (entry.kind != Package::Group) {
+            incoming.append(&entry);
+            goes += entry.action == Package::Update ? presentSize(entry) : 0;
         }
     });
+    std::optional<long long> const comes = yumIO.installedSize(incoming);
+    if (comes) {
+        onDisk = *comes - goes;
+    }
 }
 
 Marks::Marks(YumIO const& yumIO)

@@ -5,6 +5,7 @@
 
 #include <QString>
 #include <map>
+#include <optional>
 #include <tuple>
 
 class YumIO;
@@ -22,7 +23,10 @@ struct MarkCounts
     qsizetype removals = 0;
     unsigned long long bytes = 0; ///< the packages that installations and updates bring
 
-    explicit MarkCounts(YumIO const& yumIO);
+    /// By how much the disk fills, below zero where it empties; nothing where that isn't known.
+    std::optional<long long> onDisk;
+
+    explicit MarkCounts(YumIO& yumIO);
     [[nodiscard]] qsizetype all() const { return installs + updates + removals; }
 };
 

@@ -541,6 +541,9 @@ void MainWindow::applying(Job const& job)
 
 void MainWindow::tellCollected()
 {
+    if (yumIO && !yumIO->jobRuns()) {
+        statusLine->setRepositoryTimes(yumIO->repositoryTimes());
+    }
     // One after the other.
     tellIncomplete();
     tellUnfinished();

@@ -4,9 +4,12 @@
 #include "engine/YumIO.h"
 #include "packagetable/PackageTableMarks.h"
 
+#include <QDateTime>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QStyle>
+#include <algorithm>
+#include <cstdlib>
 
 StatusLine::StatusLine(QWidget* parent)
     : QWidget(parent),
@@ -16,11 +19,12 @@ StatusLine::StatusLine(QWidget* parent)
       sign(new QLabel(this)),
       warning(new QLabel(this)),
       incomplete(makeLink()),
+      age(new QLabel(this)),
       looking(new QLabel(tr("Looking only"), this))
 {
     auto* const line = new QHBoxLayout(this);
     line->setContentsMargins(0, 0, 0, 0);
-    for (QLabel* const label : {rows, selected, warning}) {
+    for (QLabel* const label : {rows, selected, warning, age}) {
         label->setTextFormat(Qt::PlainText);
     }
     int const size = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
@@ -38,11 +42,17 @@ StatusLine::StatusLine(QWidget* parent)
     line->addWidget(sign);
     line->addWidget(warning, 1);
     line->addWidget(incomplete);
+    line->addWidget(age);
     line->addWidget(looking);
     connect(marks, &QLabel::linkActivated, this, &StatusLine::marksWanted);
     connect(incomplete, &QLabel::linkActivated, this, &StatusLine::incompleteWanted);
     setLink(incomplete, tr("Incomplete Table"));
+    constexpr int everyMinute = 60000;
+    ageing.setInterval(everyMinute);
+    connect(&ageing, &QTimer::timeout, this, &StatusLine::tellAge);
+    ageing.start();
     setLooking(QString());
+    setRepositoryTimes({});
     setSelected(0);
     setWarning(QString());
 }
@@ -90,6 +100,12 @@ void StatusLine::setMarks(PackageTable::MarkCounts const& counts)
         //: %1 is the sentence about marks, %2 a size
         words = tr("%1; %2 to download").arg(words, YumIO::bytesFormat(counts.bytes));
     }
+    if (counts.onDisk && *counts.onDisk != 0) {
+        QString const size = YumIO::bytesFormat(static_cast<unsigned long long>(std::abs(*counts.onDisk)));
+        //: %1 is the sentence about marks, %2 a size
+        words = (*counts.onDisk > 0 ? tr("%1, %2 more on the disk") : tr("%1, %2 less on the disk"))
+                    .arg(words, size);
+    }
     setLink(marks, words);
     marks->setVisible(!kinds.isEmpty());
 }
@@ -97,6 +113,42 @@ void StatusLine::setMarks(PackageTable::MarkCounts const& counts)
 void StatusLine::setIncomplete(bool lacks)
 {
     incomplete->setVisible(lacks);
+}
+
+void StatusLine::setRepositoryTimes(QMap<QString, qint64> const& times)
+{
+    oldest = 0;
+    QStringList lines;
+    for (auto time = times.begin(); time != times.end(); ++time) {
+        oldest = oldest == 0 ? *time : std::min(oldest, *time);
+        lines.append(QStringLiteral("%1: %2").arg(time.key(), YumIO::timeFormat(*time)));
+    }
+    age->setToolTip(lines.join(QLatin1Char('\n')));
+    tellAge();
+}
+
+void StatusLine::tellAge()
+{
+    constexpr qint64 minute = 60;
+    constexpr qint64 hour = 60 * minute;
+    constexpr qint64 day = 24 * hour;
+    qint64 const seconds = QDateTime::currentSecsSinceEpoch() - oldest;
+    QString words;
+    auto const tell = [&](qint64 unit, QString const& one, QString const& several) {
+        qint64 const count = seconds / unit;
+        words = count == 1 ? one : several.arg(count);
+    };
+    if (seconds < minute) {
+        words = tr("Repositories read just now");
+    } else if (seconds < hour) {
+        tell(minute, tr("Repositories read 1 minute ago"), tr("Repositories read %1 minutes ago"));
+    } else if (seconds < day) {
+        tell(hour, tr("Repositories read 1 hour ago"), tr("Repositories read %1 hours ago"));
+    } else {
+        tell(day, tr("Repositories read 1 day ago"), tr("Repositories read %1 days ago"));
+    }
+    age->setText(words);
+    age->setVisible(oldest > 0);
 }
 
 void StatusLine::setLooking(QString const& reason)

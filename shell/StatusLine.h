@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include <QMap>
+#include <QString>
+#include <QTimer>
 #include <QWidget>
 
 class QLabel;
@@ -11,7 +14,7 @@ struct MarkCounts;
 }
 
 /// The line below the main window's buttons: how many rows show, are selected and marked, what is
-/// wrong, and what can't be had. Owned by its parent; GUI thread.
+/// wrong, how old it is, and what can't be had. Owned by its parent; GUI thread.
 class StatusLine final : public QWidget
 {
     Q_OBJECT
@@ -24,6 +27,9 @@ public:
     void setMarks(PackageTable::MarkCounts const& counts);
     /// That the table lacks something.
     void setIncomplete(bool lacks);
+    /// When each repository was found to be current, see YumIO::repositoryTimes. The oldest is told by its
+    /// age.
+    void setRepositoryTimes(QMap<QString, qint64> const& times);
     /// Why packages can't be changed; empty where they can.
     void setLooking(QString const& reason);
     /// A warning that stays until the next one; empty for none.
@@ -36,6 +42,7 @@ Q_SIGNALS:
     void incompleteWanted();
 
 private:
+    void tellAge();
     QLabel* makeLink();
     static void setLink(QLabel* label, QString const& words);
 
@@ -45,5 +52,8 @@ private:
     QLabel* sign;
     QLabel* warning;
     QLabel* incomplete;
+    QLabel* age;
+    QTimer ageing;
+    qint64 oldest = 0; ///< seconds since 1970; 0 where nobody tells
     QLabel* looking;
 };

@@ -1832,6 +1832,43 @@ Lässt sich für eine einzelne Sitzung übersteuern.</translation>
         <source>Incomplete Table</source>
         <translation>Unvollständige Tabelle</translation>
     </message>
+    <message>
+        <source>%1, %2 more on the disk</source>
+        <extracomment>%1 is the sentence about marks, %2 a size</extracomment>
+        <translation>%1, %2 mehr auf der Platte</translation>
+    </message>
+    <message>
+        <source>%1, %2 less on the disk</source>
+        <translation>%1, %2 weniger auf der Platte</translation>
+    </message>
+    <message>
+        <source>Repositories read just now</source>
+        <translation>Paketquellen soeben gelesen</translation>
+    </message>
+    <message>
+        <source>Repositories read 1 minute ago</source>
+        <translation>Paketquellen vor 1 Minute gelesen</translation>
+    </message>
+    <message>
+        <source>Repositories read %1 minutes ago</source>
+        <translation>Paketquellen vor %1 Minuten gelesen</translation>
+    </message>
+    <message>
+        <source>Repositories read 1 hour ago</source>
+        <translation>Paketquellen vor 1 Stunde gelesen</translation>
+    </message>
+    <message>
+        <source>Repositories read %1 hours ago</source>
+        <translation>Paketquellen vor %1 Stunden gelesen</translation>
+    </message>
+    <message>
+        <source>Repositories read 1 day ago</source>
+        <translation>Paketquellen vor 1 Tag gelesen</translation>
+    </message>
+    <message>
+        <source>Repositories read %1 days ago</source>
+        <translation>Paketquellen vor %1 Tagen gelesen</translation>
+    </message>
 </context>
 <context>
     <name>TextDialog</name>

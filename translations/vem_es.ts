@@ -1832,6 +1832,43 @@ Se puede cambiar para una sesión concreta.</translation>
         <source>Incomplete Table</source>
         <translation>Tabla incompleta</translation>
     </message>
+    <message>
+        <source>%1, %2 more on the disk</source>
+        <extracomment>%1 is the sentence about marks, %2 a size</extracomment>
+        <translation>%1, %2 más en el disco</translation>
+    </message>
+    <message>
+        <source>%1, %2 less on the disk</source>
+        <translation>%1, %2 menos en el disco</translation>
+    </message>
+    <message>
+        <source>Repositories read just now</source>
+        <translation>Repositorios leídos ahora mismo</translation>
+    </message>
+    <message>
+        <source>Repositories read 1 minute ago</source>
+        <translation>Repositorios leídos hace 1 minuto</translation>
+    </message>
+    <message>
+        <source>Repositories read %1 minutes ago</source>
+        <translation>Repositorios leídos hace %1 minutos</translation>
+    </message>
+    <message>
+        <source>Repositories read 1 hour ago</source>
+        <translation>Repositorios leídos hace 1 hora</translation>
+    </message>
+    <message>
+        <source>Repositories read %1 hours ago</source>
+        <translation>Repositorios leídos hace %1 horas</translation>
+    </message>
+    <message>
+        <source>Repositories read 1 day ago</source>
+        <translation>Repositorios leídos hace 1 día</translation>
+    </message>
+    <message>
+        <source>Repositories read %1 days ago</source>
+        <translation>Repositorios leídos hace %1 días</translation>
+    </message>
 </context>
 <context>
     <name>TextDialog</name>

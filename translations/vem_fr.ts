@@ -1832,6 +1832,43 @@ Peut être modifié pour une session donnée.</translation>
         <source>Incomplete Table</source>
         <translation>Tableau incomplet</translation>
     </message>
+    <message>
+        <source>%1, %2 more on the disk</source>
+        <extracomment>%1 is the sentence about marks, %2 a size</extracomment>
+        <translation>%1, %2 de plus sur le disque</translation>
+    </message>
+    <message>
+        <source>%1, %2 less on the disk</source>
+        <translation>%1, %2 de moins sur le disque</translation>
+    </message>
+    <message>
+        <source>Repositories read just now</source>
+        <translation>Dépôts lus à l&apos;instant</translation>
+    </message>
+    <message>
+        <source>Repositories read 1 minute ago</source>
+        <translation>Dépôts lus il y a 1 minute</translation>
+    </message>
+    <message>
+        <source>Repositories read %1 minutes ago</source>
+        <translation>Dépôts lus il y a %1 minutes</translation>
+    </message>
+    <message>
+        <source>Repositories read 1 hour ago</source>
+        <translation>Dépôts lus il y a 1 heure</translation>
+    </message>
+    <message>
+        <source>Repositories read %1 hours ago</source>
+        <translation>Dépôts lus il y a %1 heures</translation>
+    </message>
+    <message>
+        <source>Repositories read 1 day ago</source>
+        <translation>Dépôts lus il y a 1 jour</translation>
+    </message>
+    <message>
+        <source>Repositories read %1 days ago</source>
+        <translation>Dépôts lus il y a %1 jours</translation>
+    </message>
 </context>
 <context>
     <name>TextDialog</name>

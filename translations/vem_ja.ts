@@ -1832,6 +1832,43 @@ It can be overridden for a particular session.</source>
         <source>Incomplete Table</source>
         <translation>不完全な表</translation>
     </message>
+    <message>
+        <source>%1, %2 more on the disk</source>
+        <extracomment>%1 is the sentence about marks, %2 a size</extracomment>
+        <translation>%1、ディスク使用量 +%2</translation>
+    </message>
+    <message>
+        <source>%1, %2 less on the disk</source>
+        <translation>%1、ディスク使用量 -%2</translation>
+    </message>
+    <message>
+        <source>Repositories read just now</source>
+        <translation>リポジトリは読み込んだばかりです</translation>
+    </message>
+    <message>
+        <source>Repositories read 1 minute ago</source>
+        <translation>リポジトリの読み込み: 1 分前</translation>
+    </message>
+    <message>
+        <source>Repositories read %1 minutes ago</source>
+        <translation>リポジトリの読み込み: %1 分前</translation>
+    </message>
+    <message>
+        <source>Repositories read 1 hour ago</source>
+        <translation>リポジトリの読み込み: 1 時間前</translation>
+    </message>
+    <message>
+        <source>Repositories read %1 hours ago</source>
+        <translation>リポジトリの読み込み: %1 時間前</translation>
+    </message>
+    <message>
+        <source>Repositories read 1 day ago</source>
+        <translation>リポジトリの読み込み: 1 日前</translation>
+    </message>
+    <message>
+        <source>Repositories read %1 days ago</source>
+        <translation>リポジトリの読み込み: %1 日前</translation>
+    </message>
 </context>
 <context>
     <name>TextDialog</name>

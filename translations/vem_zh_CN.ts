@@ -1832,6 +1832,43 @@ It can be overridden for a particular session.</source>
         <source>Incomplete Table</source>
         <translation>表格不完整</translation>
     </message>
+    <message>
+        <source>%1, %2 more on the disk</source>
+        <extracomment>%1 is the sentence about marks, %2 a size</extracomment>
+        <translation>%1，磁盘多占用 %2</translation>
+    </message>
+    <message>
+        <source>%1, %2 less on the disk</source>
+        <translation>%1，磁盘少占用 %2</translation>
+    </message>
+    <message>
+        <source>Repositories read just now</source>
+        <translation>刚刚读取了仓库</translation>
+    </message>
+    <message>
+        <source>Repositories read 1 minute ago</source>
+        <translation>1 分钟前读取了仓库</translation>
+    </message>
+    <message>
+        <source>Repositories read %1 minutes ago</source>
+        <translation>%1 分钟前读取了仓库</translation>
+    </message>
+    <message>
+        <source>Repositories read 1 hour ago</source>
+        <translation>1 小时前读取了仓库</translation>
+    </message>
+    <message>
+        <source>Repositories read %1 hours ago</source>
+        <translation>%1 小时前读取了仓库</translation>
+    </message>
+    <message>
+        <source>Repositories read 1 day ago</source>
+        <translation>1 天前读取了仓库</translation>
+    </message>
+    <message>
+        <source>Repositories read %1 days ago</source>
+        <translation>%1 天前读取了仓库</translation>
+    </message>
 </context>
 <context>
     <name>TextDialog</name>

@@ -140,6 +140,12 @@ class YumIO:
         before there was one."""
         return self._session.incomplete()
 
+    def repositoryTimes(self) -> Dict[str, int]:
+        """By the name of each repository in use: when its metadata were fetched or found to be current, in seconds
+        since the epoch. YumBaseError before there was a collection."""
+        with reported_as(YumBaseError):
+            return self._session.repository_times()
+
     def unfinished(self) -> Optional[Tuple[str, Dict[str, str], List[Any]]]:
         """What a transaction that was cut off has left: a text; the versions of each package that is there more than
         once, by its name; the older ones of these, for `apply` to remove. None for nothing. YumBaseError."""

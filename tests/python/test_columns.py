@@ -3,6 +3,7 @@
 
 from __future__ import annotations
 
+import time
 from pathlib import Path
 from typing import Any, Dict, Iterable, Tuple
 
@@ -115,3 +116,14 @@ def test_nothing_is_told_before_a_collection(lamp: Tuple[Estate, Program]) -> No
     program.start()
     with pytest.raises(program.errors.YumBaseError):
         program.yumio.rowDetails("reason", [package])
+
+
+def test_repositories_tell_when_they_were_found_to_be_current(
+    estate: Estate, rpms: Catalogue, program: Program
+) -> None:
+    estate.repository("base", [rpms["lone-1.0"]])
+    estate.repository("spare", [rpms["battery-1.0"]], extra={"enabled": "0"})
+    before = int(time.time())
+    times = program.collect().yumio.repositoryTimes()
+    assert list(times) == ["base"]
+    assert before <= times["base"] <= time.time()

@@ -95,6 +95,49 @@ private Q_SLOTS:
         window->findChildren<QComboBox*>().at(1)->setCurrentIndex(3);
     }
 
+    void theStatusLineTellsWhatTheMarksComeToOnTheDisk()
+    {
+        script(QStringLiteral("YumIO.rowDetails = lambda self, kind, packages:"
+                              " [5000000 if p.name == 'hazel' else 300000 for p in packages]"));
+        auto const tells = [this](QString const& ending) {
+            auto const labels = window->findChild<StatusLine*>()->findChildren<QLabel*>();
+            return std::ranges::any_of(
+                labels, [&](QLabel const* label) { return label->accessibleName().endsWith(ending); });
+        };
+        window->clearActions();
+        clickAction(QStringLiteral("hazel"));
+        QVERIFY(tells(QStringLiteral("49Kb to download, 4.8Mb more on the disk")));
+        window->clearActions();
+        // An update takes the place of what is installed; what goes takes nothing any more.
+        clickAction(QStringLiteral("cedar"));
+        QVERIFY(tells(QStringLiteral("less on the disk")));
+        window->clearActions();
+        script(QStringLiteral("del YumIO.rowDetails"));
+    }
+
+    void theStatusLineTellsHowOldTheTableIs()
+    {
+        auto const age = [this](qint64 seconds) {
+            script(QStringLiteral("import time; YumIO.repositoryTimes = lambda self:"
+                                  " {'new': int(time.time()), 'old': int(time.time()) - %1}")
+                       .arg(seconds));
+            refresh();
+            QString found;
+            for (QLabel const* const label : window->findChild<StatusLine*>()->findChildren<QLabel*>()) {
+                if (label->isVisible() && label->text().startsWith(QLatin1String("Repositories read "))) {
+                    found = label->text();
+                }
+            }
+            return found;
+        };
+        QCOMPARE(age(30), QStringLiteral("Repositories read just now"));
+        QCOMPARE(age(90), QStringLiteral("Repositories read 1 minute ago"));
+        QCOMPARE(age(3 * 3600 + 100), QStringLiteral("Repositories read 3 hours ago"));
+        QCOMPARE(age(50 * 3600), QStringLiteral("Repositories read 2 days ago"));
+        script(QStringLiteral("del YumIO.repositoryTimes"));
+        refresh();
+    }
+
     void noMarkSurvivesAnApply()
     {
         window->clearActions();

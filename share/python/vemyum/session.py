@@ -9,6 +9,7 @@ from __future__ import annotations
 import contextlib
 import dataclasses
 import gc
+import os
 from typing import Any, Iterator, List, Optional, Sequence, Tuple
 
 from . import backend, columns, host, rights
@@ -145,6 +146,16 @@ class Session:
     def incomplete(self) -> List[str]:
         """What is configured and the collection had to do without, each with its reason; the log has it, too."""
         return [masked(valid(as_configured(text))) for text in dict.fromkeys(self.system.lacking)]
+
+    def repository_times(self) -> Dict[str, int]:
+        """As the command line tells a repository's age: both libraries touch the file whenever they look."""
+        times: Dict[str, int] = {}
+        for state in self.system.repositories():
+            primary = self.system.metadata_file(state.id, backend.PRIMARY) if state.enabled else None
+            if primary is not None:
+                with contextlib.suppress(OSError):
+                    times[state.name] = int(os.stat(os.path.join(os.path.dirname(primary), "repomd.xml")).st_mtime)
+        return times
 
     def unfinished(self) -> Optional[Unfinished]:
         """What a transaction that was cut off has left; told in the log, too."""
