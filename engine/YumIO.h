@@ -7,9 +7,11 @@
 #include "engine/Package.h"
 #include "engine/RowDetails.h"
 #include "services/CaptureSink.h"
+#include "services/DownloadRate.h"
 #include "services/Log.h"
 #include "services/TransactionDetails.h"
 
+#include <QElapsedTimer>
 #include <QHash>
 #include <QMap>
 #include <QMutex>
@@ -309,6 +311,10 @@ protected:
         unsigned int pkgActs = 0;               ///< acts of one solver pass
         unsigned int totalPkgActs = 0;          ///< acts of all solver passes so far
         unsigned int downloadActs = 0;          ///< progress steps given to the download phase
+        unsigned long long reportedBytes = 0;   ///< what is to be fetched, as the script has told it
+        DownloadRate rate;                      ///< of the packages' download
+        QElapsedTimer clock;                    ///< of that rate
+        qint64 rateShown = 0;                   ///< when it was told last, by that clock
     };
 
     /// The seven lists of a transaction and the two objects that hold them.
@@ -467,6 +473,9 @@ protected:
     /// The installed packages that an update replaces, as text, where the package's class promises to tell
     /// them by an attribute "replaces" (see share/python/vemyum/packages.py); else empty.
     QString replacedPkgs(PyObject* pkg);
+    /// Tells how fast the download is and how long it takes, twice a second at most; `now` as DownloadRate
+    /// wants it.
+    void tellRate(qint64 now);
     void startPuttingIn(QString const& name, bool update, long long total);
     void startTakingOut(QString const& name, bool update, long long total);
     QString getLocalPkg(PyObject* pkg);

@@ -54,6 +54,7 @@ PyObject* YumIO::reportDownloadSize(PyObject*, PyObject* args)
     if (!complete) {
         return nullptr;
     }
+    run.reportedBytes = sum;
     run.transactionText += tr("Total download size: %1\n").arg(bytesFormat(sum));
     Py_RETURN_NONE;
 }

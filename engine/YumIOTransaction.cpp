@@ -10,6 +10,8 @@
 #include "engine/TransactionWeight.h"
 #include "services/Progress.h"
 
+#include <optional>
+
 namespace
 {
 
@@ -42,6 +44,21 @@ constexpr long tsObsoleted = 50;
 constexpr long tsObsoleting = 60;
 constexpr long tsAvailable = 70;
 constexpr long tsUpdated = 90;
+
+constexpr qint64 rateInterval = 500; ///< milliseconds; faster, nobody could read it
+
+QString duration(long long seconds)
+{
+    constexpr long long minute = 60;
+    constexpr long long hour = 60 * minute;
+    if (seconds < minute) {
+        return YumIO::tr("%1 s").arg(seconds);
+    }
+    // Halves of minutes upwards: what is left is rather too long than too short.
+    long long const minutes = (seconds + minute / 2) / minute;
+    return seconds < hour ? YumIO::tr("%1 min").arg(minutes)
+                          : YumIO::tr("%1 h %2 min").arg(minutes / minute).arg(minutes % minute);
+}
 
 } // namespace
 
@@ -81,6 +98,14 @@ PyObject* YumIO::applyGrabMeterStart(PyObject*, PyObject* args)
         run.actsDone += actsPerHeader;
     }
     progress->startItemAct(shown, static_cast<Steps>(size), run.actsDone);
+    if (run.applyConfirmed) {
+        if (!run.clock.isValid()) {
+            run.clock.start();
+        }
+        run.rate.startFile(size, run.clock.elapsed());
+        run.rateShown = 0;
+        tellRate(run.clock.elapsed());
+    }
     Py_RETURN_NONE;
 }
 
@@ -92,8 +117,25 @@ PyObject* YumIO::applyGrabMeterUpdate(PyObject*, PyObject* args)
     }
     if (progress) {
         progress->setItemValue(static_cast<Steps>(bytes));
+        if (run.clock.isValid() && !run.deltaRebuild) {
+            qint64 const now = run.clock.elapsed();
+            run.rate.update(bytes, now);
+            tellRate(now);
+        }
     }
     Py_RETURN_NONE;
+}
+
+void YumIO::tellRate(qint64 now)
+{
+    std::optional<double> const rate = run.rate.bytesPerSecond();
+    if (!rate || (run.rateShown > 0 && now < run.rateShown + rateInterval)) {
+        return;
+    }
+    run.rateShown = now;
+    QString const speed = tr("%1/s").arg(bytesFormat(static_cast<unsigned long long>(*rate)));
+    std::optional<long long> const seconds = run.rate.secondsLeft(static_cast<long long>(run.reportedBytes));
+    progress->setItemNote(seconds ? tr("%1, %2 left").arg(speed, duration(*seconds)) : speed);
 }
 
 PyObject* YumIO::applyGrabMeterEnd(PyObject*, PyObject* args)

@@ -16,13 +16,28 @@ void HProgressBar::setActivity(QString const& newActivity)
     update();
 }
 
+void HProgressBar::setNote(QString const& newNote)
+{
+    if (note != newNote) {
+        note = newNote;
+        update();
+    }
+}
+
 void HProgressBar::reset()
 {
+    setNote(QString());
     setActivity(QString());
     QProgressBar::reset();
 }
 
 QString HProgressBar::text() const
+{
+    QString const words = told();
+    return words.isEmpty() || note.isEmpty() ? words + note : tr("%1, %2").arg(words, note);
+}
+
+QString HProgressBar::told() const
 {
     QString base = QProgressBar::text();
     if (activity.isEmpty()) {

@@ -34,6 +34,7 @@ Progress::Progress(HProgressBar* totalBar, HProgressBar* itemBar)
     connect(this, &Progress::startItemSig, minion, &ProgressMinion::startItem);
     connect(this, &Progress::changeItemActsSig, minion, &ProgressMinion::changeItemActs);
     connect(this, &Progress::setItemValueSig, minion, &ProgressMinion::setItemValue);
+    connect(this, &Progress::setItemNoteSig, minion, &ProgressMinion::setItemNote);
     connect(this, &Progress::endItemActsSig, minion, &ProgressMinion::endItemActs);
     connect(this, &Progress::setTotalValueSig, minion, &ProgressMinion::setTotalValue);
     connect(this, &Progress::resetSig, minion, &ProgressMinion::reset);
@@ -105,6 +106,12 @@ void Progress::setItemValue(Steps value)
     itemValue = value;
     totalValue = itemMax == 0 ? itemEnd : itemStart + value * (itemEnd - itemStart) / itemMax;
     Q_EMIT setItemValueSig(totalValue, value);
+    updateGui();
+}
+
+void Progress::setItemNote(QString const& note)
+{
+    Q_EMIT setItemNoteSig(note);
     updateGui();
 }
 

@@ -50,6 +50,9 @@ public:
     /// The item has come to `value`. Passes at most one value in 10 milliseconds, plus the item's last.
     void setItemValue(Steps value);
 
+    /// Words about the item beside its name and value; the next item has none.
+    void setItemNote(QString const& note);
+
     /// Ends the acts: the total stands at the end of their stretch, whatever they did.
     void endItemActs();
 
@@ -64,6 +67,7 @@ Q_SIGNALS:
     void startItemSig(QString const& name, Steps total, Steps max);
     void changeItemActsSig(Steps total);
     void setItemValueSig(Steps total, Steps value);
+    void setItemNoteSig(QString const& note);
     void endItemActsSig(Steps total);
     void setTotalValueSig(Steps total);
     void resetSig();

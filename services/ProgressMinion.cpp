@@ -71,6 +71,7 @@ void ProgressMinion::startItem(QString const& name, Steps total, Steps max)
     PaintLater const paintLater(totalBar, itemBar);
     totalBar->setValue(cut(total));
     itemBar->setActivity(name);
+    itemBar->setNote(QString());
     setMaximum(itemBar, max);
     itemBar->setValue(0);
     itemBar->setEnabled(true);
@@ -87,6 +88,11 @@ void ProgressMinion::setItemValue(Steps total, Steps value)
     PaintLater const paintLater(totalBar, itemBar);
     totalBar->setValue(cut(total));
     itemBar->setValue(cut(value));
+}
+
+void ProgressMinion::setItemNote(QString const& note)
+{
+    itemBar->setNote(note);
 }
 
 void ProgressMinion::endItemActs(Steps total)

@@ -24,6 +24,7 @@ public Q_SLOTS:
     void startItem(QString const& name, Steps total, Steps max);
     void changeItemActs(Steps total);
     void setItemValue(Steps total, Steps value);
+    void setItemNote(QString const& note);
     void endItemActs(Steps total);
     void setTotalValue(Steps total);
     void reset();

@@ -56,8 +56,8 @@ public:
     using YumIO::pyString, YumIO::pyStringDec, YumIO::pyStringX, YumIO::pyStringXDec, YumIO::pythonException;
     using YumIO::pythonExceptionV, YumIO::pyTime, YumIO::pyTimeDec, YumIO::repoAct, YumIO::repoActName;
     using YumIO::repoActTotal, YumIO::repoContents, YumIO::repoNames, YumIO::requiredPkgs, YumIO::run;
-    using YumIO::simpleString, YumIO::sizeOf, YumIO::sqliteKnown, YumIO::prestoKnown, YumIO::stderrKind,
-        YumIO::stderrLevel, YumIO::totalBar;
+    using YumIO::simpleString, YumIO::sizeOf, YumIO::sqliteKnown, YumIO::tellRate, YumIO::prestoKnown,
+        YumIO::stderrKind, YumIO::stderrLevel, YumIO::totalBar;
     using YumIO::TransactionLists, YumIO::yumIO, YumIO::yumVersionKnown;
 
 private:

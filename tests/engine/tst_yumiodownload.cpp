@@ -12,6 +12,7 @@ private Q_SLOTS:
     void downloadsWeighTheirSize();
     void headersWeighTheSameWhateverTheirSize();
     void downloadMovesWithinItsSize();
+    void rateAndTimeLeftAreToldAtTimes();
     void oddNamesAndTextsAreReported();
     void deltaRebuildEndsTheDownloads();
 
@@ -104,6 +105,36 @@ void TestYumIODownload::downloadMovesWithinItsSize()
                  model.startItemAct("Downloading x", 20000, 20000);
                  model.setItemValue(20000);
              }));
+}
+
+void TestYumIODownload::rateAndTimeLeftAreToldAtTimes()
+{
+    startProgress(8000, 1000000);
+    engine->run.applyConfirmed = true;
+    QStringList notes;
+    // The notes of a Progress of this thread come at once.
+    connect(engine->progress, &Progress::setItemNoteSig, this, [&notes](QString const& note) {
+        notes.append(note);
+    });
+    SCRIPT("class Sized:\n    size = 10 * 1024 * 1024\nyumIOC.reportDownloadSize([Sized()])");
+    QCOMPARE(engine->run.reportedBytes, 10ULL * 1024 * 1024);
+    auto const after = [this](qint64 milliseconds, long long bytes) {
+        engine->run.rate.update(bytes, milliseconds);
+        engine->tellRate(milliseconds);
+    };
+    engine->run.rate.startFile(10LL * 1024 * 1024, 0);
+    after(500, 512 * 1024);
+    QCOMPARE(notes, QStringList());
+    after(1000, 1024 * 1024);
+    after(1200, 1200 * 1024);
+    after(2000, 2 * 1024 * 1024);
+    QCOMPARE(notes, (QStringList{"1.0Mb/s, 9 s left", "1.0Mb/s, 8 s left"}));
+    after(20000, 2 * 1024 * 1024 + 36 * 1024);
+    QCOMPARE(notes.constLast(), QStringLiteral("2.0Kb/s, 1 h 8 min left"));
+    after(40000, 2 * 1024 * 1024 + 36 * 1024);
+    QCOMPARE(notes.constLast(), QStringLiteral("0b/s"));
+    SCRIPT("yumIOC.applyGrabMeterStart('x.rpm', None, None, 20000, None)\nyumIOC.applyGrabMeterUpdate(9)");
+    QVERIFY(engine->run.clock.isValid());
 }
 
 void TestYumIODownload::oddNamesAndTextsAreReported()

@@ -48,6 +48,17 @@ private Q_SLOTS:
         QCOMPARE(bar.text(), QStringLiteral("Waiting"));
     }
 
+    void noteStandsBehindUntilAReset()
+    {
+        bar.setValue(50);
+        bar.setActivity(QStringLiteral("Downloading"));
+        bar.setNote(QStringLiteral("1.0Mb/s, 3 s left"));
+        QCOMPARE(bar.text(), QStringLiteral("Downloading (25%), 1.0Mb/s, 3 s left"));
+        QCOMPARE(bar.accessibleDescription(), QStringLiteral("Downloading"));
+        bar.reset();
+        QCOMPARE(bar.text(), QString());
+    }
+
     void resetLeavesOnlyThePercentage()
     {
         bar.setActivity(QStringLiteral("Downloading"));
