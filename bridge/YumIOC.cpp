@@ -81,6 +81,7 @@ PyMethodDef functions[] = {
     entry<&YumIOHost::tsInitCallback>("tsInitCallback", METH_VARARGS),
     entry<&YumIOHost::tsCallback>("tsCallback", METH_VARARGS),
     entry<&YumIOHost::tsEvent>("tsEvent", METH_VARARGS),
+    entry<&YumIOHost::scriptRuns>("scriptRuns", METH_VARARGS),
     entry<&YumIOHost::postTransactionOutput>("postTransactionOutput", METH_VARARGS),
     {nullptr, nullptr, 0, nullptr},
 };

@@ -68,6 +68,8 @@ public:
     virtual PyObject* tsCallback(PyObject* self, PyObject* args) = 0;
     /// "OlLLll": package, action, teCurrent, teTotal, tsCurrent, _
     virtual PyObject* tsEvent(PyObject* self, PyObject* args) = 0;
+    /// "s": name of the package whose scriptlet begins to run. Scripts may leave it out.
+    virtual PyObject* scriptRuns(PyObject* self, PyObject* args) = 0;
     /// "O": holder of tsInfo
     virtual PyObject* postTransactionOutput(PyObject* self, PyObject* args) = 0;
 

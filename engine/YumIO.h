@@ -312,6 +312,7 @@ protected:
         unsigned int totalPkgActs = 0;          ///< acts of all solver passes so far
         unsigned int downloadActs = 0;          ///< progress steps given to the download phase
         unsigned long long reportedBytes = 0;   ///< what is to be fetched, as the script has told it
+        bool scriptTold = false;                ///< the item bar names a package whose script runs
         DownloadRate rate;                      ///< of the packages' download
         QElapsedTimer clock;                    ///< of that rate
         qint64 rateShown = 0;                   ///< when it was told last, by that clock
@@ -542,6 +543,7 @@ protected:
     PyObject* tsInitCallback(PyObject* self, PyObject* args) override;
     PyObject* tsCallback(PyObject* self, PyObject* args) override;
     PyObject* tsEvent(PyObject* self, PyObject* args) override;
+    PyObject* scriptRuns(PyObject* self, PyObject* args) override;
     PyObject* postTransactionOutput(PyObject* self, PyObject* args) override;
 
     Package::EntryList entries;

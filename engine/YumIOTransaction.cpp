@@ -275,6 +275,19 @@ PyObject* YumIO::tsCallback(PyObject*, PyObject* args)
     Py_RETURN_NONE;
 }
 
+PyObject* YumIO::scriptRuns(PyObject*, PyObject* args)
+{
+    char const* name = nullptr;
+    if (!PyArg_ParseTuple(args, "s", &name)) {
+        return nullptr;
+    }
+    if (progress) {
+        run.scriptTold = true;
+        progress->setItemNote(tr("script of %1").arg(QString::fromUtf8(name)));
+    }
+    Py_RETURN_NONE;
+}
+
 PyObject* YumIO::tsEvent(PyObject*, PyObject* args)
 {
     PyObject* package = nullptr;
@@ -289,6 +302,11 @@ PyObject* YumIO::tsEvent(PyObject*, PyObject* args)
     }
     if (!progress) {
         Py_RETURN_NONE;
+    }
+    if (run.scriptTold) {
+        // What is reported now comes behind the script.
+        run.scriptTold = false;
+        progress->setItemNote(QString());
     }
     // Reported for every chunk of every file: a package is new when its ordinal is.
     bool const isNew = static_cast<unsigned long long>(ordinal) != run.lastEventPkg;

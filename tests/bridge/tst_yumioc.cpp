@@ -41,6 +41,7 @@ public:
     PyObject* tsInitCallback(PyObject* self, PyObject* args) override { return called("tsInitCallback", self, args); }
     PyObject* tsCallback(PyObject* self, PyObject* args) override { return called("tsCallback", self, args); }
     PyObject* tsEvent(PyObject* self, PyObject* args) override { return called("tsEvent", self, args); }
+    PyObject* scriptRuns(PyObject* self, PyObject* args) override { return called("scriptRuns", self, args); }
     PyObject* postTransactionOutput(PyObject* self, PyObject* args) override { return called("postTransactionOutput", self, args); }
     // clang-format on
 
@@ -155,7 +156,8 @@ void TestYumIOC::moduleHasExactlyTheNamedFunctions()
             "stdoutWrite stderrWrite log warninglog errorlog collectProgress collectGrabMeterStart "
             "collectGrabMeterUpdate collectGrabMeterEnd applyGrabMeterStart applyGrabMeterUpdate "
             "applyGrabMeterEnd dsTsCheck dsRestartLoop userconfirm confirmKey reportDownloadSize "
-            "listTransaction transactionDetails tsInitCallback tsCallback tsEvent postTransactionOutput"));
+            "listTransaction transactionDetails tsInitCallback tsCallback tsEvent scriptRuns "
+            "postTransactionOutput"));
 }
 
 void TestYumIOC::functionReachesTheOperationOfItsName_data()
@@ -181,6 +183,7 @@ void TestYumIOC::functionReachesTheOperationOfItsName_data()
           "tsInitCallback(0,)",
           "tsCallback(1, 2, 3, ({'name': 'n'},), None)",
           "tsEvent('p', 1, 2, 3, 4, 5)",
+          "scriptRuns('elm',)",
           "postTransactionOutput(1,)"}) {
         QTest::newRow(call) << QString::fromUtf8(call);
     }

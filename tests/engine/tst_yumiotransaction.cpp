@@ -23,6 +23,7 @@ private Q_SLOTS:
     void eventsThatTakeOut_data();
     void eventsThatTakeOut();
     void eventsOfOnePackageOpenOneItem();
+    void scriptIsNamedUntilTheNextEvent();
     void availableEventIsIgnored();
     void unknownEventsAreWarnedOf();
     void oddEventPackagesAreReported();
@@ -228,6 +229,19 @@ void TestYumIOTransaction::eventsOfOnePackageOpenOneItem()
                  model.startItemAct("Removing cedar", 9, 60000);
              }));
     QCOMPARE(engine->run.lastEventPkg, 4ULL);
+}
+
+void TestYumIOTransaction::scriptIsNamedUntilTheNextEvent()
+{
+    startProgress(8000, 1000000);
+    QStringList notes;
+    connect(engine->progress, &Progress::setItemNoteSig, this, [&notes](QString const& note) {
+        notes.append(note);
+    });
+    SCRIPT("yumIOC.tsEvent('cedar', 40, 0, 9, 3, 4)\nyumIOC.scriptRuns('cedar')\nyumIOC.scriptRuns('elm')");
+    QCOMPARE(notes, (QStringList{"script of cedar", "script of elm"}));
+    SCRIPT("yumIOC.tsEvent('cedar', 40, 9, 9, 3, 4)\nyumIOC.tsEvent('cedar', 40, 9, 9, 3, 4)");
+    QCOMPARE(notes.mid(2), QStringList(QString()));
 }
 
 void TestYumIOTransaction::availableEventIsIgnored()

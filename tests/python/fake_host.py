@@ -15,7 +15,7 @@ class FakeHost(types.ModuleType):
 
     `answer` is what `userconfirm` gives; `on_confirm` and `on_list` run inside those calls. `key_answer` gives what
     `confirmKey` answers, by its arguments. `details` are the last arguments of `transactionDetails`, which isn't among the
-    calls: hosts may lack it.
+    calls: hosts may lack it. So may they lack `scriptRuns`, whose arguments are in `scripts`.
     """
 
     def __init__(self) -> None:
@@ -28,6 +28,7 @@ class FakeHost(types.ModuleType):
         self.on_confirm: Optional[Callable[[], None]] = None
         self.on_list: Optional[Callable[[Any], None]] = None
         self.details: Optional[Tuple[List[Any], int, int, Callable[[], List[str]]]] = None
+        self.scripts: List[str] = []
         self.key_answer: Callable[..., int] = lambda *question: 0
 
     # What was recorded ---------------------------------------------------------------------------------
@@ -150,6 +151,9 @@ class FakeHost(types.ModuleType):
             assert all(self._s(text) == text for text in texts)
             self._l(size), self._l(more)
         self.details = (rows, self._l(download), self._l(growth), changes)
+
+    def scriptRuns(self, name: Any) -> None:
+        self.scripts.append(self._s(name))
 
     def tsInitCallback(self, real: Any) -> None:
         self._note("tsInitCallback", self._l(real))

@@ -3,6 +3,7 @@
 
 from __future__ import annotations
 
+import contextlib
 import os
 from typing import Any, Dict, List, Tuple
 
@@ -212,6 +213,16 @@ def test_version_that_gives_way_to_an_older_one_is_listed_as_removed(
         "depremoved": ["lib-2.0 installed"],
     }
     assert estate.installed() == {"lib-1.0-1.noarch", "oldapp-1.0-1.noarch"}
+
+
+def test_package_whose_scriptlet_runs_is_told(
+    estate: Estate, rpms: Catalogue, program: Program, host: FakeHost
+) -> None:
+    estate.repository("base", rpms.some("lone-1.0", "badpost-1.0"))
+    found = program.collect()
+    with contextlib.suppress(program.errors.YumBaseError):
+        found.yumio.apply([found.offered("lone"), found.offered("badpost")], [], [])
+    assert host.scripts == ["badpost"]
 
 
 def test_scriptlet_output_reaches_the_log_line_by_line(

@@ -46,6 +46,7 @@ ONE_OF_EACH: List[Any] = [
     messages.FileEnded(6000),
     messages.TransactionStarts(False),
     messages.Event("lamp", 10, 1, 2, 3, 4),
+    messages.Script("lamp"),
     messages.Begun(messages.PROTOCOL, 1, 2, 3, [CHANGE]),
     messages.Ended("failed", "why", -1),
 ]

@@ -151,5 +151,12 @@ def transaction_event(name: str, code: int, done: Any, total: Any, ordinal: int,
     yumIOC.tsEvent(package, code, whole(done), whole(total), ordinal, count)
 
 
+def script_runs(name: str) -> None:
+    """A scriptlet of a package runs, up to the next event; not every host wants to know."""
+    tell = getattr(yumIOC, "scriptRuns", None)
+    if tell is not None:
+        tell(valid(name))
+
+
 def post_transaction_output(holder: Any) -> None:
     yumIOC.postTransactionOutput(holder)

@@ -250,6 +250,9 @@ class RemoteHost(types.ModuleType):
         if begins or done >= total or self._is_time():
             self._parent.send(messages.Event(name, code, done, total, ordinal, count), unimportant=not begins)
 
+    def scriptRuns(self, name: str) -> None:
+        self._parent.send(messages.Script(name), unimportant=True)
+
     def _is_time(self) -> bool:
         now = time.monotonic()
         if now < self._next:

@@ -246,6 +246,13 @@ class Event:
 
 
 @dataclasses.dataclass(frozen=True)
+class Script:
+    """A scriptlet of the package of this name begins to run."""
+
+    name: str
+
+
+@dataclasses.dataclass(frozen=True)
 class Begun:
     """First in the journal: the process that works, by its number and its start as `processes.start_of` tells it,
     the number of the program that started it, and what it works on."""
@@ -289,6 +296,7 @@ Message = Union[
     FileEnded,
     TransactionStarts,
     Event,
+    Script,
     Begun,
     Ended,
 ]

@@ -116,6 +116,8 @@ class Apply:
             host.transaction_event(
                 message.name, message.code, message.done, message.total, message.ordinal, message.count
             )
+        elif isinstance(message, messages.Script):
+            host.script_runs(message.name)
         elif isinstance(message, messages.FileProgress):
             host.apply_meter_update(message.done)
         elif isinstance(message, messages.FileStarted):

@@ -5,6 +5,8 @@ from __future__ import annotations
 
 from typing import Any, Dict, List, Set
 
+import dnf.package
+import dnf.transaction
 import dnf.yum.rpmtrans
 import libdnf.transaction as lt
 
@@ -52,6 +54,8 @@ class Display(dnf.yum.rpmtrans.TransactionDisplay):
     def progress(
         self, package: Any, action: int, ti_done: Any, ti_total: Any, ts_done: Any, ts_total: Any
     ) -> None:
+        if action == dnf.transaction.PKG_SCRIPTLET and isinstance(package, dnf.package.Package):
+            host.script_runs(package.name)
         code = self._code(package, action)
         if code is None:
             return

@@ -105,7 +105,8 @@ class Display(libdnf5_rpm.TransactionCallbacks):  # type: ignore[misc]
         self._fail(item, _("{package} could not be unpacked"))
 
     @guarded()
-    def script_start(self, _item: Any, _nevra: Any, _kind: int) -> None:
+    def script_start(self, _item: Any, nevra: Any, _kind: int) -> None:
+        host.script_runs(valid(nevra.get_name()))
         self._log.tell()
 
     @guarded()
