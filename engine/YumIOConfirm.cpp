@@ -38,14 +38,15 @@ constexpr std::array<std::pair<char const*, Details::Action>, 6> actions{
      {"remove", Details::Action::Remove},
      {"obsoleted", Details::Action::Replace}}};
 
-constexpr std::array<std::pair<char const*, Details::Why>, 7> reasons{
+constexpr std::array<std::pair<char const*, Details::Why>, 8> reasons{
     {{"marked", Details::Why::Marked},
      {"required", Details::Why::Required},
      {"recommended", Details::Why::Recommended},
      {"together", Details::Why::Together},
      {"needs", Details::Why::Needs},
      {"supplanted", Details::Why::Supplanted},
-     {"unneeded", Details::Why::Unneeded}}};
+     {"unneeded", Details::Why::Unneeded},
+     {"surplus", Details::Why::Surplus}}};
 
 constexpr std::array<std::pair<char const*, Details::Warnings>, 5> warnings{
     {{"unmarked", Details::Unmarked},

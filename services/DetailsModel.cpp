@@ -175,6 +175,9 @@ QString DetailsModel::reason(Row const& row)
     case Why::Unneeded:
         text = tr("no longer needed");
         break;
+    case Why::Surplus:
+        text = tr("one version too many");
+        break;
     case Why::Solver:
         text = tr("to resolve dependencies");
         break;

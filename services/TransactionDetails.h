@@ -29,6 +29,7 @@ struct TransactionDetails
         Needs,      ///< it needs `whom`, and both go
         Supplanted, ///< `whom` comes in instead
         Unneeded,   ///< nothing needs it any more
+        Surplus,    ///< a newer version comes in beside it, and only so many are kept
         Solver      ///< nobody can tell
     };
 

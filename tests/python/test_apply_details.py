@@ -9,7 +9,7 @@ import pytest
 from catalogue import Catalogue
 from fake_host import FakeHost
 from program import Collection, Program
-from rpmestate import Estate, spec
+from rpmestate import Estate, install_options, spec
 from vemyum.apply import details, newer
 from vemyum.apply.messages import Detail
 from vemyum.apply.solving import Incoming, Solution
@@ -117,6 +117,19 @@ def test_dependency_that_nothing_needs_any_more(
     refusing.answer = 0
     mark(program.collect(), removes=["app"])
     assert short(refusing)["lib"] == "remove 1.0-1 @System: unneeded"
+
+
+def test_version_beyond_the_limit_goes_without_a_warning(
+    estate: Estate, rpms: Catalogue, program: Program, refusing: FakeHost
+) -> None:
+    estate.write_main_config(installonly_limit="2")
+    estate.rpm("-i", *install_options(), *rpms.some("core-1.0", "core-2.0"))
+    estate.repository("base", rpms.some("core-3.0"))
+    mark(program.collect(), updates=["core"])
+    assert [(row.action, row.old, row.new, row.why, row.warnings) for row in told(refusing)] == [
+        ("remove", "1.0-1", "", "surplus", []),
+        ("install", "", "3.0-1", "marked", ["unchecked"]),
+    ]
 
 
 def test_one_takes_anothers_place(

@@ -183,6 +183,7 @@ void TestDetailsPage::reasonsAreWords_data()
     add(Details::Why::Needs, "needs oak");
     add(Details::Why::Supplanted, "replaced by oak");
     add(Details::Why::Unneeded, "no longer needed");
+    add(Details::Why::Surplus, "one version too many");
     add(Details::Why::Solver, "to resolve dependencies");
 }
 

@@ -30,6 +30,7 @@ from .messages import (
     RUNNING,
     SOLVER,
     SUPPLANTED,
+    SURPLUS,
     SYSTEM,
     TOGETHER,
     UNCHECKED,
@@ -98,11 +99,15 @@ class _Telling:
         gone: Dict[PkgTup, Tuple[Any, List[str]]] = {}
         """What gives way to what comes in, with the names of that."""
         paired: Set[PkgTup] = set()
+        beside: Set[str] = set()
+        """The names of what comes in and takes no version's place."""
         coming = [one.package for one in self._solution.incoming]
         reasons = _Reasons(self._facts, [one for one in coming if pkgtup(one) not in self._marked], coming)
         for package, kind, olds in self._solution.incoming:
             old = counterpart(package, olds, self._facts.native)
-            if old is not None:
+            if old is None:
+                beside.add(package.name)
+            else:
                 paired.add(pkgtup(old))
             for one in olds:
                 gone.setdefault(pkgtup(one), (one, []))[1].append(package.name)
@@ -117,6 +122,8 @@ class _Telling:
                 self._outgoing(package, REMOVE, MARKED, [])
             elif key in self._solution.unneeded:
                 self._outgoing(package, REMOVE, UNNEEDED, [])
+            elif package.name in beside:
+                self._outgoing(package, REMOVE, SURPLUS, [])
             else:
                 lost = needs.of(package)
                 self._outgoing(package, REMOVE, NEEDS if lost else SOLVER, lost)

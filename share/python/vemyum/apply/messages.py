@@ -146,9 +146,9 @@ DOWNGRADE, REINSTALL = "downgrade", "reinstall"
 MARKED, REQUIRED, RECOMMENDED, TOGETHER = "marked", "required", "recommended", "together"
 """Why a package comes in: the user wants it; another one that comes in requires it, or only recommends it; it needs
 another one that comes in."""
-NEEDS, SUPPLANTED, UNNEEDED, SOLVER = "needs", "supplanted", "unneeded", "solver"
-"""Why a package goes: it is marked, or needs what goes; gives way to one that comes in; nothing needs it any more; for
-either direction, the solver alone knows."""
+NEEDS, SUPPLANTED, UNNEEDED, SURPLUS, SOLVER = "needs", "supplanted", "unneeded", "surplus", "solver"
+"""Why a package goes: it is marked, or needs what goes; gives way to one that comes in; nothing needs it any more; a
+newer version comes in beside it, and only so many are kept; for either direction, the solver alone knows."""
 
 UNMARKED, PROTECTED, RUNNING, OLDER, UNCHECKED = "unmarked", "protected", "running", "older", "unchecked"
 """What a user may not expect: a package goes that isn't marked; a protected one does; so does the running kernel; an
