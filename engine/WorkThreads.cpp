@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "engine/WorkThreads.h"
 
+#include "engine/Stop.h"
 #include "engine/YumIO.h"
 
 #include <QEventLoop>
@@ -13,7 +14,10 @@ WorkThread::WorkThread(YumIO* engine, QEventLoop& callersLoop)
 
 void WorkThread::run()
 {
-    result = work();
+    {
+        Stop::Worker const wakable(yumIO->stop);
+        result = work();
+    }
     loop.exit(0);
 }
 

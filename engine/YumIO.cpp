@@ -147,6 +147,7 @@ bool YumIO::initialize()
         return fail("Internal error: cannot create python yumIO");
     }
     libraryName = toldByScript("packageLibrary");
+    offerStop();
     return true;
 }
 
@@ -285,18 +286,6 @@ void YumIO::leave()
     std::_Exit(EXIT_SUCCESS);
 }
 
-bool YumIO::collect(QHash<QString, bool> const& repoStates)
-{
-    QEventLoop loop;
-    CollectThread thread(this, loop, repoStates);
-    execWorkThread(loop, thread);
-    if (thread.result) {
-        takeEntries();
-        takeDetails();
-    }
-    return thread.result;
-}
-
 // On the GUI thread, which may paint the table at any moment of the job.
 void YumIO::takeEntries()
 {
@@ -311,6 +300,7 @@ bool YumIO::collectFileLists()
     if (fileListsCollected) {
         return true;
     }
+    Stop::Job const stoppable(stop);
     QEventLoop loop;
     CollectFileListsThread thread(this, loop);
     execWorkThread(loop, thread);
@@ -322,6 +312,7 @@ bool YumIO::collectOtherData()
     if (otherDataCollected) {
         return true;
     }
+    Stop::Job const stoppable(stop);
     QEventLoop loop;
     CollectOtherDataThread thread(this, loop);
     execWorkThread(loop, thread);
@@ -341,6 +332,7 @@ bool YumIO::collectBuildHost(Package::Entry const& entry)
 
 bool YumIO::apply()
 {
+    Stop::Job const stoppable(stop);
     QEventLoop loop;
     ApplyThread thread(this, loop, ApplyOf::Marks);
     execWorkThread(loop, thread);
@@ -352,6 +344,7 @@ bool YumIO::removeOlder()
     if (!left.older) {
         return false;
     }
+    Stop::Job const stoppable(stop);
     QEventLoop loop;
     ApplyThread thread(this, loop, ApplyOf::Older);
     execWorkThread(loop, thread);

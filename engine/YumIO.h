@@ -6,6 +6,7 @@
 #include "bridge/YumIOHost.h"
 #include "engine/Package.h"
 #include "engine/RowDetails.h"
+#include "engine/Stop.h"
 #include "services/CaptureSink.h"
 #include "services/DownloadRate.h"
 #include "services/Log.h"
@@ -131,7 +132,8 @@ public:
     void clear();
 
     /// Job: fills the list of entries. `repos` maps repository ids to whether this session uses them.
-    /// False after a report; the list is then empty.
+    /// False after a report; the list is then empty. One that is stopped is done once more, of what was
+    /// fetched before; that answers false without a report where it is stopped, too.
     bool collect(QHash<QString, bool> const& repos);
     /// Job: loads file lists, or change logs, of the repositories' packages; true at once when that has
     /// been done in this collection.
@@ -266,6 +268,7 @@ public:
     void error(char const* message) override;
     void warning(char const* message) override;
 
+    Stop stop;                       ///< of the job in progress
     Log::EntryList logEntries;       ///< everything that was said since the program's start
     bool fileListsCollected = false; ///< the file lists of the repositories are loaded
     bool otherDataCollected = false; ///< the same for change logs
@@ -339,6 +342,11 @@ protected:
     /// Job: runs the file "python/preload.py" of the share directory, if there is one, which imports what the
     /// helper script needs; the window is drawn meanwhile. What goes wrong is left to the script to tell.
     void preload();
+    /// Tells a script that knows of it where the user's wish to stop is to be found.
+    void offerStop();
+    bool runCollection(QHash<QString, bool> const& repoStates);
+    /// Has the collection in progress fetch nothing; false where the script doesn't know how.
+    bool stayOnDisk();
     bool preloadReal();
     bool clearReal();
     bool collectReal(QHash<QString, bool> const& repoStates);
@@ -571,6 +579,7 @@ protected:
     bool locked = false;              ///< this process holds the package library's lock
     bool watching = false;            ///< the transaction on show is another process's
     bool watched = false;             ///< there was one
+    bool onDisk = false;              ///< the collection in progress fetches nothing
     int jobs = 0; ///< jobs in progress, of the GUI thread's event loops; one at most works
     std::atomic<bool> transactionBegun{false};
     bool yumVersionKnown = false;

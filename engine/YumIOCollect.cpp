@@ -136,6 +136,9 @@ bool YumIO::readRepositories(QHash<QString, bool> const& repoStates)
         return false;
     }
 
+    if (onDisk && !stayOnDisk()) {
+        return false;
+    }
     progress->startItem(tr("Reading repositories"), setupSteps, 1);
     progress->setupItemActs(repositorySteps, actsPerRepository * static_cast<Steps>(repoNames.size()));
     PyObject* const repoError = pyLookup("yum.Errors.RepoError");

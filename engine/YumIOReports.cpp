@@ -113,6 +113,11 @@ void YumIO::pythonExceptionV(QString const& text)
 
 void YumIO::reportException(QString const& value, QString const& text)
 {
+    if (stop.stopped()) {
+        // The user has wanted that, and need not be told.
+        log(Log::Action, 0, tr("Stopped"));
+        return;
+    }
     if (capturers) {
         // What has just been written belongs to this report, and may not have been read yet.
         capturers->drain();

@@ -167,6 +167,7 @@ PyObject* YumIO::tsInitCallback(PyObject*, PyObject* args)
     if (real) {
         QString const words = tr("The transaction goes on; the program ends when it has come to its end.");
         transactionBegun = true;
+        stop.tooLate();
         Interrupt::transactionBegins((words + QLatin1Char('\n')).toLocal8Bit().toStdString());
     }
     if (!progress) {

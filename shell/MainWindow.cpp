@@ -22,7 +22,6 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QCloseEvent>
 #include <QComboBox>
 #include <QEventLoop>
 #include <QFile>
@@ -52,30 +51,6 @@ void MainWindow::setVisible(bool visible)
     QMainWindow::setVisible(visible);
     if (visible) {
         QTimer::singleShot(0, this, &MainWindow::initialize);
-    }
-}
-
-void MainWindow::closeEvent(QCloseEvent* event)
-{
-    memory->keep();
-    if (!yumIO || !yumIO->jobRuns()) {
-        QMainWindow::closeEvent(event);
-    } else if (!yumIO->transactionRuns()) {
-        // Nobody would see what comes of the job, while it kept the lock from others.
-        yumIO->leave();
-    } else {
-        event->ignore();
-        if (!closeBox) {
-            auto* const box = new QMessageBox(
-                QMessageBox::Information, tr("VEM"),
-                tr("Packages are being installed, updated or removed.\nThe window stays open until that has "
-                   "come to its end."),
-                QMessageBox::Ok, this);
-            box->setAttribute(Qt::WA_DeleteOnClose);
-            // Not waited for: the job needs the event loop below.
-            box->open();
-            closeBox = box;
-        }
     }
 }
 
@@ -178,8 +153,11 @@ void MainWindow::rebuild()
 {
     yumIO->clear();
     // A search in force tests the new rows, and needs their data before.
-    prepareFilterSearch(yumIO->collect(reposEnabled) && view->hasExpression());
+    bool const canSearch = prepareFilterSearch(yumIO->collect(reposEnabled) && view->hasExpression());
     model->reset();
+    if (!canSearch) {
+        modeCombo->setCurrentIndex(PackageTable::Filter);
+    }
     showMarks();
 }
 
@@ -372,8 +350,9 @@ bool MainWindow::isSearching() const
 void MainWindow::filtersearch()
 {
     auto const step = [this] {
-        prepareFilterSearch(lineHoldsExpression());
-        view->filtersearch(regExpEdit->text());
+        if (prepareFilterSearch(lineHoldsExpression())) {
+            view->filtersearch(regExpEdit->text());
+        }
     };
     regExpEdit->taken();
     isSearching() ? whileBusy(step) : step();
@@ -418,23 +397,22 @@ bool MainWindow::lineHoldsExpression() const
     return !text.isEmpty() && text != QLatin1String(".*");
 }
 
-void MainWindow::prepareFilterSearch(bool hasExpression)
+bool MainWindow::prepareFilterSearch(bool hasExpression)
 {
-    if (hasExpression && isSearching()) {
-        loadExtraData();
-    }
+    return !hasExpression || !isSearching() || loadExtraData();
 }
 
-void MainWindow::loadExtraData()
+bool MainWindow::loadExtraData()
 {
     if (yumIO->fileListsCollected && yumIO->otherDataCollected) {
-        return;
+        return true;
     }
     // No row is tested while the engine works.
     view->setFilter(false);
-    yumIO->collectFileLists();
-    yumIO->collectOtherData();
+    bool stopped = !yumIO->collectFileLists() && yumIO->stop.stopped();
+    stopped = stopped || (!yumIO->collectOtherData() && yumIO->stop.stopped());
     view->setFilter(true);
+    return !stopped;
 }
 
 void MainWindow::currentChanged(int current, int)
@@ -467,7 +445,10 @@ void MainWindow::modeChanged(int mode)
     tellMode(mode);
     auto const step = [this, mode] {
         // The expression in force is tried in the new way, whatever the line holds.
-        prepareFilterSearch(lineHoldsExpression() || view->hasExpression());
+        if (!prepareFilterSearch(lineHoldsExpression() || view->hasExpression())) {
+            modeCombo->setCurrentIndex(PackageTable::Filter);
+            return;
+        }
         view->setMode(static_cast<PackageTable::Mode>(mode));
     };
     mode == 1 ? whileBusy(step) : step();
@@ -529,7 +510,12 @@ template <typename Job>
 void MainWindow::applying(Job const& job)
 {
     setReady(false);
-    if (job()) {
+    bool const applied = job();
+    if (endsBehind) {
+        quit();
+        return;
+    }
+    if (applied) {
         if (RepoAuth::Checker(this, yumConfIO).quitRequested) {
             quit();
             return;

@@ -95,6 +95,8 @@ public Q_SLOTS:
     void setUpdateAll();
     void clearActions();
     void apply();
+    /// Has the job in progress give up, if it can.
+    void stop();
     /// What there is to tell behind a collection.
     void tellCollected();
     /// Sums up what the collection had to do without, whenever that has changed.
@@ -105,7 +107,8 @@ public Q_SLOTS:
     void tellUnfinished();
 
 protected:
-    /// Refused, with a word, while rpm works; ends the process while another job is in progress.
+    /// While rpm works it waits for the end of that, with a word; ends the process while another job is in
+    /// progress.
     void closeEvent(QCloseEvent* event) override;
 
 private:
@@ -120,9 +123,10 @@ private:
     void setReady(bool ready);
     /// Whether the line holds more than what matches everything.
     [[nodiscard]] bool lineHoldsExpression() const;
-    /// Loads the extra data that a search needs, if there is an expression to search for.
-    void prepareFilterSearch(bool hasExpression);
-    void loadExtraData();
+    /// Loads the extra data that a search needs, if there is an expression to search for. False where the
+    /// user has stopped that: no search is to be done then.
+    bool prepareFilterSearch(bool hasExpression);
+    bool loadExtraData();
     void rebuild();
     /// Behind a rebuild; tells of those that have lost their rows.
     void restore(PackageTable::Marks const& marks);
@@ -161,7 +165,7 @@ private:
     QAction* findAction = nullptr;
     QStringList incompleteTold;       ///< what `tellIncomplete` has told last
     QString unfinishedTold;           ///< what `tellUnfinished` has told last
-    QPointer<QWidget> closeBox;       ///< says why the window stays, while it does
+    bool endsBehind = false;          ///< the program ends once rpm has done its work
     QPointer<QWidget> tableArea;      ///< hidden until the first collection is done
     QPointer<QWidget> focusWhenReady; ///< had the keyboard when the window became busy
     QComboBox* modeCombo = nullptr;

@@ -13,6 +13,7 @@
 #include "services/HProgressBar.h"
 #include "shell/EmptyTableNote.h"
 #include "shell/StatusLine.h"
+#include "shell/StopButton.h"
 #include "shell/WindowMemory.h"
 #include "widgets/HMenu.h"
 
@@ -230,8 +231,15 @@ void MainWindow::createMainArea()
     itemBar->setAccessibleName(tr("Item Progress"));
     auto* const totalBar = new HProgressBar(central);
     totalBar->setAccessibleName(tr("Total Progress"));
-    outer->addWidget(itemBar);
-    outer->addWidget(totalBar);
+    auto* const stopButton = new StopButton(yumIO->stop, central);
+    connect(stopButton, &QPushButton::clicked, this, &MainWindow::stop);
+    auto* const bars = new QVBoxLayout;
+    bars->addWidget(itemBar);
+    bars->addWidget(totalBar);
+    auto* const progressRow = new QHBoxLayout;
+    progressRow->addLayout(bars);
+    progressRow->addWidget(stopButton);
+    outer->addLayout(progressRow);
     yumIO->setup(this, totalBar, itemBar);
     setCentralWidget(central);
     regExpEdit->setMatchesCase(UserSettings::value(matchCaseSetting, true).toBool());

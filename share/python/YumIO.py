@@ -28,7 +28,7 @@ streams.replace_streams()
 
 import bdb  # noqa: E402,F401
 
-from vemyum import choice, clean, host, messages, rights, surroundings  # noqa: E402
+from vemyum import choice, clean, host, messages, rights, stop, surroundings  # noqa: E402
 from vemyum.apply.parent import Apply  # noqa: E402
 from vemyum.errors import LockError, RepoError, YumBaseError, reported_as  # noqa: E402
 from vemyum.root import managed_root  # noqa: E402
@@ -61,6 +61,12 @@ def whyOnlyLooking() -> Optional[str]:
 def whyNoChange() -> Optional[str]:
     """Why this user can't change the packages, in one sentence; None where they can be changed."""
     return rights.unchangeable(managed_root()) or (None if rights.is_administrator() else rights.LOOK_ONLY)
+
+
+def stopBy(descriptor: int) -> None:
+    """From here on a job is given up, with the exception that its method may raise, once this descriptor can be read;
+    where rpm works, it isn't."""
+    stop.listen_to(descriptor)
 
 
 class YumIO:
@@ -99,6 +105,8 @@ class YumIO:
         """LockError. The engine shows no exception's text here but what was logged: the holder's name."""
         try:
             self._session.lock()
+        except stop.Stopped as error:
+            raise LockError(str(error)) from error
         except LockError as error:
             host.errorlog(host.LEVEL_ERROR, str(error))
             raise
@@ -106,6 +114,10 @@ class YumIO:
     def unlock(self) -> None:
         """LockError."""
         self._session.unlock()
+
+    def stayOnDisk(self) -> None:
+        """Has `setupRepos` fetch nothing: it reads what was fetched before, as far as there is anything."""
+        self._session.stay_on_disk()
 
     def setupRepos(self) -> None:
         """RepoError, naming the repository, its address and the cause."""

@@ -155,6 +155,10 @@ class System(Protocol):
     def enable(self, id: str, enabled: bool) -> None:
         """Before `load`."""
 
+    def stay_on_disk(self) -> None:
+        """Before `load`: nothing is fetched, however old what the cache holds is; a repository of which it holds nothing
+        is left out."""
+
     def load(self) -> None:
         """Reads the enabled repositories and the rpm database, with progress; asks about keys of metadata that are
         missing. RepoError that names the repository, its address and the cause. Of no use after a failure."""

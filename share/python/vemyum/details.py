@@ -9,7 +9,7 @@ import re
 import sys
 from typing import Any, Dict, Iterator, List, Optional, Sequence, Tuple
 
-from . import backend, host
+from . import backend, host, stop
 from .backend import FILE_LISTS, PRIMARY, Dependency, Row, Settings, System
 from .records import Recognition, Records, Unrecognised, changes, chunks, files
 from .sections import RepositorySection
@@ -39,6 +39,7 @@ class PackageDetails:
         for repository in self._system.repositories():
             if not repository.enabled:
                 continue
+            stop.check()
             host.collect_progress(0, 1, repository.id)
             path = self._system.metadata_file(repository.id, FILE_LISTS)
             try:

@@ -14,7 +14,7 @@ import shutil
 import tempfile
 from typing import Iterator, List, Optional, Protocol, Sequence
 
-from . import host
+from . import host, stop
 from .errors import FAILURES, RepoError, words
 from .repomd import FOLDER, NAME, File, join, verify
 from .texts import _
@@ -54,6 +54,7 @@ def fetch(repository: Repository, addresses: Sequence[str], kept: bool, meter: O
         os.mkdir(os.path.join(stage, FOLDER))
         fault: Optional[Exception] = None
         for address in addresses:
+            stop.check()
             try:
                 _fetch_from(address, repository, stage, kept, meter)
                 return

@@ -17,6 +17,7 @@ from typing import Dict, Iterator, List, Optional, Tuple
 
 import rpm
 
+from . import stop
 from .text import valid
 from .texts import _
 
@@ -34,7 +35,13 @@ _COMPRESSIONS = {".gz": "gzdio", ".xz": "xzdio", ".bz2": "bzdio", ".zst": "zstdi
 
 
 def chunks(path: str) -> Iterator[bytes]:
-    """The content of a metadata file, uncompressed. OSError."""
+    """The content of a metadata file, uncompressed. OSError, Stopped."""
+    for chunk in _chunks(path):
+        stop.check()
+        yield chunk
+
+
+def _chunks(path: str) -> Iterator[bytes]:
     # rpm tells no path, and other programs no cause.
     os.stat(path)
     ending = os.path.splitext(path)[1]

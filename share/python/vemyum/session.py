@@ -12,7 +12,7 @@ import gc
 import os
 from typing import Any, Iterator, List, Optional, Sequence, Tuple
 
-from . import backend, columns, host, rights
+from . import backend, columns, host, rights, stop
 from .apply.journal import await_transaction, tell_last
 from .backend import Settings, System
 from .comps import CompsGroup
@@ -66,6 +66,7 @@ class Session:
         self._collector: Optional[Collector] = None
         self._comps: List[CompsGroup] = []
         self._fault: Optional[YumBaseError] = None
+        self._on_disk = False
         try:
             with reported_as(YumBaseError, _("Unable to read the configuration")):
                 self._settings = backend.library().read_settings()
@@ -114,6 +115,11 @@ class Session:
 
     # Collection ------------------------------------------------------------------------------------------
 
+    def stay_on_disk(self) -> None:
+        """Has `read_repositories` take what has been fetched before, and do without a repository of which there is
+        nothing."""
+        self._on_disk = True
+
     def read_repositories(self) -> None:
         """Reads all enabled repositories and the rpm database. RepoError, whatever fails."""
         if self._fault is not None:
@@ -122,21 +128,26 @@ class Session:
             raise RepoError(_("The repositories can be read once only"))
         for state in self._system.repositories():
             self._system.enable(state.id, bool(self.repositories.repos[state.id].enabled))
+        if self._on_disk:
+            self._system.stay_on_disk()
         with reported_as(RepoError), _nothing_is_garbage():
             self._system.load()
         self._details = PackageDetails(self._system)
         self._collector = Collector(self._system, self._details)
 
     def updates(self) -> Sequence[Any]:
+        stop.check()
         with _nothing_is_garbage():
             return self.collector.updates()
 
     def everything(self) -> PackageLists:
+        stop.check()
         with _nothing_is_garbage():
             return self.collector.everything()
 
     def read_groups(self) -> None:
         """GroupsError when there are none."""
+        stop.check()
         self._comps = []
         self._comps = read_groups(self.system)
 

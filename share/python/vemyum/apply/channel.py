@@ -13,13 +13,16 @@ from .messages import Message, from_line, to_line
 _LONGEST_LINE = 1 << 26
 """More than any list of packages takes, and little enough to be held in memory."""
 
+_PART = 1 << 16
+
 
 class Channel:
     """One end. Owns the socket. One thread sends, one receives."""
 
     def __init__(self, connection: socket.socket) -> None:
         self._socket = connection
-        self._lines = connection.makefile("rb")
+        self._received = bytearray()
+        self._searched = 0
         self._pending = bytearray()
         self._gone = False
 
@@ -65,18 +68,39 @@ class Channel:
 
     def receive(self) -> Optional[Message]:
         """The next message, None when the other end has ended. Waits for it. ProtocolError."""
-        try:
-            line = self._lines.readline(_LONGEST_LINE)
-        except OSError:
-            # A reset connection: the other end has died with lines unread.
-            return None
-        if not line:
-            return None
-        if line.endswith(b"\n") or len(line) == _LONGEST_LINE:
-            return from_line(line)
-        # The end came in the middle of a line.
-        return None
+        while not self._has_line():
+            try:
+                part = self._socket.recv(_PART)
+            except OSError:
+                # A reset connection: the other end has died with lines unread.
+                return None
+            if not part:
+                # Be it in the middle of a line.
+                return None
+            self._received += part
+        line = bytes(self._received[: self._searched])
+        del self._received[: self._searched]
+        self._searched = 0
+        return from_line(line)
+
+    def ready(self, also: Optional[int] = None, seconds: Optional[float] = None) -> bool:
+        """Waits until the other end has said something or ended, or the descriptor `also` can be read, or the seconds
+        are over. Whether it was the other end: `receive` has something then, or the beginning of it."""
+        if self._has_line():
+            return True
+        watched = select.poll()
+        watched.register(self._socket, select.POLLIN)
+        if also is not None:
+            watched.register(also, select.POLLIN)
+        found = watched.poll(None if seconds is None else seconds * 1000)
+        return any(descriptor == self._socket.fileno() for descriptor, _events in found)
+
+    def _has_line(self) -> bool:
+        """Whether a line begins what has been received, which then ends where the search has. One that is too long
+        counts as one."""
+        end = self._received.find(b"\n", max(self._searched - 1, 0)) + 1
+        self._searched = min(end or len(self._received), _LONGEST_LINE)
+        return end > 0 or self._searched == _LONGEST_LINE
 
     def close(self) -> None:
-        self._lines.close()
         self._socket.close()

@@ -13,8 +13,7 @@ import os
 import time
 from typing import BinaryIO, Iterator, Optional
 
-
-from .. import host, processes
+from .. import host, processes, stop
 from ..backend import Settings
 from ..errors import os_error_text
 from ..root import as_configured
@@ -107,9 +106,10 @@ class Reader:
         return processes.lives(self.begun.pid) and processes.start_of(self.begun.pid) == self.begun.start
 
     def follow(self) -> Iterator[Message]:
-        """What has been written and is being written, up to the end of the transaction or of the process."""
+        """What has been written and is being written, up to the end of the transaction or of the process. Stopped."""
         line = b""
         while True:
+            stop.check()
             at_work = self.at_work
             for part in self._file:
                 line += part
@@ -144,7 +144,7 @@ def open_journal(settings: Settings) -> Optional[Reader]:
 def await_transaction(settings: Settings) -> None:
     """Where a transaction is at work whose program is gone: says so, and shows it up to its end.
 
-    One of a program that is there is left to it. Any thread; sleeps without the interpreter lock.
+    One of a program that is there is left to it. Any thread; sleeps without the interpreter lock. Stopped.
     """
     reader = open_journal(settings)
     if reader is None:

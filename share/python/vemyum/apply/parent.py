@@ -12,7 +12,7 @@ import subprocess
 import sys
 from typing import Any, List, Optional, Sequence, Tuple
 
-from .. import choice, host, processes
+from .. import choice, host, processes, stop
 from ..errors import ALL_DONE, REFRESH, LockError, YumBaseError, reported_as
 from ..lists import Collector
 from ..lock import LOCK
@@ -33,6 +33,10 @@ COMMAND = [
 are added."""
 
 
+_PATIENCE = 0.3
+"""Seconds in which a process that is to leave can do so by itself; one that waits in a library for a server cannot."""
+
+
 class ChildFault(Exception):
     """A fault of the program itself in the process that worked; the text is its traceback."""
 
@@ -43,10 +47,12 @@ class Apply:
     def __init__(self, session: Session) -> None:
         self._session = session
         self._begun = False
+        self._leaves = False
         self.tsInfo: Optional[TransactionInfo] = None
 
     def run(self, installs: Sequence[Any], updates: Sequence[Any], removes: Sequence[Any]) -> None:
-        """Does everything, or nothing when the user refuses. YumBaseError, OSError only for a broken pipe.
+        """Does everything, or nothing when the user refuses. YumBaseError (Stopped, when the user wants that and rpm
+        hasn't begun), OSError only for a broken pipe.
 
         Blocks while the user is asked and while the other process works, without the interpreter lock.
         """
@@ -82,18 +88,21 @@ class Apply:
 
     def _converse(self, child: "_Child", request: messages.Request) -> messages.Ended:
         try:
-            hello = child.channel.receive()
+            hello = self._next(child)
             if hello is not None and hello != messages.Hello(messages.PROTOCOL):
                 raise YumBaseError(
                     _("The program's files have been changed since it was started: please start it anew.")
                 )
             child.tell(request)
             while True:
-                message = child.channel.receive()
+                message = self._next(child)
                 if isinstance(message, messages.Ended):
                     return message
                 if message is None:
-                    raise YumBaseError(self._with_consequence(child.end()))
+                    told = child.end()
+                    if self._leaves:
+                        stop.check()
+                    raise YumBaseError(self._with_consequence(told))
                 try:
                     self._take(message, child)
                 except messages.ProtocolError:
@@ -105,6 +114,18 @@ class Apply:
         except messages.ProtocolError as error:
             said = _("The process that applies the changes said what cannot be understood: {line}").format(line=error)
             raise YumBaseError(self._with_consequence(said)) from error
+
+    def _next(self, child: "_Child") -> Optional[messages.Message]:
+        """What the child says next. Once the user wants to stop, it leaves, unless rpm has begun."""
+        if not self._leaves and not self._begun:
+            while not stop.wanted():
+                if child.channel.ready(stop.descriptor()):
+                    return child.channel.receive()
+            self._leaves = True
+            child.tell(messages.Leave(heard=False))
+        if self._leaves and not self._begun and not child.channel.ready(seconds=_PATIENCE):
+            child.terminate()
+        return child.channel.receive()
 
     def _with_consequence(self, text: str) -> str:
         consequence = REFRESH if self._begun else _("Nothing was changed.")
@@ -137,9 +158,9 @@ class Apply:
         elif isinstance(message, messages.Solving):
             host.solver_check()
         elif isinstance(message, messages.Plan):
-            child.tell(messages.Answer(self._agreed(message)))
+            child.tell(messages.Answer(not self._leaves and self._agreed(message)))
         elif isinstance(message, messages.KeyWanted):
-            child.tell(messages.Answer(host.confirm_key(**vars(message))))
+            child.tell(messages.Answer(not self._leaves and host.confirm_key(**vars(message))))
         elif isinstance(message, messages.TransactionStarts):
             self._begun = message.real
             host.transaction_init(message.real)
@@ -228,6 +249,12 @@ class _Child:
     def tell(self, message: messages.Message) -> None:
         self.channel.send(message)
         self.channel.flush()
+
+    def terminate(self) -> None:
+        """Ends the process where it stands. One in which rpm has begun keeps this off."""
+        # It is a child that hasn't been waited for: nobody else has its number.
+        with contextlib.suppress(ProcessLookupError):
+            os.kill(self._process.pid, signal.SIGTERM)
 
     def end(self) -> str:
         """Waits for the end of the process, and tells how that was. The lock is this process's again then."""

@@ -18,6 +18,7 @@ import hawkey
 import libdnf.error
 from dnf.exceptions import RepoError
 
+from .. import stop
 from ..acts import reading_begins, reading_ends
 from ..database import point_rpm_at, unreadable
 from ..inhibitor import inhibited
@@ -29,7 +30,7 @@ from . import keys
 from .configuration import misread
 from .encoding import RepositoryReader
 from .logfiles import tell_transaction
-from .metadata import RepositoryProgress, is_to_be_converted
+from .metadata import RepositoryProgress, is_to_be_converted, let_stop
 from .plugins import Plugins
 from .queries import ask_by_complete_address, base_addresses, fetch_metadata, rounds
 
@@ -118,8 +119,9 @@ class Base(dnf.Base):
 
     def _fill(self, with_system: bool, available: bool = True) -> None:
         point_rpm_at(self.conf.installroot)
-        if self._shows:
-            for repo in self.repos.iter_enabled():
+        for repo in self.repos.iter_enabled():
+            let_stop(repo)
+            if self._shows:
                 # What is fetched by query shows a progress of its own.
                 if not base_addresses(repo):
                     repo.set_progress_bar(RepositoryProgress(repo, self.conf.cachedir))
@@ -152,6 +154,7 @@ class Base(dnf.Base):
             raise
 
     def _fetch_and_read(self, repo: dnf.repo.Repo) -> None:
+        stop.check()
         with heard() as causes:
             try:
                 self._fetch_by_query(repo)
@@ -161,6 +164,7 @@ class Base(dnf.Base):
                     reading_begins(repo.id, is_to_be_converted(repo, self.conf.cachedir))
                 (self._read or super()._add_repo_to_sack)(repo)
             except RepoError as error:
+                stop.check()
                 if error.__context__ is not None:
                     causes.append(str(error.__context__))
                 if is_unreadable(str(error)):
@@ -176,7 +180,7 @@ class Base(dnf.Base):
 
     def _fetch_by_query(self, repo: dnf.repo.Repo) -> None:
         """Fetches what dnf's library could not find, see `queries`."""
-        if not base_addresses(repo):
+        if not base_addresses(repo) or repo._repo.getSyncStrategy() == dnf.repo.SYNC_ONLY_CACHE:
             return
         meter = self.conf.cachedir if self._shows else None
         lazy = repo._repo.getSyncStrategy() != dnf.repo.SYNC_TRY_CACHE

@@ -9,6 +9,7 @@ from typing import Any
 import dnf.callback
 import dnf.repo
 
+from .. import stop
 from ..acts import FetchingActs, must_convert
 
 
@@ -29,6 +30,22 @@ class RepositoryProgress(dnf.callback.DownloadProgress):
 
     def end(self, payload: Any, status: Any, msg: Any) -> None:
         self._acts.close()
+
+
+class _StoppableCallbacks(dnf.repo.RepoCallbacks):  # type: ignore[misc]
+    """dnf's own have a download go on, whatever they are told."""
+
+    def progress(self, total: float, done: float) -> int:
+        super().progress(total, done)
+        return int(stop.wanted())
+
+
+def let_stop(repo: dnf.repo.Repo) -> None:
+    """Has a download of the repository's metadata fail once the user wants to stop."""
+    repo._callbacks = _StoppableCallbacks(repo)
+    # The library owns them from here on.
+    repo._callbacks.this.disown()
+    repo._repo.setCallbacks(repo._callbacks)
 
 
 def is_to_be_converted(repo: dnf.repo.Repo, cachedir: str) -> bool:

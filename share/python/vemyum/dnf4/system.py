@@ -47,6 +47,11 @@ class System:
         repo = self._base.repos[id]
         (repo.enable if enabled else repo.disable)()
 
+    def stay_on_disk(self) -> None:
+        for repo in self._base.repos.iter_enabled():
+            repo._repo.setSyncStrategy(dnf.repo.SYNC_ONLY_CACHE)
+            repo.skip_if_unavailable = True
+
     def load(self) -> None:
         self._base.asks_for_keys = True
         with light_packages():

@@ -14,6 +14,7 @@ import libdnf5.base
 import libdnf5.conf
 import libdnf5.repo
 
+from .. import stop
 from ..database import point_rpm_at
 from ..errors import YumBaseError
 from ..root import as_configured
@@ -64,7 +65,7 @@ class _Downloads(libdnf5.repo.DownloadCallbacks):  # type: ignore[misc]
 
     def progress(self, number: Any, size: float, done: float) -> int:
         self._tell("progress", int(number or 0), int(size), int(done))
-        return self.OK
+        return self.ERROR if stop.wanted() else self.OK
 
     def end(self, number: Any, status: int, message: Optional[str]) -> int:
         self._tell("end", int(number or 0), status, message or "")

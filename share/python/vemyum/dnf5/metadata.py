@@ -20,6 +20,7 @@ from typing import Callable, Collection, Iterable, Iterator, List, Optional
 import libdnf5.exception
 import libdnf5.repo
 
+from .. import stop
 from ..acts import MIRROR_LISTS
 from ..backend import CHANGELOGS, FILE_LISTS, PRIMARY
 from ..errors import RepoError, os_error_text
@@ -133,12 +134,14 @@ class Metadata:
     def bring(self, repo: libdnf5.repo.Repo, lazy: bool = False) -> None:
         """Fetches what is missing, or older than the configuration allows unless `lazy`. RepoError names the
         repository, its address and every cause."""
+        stop.check()
         progress = FetchingProgress(repo, self._meter)
         self._base.downloads.listener = progress
         try:
             self._bring(repo, progress, lazy or repo.get_sync_strategy() != repo.SyncStrategy_TRY_CACHE)
         except (*FAILURES, RepoError, OSError) as error:
             self._base.take_vacant_descriptors()
+            stop.check()
             text = os_error_text(error) if isinstance(error, OSError) else words(error)
             if is_unreadable(text):
                 progress.causes += filter(None, [self._page(repo)])
@@ -161,6 +164,8 @@ class Metadata:
 
     def _bring(self, repo: libdnf5.repo.Repo, progress: FetchingProgress, lazy: bool) -> None:
         cached = self._is_cached(repo, progress)
+        if not cached and _is_offline(repo):
+            raise RepoError(_("Nothing of it has been fetched before"))
         if cached and (lazy or not repo.is_expired()):
             return
         if base_addresses(repo):
@@ -180,6 +185,7 @@ class Metadata:
             self._supplement(repo, progress)
             repo.read_metadata_cache()
         except (*FAILURES, RepoError, OSError) as error:
+            stop.check()
             logging.getLogger(LOGGER).debug("%s", words(error))
             progress.causes.clear()
             return False
@@ -187,6 +193,8 @@ class Metadata:
 
     def _supplement(self, repo: libdnf5.repo.Repo, progress: FetchingProgress) -> None:
         """Fetches those wanted files that the cache lacks; the library would fetch them all."""
+        if _is_offline(repo):
+            return
         cache = repo.get_cachedir()
         wanted = _OPTIONAL.intersection((*self._base.config.optional_metadata_types, *self._kinds))
         for file in listed(os.path.join(cache, FOLDER, NAME)):
@@ -220,6 +228,7 @@ class Metadata:
         fault: Optional[Exception] = None
         try:
             for address in itertools.islice(servers(repo), TRIES):
+                stop.check()
                 try:
                     self._fresh(repo, join(address, file.href), target)
                     verify(file, target)
@@ -270,6 +279,10 @@ class _Repository:
 
     def age_file(self) -> str:
         return str(self._repo.get_metadata_path(PRIMARY))
+
+
+def _is_offline(repo: libdnf5.repo.Repo) -> bool:
+    return bool(repo.get_sync_strategy() == repo.SyncStrategy_ONLY_CACHE)
 
 
 def _listed_in(cache: str) -> List[File]:

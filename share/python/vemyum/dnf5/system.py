@@ -15,6 +15,7 @@ from typing import Any, Callable, Dict, List, Optional, Sequence, Set, Tuple
 import libdnf5.repo
 import rpm
 
+from .. import stop
 from ..acts import reading_begins, reading_ends
 from ..backend import CHANGELOGS, GROUPS, Advised, Dependency, OpenEntry, Reason, RepositoryState
 from ..database import point_rpm_at, unreadable
@@ -72,6 +73,7 @@ class System:
         self._base: Optional[Base] = None
         self._database: Optional[rpm.TransactionSet] = None
         self._loaded = False
+        self._on_disk = False
         base = self._opened(sections)
         self._sections = base.sections
         self.lacking = base.lacking
@@ -111,6 +113,12 @@ class System:
         (repo.enable if enabled else repo.disable)()
 
     # Loading -----------------------------------------------------------------------------------------------------
+
+    def stay_on_disk(self) -> None:
+        self._on_disk = True
+        for repo in list(self.base.repositories(enabled_only=True)):
+            repo.set_sync_strategy(repo.SyncStrategy_ONLY_CACHE)
+            repo.get_config().skip_if_unavailable = True
 
     def load(self) -> None:
         anew = False
@@ -184,6 +192,7 @@ class System:
                 latest = repo
                 converts = converts or is_to_be_converted(repo)
                 repo.set_sync_strategy(repo.SyncStrategy_ONLY_CACHE)
+        stop.check()
         if latest is not None and self._progress:
             reading_begins(latest.get_id(), converts)
         try:
@@ -233,6 +242,8 @@ class System:
         # What the plugins have to say has been told.
         self.lacking = lacking
         self._sections = base.sections
+        if self._on_disk:
+            self.stay_on_disk()
 
     def _drop_damaged_cache(self, text: str) -> bool:
         """Whether the library's words are about one, and there was one to remove."""
