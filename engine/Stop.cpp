@@ -44,9 +44,11 @@ void Stop::want()
         if (now != State::Possible) {
             return;
         }
+        // Whoever sees the descriptor sees this, too.
+        wished = true;
         std::uint64_t const one = 1;
-        wished = ::write(wish.get(), &one, sizeof one) == sizeof one;
-        if (!wished) {
+        if (::write(wish.get(), &one, sizeof one) != sizeof one) {
+            wished = false;
             return;
         }
         now = State::Wanted;
