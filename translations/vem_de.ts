@@ -178,6 +178,10 @@
         <source>%1 and %2 more</source>
         <translation>%1 und %2 weitere</translation>
     </message>
+    <message>
+        <source>one version too many</source>
+        <translation>eine Version zu viel</translation>
+    </message>
 </context>
 <context>
     <name>DetailsPage</name>
@@ -312,6 +316,13 @@
     <message>
         <source>Courier</source>
         <translation>Courier</translation>
+    </message>
+</context>
+<context>
+    <name>HProgressBar</name>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
     </message>
 </context>
 <context>
@@ -735,12 +746,6 @@ Die Aktionen werden nicht automatisch angewendet.</translation>
         <translation>VEM</translation>
     </message>
     <message>
-        <source>Packages are being installed, updated or removed.
-The window stays open until that has come to its end.</source>
-        <translation>Pakete werden installiert, aktualisiert oder entfernt.
-Das Fenster bleibt offen, bis das zu Ende ist.</translation>
-    </message>
-    <message>
         <source>Unfinished Transaction</source>
         <translation>Unvollendete Transaktion</translation>
     </message>
@@ -799,6 +804,12 @@ Das Fenster bleibt offen, bis das zu Ende ist.</translation>
     <message>
         <source>&amp;Find</source>
         <translation>&amp;Finden</translation>
+    </message>
+    <message>
+        <source>Packages are being installed, updated or removed.
+That goes on to its end, and the program ends behind it.</source>
+        <translation>Pakete werden installiert, aktualisiert oder entfernt.
+Das wird zu Ende geführt, und das Programm endet danach.</translation>
     </message>
 </context>
 <context>
@@ -1871,6 +1882,33 @@ Lässt sich für eine einzelne Sitzung übersteuern.</translation>
     </message>
 </context>
 <context>
+    <name>StopButton</name>
+    <message>
+        <source>Stop</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Stops what is going on, and keeps what was found (Escape)</source>
+        <translation>Bricht ab, was gerade läuft, und behält, was gefunden wurde (Escape)</translation>
+    </message>
+    <message>
+        <source>Nothing is going on that could be stopped</source>
+        <translation>Es läuft nichts, was abgebrochen werden könnte</translation>
+    </message>
+    <message>
+        <source>Stops what is going on; nothing has been changed yet (Escape)</source>
+        <translation>Bricht ab, was gerade läuft; noch wurde nichts geändert (Escape)</translation>
+    </message>
+    <message>
+        <source>It is being stopped</source>
+        <translation>Es wird abgebrochen</translation>
+    </message>
+    <message>
+        <source>Packages are being changed: what has begun comes to its end</source>
+        <translation>Pakete werden geändert: Was begonnen hat, wird zu Ende geführt</translation>
+    </message>
+</context>
+<context>
     <name>TextDialog</name>
     <message>
         <source>Text</source>
@@ -2549,6 +2587,38 @@ Wie soll fortgefahren werden?</translation>
     <message>
         <source>Unable to read the changes</source>
         <translation>Änderungen können nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Abgebrochen</translation>
+    </message>
+    <message>
+        <source>Reading what was fetched before</source>
+        <translation>Lesen, was früher geholt wurde</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message>
+        <source>%1/s</source>
+        <translation>%1/s</translation>
+    </message>
+    <message>
+        <source>%1, %2 left</source>
+        <translation>%1, noch %2</translation>
+    </message>
+    <message>
+        <source>script of %1</source>
+        <translation>Skript von %1</translation>
     </message>
 </context>
 <context>

@@ -178,6 +178,10 @@
         <source>%1 and %2 more</source>
         <translation>%1 y %2 más</translation>
     </message>
+    <message>
+        <source>one version too many</source>
+        <translation>una versión de más</translation>
+    </message>
 </context>
 <context>
     <name>DetailsPage</name>
@@ -312,6 +316,13 @@
     <message>
         <source>Courier</source>
         <translation>Courier</translation>
+    </message>
+</context>
+<context>
+    <name>HProgressBar</name>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
     </message>
 </context>
 <context>
@@ -735,12 +746,6 @@ No aplica las acciones automáticamente.</translation>
         <translation>VEM</translation>
     </message>
     <message>
-        <source>Packages are being installed, updated or removed.
-The window stays open until that has come to its end.</source>
-        <translation>Se están instalando, actualizando o eliminando paquetes.
-La ventana permanece abierta hasta que termine.</translation>
-    </message>
-    <message>
         <source>Unfinished Transaction</source>
         <translation>Transacción inacabada</translation>
     </message>
@@ -799,6 +804,12 @@ La ventana permanece abierta hasta que termine.</translation>
     <message>
         <source>&amp;Find</source>
         <translation>B&amp;uscar</translation>
+    </message>
+    <message>
+        <source>Packages are being installed, updated or removed.
+That goes on to its end, and the program ends behind it.</source>
+        <translation>Se están instalando, actualizando o eliminando paquetes.
+Eso continúa hasta el final, y el programa termina después.</translation>
     </message>
 </context>
 <context>
@@ -1871,6 +1882,33 @@ Se puede cambiar para una sesión concreta.</translation>
     </message>
 </context>
 <context>
+    <name>StopButton</name>
+    <message>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>Stops what is going on, and keeps what was found (Escape)</source>
+        <translation>Detiene lo que está en curso y conserva lo encontrado (Escape)</translation>
+    </message>
+    <message>
+        <source>Nothing is going on that could be stopped</source>
+        <translation>No hay nada en curso que se pueda detener</translation>
+    </message>
+    <message>
+        <source>Stops what is going on; nothing has been changed yet (Escape)</source>
+        <translation>Detiene lo que está en curso; aún no se ha cambiado nada (Escape)</translation>
+    </message>
+    <message>
+        <source>It is being stopped</source>
+        <translation>Se está deteniendo</translation>
+    </message>
+    <message>
+        <source>Packages are being changed: what has begun comes to its end</source>
+        <translation>Se están cambiando paquetes: lo que ha empezado llega a su fin</translation>
+    </message>
+</context>
+<context>
     <name>TextDialog</name>
     <message>
         <source>Text</source>
@@ -2549,6 +2587,38 @@ pero también pertenece al grupo %5 y por ello se marcó con la acción %6.
     <message>
         <source>Unable to read the changes</source>
         <translation>No se pueden leer los cambios</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Detenido</translation>
+    </message>
+    <message>
+        <source>Reading what was fetched before</source>
+        <translation>Leyendo lo que se obtuvo antes</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message>
+        <source>%1/s</source>
+        <translation>%1/s</translation>
+    </message>
+    <message>
+        <source>%1, %2 left</source>
+        <translation>%1, quedan %2</translation>
+    </message>
+    <message>
+        <source>script of %1</source>
+        <translation>script de %1</translation>
     </message>
 </context>
 <context>

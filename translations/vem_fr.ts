@@ -178,6 +178,10 @@
         <source>%1 and %2 more</source>
         <translation>%1 et %2 autres</translation>
     </message>
+    <message>
+        <source>one version too many</source>
+        <translation>une version de trop</translation>
+    </message>
 </context>
 <context>
     <name>DetailsPage</name>
@@ -312,6 +316,13 @@
     <message>
         <source>Courier</source>
         <translation>Courier</translation>
+    </message>
+</context>
+<context>
+    <name>HProgressBar</name>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
     </message>
 </context>
 <context>
@@ -735,12 +746,6 @@ N’applique pas automatiquement les actions.</translation>
         <translation>VEM</translation>
     </message>
     <message>
-        <source>Packages are being installed, updated or removed.
-The window stays open until that has come to its end.</source>
-        <translation>Des paquets sont en cours d’installation, de mise à jour ou de suppression.
-La fenêtre reste ouverte jusqu’à la fin de l’opération.</translation>
-    </message>
-    <message>
         <source>Unfinished Transaction</source>
         <translation>Transaction inachevée</translation>
     </message>
@@ -799,6 +804,12 @@ La fenêtre reste ouverte jusqu’à la fin de l’opération.</translation>
     <message>
         <source>&amp;Find</source>
         <translation>Rec&amp;hercher</translation>
+    </message>
+    <message>
+        <source>Packages are being installed, updated or removed.
+That goes on to its end, and the program ends behind it.</source>
+        <translation>Des paquets sont en cours d&apos;installation, de mise à jour ou de suppression.
+Cela ira à son terme, et le programme se terminera ensuite.</translation>
     </message>
 </context>
 <context>
@@ -1871,6 +1882,33 @@ Peut être modifié pour une session donnée.</translation>
     </message>
 </context>
 <context>
+    <name>StopButton</name>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>Stops what is going on, and keeps what was found (Escape)</source>
+        <translation>Arrête ce qui est en cours et garde ce qui a été trouvé (Échap)</translation>
+    </message>
+    <message>
+        <source>Nothing is going on that could be stopped</source>
+        <translation>Rien n&apos;est en cours qui puisse être arrêté</translation>
+    </message>
+    <message>
+        <source>Stops what is going on; nothing has been changed yet (Escape)</source>
+        <translation>Arrête ce qui est en cours ; rien n&apos;a encore été modifié (Échap)</translation>
+    </message>
+    <message>
+        <source>It is being stopped</source>
+        <translation>Arrêt en cours</translation>
+    </message>
+    <message>
+        <source>Packages are being changed: what has begun comes to its end</source>
+        <translation>Des paquets sont en cours de modification : ce qui a commencé ira à son terme</translation>
+    </message>
+</context>
+<context>
     <name>TextDialog</name>
     <message>
         <source>Text</source>
@@ -2549,6 +2587,38 @@ Comment voulez-vous procéder&#xa0;?</translation>
     <message>
         <source>Unable to read the changes</source>
         <translation>Impossible de lire les changements</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Arrêté</translation>
+    </message>
+    <message>
+        <source>Reading what was fetched before</source>
+        <translation>Lecture de ce qui a été récupéré auparavant</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message>
+        <source>%1/s</source>
+        <translation>%1/s</translation>
+    </message>
+    <message>
+        <source>%1, %2 left</source>
+        <translation>%1, reste %2</translation>
+    </message>
+    <message>
+        <source>script of %1</source>
+        <translation>script de %1</translation>
     </message>
 </context>
 <context>

@@ -178,6 +178,10 @@
         <source>%1 and %2 more</source>
         <translation>%1 ほか %2 件</translation>
     </message>
+    <message>
+        <source>one version too many</source>
+        <translation>保持するバージョン数を超過</translation>
+    </message>
 </context>
 <context>
     <name>DetailsPage</name>
@@ -312,6 +316,13 @@
     <message>
         <source>Courier</source>
         <translation>Courier</translation>
+    </message>
+</context>
+<context>
+    <name>HProgressBar</name>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1、%2</translation>
     </message>
 </context>
 <context>
@@ -735,12 +746,6 @@ Does not Apply Actions automatically.</source>
         <translation>VEM</translation>
     </message>
     <message>
-        <source>Packages are being installed, updated or removed.
-The window stays open until that has come to its end.</source>
-        <translation>パッケージをインストール、更新、または削除しています。
-完了するまでウィンドウは閉じません。</translation>
-    </message>
-    <message>
         <source>Unfinished Transaction</source>
         <translation>未完了のトランザクション</translation>
     </message>
@@ -799,6 +804,12 @@ The window stays open until that has come to its end.</source>
     <message>
         <source>&amp;Find</source>
         <translation>検索(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Packages are being installed, updated or removed.
+That goes on to its end, and the program ends behind it.</source>
+        <translation>パッケージのインストール、更新、または削除を行っています。
+この処理は最後まで続き、その後プログラムは終了します。</translation>
     </message>
 </context>
 <context>
@@ -1871,6 +1882,33 @@ It can be overridden for a particular session.</source>
     </message>
 </context>
 <context>
+    <name>StopButton</name>
+    <message>
+        <source>Stop</source>
+        <translation>中止</translation>
+    </message>
+    <message>
+        <source>Stops what is going on, and keeps what was found (Escape)</source>
+        <translation>実行中の処理を中止し、見つかったものは残します (Escape)</translation>
+    </message>
+    <message>
+        <source>Nothing is going on that could be stopped</source>
+        <translation>中止できる処理は実行されていません</translation>
+    </message>
+    <message>
+        <source>Stops what is going on; nothing has been changed yet (Escape)</source>
+        <translation>実行中の処理を中止します。まだ何も変更されていません (Escape)</translation>
+    </message>
+    <message>
+        <source>It is being stopped</source>
+        <translation>中止しています</translation>
+    </message>
+    <message>
+        <source>Packages are being changed: what has begun comes to its end</source>
+        <translation>パッケージを変更しています。始まった処理は最後まで行われます</translation>
+    </message>
+</context>
+<context>
     <name>TextDialog</name>
     <message>
         <source>Text</source>
@@ -2549,6 +2587,38 @@ How do you wish to proceed?</source>
     <message>
         <source>Unable to read the changes</source>
         <translation>変更点を読み込めません</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>中止しました</translation>
+    </message>
+    <message>
+        <source>Reading what was fetched before</source>
+        <translation>以前に取得したものを読み込みます</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 秒</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 分</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <translation>%1 時間 %2 分</translation>
+    </message>
+    <message>
+        <source>%1/s</source>
+        <translation>%1/秒</translation>
+    </message>
+    <message>
+        <source>%1, %2 left</source>
+        <translation>%1、残り %2</translation>
+    </message>
+    <message>
+        <source>script of %1</source>
+        <translation>%1 のスクリプト</translation>
     </message>
 </context>
 <context>

@@ -178,6 +178,10 @@
         <source>%1 and %2 more</source>
         <translation>%1 及另外 %2 个</translation>
     </message>
+    <message>
+        <source>one version too many</source>
+        <translation>超出保留的版本数</translation>
+    </message>
 </context>
 <context>
     <name>DetailsPage</name>
@@ -312,6 +316,13 @@
     <message>
         <source>Courier</source>
         <translation>Courier</translation>
+    </message>
+</context>
+<context>
+    <name>HProgressBar</name>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1，%2</translation>
     </message>
 </context>
 <context>
@@ -735,12 +746,6 @@ Does not Apply Actions automatically.</source>
         <translation>VEM</translation>
     </message>
     <message>
-        <source>Packages are being installed, updated or removed.
-The window stays open until that has come to its end.</source>
-        <translation>正在安装、更新或删除软件包。
-在完成之前，窗口将保持打开。</translation>
-    </message>
-    <message>
         <source>Unfinished Transaction</source>
         <translation>未完成的事务</translation>
     </message>
@@ -799,6 +804,12 @@ The window stays open until that has come to its end.</source>
     <message>
         <source>&amp;Find</source>
         <translation>查找(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Packages are being installed, updated or removed.
+That goes on to its end, and the program ends behind it.</source>
+        <translation>正在安装、更新或删除软件包。
+该操作会进行到底，随后程序退出。</translation>
     </message>
 </context>
 <context>
@@ -1871,6 +1882,33 @@ It can be overridden for a particular session.</source>
     </message>
 </context>
 <context>
+    <name>StopButton</name>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Stops what is going on, and keeps what was found (Escape)</source>
+        <translation>停止正在进行的操作，保留已找到的内容 (Escape)</translation>
+    </message>
+    <message>
+        <source>Nothing is going on that could be stopped</source>
+        <translation>没有可以停止的操作</translation>
+    </message>
+    <message>
+        <source>Stops what is going on; nothing has been changed yet (Escape)</source>
+        <translation>停止正在进行的操作；尚未更改任何内容 (Escape)</translation>
+    </message>
+    <message>
+        <source>It is being stopped</source>
+        <translation>正在停止</translation>
+    </message>
+    <message>
+        <source>Packages are being changed: what has begun comes to its end</source>
+        <translation>正在更改软件包：已经开始的操作会进行到底</translation>
+    </message>
+</context>
+<context>
     <name>TextDialog</name>
     <message>
         <source>Text</source>
@@ -2549,6 +2587,38 @@ How do you wish to proceed?</source>
     <message>
         <source>Unable to read the changes</source>
         <translation>无法读取更改</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>已停止</translation>
+    </message>
+    <message>
+        <source>Reading what was fetched before</source>
+        <translation>正在读取以前获取的内容</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 秒</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 分钟</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <translation>%1 小时 %2 分钟</translation>
+    </message>
+    <message>
+        <source>%1/s</source>
+        <translation>%1/秒</translation>
+    </message>
+    <message>
+        <source>%1, %2 left</source>
+        <translation>%1，剩余 %2</translation>
+    </message>
+    <message>
+        <source>script of %1</source>
+        <translation>%1 的脚本</translation>
     </message>
 </context>
 <context>
