@@ -42,8 +42,7 @@ public:
     using YumIO::allPkgs, YumIO::buildTimeOf, YumIO::findGroup, YumIO::findPackage, YumIO::getPkgKind;
     using YumIO::applyGroups, YumIO::applyGrpConflict, YumIO::capturers, YumIO::findRelation,
         YumIO::handleException;
-    using YumIO::applyReal, YumIO::blocker, YumIO::ApplyRun, YumIO::bytesFormat, YumIO::collectProgress,
-        YumIO::collectReal;
+    using YumIO::applyReal, YumIO::blocker, YumIO::bytesFormat, YumIO::collectProgress, YumIO::collectReal;
     using YumIO::dialogs, YumIO::displayTransactionPkgs, YumIO::displayTransactionPkgsObs;
     using YumIO::displayTransactionPkgsRepo, YumIO::dsTsInfo, YumIO::entries, YumIO::entryHash;
     using YumIO::getGroupItem_22, YumIO::getGroupItem_25, YumIO::getLocalHdr, YumIO::getLocalPkg;

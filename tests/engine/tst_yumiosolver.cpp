@@ -106,7 +106,7 @@ void TestYumIOSolver::headerOnDiskNeedsNoDownload()
     // Answers of any kind.
     for (auto const& [answer, headers] :
          {std::pair{"standin.__file__.encode()", 0U}, {"'/no/such/file'", 1U}, {"None", 1U}, {"''", 1U}}) {
-        engine->run = TestEngine::ApplyRun();
+        engine->run = ApplyRun();
         QCOMPARE(
             engine->script(QStringLiteral("standin.world.find('available', 'hazel').localHdr = lambda: %1\n"
                                           "yumIOC.log(0, 'TSINFO: Updating hazel to 5')")
