@@ -94,6 +94,20 @@ bool CollectDetailsThread::work()
     return yumIO->collectDetailsReal();
 }
 
+CleanThread::CleanThread(
+    YumIO* engine, QEventLoop& callersLoop, QString const& headingToLog,
+    QList<char const*> const& methodsToCall)
+    : WorkThread(engine, callersLoop),
+      heading(headingToLog),
+      methods(methodsToCall)
+{
+}
+
+bool CleanThread::work()
+{
+    return yumIO->cleanCachesReal(heading, methods);
+}
+
 ApplyThread::ApplyThread(YumIO* engine, QEventLoop& callersLoop, YumIO::ApplyOf whatToApply)
     : WorkThread(engine, callersLoop),
       what(whatToApply)

@@ -5,6 +5,7 @@
 #include "engine/YumIO.h"
 
 #include <QHash>
+#include <QList>
 #include <QString>
 #include <QThread>
 #include <atomic>
@@ -117,6 +118,23 @@ public:
 
 protected:
     bool work() override;
+};
+
+class CleanThread final : public WorkThread
+{
+    Q_OBJECT
+
+public:
+    CleanThread(
+        YumIO* engine, QEventLoop& callersLoop, QString const& headingToLog,
+        QList<char const*> const& methodsToCall);
+
+protected:
+    bool work() override;
+
+private:
+    QString const heading;
+    QList<char const*> const methods;
 };
 
 class ApplyThread final : public WorkThread

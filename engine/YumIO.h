@@ -177,8 +177,8 @@ public:
     /// this one, unless rpm works there. GUI thread.
     [[noreturn]] void leave();
 
-    /// Empties a cache of the package library. True when the script reports success. A user who isn't allowed
-    /// to is told so. GUI thread.
+    /// Job: empties a cache of the package library. True when the script reports success. A user who isn't
+    /// allowed to is told so.
     bool cleanHeaders();
     bool cleanPackages();
     bool cleanXmlMetadata();
@@ -308,6 +308,7 @@ protected:
     friend class CollectBuildHostThread;
     friend class CollectDetailsThread;
     friend class ApplyThread;
+    friend class CleanThread;
 
     // Jobs.
     void execWorkThread(QEventLoop& loop, QThread& thread);
@@ -406,6 +407,7 @@ protected:
 
     // Logs the heading and calls the methods; a refusal by the script is reported and ends it.
     bool cleanCaches(QString const& heading, QList<char const*> const& methods);
+    bool cleanCachesReal(QString const& heading, QList<char const*> const& methods);
 
     // Marks on groups become marks on packages; false stops the apply.
     bool applyGroups();

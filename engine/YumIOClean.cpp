@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-// Cache cleaning: short calls of the helper script on the GUI thread.
+// Cache cleaning: a job of a few calls of the helper script.
 #include "bridge/PythonApi.h"
 
 #include "engine/YumIO.h"
+
+#include "engine/WorkThreads.h"
+#include "services/YumIODialogsUser.h"
+
+#include <QEventLoop>
 
 namespace
 {
@@ -25,6 +30,16 @@ bool isSuccess(PyObject* answer)
 
 bool YumIO::cleanCaches(QString const& heading, QList<char const*> const& methods)
 {
+    Stop::Job const stoppable(stop);
+    QEventLoop loop;
+    CleanThread thread(this, loop, heading, methods);
+    execWorkThread(loop, thread);
+    return thread.result;
+}
+
+bool YumIO::cleanCachesReal(QString const& heading, QList<char const*> const& methods)
+{
+    YumIODialogsUser const dialogsUser(dialogs, parent);
     log(Log::Action, 0, heading);
     PyGILStateWrapper const lock(true);
     PyObject* const baseError = pyLookup("yum.Errors.YumBaseError");
@@ -35,8 +50,9 @@ bool YumIO::cleanCaches(QString const& heading, QList<char const*> const& method
     for (char const* const method : methods) {
         PyRef const answer = pyMethodCall(yumIO.get(), method, "()");
         if (pyExceptMatches(answer.get(), baseError)) {
-            // Whoever may not clean one may clean none, and is to be told once.
-            error(pyString(pyExceptValuef().get()));
+            // Whoever may not clean one may clean none, and is to be told once; whoever stops wants no more.
+            QString const words = pyString(pyExceptValuef().get());
+            stop.stopped() ? log(Log::Action, 0, tr("Stopped")) : error(words);
             areClean = false;
             break;
         }
@@ -68,10 +84,12 @@ bool YumIO::cleanPickledCache()
 
 bool YumIO::cleanAll()
 {
-    PyGILStateWrapper const lock(true);
     QList<char const*> methods{"cleanHeaders", "cleanPackages", "cleanMetadata"};
-    if (hasPickledCache()) {
-        methods.append("cleanPickles");
+    {
+        PyGILStateWrapper const lock(true);
+        if (hasPickledCache()) {
+            methods.append("cleanPickles");
+        }
     }
     return cleanCaches(tr("Cleaning All"), methods);
 }

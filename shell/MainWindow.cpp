@@ -255,12 +255,19 @@ void MainWindow::editRepositories(bool forceReposChanged)
     repoEditorDialog->exec();
 }
 
+void MainWindow::clean(bool (YumIO::*cache)())
+{
+    whileBusy([this, cache] {
+        // What is stopped leaves the table as it is.
+        if ((yumIO->*cache)() || !yumIO->stop.stopped()) {
+            rebuild();
+        }
+    });
+}
+
 void MainWindow::cleanHeaders()
 {
-    whileBusy([this] {
-        yumIO->cleanHeaders();
-        rebuild();
-    });
+    clean(&YumIO::cleanHeaders);
 }
 
 void MainWindow::cleanPackages()
@@ -270,26 +277,17 @@ void MainWindow::cleanPackages()
 
 void MainWindow::cleanXmlMetadata()
 {
-    whileBusy([this] {
-        yumIO->cleanXmlMetadata();
-        rebuild();
-    });
+    clean(&YumIO::cleanXmlMetadata);
 }
 
 void MainWindow::cleanPickledCache()
 {
-    whileBusy([this] {
-        yumIO->cleanPickledCache();
-        rebuild();
-    });
+    clean(&YumIO::cleanPickledCache);
 }
 
 void MainWindow::cleanAll()
 {
-    whileBusy([this] {
-        yumIO->cleanAll();
-        rebuild();
-    });
+    clean(&YumIO::cleanAll);
 }
 
 void MainWindow::manualHtml()

@@ -114,6 +114,15 @@ def test_a_silent_server_of_change_logs_is_left(
     assert found.offered("lone").returnChangelog() is not None
 
 
+def test_cleaning_is_stopped_before_the_next_file(served: Estate, program: Program, stopper: Stopper) -> None:
+    found = program.collect()
+    before = sorted((served.root / "var/cache").rglob("*"))
+    with stopper.at_once(), stopped(program):
+        found.yumio.cleanMetadata()
+    assert sorted((served.root / "var/cache").rglob("*")) == before
+    assert found.yumio.cleanMetadata()[0] == 0
+
+
 def test_each_step_of_a_collection_can_be_stopped(served: Estate, program: Program, stopper: Stopper) -> None:
     found = program.collect()
     with stopper.at_once():

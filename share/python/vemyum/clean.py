@@ -5,7 +5,7 @@ from __future__ import annotations
 
 from typing import List, Optional, Tuple
 
-from . import backend, host
+from . import backend, host, stop
 from .errors import YumBaseError, reported_as
 from .texts import _, ngettext
 
@@ -13,7 +13,7 @@ from .texts import _, ngettext
 def clean(cache_directory: Optional[str], *kinds: str) -> Tuple[int, List[str]]:
     """Removes the cache's files of these kinds: "packages", "metadata", "dbcache" (other forms of the metadata).
 
-    Gives 0 and a sentence, or 1 and the reason, which is in the log as well. Raises nothing of the library's.
+    Gives 0 and a sentence, or 1 and the reason, which is in the log as well. Raises nothing of the library's; Stopped.
     Files of repositories that lie on this machine are no cache, and stay.
     """
     if cache_directory is None:
@@ -21,6 +21,8 @@ def clean(cache_directory: Optional[str], *kinds: str) -> Tuple[int, List[str]]:
     try:
         with reported_as(YumBaseError, _("Unable to clean")):
             count = backend.library().clean(cache_directory, kinds)
+    except stop.Stopped:
+        raise
     except YumBaseError as error:
         host.errorlog(host.LEVEL_ERROR, str(error))
         return (1, [str(error)])

@@ -10,6 +10,8 @@ from typing import Collection
 
 import dnf.repo
 
+from .. import stop
+
 _UNFINISHED = "*/tmpdir.*"
 """Where the metadata of a repository are put while they are fetched. A download that was killed leaves it."""
 _UNFINISHED_FILES = r"^[^/]+/tmpdir\.[^/]+/"
@@ -25,7 +27,10 @@ def clean(cache_directory: str, kinds: Collection[str]) -> int:
     if "metadata" in kinds:
         patterns.append(_UNFINISHED_FILES)
     files = list(dnf_clean._filter(list(dnf_clean._tree(cache_directory)), patterns))
-    count = int(dnf_clean._clean(cache_directory, files))
+    count = 0
+    for file in files:
+        stop.check()
+        count += int(dnf_clean._clean(cache_directory, [file]))
     if "metadata" in kinds:
         for folder in glob.glob(os.path.join(glob.escape(cache_directory), _UNFINISHED)):
             shutil.rmtree(folder)

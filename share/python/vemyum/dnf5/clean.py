@@ -8,6 +8,8 @@ import os
 import re
 from typing import Dict, Iterable, Iterator, Tuple
 
+from .. import stop
+
 _OF_A_REPOSITORY = re.compile(r".+-[0-9a-f]{16}")
 
 _KINDS: Dict[str, Tuple[str, ...]] = {
@@ -41,6 +43,7 @@ def _folders(cache_directory: str) -> Iterator[str]:
 
 
 def _remove(path: str) -> int:
+    stop.check()
     if not os.path.isdir(path) or os.path.islink(path):
         os.unlink(path)
         return 1
