@@ -262,6 +262,8 @@ void Driver::perform(QJsonObject const& step)
         select(value);
     } else if (what == QLatin1String("describe")) {
         describe(value.toInt());
+    } else if (what == QLatin1String("stop")) {
+        stop(value.toString());
     } else if (what == QLatin1String("menu")) {
         trigger(value.toString());
     } else if (what != QLatin1String("walk")) {
@@ -350,6 +352,27 @@ void Driver::describe(int row)
 {
     table->setCurrentIndex(table->model()->index(row, 0));
     press(QStringLiteral("Describe"));
+}
+
+void Driver::stop(QString const& text)
+{
+    constexpr std::chrono::milliseconds look(50);
+    constexpr std::chrono::milliseconds waits(2000);
+    QTimer watch;
+    connect(&watch, &QTimer::timeout, this, [&] {
+        if (askedAfter < 0) {
+            return;
+        }
+        watch.stop();
+        // By then nothing is left to be done but to wait for the server.
+        QTimer::singleShot(waits, this, [this] {
+            pinger.restart();
+            timer.restart();
+            press(QStringLiteral("Stop"));
+        });
+    });
+    watch.start(look);
+    press(text);
 }
 
 void Driver::clickHeader(int column)

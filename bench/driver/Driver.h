@@ -50,6 +50,9 @@ private:
     void select(QJsonValue const& what);
     /// Has the row described, and closes the description as soon as it is painted.
     void describe(int row);
+    /// Presses a button, and some time after the question has been answered stops what that began; measured
+    /// from there on.
+    void stop(QString const& text);
     void clickHeader(int column);
     void trigger(QString const& text);
     [[nodiscard]] QJsonArray walkedWidths() const;

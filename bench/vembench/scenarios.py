@@ -6,11 +6,12 @@ from __future__ import annotations
 import json
 import os
 import shutil
+import socket
 import tempfile
 from pathlib import Path
 from typing import Any, Sequence
 
-from rpmestate import Estate
+from rpmestate import Estate, run, spec
 
 from .rows import UPGRADE
 from .running import BenchError, Build, Ground, Line, Step
@@ -159,6 +160,28 @@ def describe(ground: Ground, build: Build, estate: Estate, samples: Samples) -> 
     for line in ground.program(build, estate, steps)[1:]:
         if "name" in line:
             samples.add(line["name"], line["gap"])
+
+
+def stop(ground: Ground, build: Build, _estate: Estate, samples: Samples) -> None:
+    """On a system of its own: one update, from a server that accepts connections and never says a word."""
+    with tempfile.TemporaryDirectory() as directory, socket.socket() as server:
+        server.bind(("127.0.0.1", 0))
+        server.listen()
+        address = f"http://127.0.0.1:{server.getsockname()[1]}/"
+        estate = Estate(Path(directory))
+        old, new = estate.build([spec("still-water", "1"), spec("still-water", "2")])
+        estate.write_main_config(timeout="600")
+        repository = estate.repository("dock", [new])
+        run(["createrepo_c", "--quiet", "--baseurl", address, repository])
+        estate.install([old])
+        steps: list[Step] = [
+            {"do": "press", "value": "Set Update of All Out-of-Date"},
+            {"do": "stop", "value": "Apply Actions", "name": "stop"},
+        ]
+        line = ground.program(build, estate, steps)[-1]
+    if line["rows"] != 1:
+        raise BenchError(f"{line['rows']} rows are left behind the stop, it should be one.")
+    samples.add("stop", line["ms"] / 1000)
 
 
 def growth(ground: Ground, build: Build, estate: Estate, samples: Samples) -> None:

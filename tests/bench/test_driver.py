@@ -82,6 +82,12 @@ def test_descriptions_are_measured(ground: Ground, estate: Estate) -> None:
     assert all(ours.median(name) > 0 for name in ours.names_of("describe"))
 
 
+def test_a_stop_is_measured(ground: Ground, estate: Estate) -> None:
+    ours = Samples()
+    scenarios.stop(ground, BUILD, estate, ours)
+    assert ours.median("stop") > 0
+
+
 def test_lines_reach_the_log_window(ground: Ground, estate: Estate, monkeypatch: pytest.MonkeyPatch) -> None:
     monkeypatch.setattr(scenarios, "LOG_LINES", 500)
     ours = Samples()
