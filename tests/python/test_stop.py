@@ -84,7 +84,9 @@ def test_without_the_network_a_repository_that_was_never_read_is_left_out(
     program.yumio.setupRepos()
     program.collection = Collection(program.yumio)
     assert program.collection.merged() == {}
-    assert [text.split()[4] for text in program.yumio.incomplete()] == ["base", "more"]
+    told = program.yumio.incomplete()
+    assert [text.split()[4] for text in told] == ["base", "more"]
+    assert all(text.endswith(":\nNothing of it has been fetched before") for text in told)
     assert web.requests() == []
 
 

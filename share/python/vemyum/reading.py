@@ -13,6 +13,9 @@ from .messages import LOGGER
 from .space import scarce_space
 from .texts import _
 
+NEVER_FETCHED = _("Nothing of it has been fetched before")
+"""Why a repository cannot be read without the network."""
+
 _UNREADABLE = re.compile(r"\bpars(e|er|ing)\b|no urls in mirrorlist|not found in metalink", re.I)
 _DURATION = re.compile(r" after \d+ m(?:illi)?s(?:econds)?\b")
 

@@ -23,7 +23,7 @@ from ..acts import reading_begins, reading_ends
 from ..database import point_rpm_at, unreadable
 from ..inhibitor import inhibited
 from ..messages import heard, rpms_words
-from ..reading import drop_damaged, failure_text, is_unreadable, without_durations
+from ..reading import NEVER_FETCHED, drop_damaged, failure_text, is_unreadable, without_durations
 from ..sections import RepositorySection
 from ..webpage import asked
 from . import keys
@@ -180,7 +180,11 @@ class Base(dnf.Base):
 
     def _fetch_by_query(self, repo: dnf.repo.Repo) -> None:
         """Fetches what dnf's library could not find, see `queries`."""
-        if not base_addresses(repo) or repo._repo.getSyncStrategy() == dnf.repo.SYNC_ONLY_CACHE:
+        if repo._repo.getSyncStrategy() == dnf.repo.SYNC_ONLY_CACHE:
+            if not repo._repo.loadCache(False):
+                raise RepoError(NEVER_FETCHED)
+            return
+        if not base_addresses(repo):
             return
         meter = self.conf.cachedir if self._shows else None
         lazy = repo._repo.getSyncStrategy() != dnf.repo.SYNC_TRY_CACHE

@@ -26,7 +26,7 @@ from ..backend import CHANGELOGS, FILE_LISTS, PRIMARY
 from ..errors import RepoError, os_error_text
 from ..mirrors import TRIES, mirrors_in
 from ..queries import fetch
-from ..reading import failure_text, is_unreadable
+from ..reading import NEVER_FETCHED, failure_text, is_unreadable
 from ..repomd import FOLDER, NAME, File, join, listed, verify
 from ..texts import _
 from ..webpage import asked
@@ -165,7 +165,7 @@ class Metadata:
     def _bring(self, repo: libdnf5.repo.Repo, progress: FetchingProgress, lazy: bool) -> None:
         cached = self._is_cached(repo, progress)
         if not cached and _is_offline(repo):
-            raise RepoError(_("Nothing of it has been fetched before"))
+            raise RepoError(NEVER_FETCHED)
         if cached and (lazy or not repo.is_expired()):
             return
         if base_addresses(repo):
