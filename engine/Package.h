@@ -2,6 +2,7 @@
 #pragma once
 
 #include "bridge/PyRef.h"
+#include "engine/PackageText.h"
 
 #include <QList>
 #include <QMetaType>
@@ -49,22 +50,22 @@ struct Entry
     Action action = None; ///< what the user wants done; written on the GUI thread only
     State state = UpToDate;
     Kind kind = Ordinary;
-    QString name;
-    QString verRel; ///< version and release as shown
-    QString repo;
-    QString arch;
+    Action applyAction = None; ///< the action that the entry really gets in the present apply
+    Text name;
+    Text verRel; ///< version and release as shown
+    Text repo;
+    Text arch;
     unsigned long long size = 0; ///< bytes
-    QString sizeText;
-    QString summary;
+    Text sizeText;
+    Text summary;
     long long buildTime = 0; ///< seconds since 1970
-    QString buildTimeText;
+    Text buildTimeText;
     PyRef pyObject; ///< the package library's object; for a group its group data
     /// The next link in the chain of installed versions of this package, owned; null at the chain's end.
     Entry* installed = nullptr;
     /// What an update takes the place of where nothing of its own name is installed, as text. Empty for every
     /// other entry, and where the helper script doesn't tell.
-    QString replaces;
-    Action applyAction = None; ///< the action that the entry really gets in the present apply
+    Text replaces;
     /// Who set `applyAction`: the entry itself, or null once the user has settled a conflict. Not owned.
     Entry* applyCause = nullptr;
     /// Distinct for every entry that this process ever makes, unlike the address, which is used again.

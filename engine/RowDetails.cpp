@@ -9,20 +9,12 @@ void RowDetails::clear()
     *this = RowDetails();
 }
 
-void RowDetails::append(QString const& text)
+void RowDetails::append(Text const& text)
 {
-    auto const next = static_cast<quint32>(distinct.size());
-    auto const place = known.constFind(text);
-    if (place != known.constEnd()) {
-        places.push_back(*place);
-        return;
-    }
-    known.insert(text, next);
-    distinct.append(text);
-    places.push_back(next);
+    texts.push_back(*known.insert(text).first);
 }
 
-void RowDetails::append(QString const& text, long long number)
+void RowDetails::append(Text const& text, long long number)
 {
     append(text);
     numbers.push_back(number);
@@ -31,9 +23,8 @@ void RowDetails::append(QString const& text, long long number)
 void RowDetails::finish()
 {
     known = {};
-    places.shrink_to_fit();
+    texts.shrink_to_fit();
     numbers.shrink_to_fit();
-    distinct.squeeze();
 }
 
 } // namespace Package

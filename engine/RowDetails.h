@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include <QHash>
-#include <QString>
-#include <QStringList>
+#include "engine/PackageText.h"
+
 #include <cstddef>
 #include <vector>
 
@@ -29,11 +28,11 @@ class RowDetails
 {
 public:
     /// Empty, too, for rows that this doesn't know.
-    [[nodiscard]] QString const& text(int row) const
+    [[nodiscard]] Text const& text(int row) const
     {
-        static QString const none;
+        static Text const none;
         auto const place = static_cast<std::size_t>(row);
-        return place < places.size() ? distinct[static_cast<qsizetype>(places[place])] : none;
+        return place < texts.size() ? texts[place] : none;
     }
     /// 0 where there is none.
     [[nodiscard]] long long number(int row) const
@@ -41,20 +40,19 @@ public:
         auto const place = static_cast<std::size_t>(row);
         return place < numbers.size() ? numbers[place] : 0;
     }
-    [[nodiscard]] bool isFor(int rows) const { return places.size() == static_cast<std::size_t>(rows); }
+    [[nodiscard]] bool isFor(int rows) const { return texts.size() == static_cast<std::size_t>(rows); }
 
     void clear();
     /// The next row's.
-    void append(QString const& text);
-    void append(QString const& text, long long number);
+    void append(Text const& text);
+    void append(Text const& text, long long number);
     /// Behind the last row: gives back what only `append` needs.
     void finish();
 
 private:
-    std::vector<quint32> places; ///< by row, in `distinct`
-    QStringList distinct;
+    std::vector<Text> texts; ///< by row
     std::vector<long long> numbers;
-    QHash<QString, quint32> known;
+    TextSet known;
 };
 
 } // namespace Package

@@ -22,7 +22,7 @@
 #include <thread>
 #include <utility>
 
-YumIO::EntryKey::EntryKey(bool isGroup, QString keyName)
+YumIO::EntryKey::EntryKey(bool isGroup, Package::Text keyName)
     : group(isGroup),
       name(std::move(keyName))
 {

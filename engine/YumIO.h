@@ -47,11 +47,11 @@ public:
     /// The key of an entry: a group and a package of one name are different things.
     struct EntryKey
     {
-        EntryKey(bool isGroup, QString keyName);
+        EntryKey(bool isGroup, Package::Text keyName);
         bool operator==(EntryKey const& other) const = default;
 
         bool group;
-        QString name;
+        Package::Text name;
     };
     using EntryHash = QHash<EntryKey, Package::Entry*>;
 
@@ -345,14 +345,15 @@ protected:
     bool collectField(EntryHash& hash, PyObject* object, char const* field, Package::State state);
     bool collectSet(EntryHash& hash, PyObject* iterable, Package::State state);
     void collectPkg(
-        Package::Entry*& slot, Package::State state, PyRef package, PyObject* plain, QString name);
+        Package::Entry*& slot, Package::State state, PyRef package, PyObject* plain, Package::Text name);
     /// The object behind a package that has the same values as plain attributes, where the package's class
     /// promises one by an attribute "plain" (see share/python/vemyum/packages.py); else empty.
     PyRef plainForm(PyObject* pkg);
     /// The name of a package; `plain` as `plainForm` gave it.
-    QString pkgName(PyObject* pkg, PyObject* plain);
+    Package::Text pkgName(PyObject* pkg, PyObject* plain);
     /// One text for all entries that show the same: there are few architectures, repositories and sizes.
-    QString sharedText(QString const& text);
+    Package::Text sharedText(std::string_view letters);
+    Package::Text sharedText(QString const& text);
     bool collectGroups(EntryHash& hash, PyObject* groupResult);
     bool collectGroup(Package::Entry*& slot, PyObject* groupObject, QString const& name);
     void dropEntries();
@@ -464,7 +465,7 @@ protected:
     QString getLocalPkg(PyObject* pkg);
     QString getLocalHdr(PyObject* pkg);
     Package::Kind getPkgKind(PyObject* pkg);
-    static Package::Kind pkgKind(QString const& group);
+    static Package::Kind pkgKind(std::string_view group);
 
     // Conversions of Python values. Those ending in Dec take over the reference.
     QString pyString(PyObject* object);
@@ -548,7 +549,7 @@ protected:
     std::unordered_map<std::string_view, PyRef> internedNames;
     void const* plainAsked = nullptr; ///< the class that `plainForm` was asked for last
     bool plainOffered = false;        ///< its answer
-    QSet<QString> sharedTexts;        ///< of the collection in progress
+    Package::TextSet sharedTexts;     ///< of the collection in progress
     int jobHolds = 0;                 ///< JobHold objects alive
     bool locked = false;              ///< this process holds the package library's lock
     bool watching = false;            ///< the transaction on show is another process's

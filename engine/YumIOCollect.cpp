@@ -11,6 +11,7 @@
 #include "services/YumIODialogsUser.h"
 
 #include <memory>
+#include <string_view>
 #include <utility>
 
 namespace
@@ -27,26 +28,48 @@ constexpr Steps collectionSteps =
     preparingSteps + setupSteps + repositorySteps + updatesSteps + packagesSteps + groupsSteps;
 constexpr Steps actsPerRepository = 5;
 
-/// The text of a field as a plain attribute tells it; false for anything but a text or None, which is to be
+/// The text of a field as a plain attribute tells it. False for anything but a text or None, which is to be
 /// asked for, and reported, the long way.
-bool plainText(PyRef const& value, QString& text)
+class PlainText
 {
-    if (value.get() == Py_None) {
-        text = QString();
-        return true;
+public:
+    explicit PlainText(PyRef attribute)
+        : value(std::move(attribute))
+    {
+        if (value.get() == Py_None) {
+            known = true;
+        } else if (value && PyUnicode_CheckExact(value.get())) {
+            Py_ssize_t length = 0;
+            char const* const utf8 = PyUnicode_AsUTF8AndSize(value.get(), &length);
+            known = utf8;
+            letters = known ? std::string_view(utf8, static_cast<std::size_t>(length)) : std::string_view();
+            PyErr_Clear();
+            // The toolkit drops it, too.
+            constexpr std::string_view byteOrderMark("\xef\xbb\xbf");
+            if (letters.starts_with(byteOrderMark)) {
+                letters.remove_prefix(byteOrderMark.size());
+            }
+        }
     }
-    Py_ssize_t length = 0;
-    if (!value || !PyUnicode_CheckExact(value.get())) {
-        return false;
+
+    explicit operator bool() const { return known; }
+    /// UTF-8; lives as long as this does.
+    [[nodiscard]] std::string_view text() const { return letters; }
+    /// Without the line feeds at its end.
+    [[nodiscard]] std::string_view trimmed() const
+    {
+        std::string_view rest = letters;
+        while (rest.ends_with('\n')) {
+            rest.remove_suffix(1);
+        }
+        return rest;
     }
-    char const* const utf8 = PyUnicode_AsUTF8AndSize(value.get(), &length);
-    if (!utf8) {
-        PyErr_Clear();
-        return false;
-    }
-    text = QString::fromUtf8(utf8, length);
-    return true;
-}
+
+private:
+    PyRef value;
+    std::string_view letters;
+    bool known = false;
+};
 
 } // namespace
 
@@ -293,7 +316,7 @@ bool YumIO::collectSet(EntryHash& hash, PyObject* iterable, Package::State state
     plainAsked = nullptr;
     while (PyRef package = PyRef::steal(PyIter_Next(iterator.get()))) {
         PyRef const plain = plainForm(package.get());
-        QString const name = pkgName(package.get(), plain.get());
+        Package::Text const name = pkgName(package.get(), plain.get());
         Package::Entry*& slot = hash[EntryKey(false, name)];
         if (!slot) {
             collectPkg(slot, state, std::move(package), plain.get(), name);
@@ -323,26 +346,32 @@ PyRef YumIO::plainForm(PyObject* pkg)
     return plainOffered ? pyAttribute(pkg, "plain") : PyRef();
 }
 
-QString YumIO::pkgName(PyObject* pkg, PyObject* plain)
+Package::Text YumIO::pkgName(PyObject* pkg, PyObject* plain)
 {
-    QString name;
-    return plain && plainText(pyAttribute(plain, "name"), name) ? name
-                                                                : pyStringDec(pyAttribute(pkg, "name"));
+    PlainText const name(plain ? pyAttribute(plain, "name") : PyRef());
+    return name ? Package::Text::ofUtf8(name.text()) : Package::Text(pyStringDec(pyAttribute(pkg, "name")));
 }
 
-QString YumIO::sharedText(QString const& text)
+Package::Text YumIO::sharedText(std::string_view letters)
 {
-    return *sharedTexts.insert(text);
+    auto const found = sharedTexts.find(letters);
+    return found != sharedTexts.end() ? *found : *sharedTexts.insert(Package::Text::ofUtf8(letters)).first;
+}
+
+Package::Text YumIO::sharedText(QString const& text)
+{
+    QByteArray const letters = text.toUtf8();
+    return sharedText(std::string_view(letters.constData(), static_cast<std::size_t>(letters.size())));
 }
 
 void YumIO::collectPkg(
-    Package::Entry*& slot, Package::State state, PyRef package, PyObject* plain, QString name)
+    Package::Entry*& slot, Package::State state, PyRef package, PyObject* plain, Package::Text name)
 {
     slot = std::make_unique<Package::Entry>().release();
     Package::Entry& entry = *slot;
     PyObject* const pkg = package.get();
-    auto const plainField = [&](char const* field, QString& text) {
-        return plain && plainText(pyAttribute(plain, field), text);
+    auto const plainField = [&](char const* field) {
+        return PlainText(plain ? pyAttribute(plain, field) : PyRef());
     };
     auto const plainNumber = [&](char const* field, long long& number) {
         PyRef const value = plain ? pyAttribute(plain, field) : PyRef();
@@ -354,24 +383,27 @@ void YumIO::collectPkg(
         return overflow == 0;
     };
 
-    QString text;
     long long number = 0;
     entry.action = Package::None;
     entry.state = state;
-    entry.kind = plainField("group", text) ? pkgKind(trimmedField(std::move(text))) : getPkgKind(pkg);
+    PlainText const group = plainField("group");
+    entry.kind = group ? pkgKind(group.trimmed()) : getPkgKind(pkg);
     entry.name = std::move(name);
-    if (!plainField("evr", entry.verRel)) {
-        PyRef version = pyQuickCall(pkg, "printVer");
-        entry.verRel = pyStringDec(version ? std::move(version) : pyMethodCall(pkg, "printVer", "()"));
+    if (PlainText const version = plainField("evr")) {
+        entry.verRel = sharedText(version.text());
+    } else {
+        PyRef text = pyQuickCall(pkg, "printVer");
+        entry.verRel = sharedText(pyStringDec(text ? std::move(text) : pyMethodCall(pkg, "printVer", "()")));
     }
-    entry.repo = sharedText(
-        plain && plainText(pyAttribute(pkg, "repoid"), text) ? trimmedField(std::move(text))
-                                                             : simpleString(pkg, "repoid"));
-    entry.arch = sharedText(plainField("arch", text) ? text : pyStringDec(pyAttribute(pkg, "arch")));
+    PlainText const repo(plain ? pyAttribute(pkg, "repoid") : PyRef());
+    entry.repo = repo ? sharedText(repo.trimmed()) : sharedText(simpleString(pkg, "repoid"));
+    PlainText const arch = plainField("arch");
+    entry.arch = arch ? sharedText(arch.text()) : sharedText(pyStringDec(pyAttribute(pkg, "arch")));
     entry.size = plainNumber("size", number) ? static_cast<unsigned long long>(number) : sizeOf(pkg);
     entry.sizeText = sharedText(bytesFormat(entry.size));
+    PlainText const summary = plainField("summary");
     entry.summary =
-        plainField("summary", text) ? trimmedField(std::move(text)) : simpleString(pkg, "summary");
+        summary ? Package::Text::ofUtf8(summary.trimmed()) : Package::Text(simpleString(pkg, "summary"));
     entry.buildTime = plainNumber("buildtime", number) ? number : buildTimeOf(pkg);
     entry.buildTimeText = timeFormat(entry.buildTime);
     if (state == Package::OutOfDate) {
@@ -471,10 +503,10 @@ bool YumIO::collectGroup(Package::Entry*& slot, PyObject* groupObject, QString c
 
 Package::Kind YumIO::getPkgKind(PyObject* pkg)
 {
-    return pkgKind(simpleString(pkg, "group"));
+    return simpleString(pkg, "group") == QLatin1String("Suite") ? Package::Suite : Package::Ordinary;
 }
 
-Package::Kind YumIO::pkgKind(QString const& group)
+Package::Kind YumIO::pkgKind(std::string_view group)
 {
-    return group == QLatin1String("Suite") ? Package::Suite : Package::Ordinary;
+    return group == "Suite" ? Package::Suite : Package::Ordinary;
 }

@@ -143,7 +143,8 @@ PyRef YumIO::joinPackageKeys(
 PyRef YumIO::requiredPkgs(Package::Entry const* group)
 {
     if (!hasDistribGroups()) {
-        return pyMethodCall(group->pyObject.get(), "requiredPkgs", "(s)", group->name.toUtf8().constData());
+        return pyMethodCall(
+            group->pyObject.get(), "requiredPkgs", "(s)", group->name.toString().toUtf8().constData());
     }
     return joinPackageKeys(
         *group, {"mandatory_packages", "default_packages"},
@@ -154,7 +155,8 @@ PyRef YumIO::requiredPkgs(Package::Entry const* group)
 PyRef YumIO::pkgTree(Package::Entry const* group)
 {
     if (!hasDistribGroups()) {
-        return pyMethodCall(group->pyObject.get(), "pkgTree", "(s)", group->name.toUtf8().constData());
+        return pyMethodCall(
+            group->pyObject.get(), "pkgTree", "(s)", group->name.toString().toUtf8().constData());
     }
     return requiredPkgs(group);
 }

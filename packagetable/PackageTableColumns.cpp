@@ -17,9 +17,9 @@ constexpr std::array<char const*, ColumnCount> columnIds{
     "group",        "licence", "vendor",    "reason",  "advisory"};
 
 // Of what is installed; an update has it behind it.
-QString const& installedVersion(Package::Entry const& entry)
+Package::Text const& installedVersion(Package::Entry const& entry)
 {
-    static QString const none;
+    static Package::Text const none;
     if (entry.installed) {
         return entry.installed->verRel;
     }
@@ -28,13 +28,13 @@ QString const& installedVersion(Package::Entry const& entry)
 
 } // namespace
 
-QString const& columnText(Package::Entry const& entry, int column)
+Package::Text const& columnText(Package::Entry const& entry, int column)
 {
     using Package::Entry;
     if (column == InstalledVersionColumn) {
         return installedVersion(entry);
     }
-    static constexpr std::array<QString Entry::*, InstalledVersionColumn - NameColumn> fields{
+    static constexpr std::array<Package::Text Entry::*, InstalledVersionColumn - NameColumn> fields{
         &Entry::name,     &Entry::verRel,        &Entry::repo,   &Entry::arch,
         &Entry::sizeText, &Entry::buildTimeText, &Entry::summary};
     Q_ASSERT(column >= NameColumn && column <= InstalledVersionColumn);
@@ -62,7 +62,7 @@ std::optional<Package::Detail> columnDetail(int column)
     }
 }
 
-QString const& columnText(YumIO const& yumIO, int row, int column)
+Package::Text const& columnText(YumIO const& yumIO, int row, int column)
 {
     std::optional<Package::Detail> const detail = columnDetail(column);
     return detail ? yumIO.details(*detail).text(row) : columnText(*yumIO[row], column);

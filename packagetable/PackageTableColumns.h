@@ -37,9 +37,9 @@ enum Column
 [[nodiscard]] std::optional<Package::Detail> columnDetail(int column);
 
 /// The text that `column` shows in a row of the engine. `column` is one from NameColumn on.
-[[nodiscard]] QString const& columnText(YumIO const& yumIO, int row, int column);
+[[nodiscard]] Package::Text const& columnText(YumIO const& yumIO, int row, int column);
 /// The same, for a column without a detail.
-[[nodiscard]] QString const& columnText(Package::Entry const& entry, int column);
+[[nodiscard]] Package::Text const& columnText(Package::Entry const& entry, int column);
 
 /// Whether `column` sorts by a number, and not by its text.
 [[nodiscard]] bool isNumericColumn(int column);

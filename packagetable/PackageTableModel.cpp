@@ -146,7 +146,8 @@ QVariant Model::data(QModelIndex const& index, int role) const
 
     switch (role) {
     case Qt::DisplayRole:
-        return column < NameColumn ? QVariant() : QVariant(columnText(*yumIO, index.row(), column));
+        return column < NameColumn ? QVariant()
+                                   : QVariant(columnText(*yumIO, index.row(), column).toString());
     case Qt::DecorationRole:
         return decoration(*entry, column);
     case Qt::ToolTipRole:
@@ -332,9 +333,9 @@ Package::State Model::getState(int row) const
     return row >= 0 && row < yumIO->count() ? (*yumIO)[row]->state : Package::UpToDate;
 }
 
-QString const& Model::text(int row, int column) const
+Package::Text const& Model::text(int row, int column) const
 {
-    static QString const none;
+    static Package::Text const none;
     return row >= 0 && row < yumIO->count() ? columnText(*yumIO, row, column) : none;
 }
 

@@ -54,7 +54,7 @@ public:
 
     /// The text that the cell shows, without the detour of a QVariant; empty when there is no such row. The
     /// column is one from NameColumn on.
-    [[nodiscard]] QString const& text(int row, int column) const;
+    [[nodiscard]] Package::Text const& text(int row, int column) const;
     /// The picture that the cell shows, as a number from 0 to 3; 0 when there is no such row. The column is
     /// one before NameColumn.
     [[nodiscard]] int picture(int row, int column) const;

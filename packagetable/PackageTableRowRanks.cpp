@@ -4,8 +4,8 @@
 #include "base/Parallel.h"
 #include "packagetable/PackageTableRowWalk.h"
 
-#include <QStringView>
 #include <algorithm>
+#include <string_view>
 
 namespace PackageTable
 {
@@ -21,11 +21,11 @@ struct Item
 };
 using Items = std::vector<Item>;
 
-// Items that are equal in the first `depth` characters of their texts.
+// Items that are equal in the first `depth` bytes of their texts.
 struct Run
 {
     std::size_t begin, end;
-    qsizetype depth;
+    std::size_t depth;
 };
 
 bool isLower(Item const& left, Item const& right)
@@ -33,46 +33,28 @@ bool isLower(Item const& left, Item const& right)
     return left.key < right.key;
 }
 
-// A piece of a text as a number that sorts as the piece does. A character takes nine bits: 0 is the end of
-// the text, the largest value stands for all characters from it on.
-constexpr qsizetype pieceLength = 7;
+// A piece of a text as a number that sorts as the piece does. A byte takes nine bits: 0 is the end of the
+// text.
+constexpr std::size_t pieceLength = 7;
 constexpr unsigned characterBits = 9;
-constexpr quint64 highestCharacter = (1U << characterBits) - 1;
 
-quint64 piece(QStringView text, qsizetype from)
+quint64 piece(std::string_view text, std::size_t from)
 {
     quint64 key = 0;
-    bool isHigh = false;
-    for (qsizetype i = from; i < from + pieceLength; ++i) {
-        quint64 character = 0;
-        // What follows a character that the piece doesn't tell from others tells nothing.
-        if (!isHigh && i < text.size()) {
-            character = std::min<quint64>(text.at(i).unicode() + 1U, highestCharacter);
-            isHigh = character == highestCharacter;
-        }
-        key = key << characterBits | character;
+    for (std::size_t i = from; i < from + pieceLength; ++i) {
+        key = key << characterBits | (i < text.size() ? Package::Text::rank(text[i]) + 1U : 0U);
     }
     return key;
 }
 
-bool holdsHighCharacter(quint64 key)
-{
-    for (; key; key >>= characterBits) {
-        if ((key & highestCharacter) == highestCharacter) {
-            return true;
-        }
-    }
-    return false;
-}
-
 bool holdsEnd(quint64 key)
 {
-    return (key & highestCharacter) == 0;
+    return (key & ((1U << characterBits) - 1)) == 0;
 }
 
 // Sorts by text, piece by piece, so that most comparisons are those of numbers that lie side by side. The
 // keys of the result are the places, the same for equal texts. `texts` stands in the order of the rows.
-void sortByText(Items& items, std::vector<QStringView> const& texts)
+void sortByText(Items& items, std::vector<std::string_view> const& texts)
 {
     constexpr std::size_t few = 12;
     auto const at = [](std::size_t place) { return static_cast<Items::difference_type>(place); };
@@ -84,9 +66,11 @@ void sortByText(Items& items, std::vector<QStringView> const& texts)
     auto const compareWhole = [&](Run const& run) {
         std::sort(
             items.begin() + at(run.begin), items.begin() + at(run.end),
-            [&](Item const& left, Item const& right) { return texts[left.row] < texts[right.row]; });
+            [&](Item const& left, Item const& right) {
+                return Package::Text::compare(texts[left.row], texts[right.row]) < 0;
+            });
         for (std::size_t begin = run.begin, end = begin; begin < run.end; begin = end) {
-            QStringView const first = texts[items[begin].row];
+            std::string_view const first = texts[items[begin].row];
             while (end < run.end && texts[items[end].row] == first) {
                 ++end;
             }
@@ -105,7 +89,7 @@ void sortByText(Items& items, std::vector<QStringView> const& texts)
         Parallel::forParts(run.end - run.begin, [&](std::size_t begin, std::size_t end) {
             for (std::size_t i = run.begin + begin; i < run.begin + end; ++i) {
                 if (i + lettersAhead < run.begin + end) {
-                    __builtin_prefetch(texts[items[i + lettersAhead].row].utf16() + run.depth);
+                    __builtin_prefetch(texts[items[i + lettersAhead].row].data() + run.depth);
                 }
                 items[i].key = piece(texts[items[i].row], run.depth);
             }
@@ -116,9 +100,7 @@ void sortByText(Items& items, std::vector<QStringView> const& texts)
             while (end < run.end && items[end].key == key) {
                 ++end;
             }
-            if (holdsHighCharacter(key)) {
-                compareWhole({begin, end, run.depth});
-            } else if (end - begin == 1 || holdsEnd(key)) {
+            if (end - begin == 1 || holdsEnd(key)) {
                 place(begin, end);
             } else {
                 runs.push_back({begin, end, run.depth + pieceLength});
@@ -167,12 +149,16 @@ RowRanks::Ranks const& RowRanks::made(int column)
 RowRanks::Ranks RowRanks::byText(int column) const
 {
     Items items(static_cast<std::size_t>(yumIO->count()));
-    std::vector<QStringView> texts(items.size());
-    auto const fetch = [](Package::Entry const&) {};
+    std::vector<std::string_view> texts(items.size());
+    auto const fetch = [column](Package::Entry const& entry) {
+        if (!columnDetail(column)) {
+            fetchLetters(columnText(entry, column));
+        }
+    };
     Parallel::forParts(items.size(), [&](std::size_t begin, std::size_t end) {
         walkRows(*yumIO, begin, end, fetch, [&](std::size_t row, Package::Entry const&) {
             items[row].row = static_cast<quint32>(row);
-            texts[row] = columnText(*yumIO, static_cast<int>(row), column);
+            texts[row] = columnText(*yumIO, static_cast<int>(row), column).utf8();
         });
     });
     sortByText(items, texts);

@@ -3,7 +3,6 @@
 
 #include "engine/YumIO.h"
 
-#include <QString>
 #include <cstddef>
 
 namespace PackageTable
@@ -14,9 +13,9 @@ constexpr std::size_t lettersAhead = 8;
 constexpr std::size_t entriesAhead = 2 * lettersAhead;
 
 /// Asks the memory for the letters of a text. The text itself must have arrived.
-inline void fetchLetters(QString const& text)
+inline void fetchLetters(Package::Text const& text)
 {
-    __builtin_prefetch(text.constData());
+    __builtin_prefetch(text.place());
 }
 
 /// Calls `visit(row, entry)` for each of the engine's rows from `begin` up to `end`, and `fetch(entry)` some

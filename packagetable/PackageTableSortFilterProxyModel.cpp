@@ -58,21 +58,10 @@ constexpr std::array<Field, 23> packageFields{
 };
 
 /// Appends a text in UTF-8.
-void append(QByteArray& bytes, QString const& text)
+void append(QByteArray& bytes, Package::Text const& text)
 {
-    qsizetype const before = bytes.size();
-    bytes.resize(before + text.size());
-    char* const target = bytes.data() + before;
-    char16_t all = 0;
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        char16_t const unit = text.at(i).unicode();
-        all |= unit;
-        target[i] = static_cast<char>(unit);
-    }
-    if (all >= 0x80U) {
-        bytes.truncate(before);
-        bytes += text.toUtf8();
-    }
+    std::string_view const letters = text.utf8();
+    bytes.append(letters.data(), static_cast<qsizetype>(letters.size()));
 }
 
 bool passesStateAndKind(Package::Entry const& entry, SortFilterProxyModel::Conditions const& wanted)

@@ -185,7 +185,7 @@ int View::widestOfAllRows(ColumnWidth const& width, int column) const
 int View::widestText(ColumnWidth const& width, int column) const
 {
     return width.widestText(
-        rowsForHint(), [&](int row) -> QString const& { return packages->text(modelRow(row), column); },
+        rowsForHint(), [&](int row) { return packages->text(modelRow(row), column).utf8(); },
         [&](int row) { return packages->index(modelRow(row), column); });
 }
 

@@ -41,8 +41,25 @@ struct CellsOfOneIcon
     std::unordered_set<QString, TextHash, std::equal_to<>> measured;
 };
 
-/// The texts of a column, row by row.
-using Texts = std::vector<QString const*>;
+/// The texts of a column in UTF-8, row by row.
+using Texts = std::vector<std::string_view>;
+
+/// The text, in `buffer`, which keeps its memory from one text to the next.
+QString const& decoded(std::string_view text, QString& buffer)
+{
+    buffer.resize(static_cast<qsizetype>(text.size()));
+    QChar* const target = buffer.data();
+    unsigned char all = 0;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        auto const byte = static_cast<unsigned char>(text[i]);
+        all |= byte;
+        target[i] = QLatin1Char(static_cast<char>(byte));
+    }
+    if (all >= 0x80U) {
+        buffer = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    }
+    return buffer;
+}
 
 /// A row of each text that is another one when all digits are taken for alike.
 using Folds = std::unordered_map<QString, std::size_t, TextHash, std::equal_to<>>;
@@ -54,12 +71,12 @@ class SharedTexts
 {
 public:
     /// What is known of the text; else `unknown`, and its place has become the text's.
-    Value& of(QString const& text, Value const& unknown)
+    Value& of(std::string_view text, Value const& unknown)
     {
-        auto const address = reinterpret_cast<std::uintptr_t>(text.constData());
+        auto const address = reinterpret_cast<std::uintptr_t>(text.data());
         Place& place = places[address / sizeof(std::max_align_t) % places.size()];
-        if (place.letters != text.constData() || place.size != text.size()) {
-            place = {text.constData(), text.size(), unknown};
+        if (place.letters != text.data() || place.size != text.size()) {
+            place = {text.data(), text.size(), unknown};
         }
         return place.value;
     }
@@ -67,8 +84,8 @@ public:
 private:
     struct Place
     {
-        QChar const* letters = nullptr;
-        qsizetype size = 0;
+        char const* letters = nullptr;
+        std::size_t size = 0;
         Value value{};
     };
     std::array<Place, 256> places{};
@@ -84,16 +101,15 @@ std::vector<qreal> mostOf(Texts const& texts, TextEstimate const& estimate)
     std::vector<qreal> most(texts.size());
     Parallel::forParts(texts.size(), [&](std::size_t begin, std::size_t end) {
         SharedTexts<qreal> shared;
+        QString buffer;
         for (std::size_t row = begin; row < end; ++row) {
-            // Texts and their letters lie all over the memory, and waiting for each would take most of the
-            // time.
-            if (row + 2 * ahead < end) {
-                __builtin_prefetch(texts[row + 2 * ahead]);
-                __builtin_prefetch(texts[row + ahead]->constData());
+            // The letters lie all over the memory, and waiting for each would take most of the time.
+            if (row + ahead < end) {
+                __builtin_prefetch(texts[row + ahead].data());
             }
-            qreal& known = shared.of(*texts[row], unknown);
+            qreal& known = shared.of(texts[row], unknown);
             if (known == unknown) {
-                known = estimate.bounds(*texts[row]).most;
+                known = estimate.bounds(decoded(texts[row], buffer)).most;
             }
             most[row] = known;
         }
@@ -109,15 +125,16 @@ Folds foldsOf(Texts const& texts, std::vector<qreal> const& most, qreal limit)
     Parallel::forParts(texts.size(), [&](std::size_t begin, std::size_t end) {
         Folds found;
         SharedTexts<bool> shared;
+        QString buffer;
         QString fold;
         for (std::size_t row = begin; row < end; ++row) {
             if (row + ahead < end && most[row + ahead] > limit) {
-                __builtin_prefetch(texts[row + ahead]->constData());
+                __builtin_prefetch(texts[row + ahead].data());
             }
-            if (most[row] <= limit || std::exchange(shared.of(*texts[row], false), true)) {
+            if (most[row] <= limit || std::exchange(shared.of(texts[row], false), true)) {
                 continue;
             }
-            TextEstimate::fold(*texts[row], fold);
+            TextEstimate::fold(decoded(texts[row], buffer), fold);
             if (found.find(QStringView(fold)) == found.end()) {
                 found.emplace(QString(fold.constData(), fold.size()), row);
             }
@@ -189,12 +206,13 @@ void WidestCell::addTexts(int rows, ColumnWidth::Text const& text, ColumnWidth::
     CellsOfOneIcon& cells = byIcon[withoutIcon];
     Texts texts(static_cast<std::size_t>(rows));
     for (int row = 0; row < rows; ++row) {
-        texts[static_cast<std::size_t>(row)] = &text(row);
+        texts[static_cast<std::size_t>(row)] = text(row);
     }
     std::vector<qreal> const most = mostOf(texts, estimate);
+    QString buffer;
     auto const add = [&](std::size_t row) {
         if (most[row] + cells.aroundText > widest) {
-            addText(cell(static_cast<int>(row)), *texts[row], cells);
+            addText(cell(static_cast<int>(row)), decoded(texts[row], buffer), cells);
         }
     };
     if (auto const first = std::max_element(most.begin(), most.end()); first != most.end()) {
@@ -202,7 +220,7 @@ void WidestCell::addTexts(int rows, ColumnWidth::Text const& text, ColumnWidth::
     }
     bool digitsAreAlike = true;
     for (auto const& [fold, row] : foldsOf(texts, most, widest - cells.aroundText)) {
-        digitsAreAlike = digitsAreAlike && estimate.representative(*texts[row]) == fold;
+        digitsAreAlike = digitsAreAlike && estimate.representative(decoded(texts[row], buffer)) == fold;
         add(row);
     }
     for (std::size_t row = 0; row < texts.size() && !digitsAreAlike; ++row) {

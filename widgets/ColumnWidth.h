@@ -2,11 +2,11 @@
 #pragma once
 
 #include <functional>
+#include <string_view>
 
 class QAbstractItemDelegate;
 class QAbstractItemModel;
 class QModelIndex;
-class QString;
 class QStyleOptionViewItem;
 
 /// Finds the width of the widest cell of a table column, in pixels. Lives for one question, borrows the
@@ -14,8 +14,8 @@ class QStyleOptionViewItem;
 class ColumnWidth
 {
 public:
-    /// The text and the cell of a row of the table; a row that isn't there is never asked for.
-    using Text = std::function<QString const&(int row)>;
+    /// The text, in UTF-8, and the cell of a row of the table; a row that isn't there is never asked for.
+    using Text = std::function<std::string_view(int row)>;
     using Cell = std::function<QModelIndex(int row)>;
 
     ColumnWidth(QAbstractItemDelegate const& delegate, QStyleOptionViewItem const& options);

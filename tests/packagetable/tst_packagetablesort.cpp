@@ -136,7 +136,8 @@ private Q_SLOTS:
         QStringList pieces{"lib",           "python3-", "a", "A", "-", "0", "12", QString(1, QChar(0)),
                            QString(40, 'x')};
         for (int const unit : {0xfc, 0xff, 0x100, 0x1fd, 0x1fe, 0x1ff, 0x200, 0xd83d, 0xe000, 0xffff}) {
-            pieces.append(QString(QChar(unit)));
+            // A surrogate alone is no text.
+            pieces.append(unit == 0xd83d ? QString::fromUcs4(U"\U0001f600") : QString(QChar(unit)));
         }
         auto const text = [&](int most) {
             QString result;

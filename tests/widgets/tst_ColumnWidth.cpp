@@ -43,14 +43,19 @@ public:
     }
 };
 
+std::string_view lettersOf(QByteArray const& text)
+{
+    return {text.constData(), static_cast<std::size_t>(text.size())};
+}
+
 int widestText(ColumnWidth const& width, TableModel const& model)
 {
-    QStringList texts;
+    QByteArrayList texts;
     for (int row = 0; row < model.rowCount(); ++row) {
-        texts.append(model.index(row, 0).data().toString());
+        texts.append(model.index(row, 0).data().toString().toUtf8());
     }
     return width.widestText(
-        model.rowCount(), [&](int row) -> QString const& { return texts.at(row); },
+        model.rowCount(), [&](int row) { return lettersOf(texts.at(row)); },
         [&](int row) { return model.index(row, 0); });
 }
 
@@ -171,6 +176,15 @@ void tst_ColumnWidth::findsTheOneWidestAmongManyRows()
     for (int row = 0; row < 9000; ++row) {
         texts.append(shared.at(random.bounded(static_cast<int>(shared.size()))));
     }
+    QByteArrayList letters;
+    QHash<QString, QByteArray> sharedLetters;
+    for (QString const& text : texts) {
+        QByteArray& known = sharedLetters[text];
+        if (known.isNull()) {
+            known = text.toUtf8();
+        }
+        letters.append(known);
+    }
     TableModel::Rows rows;
     for (QString const& text : shared) {
         rows.append({text});
@@ -180,10 +194,11 @@ void tst_ColumnWidth::findsTheOneWidestAmongManyRows()
         QString const last = randomText(random, alphabet, 1) + randomText(random, alphabet, longest) +
                              randomText(random, alphabet, longest);
         texts[place] = last;
+        letters[place] = last.toUtf8();
         rows.append({last});
         TableModel const model(rows);
         int const widest = width.widestText(
-            static_cast<int>(texts.size()), [&](int row) -> QString const& { return texts.at(row); },
+            static_cast<int>(texts.size()), [&](int row) { return lettersOf(letters.at(row)); },
             [&](int row) { return model.index(static_cast<int>(cellOf(rows, texts.at(row))), 0); });
         int walked = 0;
         for (int row = 0; row < model.rowCount(); ++row) {
