@@ -10,10 +10,15 @@
 
 #include <QApplication>
 #include <libgen.h>
+#include <malloc.h>
 #include <memory>
 
 int main(int argc, char** argv)
 {
+#ifdef M_ARENA_MAX
+    // What a job has freed is for the next one, whichever thread does it.
+    mallopt(M_ARENA_MAX, 1);
+#endif
     StartingPoint::remember();
     Interrupt::endAtOnce();
     DefaultStyle const defaultStyle(argc, argv);
