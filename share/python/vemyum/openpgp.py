@@ -11,7 +11,6 @@ import base64
 import binascii
 import contextlib
 import dataclasses
-import hashlib
 from typing import Dict, Iterator, List, NamedTuple, Optional, Tuple
 
 _BEGINS = (b"-----BEGIN PGP PUBLIC KEY BLOCK-----", b"-----BEGIN PGP SIGNATURE-----")
@@ -213,6 +212,8 @@ def _key(packets: List[_Packet]) -> List[Key]:
 def _part(body: bytes) -> Optional[Part]:
     if len(body) < 6:
         raise Unreadable("cut off")
+    import hashlib  # only here: with it come 2 MiB that few need
+
     version, created = body[0], int.from_bytes(body[1:5], "big")
     if version == 4:
         digest = hashlib.sha1(b"\x99" + len(body).to_bytes(2, "big") + body, usedforsecurity=False)

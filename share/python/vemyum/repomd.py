@@ -3,7 +3,6 @@
 
 from __future__ import annotations
 
-import hashlib
 import os
 import urllib.parse
 from typing import List, NamedTuple, Optional, Tuple
@@ -79,6 +78,8 @@ def verify(file: File, path: str) -> None:
 
 def digest(path: str, kind: str) -> Optional[str]:
     """The checksum of a file in lower-case hexadecimal digits; None for a kind that isn't known. OSError."""
+    import hashlib  # only here: with it come 2 MiB that few need
+
     try:
         found = hashlib.new("sha1" if kind == "sha" else kind)
     except ValueError:

@@ -9,7 +9,6 @@ from __future__ import annotations
 
 import contextlib
 import errno
-import hashlib
 import os
 from typing import Optional
 
@@ -79,6 +78,8 @@ def own_directory(root: str) -> str:
     caches = os.environ.get("XDG_CACHE_HOME", "")
     if not os.path.isabs(caches):
         caches = os.path.join(os.path.expanduser("~"), ".cache")
+    import hashlib  # only here: with it come 2 MiB that few need
+
     name = hashlib.sha256(os.fsencode(os.path.realpath(root))).hexdigest()[:16]
     own = os.path.join(caches, "vem", name)
     try:

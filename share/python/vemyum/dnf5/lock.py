@@ -14,7 +14,6 @@ from __future__ import annotations
 
 import contextlib
 import fcntl
-import hashlib
 import os
 import struct
 from typing import List, Optional
@@ -79,6 +78,8 @@ def _place_of_dnf_4(settings: Settings, folder: str) -> str:
     """Anybody but the administrator has the locks elsewhere, a folder for each that they are about."""
     if rights.is_administrator():
         return folder
+    import hashlib  # only here: with it come 2 MiB that few need
+
     own = rights.own_directory(settings.root)
     return os.path.join(own, "locks", hashlib.sha1(folder.encode("utf-8", "surrogateescape")).hexdigest())
 
