@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <array>
 #include <atomic>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -56,13 +57,6 @@ constexpr std::array<Field, 23> packageFields{
     field<&YumIO::getRequires>,    field<&YumIO::getConflicts>,   field<&YumIO::getObsoletes>,
     field<&YumIO::getFiles>,       field<&YumIO::getChangeLog>,
 };
-
-/// Appends a text in UTF-8.
-void append(QByteArray& bytes, Package::Text const& text)
-{
-    std::string_view const letters = text.utf8();
-    bytes.append(letters.data(), static_cast<qsizetype>(letters.size()));
-}
 
 bool passesStateAndKind(Package::Entry const& entry, SortFilterProxyModel::Conditions const& wanted)
 {
@@ -301,13 +295,22 @@ void SortFilterProxyModel::testShownTexts() const
 /// so that an expression can span two columns.
 void SortFilterProxyModel::takeShownTexts(int row, QByteArray& line) const
 {
-    line.resize(0);
+    // At one go: a QByteArray that grows text by text takes as long as the expression itself.
+    qsizetype most = 0;
     for (int const column : textColumns) {
-        if (!line.isEmpty()) {
-            line += ' ';
-        }
-        append(line, columnText(*yumIO, row, column));
+        most += static_cast<qsizetype>(columnText(*yumIO, row, column).utf8().size()) + 1;
     }
+    line.resize(most);
+    char* const begin = line.data();
+    char* end = begin;
+    for (int const column : textColumns) {
+        if (end != begin) {
+            *end++ = ' ';
+        }
+        std::string_view const letters = columnText(*yumIO, row, column).utf8();
+        end = std::copy(letters.begin(), letters.end(), end);
+    }
+    line.truncate(end - begin);
 }
 
 template <typename Judge>

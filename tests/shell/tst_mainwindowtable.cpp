@@ -122,6 +122,7 @@ private Q_SLOTS:
                                   " {'new': int(time.time()), 'old': int(time.time()) - %1}")
                        .arg(seconds));
             refresh();
+            QCoreApplication::processEvents();
             QString found;
             for (QLabel const* const label : window->findChild<StatusLine*>()->findChildren<QLabel*>()) {
                 if (label->isVisible() && label->text().startsWith(QLatin1String("Repositories read "))) {
