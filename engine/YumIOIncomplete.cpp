@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-// How current a collection is, and what it had to do without: repositories that cannot be read and may be left out, files and
-// sections of the configuration that nobody understands. Asked for behind each collection.
+// How current a collection is, and what it had to do without: repositories that cannot be read and may be
+// left out, files and sections of the configuration that nobody understands. Asked for behind each
+// collection.
 #include "bridge/PythonApi.h"
 
 #include "engine/YumIO.h"
