@@ -14,19 +14,11 @@ StopButton::StopButton(Stop& stopOfEngine, QWidget* parentWidget)
     follow();
 }
 
-void StopButton::setOther(bool goesOn)
-{
-    other = goesOn;
-    follow();
-}
-
 void StopButton::follow()
 {
     switch (stop.state()) {
     case Stop::State::Idle:
-        offer(
-            other, other ? tr("Stops what is going on, and keeps what was found (Escape)")
-                         : tr("Nothing is going on that could be stopped"));
+        offer(false, tr("Nothing is going on that could be stopped"));
         break;
     case Stop::State::Possible:
         offer(true, tr("Stops what is going on; nothing has been changed yet (Escape)"));

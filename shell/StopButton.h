@@ -6,8 +6,7 @@
 class Stop;
 
 /// The button beside the bars that has the job in progress stopped; Escape presses it. Grey where there is
-/// nothing to stop, with a tool tip that says why. It may stand for another stoppable thing than a job, too:
-/// who has one calls `setOther`. Owned by its parent; GUI thread.
+/// nothing to stop, with a tool tip that says why. Owned by its parent; GUI thread.
 class StopButton final : public QPushButton
 {
     Q_OBJECT
@@ -16,13 +15,9 @@ public:
     /// `stop` outlives the button.
     StopButton(Stop& stop, QWidget* parent);
 
-    /// Whether something besides the engine's jobs is going on that `clicked` stops.
-    void setOther(bool goesOn);
-
 private:
     void offer(bool possible, QString const& tip);
     void follow();
 
     Stop& stop;
-    bool other = false;
 };

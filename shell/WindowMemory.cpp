@@ -64,11 +64,14 @@ void WindowMemory::restoreSizes()
     if (!geometry.isEmpty()) {
         window->restoreGeometry(geometry);
     }
+    isWhole = true;
 }
 
 void WindowMemory::keep()
 {
-    UserSettings::setValue(geometryKey, window->saveGeometry());
+    if (isWhole) {
+        UserSettings::setValue(geometryKey, window->saveGeometry());
+    }
     if (columnsChange.isActive()) {
         columnsChange.stop();
         keepColumns();

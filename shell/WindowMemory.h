@@ -40,4 +40,5 @@ private:
     QComboBox* mode;
     QTimer columnsChange; ///< a column under the mouse changes its width with each step
     QByteArray geometry;  ///< what was remembered at the start; empty if nothing was
+    bool isWhole = false; ///< the window shows its table, and so has a size that is worth remembering
 };

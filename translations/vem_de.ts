@@ -1888,10 +1888,6 @@ Lässt sich für eine einzelne Sitzung übersteuern.</translation>
         <translation>Abbrechen</translation>
     </message>
     <message>
-        <source>Stops what is going on, and keeps what was found (Escape)</source>
-        <translation>Bricht ab, was gerade läuft, und behält, was gefunden wurde (Escape)</translation>
-    </message>
-    <message>
         <source>Nothing is going on that could be stopped</source>
         <translation>Es läuft nichts, was abgebrochen werden könnte</translation>
     </message>

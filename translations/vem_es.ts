@@ -1888,10 +1888,6 @@ Se puede cambiar para una sesión concreta.</translation>
         <translation>Detener</translation>
     </message>
     <message>
-        <source>Stops what is going on, and keeps what was found (Escape)</source>
-        <translation>Detiene lo que está en curso y conserva lo encontrado (Escape)</translation>
-    </message>
-    <message>
         <source>Nothing is going on that could be stopped</source>
         <translation>No hay nada en curso que se pueda detener</translation>
     </message>

@@ -1888,10 +1888,6 @@ Peut être modifié pour une session donnée.</translation>
         <translation>Arrêter</translation>
     </message>
     <message>
-        <source>Stops what is going on, and keeps what was found (Escape)</source>
-        <translation>Arrête ce qui est en cours et garde ce qui a été trouvé (Échap)</translation>
-    </message>
-    <message>
         <source>Nothing is going on that could be stopped</source>
         <translation>Rien n&apos;est en cours qui puisse être arrêté</translation>
     </message>

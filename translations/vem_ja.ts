@@ -1888,10 +1888,6 @@ It can be overridden for a particular session.</source>
         <translation>中止</translation>
     </message>
     <message>
-        <source>Stops what is going on, and keeps what was found (Escape)</source>
-        <translation>実行中の処理を中止し、見つかったものは残します (Escape)</translation>
-    </message>
-    <message>
         <source>Nothing is going on that could be stopped</source>
         <translation>中止できる処理は実行されていません</translation>
     </message>

@@ -1888,10 +1888,6 @@ It can be overridden for a particular session.</source>
         <translation>停止</translation>
     </message>
     <message>
-        <source>Stops what is going on, and keeps what was found (Escape)</source>
-        <translation>停止正在进行的操作，保留已找到的内容 (Escape)</translation>
-    </message>
-    <message>
         <source>Nothing is going on that could be stopped</source>
         <translation>没有可以停止的操作</translation>
     </message>

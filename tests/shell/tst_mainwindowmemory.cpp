@@ -43,6 +43,13 @@ private Q_SLOTS:
             earlier.show();
             UserSettings::setValue(QStringLiteral("window/geometry"), earlier.saveGeometry());
         }
+        QVariant const whole = UserSettings::value(QStringLiteral("window/geometry"), QVariant());
+        {
+            MainWindow closedAtOnce(nullptr);
+            closedAtOnce.close();
+        }
+        // A window without its table is small, and not how anybody wants it.
+        QCOMPARE(UserSettings::value(QStringLiteral("window/geometry"), QVariant()), whole);
         makeWindow();
         QVERIFY(openWindow());
     }
