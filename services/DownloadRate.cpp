@@ -10,20 +10,26 @@ namespace
 constexpr qint64 window = 5000;   ///< a rate of that long is steady, and follows a change soon enough
 constexpr qint64 shortest = 1000; ///< of less, a rate jumps
 constexpr double milliseconds = 1000;
+constexpr long long most = 1LL << 60; ///< bytes; whoever tells of more makes it up
+
+long long plausible(long long bytes)
+{
+    return std::clamp(bytes, 0LL, most);
+}
 
 } // namespace
 
 void DownloadRate::startFile(long long size, qint64 now)
 {
-    before += fileSize;
-    fileSize = std::max(0LL, size);
+    before = plausible(before + fileSize);
+    fileSize = plausible(size);
     inFile = 0;
     add(now);
 }
 
 void DownloadRate::update(long long bytes, qint64 now)
 {
-    inFile = std::max(0LL, bytes);
+    inFile = plausible(bytes);
     add(now);
 }
 
@@ -53,7 +59,7 @@ std::optional<double> DownloadRate::bytesPerSecond() const
 std::optional<long long> DownloadRate::secondsLeft(long long total) const
 {
     std::optional<double> const rate = bytesPerSecond();
-    long long const left = total - before - inFile;
+    long long const left = plausible(total) - before - inFile;
     if (!rate || *rate < 1 || left <= 0) {
         return {};
     }

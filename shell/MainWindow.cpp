@@ -255,11 +255,12 @@ void MainWindow::editRepositories(bool forceReposChanged)
     repoEditorDialog->exec();
 }
 
-void MainWindow::clean(bool (YumIO::*cache)())
+template <typename Clean>
+void MainWindow::cleaning(Clean const& clean)
 {
-    whileBusy([this, cache] {
+    whileBusy([&] {
         // What is stopped leaves the table as it is.
-        if ((yumIO->*cache)() || !yumIO->stop.stopped()) {
+        if (clean() || !yumIO->stop.stopped()) {
             rebuild();
         }
     });
@@ -267,7 +268,7 @@ void MainWindow::clean(bool (YumIO::*cache)())
 
 void MainWindow::cleanHeaders()
 {
-    clean(&YumIO::cleanHeaders);
+    cleaning([this] { return yumIO->cleanHeaders(); });
 }
 
 void MainWindow::cleanPackages()
@@ -277,17 +278,17 @@ void MainWindow::cleanPackages()
 
 void MainWindow::cleanXmlMetadata()
 {
-    clean(&YumIO::cleanXmlMetadata);
+    cleaning([this] { return yumIO->cleanXmlMetadata(); });
 }
 
 void MainWindow::cleanPickledCache()
 {
-    clean(&YumIO::cleanPickledCache);
+    cleaning([this] { return yumIO->cleanPickledCache(); });
 }
 
 void MainWindow::cleanAll()
 {
-    clean(&YumIO::cleanAll);
+    cleaning([this] { return yumIO->cleanAll(); });
 }
 
 void MainWindow::manualHtml()

@@ -127,8 +127,9 @@ private:
     /// user has stopped that: no search is to be done then.
     bool prepareFilterSearch(bool hasExpression);
     bool loadExtraData();
-    /// Empties a cache and reads everything anew.
-    void clean(bool (YumIO::*cache)());
+    /// Runs a job that empties a cache, and reads everything anew.
+    template <typename Clean>
+    void cleaning(Clean const& clean);
     void rebuild();
     /// Behind a rebuild; tells of those that have lost their rows.
     void restore(PackageTable::Marks const& marks);

@@ -7,9 +7,33 @@
 #include <QDateTime>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPainter>
 #include <QStyle>
 #include <algorithm>
 #include <cstdlib>
+
+namespace
+{
+
+/// Gives way to its neighbours: the window keeps its width, whatever stands here.
+class YieldingLabel final : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+    [[nodiscard]] QSize minimumSizeHint() const override { return {0, QLabel::minimumSizeHint().height()}; }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        style()->drawItemText(
+            &painter, contentsRect(), static_cast<int>(alignment()), palette(), isEnabled(),
+            fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width()), foregroundRole());
+    }
+};
+
+} // namespace
 
 StatusLine::StatusLine(QWidget* parent)
     : QWidget(parent),
@@ -19,7 +43,7 @@ StatusLine::StatusLine(QWidget* parent)
       sign(new QLabel(this)),
       warning(new QLabel(this)),
       incomplete(makeLink()),
-      age(new QLabel(this)),
+      age(new YieldingLabel(this)),
       looking(new QLabel(tr("Looking only"), this))
 {
     auto* const line = new QHBoxLayout(this);

@@ -2,6 +2,7 @@
 #include "services/DownloadRate.h"
 
 #include <QTest>
+#include <limits>
 
 class TestDownloadRate final : public QObject
 {
@@ -14,7 +15,20 @@ private Q_SLOTS:
     void standstillHasNoTimeLeft();
     void timeLeftIsOfAllThatIsToCome();
     void fileThatBeginsAnewGivesNoNegativeRate();
+    void sizesThatNobodyHasDoNoHarm();
 };
+
+void TestDownloadRate::sizesThatNobodyHasDoNoHarm()
+{
+    constexpr long long huge = std::numeric_limits<long long>::max();
+    DownloadRate rate;
+    for (int file = 0; file < 20; ++file) {
+        rate.startFile(huge, file * 1000);
+        rate.update(file % 2 ? huge : -huge, file * 1000 + 500);
+    }
+    QVERIFY(rate.bytesPerSecond().value() >= 0);
+    QVERIFY(rate.secondsLeft(huge).value_or(0) >= 0);
+}
 
 void TestDownloadRate::firstSecondTellsNothing()
 {
