@@ -436,7 +436,7 @@ protected:
     bool addUpdatePair(Package::Entry const& entry, PyObject* updates);
     /// Shows the dialog, with details where the script has told them.
     [[nodiscard]] bool askUser();
-    bool takeDetails(PyObject* rows);
+    bool takeTransactionDetails(PyObject* rows);
     /// What has changed between the versions, a text for each row of the details, with the changelogs loaded
     /// if need be; empty after a report. While the user is asked, on the thread of the apply.
     QStringList newerChanges();

@@ -69,7 +69,7 @@ PyObject* YumIO::transactionDetails(PyObject*, PyObject* args)
         return nullptr;
     }
     run.details = TransactionDetails();
-    if (!takeDetails(rows)) {
+    if (!takeTransactionDetails(rows)) {
         run.details = TransactionDetails();
         return nullptr;
     }
@@ -81,7 +81,7 @@ PyObject* YumIO::transactionDetails(PyObject*, PyObject* args)
     Py_RETURN_NONE;
 }
 
-bool YumIO::takeDetails(PyObject* rows)
+bool YumIO::takeTransactionDetails(PyObject* rows)
 {
     PyRef const sequence = PyRef::steal(PySequence_Fast(rows, "the rows are no sequence"));
     if (!sequence) {

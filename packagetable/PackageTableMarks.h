@@ -3,7 +3,6 @@
 
 #include "engine/Package.h"
 
-#include <QString>
 #include <map>
 #include <optional>
 #include <tuple>
@@ -41,7 +40,7 @@ public:
     [[nodiscard]] qsizetype restore(YumIO const& yumIO, Model& model) const;
 
 private:
-    using Row = std::tuple<Package::Kind, Package::State, QString, QString, QString>;
+    using Row = std::tuple<Package::Kind, Package::State, Package::Text, Package::Text, Package::Text>;
     static Row rowOf(Package::Entry const& entry);
 
     std::map<Row, Package::Action> marks;
