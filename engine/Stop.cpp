@@ -86,13 +86,13 @@ void Stop::wake()
     }
 }
 
-Stop::Job::Job(Stop& stopOfEngine)
+Stop::Job::Job(Stop& stopOfEngine, HeededBy whom)
     : stop(stopOfEngine)
 {
     {
         QMutexLocker const locker(&stop.mutex);
         stop.forget();
-        stop.now = stop.heeded ? State::Possible : State::Idle;
+        stop.now = stop.heeded || whom == HeededBy::Caller ? State::Possible : State::Idle;
     }
     Q_EMIT stop.changed();
 }

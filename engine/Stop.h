@@ -30,11 +30,18 @@ public:
         TooLate   ///< rpm has begun to change the system
     };
 
+    /// Who looks whether a job is to be given up.
+    enum class HeededBy
+    {
+        Script,
+        Caller
+    };
+
     /// A job that can be stopped, for the guard's life. GUI thread.
     class Job
     {
     public:
-        explicit Job(Stop& stop);
+        explicit Job(Stop& stop, HeededBy whom = HeededBy::Script);
         ~Job();
         Job(Job const&) = delete;
         Job& operator=(Job const&) = delete;
@@ -70,7 +77,7 @@ public:
 
     /// What can be read once a stop is wanted; -1 where the system gives none.
     [[nodiscard]] int descriptor() const { return wish.get(); }
-    /// Whether the script looks at the descriptor: without that no job can be stopped. GUI thread.
+    /// Whether the script looks at the descriptor: without that no job of its can be stopped. GUI thread.
     void setHeeded(bool heeds) { heeded = heeds; }
 
 Q_SIGNALS:

@@ -7,11 +7,8 @@
 #include "packagetable/PackageTableRowWalk.h"
 #include "widgets/HAbstractTableModel.h"
 
-#include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QRegularExpression>
 #include <algorithm>
-#include <array>
 #include <atomic>
 #include <string_view>
 #include <utility>
@@ -20,45 +17,7 @@
 namespace PackageTable
 {
 
-namespace
-{
-
-using Field = QString (*)(YumIO&, Package::Entry const&);
-
-template <auto Accessor>
-QString field(YumIO& yumIO, Package::Entry const& entry)
-{
-    return (yumIO.*Accessor)(entry);
-}
-
-/// How long rows are tested before events are served.
-constexpr int sliceMilliseconds = 15;
-
-// What Search looks at, the dearest last: most fields come through the interpreter, the last two of a
-// package need extra data.
-constexpr std::array<Field, 8> groupFields{
-    field<&YumIO::getName>,
-    field<&YumIO::getRequiredGroups>,
-    field<&YumIO::getDefaultMetaPkgs>,
-    field<&YumIO::getOptionalMetaPkgs>,
-    field<&YumIO::getMandatoryPkgs>,
-    field<&YumIO::getDefaultPkgs>,
-    field<&YumIO::getOptionalPkgs>,
-    field<&YumIO::getConditionalPkgs>,
-};
-
-constexpr std::array<Field, 23> packageFields{
-    field<&YumIO::getName>,        field<&YumIO::getVerRel>,      field<&YumIO::getRepo>,
-    field<&YumIO::getArch>,        field<&YumIO::getSize>,        field<&YumIO::getSummary>,
-    field<&YumIO::getDescription>, field<&YumIO::getGroup>,       field<&YumIO::getVendor>,
-    field<&YumIO::getBuildTime>,   field<&YumIO::getInstallTime>, field<&YumIO::getBinaryRpm>,
-    field<&YumIO::getSourceRpm>,   field<&YumIO::getLicense>,     field<&YumIO::getPackager>,
-    field<&YumIO::getUrl>,         field<&YumIO::getRelocations>, field<&YumIO::getProvides>,
-    field<&YumIO::getRequires>,    field<&YumIO::getConflicts>,   field<&YumIO::getObsoletes>,
-    field<&YumIO::getFiles>,       field<&YumIO::getChangeLog>,
-};
-
-bool passesStateAndKind(Package::Entry const& entry, SortFilterProxyModel::Conditions const& wanted)
+bool SortFilterProxyModel::passesStateAndKind(Package::Entry const& entry, Conditions const& wanted)
 {
     if (wanted.stateFilter == Marked) {
         return entry.action != Package::None;
@@ -79,8 +38,6 @@ bool passesStateAndKind(Package::Entry const& entry, SortFilterProxyModel::Condi
     }
     return true;
 }
-
-} // namespace
 
 SortFilterProxyModel::SortFilterProxyModel(
     StateFilter initialStateFilter, bool showGroups, YumIO* engine, QObject* parent)
@@ -150,51 +107,6 @@ void SortFilterProxyModel::setGroupsFilter(bool showGroups)
     }
 }
 
-void SortFilterProxyModel::forgetVerdicts()
-{
-    acceptCache.clear();
-    searchAllRows();
-    clear();
-}
-
-bool SortFilterProxyModel::isSearch() const
-{
-    return mode == Search && !present.expression.isEmpty();
-}
-
-// A search takes seconds. It is done before the reset, while the table stands whole, so that the window can
-// be painted in between; the reset then finds every verdict.
-void SortFilterProxyModel::searchAllRows()
-{
-    if (!filter || !isSearch()) {
-        return;
-    }
-    // In the order in which they were collected, which is nearly that of the package library's memory: what
-    // it keeps in compressed pages is unpacked once and not for each package.
-    std::vector<std::pair<quint64, int>> rows;
-    rows.reserve(static_cast<std::size_t>(yumIO->count()));
-    for (int row = 0; row < yumIO->count(); ++row) {
-        rows.emplace_back((*yumIO)[row]->serial, row);
-    }
-    std::ranges::sort(rows);
-
-    QElapsedTimer slice;
-    slice.start();
-    bool served = false;
-    for (auto const& [serial, row] : rows) {
-        static_cast<void>(filterAcceptsRow(row, QModelIndex()));
-        if (slice.elapsed() >= sliceMilliseconds) {
-            QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-            served = true;
-            slice.restart();
-        }
-    }
-    if (served) {
-        // What the user has tried meanwhile meets the controls while they are still disabled.
-        QCoreApplication::processEvents();
-    }
-}
-
 void SortFilterProxyModel::setFilter(bool enable)
 {
     if (enable != filter) {
@@ -243,9 +155,13 @@ void SortFilterProxyModel::setFilterRegExp(QString const& pattern)
                   ? QRegularExpression::CaseInsensitiveOption
                   : QRegularExpression::NoPatternOption);
     if (expression != filterRegExp()) {
-        acceptCache.clear();
+        clearVerdicts();
     }
     searchAllRows();
+    if (present.expression != text) {
+        // An event has led to another search.
+        return;
+    }
     HSortFilterProxyModel::setFilterRegExp(expression);
 
     // Whatever a search costs is paid here, where the caller shows that the program is busy, and not
@@ -265,12 +181,13 @@ bool SortFilterProxyModel::filterAcceptsRow(int sourceRow, QModelIndex const& so
     if (sourceRow < 0 || sourceRow >= rows) {
         return false;
     }
-    if (acceptCache.size() != static_cast<std::size_t>(rows) || testedList != yumIO->listSerial()) {
-        acceptCache.assign(static_cast<std::size_t>(rows), Verdict::None);
-        testedList = yumIO->listSerial();
-    }
+    prepareVerdicts();
     Verdict& verdict = acceptCache[static_cast<std::size_t>(sourceRow)];
     if (verdict == Verdict::None && isSearch()) {
+        if (searchesGoing > 0 || cutOff) {
+            // What hasn't been found doesn't show.
+            return false;
+        }
         bool const accepted = acceptRow((*yumIO)[sourceRow], sourceRow, sourceParent);
         verdict = accepted ? Verdict::Accepted : Verdict::Rejected;
     } else if (verdict == Verdict::None) {
@@ -384,20 +301,11 @@ bool SortFilterProxyModel::acceptRow(Package::Entry* entry, int sourceRow, QMode
     return regex.matches(texts);
 }
 
-bool SortFilterProxyModel::matchesAnyField(Package::Entry const& entry) const
-{
-    // The table may be in the middle of a reset, so no field is worth a job: whoever sets up a search loads
-    // the extra data before.
-    YumIO::JobHold const hold(*yumIO);
-    auto const matchesField = [&](Field field) { return matches(field(*yumIO, entry)); };
-    return entry.kind == Package::Group ? std::ranges::any_of(groupFields, matchesField)
-                                        : std::ranges::any_of(packageFields, matchesField);
-}
-
 void SortFilterProxyModel::sourceWasRefilled()
 {
     ranks.forget();
     comparedWithoutRanks = 0;
+    searchTexts.forgetUnless(yumIO->listSerial());
 }
 
 // What the cells' values would give, read from the records or from ranks: sorting 66,000 rows asks a million

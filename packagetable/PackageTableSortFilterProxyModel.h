@@ -4,6 +4,7 @@
 #include "engine/Package.h"
 #include "packagetable/PackageTable.h"
 #include "packagetable/PackageTableRowRanks.h"
+#include "packagetable/PackageTableSearchTexts.h"
 #include "packagetable/PosixRegex.h"
 #include "widgets/HSortFilterProxyModel.h"
 
@@ -20,8 +21,10 @@ namespace PackageTable
 /// Search, testing a row takes the interpreter lock.
 ///
 /// Each operation that changes what shows resets the table, so that selection and current index are gone,
-/// and sorts it as before. None of them touches the marks. In mode Search they test all rows before the
-/// reset, and serve events in between: the caller sees to it that the user can't start anything meanwhile.
+/// and sorts it as before. None of them touches the marks. In mode Search they test all rows before, and
+/// serve events in between: the caller sees to it that the user can't start anything meanwhile. A search that
+/// takes longer shows from time to time what it has found, and can be stopped (`Stop`): then only what it has
+/// found shows, and the same expression, given again, goes on with the rest.
 class SortFilterProxyModel final : public HSortFilterProxyModel
 {
     Q_OBJECT
@@ -53,6 +56,8 @@ public:
     /// Whether letters have to be of the same case as in the expression, as they have at first. The present
     /// expression stays and is tried anew.
     void setCaseSensitivity(Qt::CaseSensitivity sensitivity);
+    /// Whether the last search was stopped before it had tested all rows.
+    [[nodiscard]] bool searchWasStopped() const { return cutOff; }
     /// What is left of an expression without what is redundant at its ends.
     [[nodiscard]] static QString essentialPart(QString const& pattern);
 
@@ -95,10 +100,22 @@ private:
     template <typename Judge>
     void testShownTexts(Conditions const& wanted, Judge const& judge) const;
     void takeShownTexts(int row, QByteArray& line) const;
+    static bool passesStateAndKind(Package::Entry const& entry, Conditions const& wanted);
     bool matchesAnyField(Package::Entry const& entry) const;
+    void prepareVerdicts() const;
+    void clearVerdicts();
     void forgetVerdicts();
+
+    // The search.
+    struct SearchRun;
     bool isSearch() const;
     void searchAllRows();
+    void searchKept(SearchRun& run);
+    void searchUnread(SearchRun& run);
+    void readTheRest(SearchRun& run);
+    bool goesOn(SearchRun& run);
+    void giveVerdict(SearchRun& run, int row, bool accepted);
+
     void testShownTexts() const;
     void expectLongSort() const;
     bool isLower(int left, int leftColumn, int right, int rightColumn) const;
@@ -112,6 +129,10 @@ private:
     /// The list whose rows `acceptCache` is about: rows get other entries with each rebuild.
     mutable quint64 testedList = 0;
     PosixRegex regex;
+    SearchTexts searchTexts;
+    quint64 searchesBegun = 0; ///< the last one counts, one that an event has begun another above ends
+    int searchesGoing = 0;
+    mutable bool cutOff = false; ///< rows without a verdict don't show
     mutable RowRanks ranks;
     mutable int comparedWithoutRanks = 0;
 };

@@ -86,6 +86,11 @@ QString View::expression() const
     return proxy->conditions().expression;
 }
 
+bool View::searchWasStopped() const
+{
+    return proxy->searchWasStopped();
+}
+
 void View::filtersearch(QString const& pattern)
 {
     proxy->setFilterRegExp(pattern);

@@ -43,6 +43,8 @@ public:
     /// Its essential part.
     [[nodiscard]] QString expression() const;
     void filtersearch(QString const& pattern);
+    /// Whether the last search was stopped before it had tested all rows.
+    [[nodiscard]] bool searchWasStopped() const;
     void setCaseSensitivity(Qt::CaseSensitivity sensitivity);
 
     /// How many rows would show in mode Filter, with the present expression and otherwise as told.

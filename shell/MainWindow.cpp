@@ -149,6 +149,13 @@ void MainWindow::whileBusy(Step const& step)
     setReady(true);
 }
 
+template <typename Step>
+void MainWindow::whileSearching(bool searches, Step const& step)
+{
+    searches ? whileBusy(step) : step();
+    tellIfCutOff();
+}
+
 void MainWindow::rebuild()
 {
     yumIO->clear();
@@ -192,6 +199,9 @@ void MainWindow::restore(PackageTable::Marks const& marks)
     showMarks();
     statusLine->setWarning(
         lost > 0 ? tr("Actions that are gone with their rows: %1").arg(lost) : regExpEdit->fault());
+    if (lost == 0) {
+        tellIfCutOff();
+    }
 }
 
 void MainWindow::reposChanged()
@@ -354,7 +364,7 @@ void MainWindow::filtersearch()
         }
     };
     regExpEdit->taken();
-    isSearching() ? whileBusy(step) : step();
+    whileSearching(isSearching(), step);
 }
 
 void MainWindow::followTyping()
@@ -370,7 +380,7 @@ void MainWindow::matchesCaseChanged(bool matches)
     auto const step = [this, matches] {
         view->setCaseSensitivity(matches ? Qt::CaseSensitive : Qt::CaseInsensitive);
     };
-    isSearching() ? whileBusy(step) : step();
+    whileSearching(isSearching(), step);
 }
 
 qsizetype MainWindow::showMarks()
@@ -450,7 +460,7 @@ void MainWindow::modeChanged(int mode)
         }
         view->setMode(static_cast<PackageTable::Mode>(mode));
     };
-    mode == 1 ? whileBusy(step) : step();
+    whileSearching(mode == 1, step);
 }
 
 void MainWindow::collectedExtraData()
@@ -473,13 +483,13 @@ void MainWindow::stateFilterChanged(int index)
     auto const step = [this, index] {
         view->stateFilterChanged(static_cast<PackageTable::StateFilter>(index));
     };
-    isSearching() ? whileBusy(step) : step();
+    whileSearching(isSearching(), step);
 }
 
 void MainWindow::groupsFilterChanged(int state)
 {
     auto const step = [this, state] { view->groupsFilterChanged(state != 0); };
-    isSearching() ? whileBusy(step) : step();
+    whileSearching(isSearching(), step);
 }
 
 void MainWindow::setSelected()

@@ -140,6 +140,10 @@ private:
     [[nodiscard]] bool isSearching() const;
     template <typename Step>
     void whileBusy(Step const& step);
+    /// The same for a step that may search, and says whether it came to its end.
+    template <typename Step>
+    void whileSearching(bool searches, Step const& step);
+    void tellIfCutOff();
     /// Runs a job that applies something, and fills the table anew behind it.
     template <typename Job>
     void applying(Job const& job);

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-// Giving up what is going on: by the button, and by closing the window.
+// Giving up what is going on: by the button, and by closing the window; and what is told of that.
 #include "shell/MainWindow.h"
 
 #include "engine/YumIO.h"
+#include "packagetable/PackageTableExpressionEdit.h"
+#include "packagetable/PackageTableView.h"
+#include "shell/StatusLine.h"
 #include "shell/WindowMemory.h"
 
 #include <QCloseEvent>
@@ -15,10 +18,21 @@ void MainWindow::stop()
     }
 }
 
+void MainWindow::tellIfCutOff()
+{
+    if (view->searchWasStopped()) {
+        statusLine->setWarning(tr("The search was stopped: only what it had found by then is shown"));
+    } else if (isSearching()) {
+        statusLine->setWarning(regExpEdit->fault());
+    }
+}
+
 void MainWindow::closeEvent(QCloseEvent* event)
 {
     memory->keep();
     if (!yumIO || !yumIO->jobRuns()) {
+        // A search goes on otherwise, which nobody sees.
+        stop();
         QMainWindow::closeEvent(event);
         return;
     }

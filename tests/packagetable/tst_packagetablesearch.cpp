@@ -55,7 +55,6 @@ class InterpretedEngine : public TestEngine
 public:
     InterpretedEngine()
     {
-        fileListsCollected = otherDataCollected = true;
         if (Python::initialize()) {
             PyGILStateWrapper const lock(true);
             py(recorder);
@@ -63,6 +62,9 @@ public:
     }
 
     ~InterpretedEngine() override { dropAll(); }
+
+    /// Says that all there is to be searched has been loaded, so that it may be kept.
+    void haveExtraData(bool have = true) { fileListsCollected = otherDataCollected = have; }
 
     void dropAll()
     {
@@ -132,6 +134,7 @@ private Q_SLOTS:
         proxy->setSourceModel(model.get());
         proxy->setMode(PackageTable::Search);
         engine->reportVersion("4.14.0");
+        engine->haveExtraData(false);
     }
 
     void cleanup()
@@ -260,14 +263,19 @@ private Q_SLOTS:
     void agreesWithTheRuleForEachRow_data()
     {
         QTest::addColumn<QString>("pattern");
-        for (char const* const pattern : {"wanted", "^name$", "matches nothing", "w.nted$", "(", ""}) {
-            QTest::newRow(pattern) << QString(pattern);
+        QTest::addColumn<bool>("kept");
+        for (char const* const pattern :
+             {"wanted", "^name$", "matches nothing", "w.nted$", "^$", "^w[a-n]+ted$", "(", ""}) {
+            QTest::addRow("%s", pattern) << QString(pattern) << false;
+            QTest::addRow("%s, of kept texts", pattern) << QString(pattern) << true;
         }
     }
 
     void agreesWithTheRuleForEachRow()
     {
         QFETCH(QString const, pattern);
+        QFETCH(bool const, kept);
+        engine->haveExtraData(kept);
         addSlowRows(12);
         engine->addObject("Names(others=[], optional_packages=['wanted'])", Package::Group);
         engine->entries[4]->state = Package::OutOfDate;
@@ -297,7 +305,7 @@ private Q_SLOTS:
         check();
     }
 
-    void eventsAreServedWhileTheTableStillStandsWhole()
+    void theTableStandsWholeUntilTheFirstResults()
     {
         addSlowRows(60);
         QCOMPARE(proxy->rowCount(), 60);
@@ -306,9 +314,10 @@ private Q_SLOTS:
         QTimer timer;
         connect(&timer, &QTimer::timeout, this, [&] {
             ++ticks;
-            QCOMPARE(resets, 0);
-            QCOMPARE(proxy->rowCount(), 60);
-            QCOMPARE(proxy->index(59, 3).data().toString(), "name");
+            if (resets == 0) {
+                QCOMPARE(proxy->rowCount(), 60);
+                QCOMPARE(proxy->index(59, 3).data().toString(), "name");
+            }
         });
         connect(proxy.get(), &SortFilterProxyModel::modelAboutToBeReset, this, [&] { ++resets; });
         timer.start(0);
@@ -317,6 +326,80 @@ private Q_SLOTS:
         QVERIFY2(ticks >= 5, qPrintable(QString::number(ticks)));
         QVERIFY(resets > 0);
         QCOMPARE(proxy->rowCount(), 20);
+    }
+
+    void whatIsFoundShowsWhileTheSearchGoesOn()
+    {
+        addSlowRows(150);
+        QSet<int> shown;
+        QTimer timer;
+        bool reset = false;
+        connect(proxy.get(), &SortFilterProxyModel::modelReset, this, [&] { reset = true; });
+        connect(&timer, &QTimer::timeout, this, [&] {
+            if (reset) {
+                shown.insert(proxy->rowCount());
+            }
+        });
+        timer.start(0);
+        proxy->setFilterRegExp("wanted");
+        timer.stop();
+        shown.remove(50);
+        QVERIFY(!shown.isEmpty());
+        for (int const rows : std::as_const(shown)) {
+            QVERIFY2(rows > 0 && rows < 50, qPrintable(QString::number(rows)));
+        }
+        QCOMPARE(proxy->rowCount(), 50);
+    }
+
+    void aStoppedSearchKeepsWhatItHasFound_data()
+    {
+        QTest::addColumn<bool>("kept");
+        QTest::newRow("field by field") << false;
+        QTest::newRow("while texts are read to be kept") << true;
+    }
+
+    void aStoppedSearchKeepsWhatItHasFound()
+    {
+        QFETCH(bool const, kept);
+        engine->haveExtraData(kept);
+        addSlowRows(150);
+        QList<Stop::State> states;
+        auto listener = std::make_unique<QObject>();
+        connect(&engine->stop, &Stop::changed, listener.get(), [&] { states += engine->stop.state(); });
+        connect(proxy.get(), &SortFilterProxyModel::modelReset, listener.get(), [&] { engine->stop.want(); });
+        proxy->setFilterRegExp("wanted");
+        QCOMPARE(states, (QList<Stop::State>{Stop::State::Possible, Stop::State::Wanted, Stop::State::Idle}));
+        QVERIFY(proxy->searchWasStopped());
+        int const found = proxy->rowCount();
+        QVERIFY2(found > 0 && found < 50, qPrintable(QString::number(found)));
+        // Whoever wants the rest gives the expression again.
+        listener.reset();
+        proxy->setFilterRegExp("wanted");
+        QVERIFY(!proxy->searchWasStopped());
+        QCOMPARE(proxy->rowCount(), 50);
+    }
+
+    void anotherSearchTakesThePlaceOfTheOneInProgress()
+    {
+        addSlowRows(30);
+        QTimer::singleShot(0, this, [this] { proxy->setFilterRegExp("^summary$"); });
+        proxy->setFilterRegExp("wanted");
+        QCOMPARE(proxy->conditions().expression, "^summary$");
+        QCOMPARE(proxy->rowCount(), 30);
+        proxy->setFilterRegExp("wanted");
+        QCOMPARE(proxy->rowCount(), 10);
+    }
+
+    void aSearchEndsWithItsRows()
+    {
+        addSlowRows(30);
+        QTimer::singleShot(0, this, [this] {
+            engine->dropAll();
+            model->reset();
+        });
+        proxy->setFilterRegExp("wanted");
+        QCOMPARE(proxy->rowCount(), 0);
+        QVERIFY(!proxy->searchWasStopped());
     }
 
     // The reset would test rows without serving events, had it to.
@@ -391,6 +474,69 @@ private Q_SLOTS:
         QCOMPARE(engine->takeAsked(), QStringList());
         proxy->setFilterRegExp("matches nothing either");
         QVERIFY(engine->takeAsked().contains("description"));
+    }
+
+    void textsAreReadOnceForEachList()
+    {
+        engine->haveExtraData();
+        engine->addObject("Recorder(simple={'url': 'wanted'})");
+        engine->addObject("Recorder()").state = Package::OutOfDate;
+        engine->addObject("Names(others=[], optional_packages=['wanted'])", Package::Group);
+        model->reset();
+        // Rows that don't show are read, too.
+        proxy->setStateFilter(PackageTable::Updatable);
+        proxy->setFilterRegExp("matches nothing");
+        QStringList const asked = engine->takeAsked();
+        QCOMPARE(asked.count("description"), 2);
+        QCOMPARE(asked.count("url"), 2);
+        QVERIFY(asked.contains("optional_packages"));
+        proxy->setStateFilter(PackageTable::All);
+        proxy->setFilterRegExp("wanted");
+        QCOMPARE(proxy->rowCount(), 2);
+        proxy->setCaseSensitivity(Qt::CaseInsensitive);
+        proxy->setFilterRegExp("WANTED");
+        QCOMPARE(proxy->rowCount(), 2);
+        proxy->setFilterRegExp("^$");
+        QCOMPARE(proxy->rowCount(), 3);
+        QCOMPARE(engine->takeAsked(), QStringList());
+
+        engine->dropAll();
+        engine->addObject("Recorder(simple={'url': 'wanted'})");
+        model->reset();
+        proxy->setFilterRegExp("wanted");
+        QCOMPARE(proxy->rowCount(), 1);
+        QVERIFY(engine->takeAsked().contains("url"));
+    }
+
+    void textsThatLackTheExtraDataAreNotKept()
+    {
+        engine->addObject("Recorder()");
+        model->reset();
+        proxy->setFilterRegExp("matches nothing");
+        engine->takeAsked();
+        engine->haveExtraData();
+        proxy->setFilterRegExp("matches nothing either");
+        QVERIFY(engine->takeAsked().contains("files"));
+        proxy->setFilterRegExp("matches nothing at all");
+        QCOMPARE(engine->takeAsked(), QStringList());
+    }
+
+    // More than is read from the file at a time, and beside each other.
+    void longAndManyTextsAreSearched()
+    {
+        engine->haveExtraData();
+        for (int row = 0; row < 5000; ++row) {
+            engine->add(QString("name%1").arg(row), Package::Available);
+        }
+        engine->addObject("Recorder(simple={'description': 'lo' + 'o' * 700000 + 'ng', 'url': 'wanted'})");
+        engine->add(QString(700000, 'x'), Package::Available).summary = "wanted";
+        model->reset();
+        proxy->setFilterRegExp("matches nothing");
+        QCOMPARE(proxy->rowCount(), 0);
+        proxy->setFilterRegExp("^(wanted|name49[0-9]*)$");
+        QCOMPARE(proxy->rowCount(), 2 + 1 + 10 + 100);
+        proxy->setFilterRegExp("ong$");
+        QCOMPARE(proxy->rowCount(), 1);
     }
 };
 

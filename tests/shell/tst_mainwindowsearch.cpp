@@ -6,10 +6,12 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <algorithm>
 
 class MainWindowSearchTest : public ShellTest
 {
@@ -36,16 +38,23 @@ private Q_SLOTS:
                                   "kind = type(next(iter(standin.world.updates)))\n"
                                   "original = kind.returnSimple\n"
                                   "asked = []\n"
+                                  "delay = 0.004\n"
                                   "def slowly(self, key):\n"
                                   "    asked.append(key)\n"
-                                  "    time.sleep(0.004)\n"
+                                  "    time.sleep(delay)\n"
                                   "    return original(self, key)\n"
                                   "kind.returnSimple = slowly\n")),
             QString());
         window->refresh();
     }
 
-    void init() { script(QStringLiteral("asked.clear()")); }
+    // A new collection: what a search has read it keeps.
+    void init()
+    {
+        search(QStringLiteral(".*"));
+        window->refresh();
+        script(QStringLiteral("asked.clear()"));
+    }
 
     void cleanupTestCase() { delete window; }
 
@@ -106,6 +115,41 @@ private Q_SLOTS:
         QVERIFY(pressed);
         QCoreApplication::processEvents();
         QCOMPARE(names(), QStringList());
+    }
+
+    void escapeStopsItAndWhatItHasFoundIsShown()
+    {
+        QStringList const all = names();
+        script(QStringLiteral("delay = 0.02"));
+        QPushButton* const stop = button(QStringLiteral("Stop"));
+        bool pressed = false;
+        QTimer timer;
+        connect(&timer, &QTimer::timeout, this, [&] {
+            if (!pressed && !names().isEmpty() && names().size() < all.size()) {
+                pressed = true;
+                QVERIFY(stop->isEnabled());
+                QTest::keyClick(window, Qt::Key_Escape);
+            }
+        });
+        timer.start(0);
+        search(QStringLiteral("[a-z]"));
+        timer.stop();
+        script(QStringLiteral("delay = 0.004"));
+        QVERIFY(pressed);
+        QVERIFY(!stop->isEnabled());
+        QVERIFY(table()->isEnabled());
+        QVERIFY(!names().isEmpty() && names().size() < all.size());
+        QString const told =
+            QStringLiteral("The search was stopped: only what it had found by then is shown");
+        auto const isTold = [&] {
+            QList<QLabel*> const labels = window->findChildren<QLabel*>();
+            return std::ranges::any_of(labels, [&](QLabel* label) { return label->text() == told; });
+        };
+        QVERIFY(isTold());
+        // Given again, it goes on with the rest.
+        search(QStringLiteral("[a-z]"));
+        QCOMPARE(names(), all);
+        QVERIFY(!isTold());
     }
 
     // As the window manager closes it.
