@@ -97,6 +97,7 @@ ROWS = (
     Row("widths", "columns whose width is not that of a walk over all cells", "widths", 0, "", 0),
     Row("marks", "set marks on all or all out-of-date rows, &Clear Actions", "set and clear marks", 30, "ms", 0),
     Row("search", "search through all 23 fields, nothing matching", "search", 0.5, "s", 2),
+    Row("first", "the first search: loads the extra data, and reads all fields of all rows", "first search", 6, "s", 1),
     Row("gap", "longest time without serving events: start and jobs", "longest freeze", 50, "ms", 0),
     Row("describe", "longest freeze at the first &Describe of a package of a repository", "first Describe", 50, "ms", 0),
     Row("stop", "Stop during a download from a server that is silent, to the ready window", "stop", 1, "s", 2),
