@@ -4,13 +4,18 @@
 #include "engine/YumIO.h"
 #include "packagetable/PackageTableDescribeInstanceArea.h"
 #include "widgets/Fonts.h"
+#include "widgets/HScrollArea.h"
 #include "widgets/HSeparator.h"
 #include "widgets/Sizing.h"
 
+#include <QApplication>
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <utility>
 
 namespace PackageTable::Describe
@@ -78,6 +83,36 @@ void Dialog::setVisible(bool visible)
         dropContent();
     }
     QDialog::setVisible(visible);
+}
+
+// Lists that go on below the dialog's edge are read without a mouse, wherever the keyboard is.
+void Dialog::keyPressEvent(QKeyEvent* event)
+{
+    if (areas.isEmpty()) {
+        QDialog::keyPressEvent(event);
+        return;
+    }
+    auto const holdsFocus = [](Instance::Area const* area) {
+        return area->scroll()->isAncestorOf(QApplication::focusWidget());
+    };
+    auto const found = std::ranges::find_if(areas, holdsFocus);
+    QScrollBar* const bar = (found == areas.end() ? areas.first() : *found)->scroll()->verticalScrollBar();
+    switch (event->key()) {
+    case Qt::Key_PageUp:
+        bar->triggerAction(QScrollBar::SliderPageStepSub);
+        break;
+    case Qt::Key_PageDown:
+        bar->triggerAction(QScrollBar::SliderPageStepAdd);
+        break;
+    case Qt::Key_Home:
+        bar->triggerAction(QScrollBar::SliderToMinimum);
+        break;
+    case Qt::Key_End:
+        bar->triggerAction(QScrollBar::SliderToMaximum);
+        break;
+    default:
+        QDialog::keyPressEvent(event);
+    }
 }
 
 void Dialog::setReady(bool isReady)

@@ -4,6 +4,8 @@
 #include "engine/YumIO.h"
 #include "packagetable/PackageTableDescribeDialog.h"
 #include "packagetable/PackageTableDescribeInstanceRepoDialog.h"
+#include "packagetable/PackageTableDescribeValue.h"
+#include "repo/RepoBrowse.h"
 #include "repo/YumConfIO.h"
 #include "widgets/Fonts.h"
 #include "widgets/HScrollArea.h"
@@ -21,7 +23,7 @@ namespace PackageTable::Describe::Instance
 namespace
 {
 
-using Value = QString (*)(YumIO&, Package::Entry const&);
+using Reader = QString (*)(YumIO&, Package::Entry const&);
 
 template <auto Accessor>
 QString value(YumIO& yumIO, Package::Entry const& entry)
@@ -32,7 +34,7 @@ QString value(YumIO& yumIO, Package::Entry const& entry)
 struct Field
 {
     char const* label = nullptr;
-    Value value = nullptr;
+    Reader value = nullptr;
     bool inBrief = false; ///< also shown of an installed version below another entry
 };
 
@@ -112,10 +114,13 @@ Area::Area(
     }
     updateButtons();
 
-    auto* const columns = new QHBoxLayout;
-    columns->addLayout(grid);
-    columns->addStretch(0);
-    container->setLayout(columns);
+    grid->setColumnStretch(valueColumn, 1);
+    auto* const rows = new QVBoxLayout;
+    rows->addLayout(grid);
+    rows->addStretch(1);
+    container->setLayout(rows);
+    // As wide as the dialog, so that long lines wrap there.
+    scrollArea->setWidgetResizable(true);
     scrollArea->setWidget(container);
     layout->addWidget(scrollArea);
 }
@@ -168,7 +173,7 @@ void Area::addPair(int& row, QString const& label, QString const& text)
         return;
     }
     addLabel(row, label);
-    grid->addWidget(makeText(text), row, valueColumn, Qt::AlignLeft | Qt::AlignTop);
+    grid->addWidget(makeValue(text), row, valueColumn, Qt::AlignTop);
     ++row;
 }
 
@@ -189,7 +194,7 @@ Area::Button Area::addPairButton(
     }
     addLabel(row, label);
     // Made in the order in which they stand, which is the order in which they are read out.
-    QLabel* const value = makeText(text);
+    QLabel* const value = makeValue(text);
     Button result{buttonText, makeButton(buttonText), row};
     auto* const cell = new QHBoxLayout;
     cell->addWidget(value, 0, Qt::AlignTop);
@@ -211,6 +216,15 @@ QLabel* Area::makeText(QString const& text)
     label->setTextFormat(Qt::PlainText);
     label->setText(text);
     return label;
+}
+
+QLabel* Area::makeValue(QString const& text)
+{
+    auto* const value = new Value(text, container);
+    connect(value, &QLabel::linkActivated, this, [this](QString const& address) {
+        RepoBrowse::open(dialog, address);
+    });
+    return value;
 }
 
 QPushButton* Area::makeButton(QString const& text)

@@ -43,6 +43,8 @@ public:
         bool full);
     ~Area() override;
 
+    /// Where the keyboard scrolls.
+    [[nodiscard]] HScrollArea* scroll() const { return scrollArea; }
     /// While the engine works the buttons must not start anything.
     void setButtonsEnabled(bool enabled);
 
@@ -73,6 +75,7 @@ private:
 
     void addLabel(int row, QString const& label);
     QLabel* makeText(QString const& text);
+    QLabel* makeValue(QString const& text);
     QPushButton* makeButton(QString const& text);
 
     /// Shows which buttons have to load extra data before.

@@ -27,6 +27,13 @@ QString firstAddress(Repo::Entry const& entry)
                                    : entry.baseurl.section(gap, 0, 0, QString::SectionSkipEmpty);
 }
 
+void start(QWidget* parent, QByteArray address)
+{
+    QByteArray program = QFile::encodeName(Share::absolute(QStringLiteral("webbrowser")));
+    std::array<char*, 3> const arguments{program.data(), address.data(), nullptr};
+    Execute::execute(parent, arguments.data());
+}
+
 } // namespace
 
 void RepoBrowse::browse(QWidget* parent, Repo::Entry const& entry, YumIO* yumIO)
@@ -48,11 +55,13 @@ void RepoBrowse::browse(QWidget* parent, Repo::Entry const& entry, YumIO* yumIO)
             url.replace(u'$' + name, yumIO->getYumVar(name));
     }
 
-    QByteArray program = QFile::encodeName(Share::absolute(QStringLiteral("webbrowser")));
     // The bytes that the file holds.
-    QByteArray address = url.toLatin1();
-    std::array<char*, 3> const arguments{program.data(), address.data(), nullptr};
-    Execute::execute(parent, arguments.data());
+    start(parent, url.toLatin1());
+}
+
+void RepoBrowse::open(QWidget* parent, QString const& address)
+{
+    start(parent, address.toUtf8());
 }
 
 void RepoBrowse::browse(QWidget* parent, QString const& id, YumIO* yumIO, YumConfIO* yumConfIO)

@@ -9,7 +9,7 @@ class QWidget;
 class YumConfIO;
 class YumIO;
 
-/// Shows a repository in the user's browser.
+/// Shows repositories, and other addresses, in the user's browser.
 namespace RepoBrowse
 {
 
@@ -20,5 +20,8 @@ void browse(QWidget* parent, Repo::Entry const& entry, YumIO* yumIO);
 
 /// The same for the first repository of this identifier; does nothing when there is none.
 void browse(QWidget* parent, QString const& id, YumIO* yumIO, YumConfIO* yumConfIO);
+
+/// Opens a web address. A browser that can't be started is told in a box over `parent`.
+void open(QWidget* parent, QString const& address);
 
 } // namespace RepoBrowse

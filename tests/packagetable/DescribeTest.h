@@ -9,6 +9,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QTextDocumentFragment>
 #include <QTextEdit>
 
 /// What the tests of the description dialog share: a dialog over the stand-in's packages, and eyes for it.
@@ -118,7 +119,9 @@ private:
             return parts.join(QLatin1Char(' '));
         }
         if (auto const* const label = qobject_cast<QLabel*>(item->widget())) {
-            return label->text();
+            return label->textFormat() == Qt::RichText
+                       ? QTextDocumentFragment::fromHtml(label->text()).toPlainText()
+                       : label->text();
         }
         auto const* const pushButton = qobject_cast<QPushButton*>(item->widget());
         return pushButton ? QLatin1Char('[') + pushButton->text() + QLatin1Char(']') : QString();

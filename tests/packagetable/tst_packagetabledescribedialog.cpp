@@ -5,6 +5,8 @@
 #include "packagetable/PackageTableModel.h"
 #include "widgets/Sizing.h"
 
+#include <QRegularExpression>
+#include <QScrollBar>
 #include <QSignalSpy>
 
 class TestDescribeDialog final : public DescribeTest
@@ -233,9 +235,86 @@ private Q_SLOTS:
         QVERIFY(
             rows(*dialog).contains(QStringLiteral("Description: <b>bold</b> &amp; <a href=\"x\">loud</a>")));
         for (QLabel const* const label : dialog->findChildren<QLabel*>()) {
-            QCOMPARE(label->textFormat(), Qt::PlainText);
+            QVERIFY(label->textFormat() == Qt::PlainText || label->text().contains(QLatin1String("http:")));
             QVERIFY(!label->buddy());
         }
+        // Not beside an address either.
+        SCRIPT("standin.world.find('available', 'elm').simple['description'] = '<b>see</b>\\n"
+               "  http://example.org/?a&b=<i>.'");
+        config(entry(QStringLiteral("elm")));
+        QVERIFY(rows(*dialog).contains(
+            QStringLiteral("Description: <b>see</b>\n  http://example.org/?a&b=<i>.")));
+    }
+
+    void textsCanBeSelectedAndAddressesFollowed()
+    {
+        SCRIPT("standin.world.find('available', 'elm').simple.update(\n"
+               "    description='Read (https://example.org/a_(b)?c=d&e) or ftp://example.org/x.',"
+               " url='no address')");
+        QVERIFY(collected());
+        config(entry(QStringLiteral("elm")));
+        QStringList addresses;
+        int readable = 0;
+        for (QLabel const* const label : dialog->findChildren<QLabel*>()) {
+            readable += label->textInteractionFlags().testFlag(Qt::TextSelectableByMouse) ? 1 : 0;
+            static QRegularExpression const link(QStringLiteral("href=\"([^\"]*)\""));
+            auto found = link.globalMatch(label->text());
+            while (found.hasNext()) {
+                addresses.append(found.next().captured(1));
+                QVERIFY(label->textInteractionFlags().testFlag(Qt::LinksAccessibleByKeyboard));
+            }
+        }
+        QVERIFY(readable > 10);
+        QCOMPARE(
+            addresses, QStringList(
+                           {QStringLiteral("https://example.org/a_(b)?c=d&amp;e"),
+                            QStringLiteral("ftp://example.org/x")}));
+    }
+
+    void aLongParagraphIsWrappedAtTheDialogsWidthAndAListIsNot()
+    {
+        SCRIPT("standin.world.find('available', 'elm').simple['description'] = 'word ' * 200");
+        QVERIFY(collected());
+        config(entry(QStringLiteral("elm")));
+        boxes->whileShown([this] {
+            HScrollArea const* const area = areas(*dialog).first();
+            QVERIFY(!area->horizontalScrollBar()->isVisible());
+            QLabel const* paragraph = nullptr;
+            for (QLabel const* const label : dialog->findChildren<QLabel*>()) {
+                paragraph = label->text().startsWith(QLatin1String("word ")) ? label : paragraph;
+            }
+            QVERIFY(paragraph);
+            int const lines = paragraph->height() / paragraph->fontMetrics().lineSpacing();
+            QVERIFY(lines > 5);
+            dialog->resize(dialog->width() + 300, dialog->height());
+            QCoreApplication::processEvents();
+            QVERIFY(paragraph->height() / paragraph->fontMetrics().lineSpacing() < lines);
+        });
+        dialog->exec();
+        boxes->whileShown(nullptr);
+        boxes->take();
+    }
+
+    void keysScrollWhereverTheKeyboardIs()
+    {
+        SCRIPT("standin.world.find('available', 'elm').simple['description'] = 'word\\n' * 200");
+        QVERIFY(collected());
+        config(entry(QStringLiteral("elm")));
+        boxes->whileShown([this] {
+            QScrollBar const* const bar = areas(*dialog).first()->verticalScrollBar();
+            QWidget* const close = dialog->findChildren<QPushButton*>().last();
+            QTest::keyClick(close, Qt::Key_PageDown);
+            QVERIFY(bar->value() > 0);
+            QTest::keyClick(close, Qt::Key_End);
+            QCOMPARE(bar->value(), bar->maximum());
+            QTest::keyClick(close, Qt::Key_PageUp);
+            QVERIFY(bar->value() < bar->maximum());
+            QTest::keyClick(close, Qt::Key_Home);
+            QCOMPARE(bar->value(), 0);
+        });
+        dialog->exec();
+        boxes->whileShown(nullptr);
+        boxes->take();
     }
 
     void aScriptThatRaisesLeavesItsFieldsEmpty()
