@@ -170,6 +170,11 @@ class YumIO:
         with reported_as(YumBaseError):
             return self._session.row_details(kind, packages)
 
+    def relations(self, kind: str, package: Any, most: int) -> Tuple[List[Any], int]:
+        """What `relations.told` tells of a package. YumBaseError."""
+        with reported_as(YumBaseError):
+            return self._session.relations(kind, package, most)
+
     def collectFileLists(self) -> bool:
         """YumBaseError."""
         with reported_as(YumBaseError):

@@ -114,6 +114,36 @@ class Advised(NamedTuple):
     """The advisory's identifier."""
 
 
+class Advice(NamedTuple):
+    """An advisory, by one of the versions that it names of a package."""
+
+    id: str
+    kind: str
+    """"security", "bugfix", "enhancement", "newpackage" or whatever the repository says."""
+    severity: str
+    title: str
+    issued: int
+    """Seconds since the epoch; 0 where nobody says."""
+    epoch: str
+    version: str
+    release: str
+
+
+class PutIn(NamedTuple):
+    """A transaction of the library's history that put a version of a package in."""
+
+    number: int
+    begun: int
+    """Seconds since the epoch."""
+    user: Optional[int]
+    """Who it was by number; -1 or 4294967295 for somebody who has never logged in."""
+    command: str
+    evr: str
+    """"epoch:version-release"."""
+    first: bool
+    """Whether no version of it was there before."""
+
+
 class OpenEntry(NamedTuple):
     """The last transaction of the library's history, where that has no end: its head, and what was to go in and to go
     out, as name, "epoch:version-release" and architecture."""
@@ -191,6 +221,24 @@ class System(Protocol):
     def advised(self) -> List[Advised]:
         """Versions that advisories name and that are newer than what is installed of their name and architecture,
         whether a repository has them or not."""
+
+    def wanting(self, rows: Sequence[Row], kind: str, installed_only: bool = False) -> List[Row]:
+        """What is installed, and unless `installed_only` the newest that is offered, and has a dependency of this kind,
+        "requires" or "recommends", that one of the rows satisfies."""
+
+    def satisfying(self, row: Row, kind: str) -> List[Tuple[str, List[Row]]]:
+        """Each dependency of this kind as the package words it, with all that satisfies it, installed or offered in
+        whatever version."""
+
+    def versions(self, name: str) -> List[Row]:
+        """All that is installed or offered of that name."""
+
+    def advice(self, row: Row) -> List[Advice]:
+        """Of the advisories that name the package's name and architecture, in any version."""
+
+    def put_in(self, row: Row) -> List[PutIn]:
+        """The transactions that brought a version of the package's name and architecture, the latest first; none for a
+        history that cannot be read."""
 
     def native(self) -> Sequence[str]:
         """The architectures that go before others."""

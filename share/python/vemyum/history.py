@@ -13,7 +13,7 @@ import sqlite3
 import urllib.parse
 from typing import Callable, Collection, Iterator, List, NamedTuple, Optional, Set, Tuple, Union
 
-from .backend import OpenEntry
+from .backend import OpenEntry, PutIn
 from .errors import FAILURES, YumBaseError, words
 from .root import as_configured
 from .space import scarce_space
@@ -37,6 +37,11 @@ class Layout(NamedTuple):
     incoming: Collection[_Code]
     outgoing: Collection[_Code]
     """Actions."""
+    about: str
+    """Asks, for a name and an architecture, for number, beginning, user, command, action, epoch, version and release,
+    the latest first."""
+    first: _Code
+    """The action by which something comes that wasn't there."""
 
 
 @contextlib.contextmanager
@@ -99,6 +104,20 @@ def open_entry(path: str, layout: Layout) -> Optional[OpenEntry]:
     return None
 
 
+def put_in(path: str, layout: Layout, name: str, arch: str) -> List[PutIn]:
+    """See `backend.System`."""
+    with contextlib.suppress(sqlite3.Error), contextlib.closing(_readable(path)) as database:
+        database.text_factory = lambda content: content.decode("utf-8", "replace")
+        return [
+            PutIn(number, begun or 0, user, command or "", f"{epoch or 0}:{version}-{release}", action == layout.first)
+            for number, begun, user, command, action, epoch, version, release in database.execute(
+                layout.about, (name, arch)
+            )
+            if action in layout.incoming
+        ]
+    return []
+
+
 def fault(path: str) -> Optional[str]:
     """Why nothing can be written into a history; None where it can."""
     try:
@@ -136,12 +155,17 @@ def _remove_useless(path: str) -> None:
 def _holds_anything(path: str) -> bool:
     """Whether there is an entry; where nobody can tell, there may be one."""
     try:
-        # Else SQLite wants room for what it puts beside it.
-        alone = not os.path.exists(path + "-wal") or os.path.getsize(path + "-wal") == 0
-        with contextlib.closing(_opened(path, "ro&immutable=1" if alone else "ro")) as database:
+        with contextlib.closing(_readable(path)) as database:
             return database.execute("select count(*) from trans").fetchone() != (0,)
     except sqlite3.Error as error:
         return "no such table" not in str(error)
+
+
+def _readable(path: str) -> sqlite3.Connection:
+    """For whoever may write nothing there, or has no room. sqlite3.Error."""
+    # Else SQLite wants to put something beside it.
+    alone = not os.path.exists(path + "-wal") or os.path.getsize(path + "-wal") == 0
+    return _opened(path, "ro&immutable=1" if alone else "ro")
 
 
 def _opened(path: str, mode: str) -> sqlite3.Connection:

@@ -12,7 +12,7 @@ import gc
 import os
 from typing import Any, Iterator, List, Optional, Sequence, Tuple
 
-from . import backend, columns, host, rights, stop
+from . import backend, columns, host, relations, rights, stop
 from .apply.journal import await_transaction, tell_last
 from .backend import Settings, System
 from .comps import CompsGroup
@@ -185,6 +185,11 @@ class Session:
 
     def row_details(self, kind: str, packages: Sequence[Any]) -> List[Any]:
         return columns.told(kind, packages, self.system)
+
+    def relations(self, kind: str, package: Any, most: int) -> Tuple[List[relations.Line], int]:
+        if self._details is None:
+            raise YumBaseError(_NOT_READ)
+        return relations.told(kind, package, most, self.system, self._details)
 
     # Extra data ------------------------------------------------------------------------------------------
 

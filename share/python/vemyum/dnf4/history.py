@@ -19,6 +19,9 @@ LAYOUT = Layout(
     lt.TransactionState_UNKNOWN,
     tuple(dnf.transaction.FORWARD_ACTIONS),
     tuple(dnf.transaction.BACKWARD_ACTIONS),
+    "select trans.id, dt_begin, user_id, cmdline, action, epoch, version, release from trans_item join rpm using (item_id) "
+    "join trans on trans.id = trans_id where name = ? and arch = ? order by trans.id desc, trans_item.id desc",
+    lt.TransactionItemAction_INSTALL,
 )
 
 

@@ -9,14 +9,25 @@ import dnf.package
 import dnf.repo
 import hawkey
 
-from ..backend import CHANGELOGS, GROUPS, Advised, Dependency, OpenEntry, Reason, RepositoryState
-from ..history import open_entry
+from ..backend import (
+    CHANGELOGS,
+    GROUPS,
+    Advice,
+    Advised,
+    Dependency,
+    OpenEntry,
+    PutIn,
+    Reason,
+    RepositoryState,
+)
+from ..history import open_entry, put_in
 from ..packages import whole_evr
 from ..sections import RepositorySection
 from ..vendors import by_name, refused
 from .base import open_base
 from .configuration import Settings
 from .history import LAYOUT, history_path
+from .relations import advice, satisfying, versions_of, wanting
 from .rows import checksum, dependencies
 from .sack import light_packages
 
@@ -116,6 +127,20 @@ class System:
             for one in found
         ]
 
+    def wanting(
+        self, rows: Sequence[dnf.package.Package], kind: str, installed_only: bool = False
+    ) -> List[dnf.package.Package]:
+        return wanting(self._base.sack, rows, kind, installed_only)
+
+    def satisfying(self, row: dnf.package.Package, kind: str) -> List[Tuple[str, List[dnf.package.Package]]]:
+        return satisfying(self._base.sack, row, kind)
+
+    def versions(self, name: str) -> List[dnf.package.Package]:
+        return versions_of(self._base.sack, name)
+
+    def advice(self, row: dnf.package.Package) -> List[Advice]:
+        return advice(self._base.sack, row)
+
     def native(self) -> Sequence[str]:
         variables = self._base.conf.substitutions
         return [variables["basearch"], variables["arch"], "noarch"]
@@ -165,6 +190,10 @@ class System:
 
     def open_entry(self) -> Optional[OpenEntry]:
         return open_entry(history_path(self.settings.system_persistent_directory), LAYOUT)
+
+    def put_in(self, row: dnf.package.Package) -> List[PutIn]:
+        path = history_path(self.settings.system_persistent_directory)
+        return put_in(path, LAYOUT, row.name, row.arch)
 
     def close(self) -> None:
         self._base.close()

@@ -24,6 +24,11 @@ LAYOUT = Layout(
     "Started",
     ("Install", "Upgrade", "Downgrade", "Reinstall"),
     ("Remove", "Replaced"),
+    "select trans.id, dt_begin, user_id, description, trans_item_action.name, epoch, version, release from trans_item "
+    "join rpm using (item_id) join pkg_name on pkg_name.id = name_id join arch on arch.id = arch_id "
+    "join trans_item_action on trans_item_action.id = action_id join trans on trans.id = trans_id "
+    "where pkg_name.name = ? and arch.name = ? order by trans.id desc, trans_item.id desc",
+    "Install",
 )
 
 _STATEMENT = re.compile(r'(\bSQL\b[^"\n]*): ".*?"(?=$|: )', re.S | re.M)

@@ -88,7 +88,7 @@ class Lists:
         query = libdnf5.rpm.PackageQuery(self._base.library)
         query.filter_available()
         query.filter_priority()
-        query.filter_arch(_fitting())
+        query.filter_arch(fitting())
         return query
 
     def _cheapest_first(self, query: libdnf5.rpm.PackageQuery) -> List[Any]:
@@ -125,13 +125,17 @@ class Lists:
         return found
 
     def _set(self, packages: Iterable[Any]) -> libdnf5.rpm.PackageSet:
-        found = libdnf5.rpm.PackageSet(self._base.library)
-        for package in packages:
-            found.add(package)
-        return found
+        return package_set(self._base, packages)
 
 
-def _fitting() -> List[str]:
+def package_set(base: Base, packages: Iterable[Any]) -> libdnf5.rpm.PackageSet:
+    found = libdnf5.rpm.PackageSet(base.library)
+    for package in packages:
+        found.add(package)
+    return found
+
+
+def fitting() -> List[str]:
     """The architectures of packages that this machine can run."""
     known = libdnf5.rpm.get_supported_arches()
     return [arch for arch in known if arch == "noarch" or rpm.archscore(arch)]

@@ -17,10 +17,20 @@ import rpm
 
 from .. import stop
 from ..acts import reading_begins, reading_ends
-from ..backend import CHANGELOGS, GROUPS, Advised, Dependency, OpenEntry, Reason, RepositoryState
+from ..backend import (
+    CHANGELOGS,
+    GROUPS,
+    Advice,
+    Advised,
+    Dependency,
+    OpenEntry,
+    PutIn,
+    Reason,
+    RepositoryState,
+)
 from ..database import point_rpm_at, unreadable
 from ..errors import RepoError, YumBaseError, os_error_text
-from ..history import open_entry
+from ..history import open_entry, put_in
 from ..messages import rpms_words
 from ..reading import drop_damaged, without_durations
 from ..sections import RepositorySection
@@ -33,6 +43,7 @@ from .lists import Lists, installed_rows
 from .log import LOGGER
 from .metadata import Metadata, told_of
 from .progress import is_to_be_converted
+from .relations import Relations
 from .rows import Row, checksum, dependencies, reason
 from .settings import Settings
 
@@ -274,6 +285,22 @@ class System:
     def advised(self) -> List[Advised]:
         return self._lists.advised()
 
+    def wanting(self, rows: Sequence[Row], kind: str, installed_only: bool = False) -> List[Row]:
+        return self._relations.wanting(rows, kind, installed_only)
+
+    def satisfying(self, row: Row, kind: str) -> List[Tuple[str, List[Row]]]:
+        return self._relations.satisfying(row, kind)
+
+    def versions(self, name: str) -> List[Row]:
+        return self._relations.versions(name)
+
+    def advice(self, row: Row) -> List[Advice]:
+        return self._relations.advice(row)
+
+    @property
+    def _relations(self) -> Relations:
+        return Relations(self.base, self._installed)
+
     def native(self) -> Sequence[str]:
         variables = self.settings.variables
         return [variables["basearch"], variables["arch"], "noarch"]
@@ -333,6 +360,9 @@ class System:
 
     def open_entry(self) -> Optional[OpenEntry]:
         return open_entry(history_path(self.base.settings, self.base.config), LAYOUT)
+
+    def put_in(self, row: Row) -> List[PutIn]:
+        return put_in(history_path(self.base.settings, self.base.config), LAYOUT, row.name, row.arch)
 
     # End ---------------------------------------------------------------------------------------------------------
 

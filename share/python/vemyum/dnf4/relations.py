@@ -1,0 +1,70 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""What dnf knows of the packages around one; see `backend.System`."""
+
+from __future__ import annotations
+
+from typing import List, Sequence, Tuple
+
+import dnf.package
+import dnf.sack
+import hawkey
+
+from ..backend import Advice
+from ..packages import whole_evr
+
+_KINDS = {
+    hawkey.ADVISORY_SECURITY: "security",
+    hawkey.ADVISORY_BUGFIX: "bugfix",
+    hawkey.ADVISORY_ENHANCEMENT: "enhancement",
+    hawkey.ADVISORY_NEWPACKAGE: "newpackage",
+}
+
+
+def wanting(
+    sack: dnf.sack.Sack, rows: Sequence[dnf.package.Package], kind: str, installed_only: bool
+) -> List[dnf.package.Package]:
+    condition = {kind: list(rows)}
+    found = list(_all(sack).installed().filter(**condition))
+    if not installed_only:
+        offered = sack.query().available().filter(latest_per_arch_by_priority=True, arch=sack.list_arches())
+        found += offered.filter(**condition)
+    return found
+
+
+def satisfying(
+    sack: dnf.sack.Sack, row: dnf.package.Package, kind: str
+) -> List[Tuple[str, List[dnf.package.Package]]]:
+    everything = _shown(sack)
+    return [(str(one), list(everything.filter(provides=one))) for one in getattr(row, kind)]
+
+
+def versions_of(sack: dnf.sack.Sack, name: str) -> List[dnf.package.Package]:
+    return list(_shown(sack).filter(name=name))
+
+
+def advice(sack: dnf.sack.Sack, row: dnf.package.Package) -> List[Advice]:
+    about = _all(sack).filter(name=row.name, arch=row.arch)
+    found = []
+    for one in about.get_advisory_pkgs(hawkey.LT | hawkey.EQ | hawkey.GT):
+        advisory = one.get_advisory(sack)
+        kind, severity, issued = _KINDS.get(advisory.type, ""), advisory.severity or "", advisory.updated
+        found.append(
+            Advice(
+                advisory.id,
+                kind,
+                severity,
+                advisory.title or "",
+                int(issued.timestamp()) if issued else 0,
+                *whole_evr(one.evr),
+            )
+        )
+    return found
+
+
+def _all(sack: dnf.sack.Sack) -> hawkey.Query:
+    return sack.query(flags=hawkey.IGNORE_EXCLUDES)
+
+
+def _shown(sack: dnf.sack.Sack) -> hawkey.Query:
+    """What is there, excluded or not, and what is offered."""
+    return _all(sack).installed().union(sack.query().available().filter(arch=sack.list_arches()))
