@@ -29,6 +29,7 @@ class Progress;
 class QEventLoop;
 class QThread;
 class QWidget;
+class Relations;
 class YumIOCapturers;
 class YumIODialogs;
 
@@ -309,6 +310,7 @@ protected:
     friend class CollectDetailsThread;
     friend class ApplyThread;
     friend class CleanThread;
+    friend class Relations;
 
     // Jobs.
     void execWorkThread(QEventLoop& loop, QThread& thread);

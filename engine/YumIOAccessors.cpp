@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // What can be told of one entry: its fields, and the single texts that the package object is asked for; and
 // of the configuration: its variables.
+#include "bridge/PythonApi.h"
+
 #include "engine/YumIO.h"
 
 QString YumIO::getName(Package::Entry const& entry) const
@@ -66,6 +68,12 @@ QString YumIO::getKind(Package::Entry const& entry) const
 
 QString YumIO::getDescription(Package::Entry const& entry)
 {
+    if (entry.kind == Package::Group) {
+        // Groups of older releases have none.
+        PyGILStateWrapper const lock(true);
+        PyRef const text = pyAttribute(entry.pyObject.get(), "description");
+        return text && text.get() != Py_None ? trimmedField(pyStringX(text.get())) : QString();
+    }
     return simpleString(entry.pyObject.get(), "description");
 }
 

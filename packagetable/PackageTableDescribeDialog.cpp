@@ -24,13 +24,22 @@ namespace PackageTable::Describe
 Dialog::Dialog(QWidget* parent)
     : QDialog(parent),
       contentLayout(new QHBoxLayout),
-      closeButton(new QPushButton(tr("Close"), this))
+      closeButton(new QPushButton(tr("Close"), this)),
+      backButton(new QPushButton(tr("Back"), this))
 {
     setWindowTitle(tr("VEM Package Description"));
     setAttribute(Qt::WA_ShowModal);
     connect(closeButton, &QPushButton::clicked, this, &Dialog::accept);
 
+    backButton->setToolTip(tr("Go back to the package described before"));
+    backButton->setShortcut(QKeySequence(Qt::ALT | Qt::Key_Left));
+    // Return closes.
+    backButton->setAutoDefault(false);
+    backButton->hide();
+    connect(backButton, &QPushButton::clicked, this, &Dialog::goBack);
+
     auto* const buttons = new QHBoxLayout;
+    buttons->addWidget(backButton);
     buttons->addStretch(1);
     buttons->addWidget(closeButton);
 
@@ -44,9 +53,24 @@ Dialog::~Dialog()
     dropContent();
 }
 
-void Dialog::config(YumIO* yumIO, Package::Entry const& entry, YumConfIO* yumConfIO)
+void Dialog::config(YumIO* engine, Package::Entry const& entry, YumConfIO* configuration)
 {
     dropContent();
+    yumIO = engine;
+    yumConfIO = configuration;
+    relations = std::make_unique<Relations>(engine);
+    buildContent(entry);
+    // The size of the description before would stay otherwise, as well as the layout's idea of it. The
+    // toolkit's own adjusting stops at two thirds of the screen, which leaves installed versions a line each.
+    ensurePolished();
+    QDialog::layout()->activate();
+    resize(sizeHint().boundedTo(Sizing::screenLimit(this)));
+}
+
+void Dialog::buildContent(Package::Entry const& entry)
+{
+    described = &entry;
+    backButton->setVisible(!trail.isEmpty());
     content = new QWidget(this);
     auto* const layout = new QVBoxLayout;
     auto* const name = new QLabel(yumIO->getName(entry), content);
@@ -55,20 +79,65 @@ void Dialog::config(YumIO* yumIO, Package::Entry const& entry, YumConfIO* yumCon
     layout->addWidget(name, 0, Qt::AlignHCenter);
     layout->addWidget(new HSeparator(content));
     areas.append(new Instance::Area(this, layout, yumIO, entry, yumConfIO, true));
+    areas.last()->addSections(*relations);
     for (Package::Entry const* link = entry.installed; link; link = link->installed) {
         layout->addWidget(new HSeparator(content));
         areas.append(new Instance::Area(this, layout, yumIO, *link, yumConfIO, false));
     }
     content->setLayout(layout);
     contentLayout->addWidget(content);
-    // The size of the description before would stay otherwise, as well as the layout's idea of it. The
-    // toolkit's own adjusting stops at two thirds of the screen, which leaves installed versions a line each.
-    ensurePolished();
+}
+
+void Dialog::follow(Package::Entry const* entry)
+{
+    // The link that was followed is part of the content.
+    QMetaObject::invokeMethod(
+        this, [this, entry] { leaveFor(*entry); }, Qt::QueuedConnection);
+}
+
+void Dialog::leaveFor(Package::Entry const& entry)
+{
+    if (!ready || !relations) {
+        return;
+    }
+    if (!yumIO->buildHostAtHand(entry)) {
+        setReady(false);
+        yumIO->collectBuildHost(entry);
+        setReady(true);
+    }
+    trail.append({described, areas.first()->openSections()});
+    showOther(entry);
+}
+
+void Dialog::goBack()
+{
+    if (ready && !trail.isEmpty()) {
+        Left const left = trail.takeLast();
+        showOther(*left.entry);
+        areas.first()->openSections(left.open);
+    }
+}
+
+// A dialog that shrinks and grows with each step would be hard to follow.
+void Dialog::showOther(Package::Entry const& entry)
+{
+    dropAreas();
+    buildContent(entry);
+    content->show();
+    closeButton->setFocus();
     QDialog::layout()->activate();
-    resize(sizeHint().boundedTo(Sizing::screenLimit(this)));
+    resize(sizeHint().expandedTo(size()).boundedTo(Sizing::screenLimit(this).expandedTo(size())));
 }
 
 void Dialog::dropContent()
+{
+    dropAreas();
+    described = nullptr;
+    trail.clear();
+    relations.reset();
+}
+
+void Dialog::dropAreas()
 {
     if (content) {
         contentLayout->removeWidget(content);
@@ -122,6 +191,7 @@ void Dialog::setReady(bool isReady)
     }
     ready = isReady;
     closeButton->setEnabled(ready);
+    backButton->setEnabled(ready);
     for (Instance::Area* const area : std::as_const(areas)) {
         area->setButtonsEnabled(ready);
     }

@@ -4,6 +4,7 @@
 #include "engine/YumIO.h"
 #include "packagetable/PackageTableDescribeDialog.h"
 #include "packagetable/PackageTableDescribeInstanceRepoDialog.h"
+#include "packagetable/PackageTableDescribeSection.h"
 #include "packagetable/PackageTableDescribeValue.h"
 #include "repo/RepoBrowse.h"
 #include "repo/YumConfIO.h"
@@ -99,6 +100,7 @@ Area::Area(
       parent(layout->parentWidget()),
       container(new QWidget),
       grid(new QGridLayout),
+      sectionsLayout(new QVBoxLayout),
       scrollArea(new HScrollArea(80, 24, parent))
 {
     scrollArea->setFrameStyle(QFrame::NoFrame | QFrame::Plain);
@@ -117,6 +119,7 @@ Area::Area(
     grid->setColumnStretch(valueColumn, 1);
     auto* const rows = new QVBoxLayout;
     rows->addLayout(grid);
+    rows->addLayout(sectionsLayout);
     rows->addStretch(1);
     container->setLayout(rows);
     // As wide as the dialog, so that long lines wrap there.
@@ -131,8 +134,46 @@ Area::~Area()
     delete textDialog;
 }
 
+void Area::addSections(Relations& relations)
+{
+    for (Relations::Kind const kind : Section::kinds) {
+        if (!relations.offers(kind, entry)) {
+            continue;
+        }
+        auto* const section = new Section(kind, relations, entry, container);
+        connect(section, &Section::reading, this, [this](bool begins) { dialog->setReady(!begins); });
+        connect(section, &Section::followed, dialog, &Dialog::follow);
+        connect(section, &Section::allWanted, this, [this, section] {
+            showText([section] { return section->all(); }, QStringLiteral("%1 %2 ") + section->title());
+        });
+        sectionsLayout->addWidget(section);
+        sections.append(section);
+    }
+}
+
+QList<Relations::Kind> Area::openSections() const
+{
+    QList<Relations::Kind> open;
+    for (Section const* const section : sections) {
+        if (section->isOpen()) {
+            open.append(section->kind());
+        }
+    }
+    return open;
+}
+
+void Area::openSections(QList<Relations::Kind> const& kinds)
+{
+    for (Section* const section : std::as_const(sections)) {
+        if (kinds.contains(section->kind())) {
+            section->open();
+        }
+    }
+}
+
 void Area::addGroupRows(int& row)
 {
+    addPair(row, tr("Description"), yumIO->getDescription(entry));
     for (Field const& field : groupFields) {
         addPair(row, tr(field.label), field.value(*yumIO, entry));
     }
@@ -239,6 +280,9 @@ void Area::setButtonsEnabled(bool enabled)
     for (QPushButton* const button : std::as_const(buttons)) {
         button->setEnabled(enabled);
     }
+    for (Section* const section : std::as_const(sections)) {
+        section->setEnabled(enabled);
+    }
 }
 
 void Area::updateButtons()
@@ -279,18 +323,18 @@ void Area::handleRepo()
 
 void Area::handleFiles()
 {
-    showText(&YumIO::getFiles, tr("%1 %2 File List"));
+    showText([this] { return yumIO->getFiles(entry); }, tr("%1 %2 File List"));
 }
 
 void Area::handleChangeLog()
 {
-    showText(&YumIO::getChangeLog, tr("%1 %2 Change Log"));
+    showText([this] { return yumIO->getChangeLog(entry); }, tr("%1 %2 Change Log"));
 }
 
-void Area::showText(QString (YumIO::*text)(Package::Entry const&), QString const& title)
+void Area::showText(std::function<QString()> const& text, QString const& title)
 {
     dialog->setReady(false);
-    QString const shown = (yumIO->*text)(entry);
+    QString const shown = text();
     updateButtons();
     if (!textDialog) {
         textDialog = new TextDialog(parent);

@@ -2,11 +2,13 @@
 #pragma once
 
 #include "engine/Package.h"
+#include "engine/Relations.h"
 
 #include <QList>
 #include <QObject>
 #include <QPointer>
 #include <QString>
+#include <functional>
 
 class HScrollArea;
 class QGridLayout;
@@ -27,6 +29,7 @@ namespace Instance
 {
 
 class RepoDialog;
+class Section;
 
 /// One entry in the description dialog: fills a scroll area of that dialog with a list of labelled fields,
 /// and answers the buttons among them. No widget itself; its widgets belong to the dialog's content. Owned by
@@ -43,9 +46,15 @@ public:
         bool full);
     ~Area() override;
 
+    /// Adds, below the fields, what `relations` offers of the entry: a section each, closed at first.
+    void addSections(Relations& relations);
+    [[nodiscard]] QList<Relations::Kind> openSections() const;
+    /// Opens these, as a user would.
+    void openSections(QList<Relations::Kind> const& kinds);
+
     /// Where the keyboard scrolls.
     [[nodiscard]] HScrollArea* scroll() const { return scrollArea; }
-    /// While the engine works the buttons must not start anything.
+    /// While the engine works nothing here must start anything.
     void setButtonsEnabled(bool enabled);
 
 public Q_SLOTS:
@@ -81,7 +90,8 @@ private:
     /// Shows which buttons have to load extra data before.
     void updateButtons();
     void updateButton(Button& button, bool collected);
-    void showText(QString (YumIO::*text)(Package::Entry const&), QString const& title);
+    /// `title` has places for the name and the version.
+    void showText(std::function<QString()> const& text, QString const& title);
 
     Dialog* dialog;
     YumIO* yumIO;
@@ -92,9 +102,11 @@ private:
     QPointer<TextDialog> textDialog;
     QWidget* container;
     QGridLayout* grid;
+    QVBoxLayout* sectionsLayout;
     HScrollArea* scrollArea;
     Button filesButton, changeLogButton;
     QList<QPushButton*> buttons;
+    QList<Section*> sections;
 };
 
 } // namespace Instance

@@ -7,10 +7,10 @@ import time
 from typing import Any, List, Mapping
 
 import pytest
+from advisories import advise
 from catalogue import Catalogue
 from program import Program
 from rpmestate import Estate, spec
-from test_columns import advise
 
 
 def lines(program: Program, kind: str, package: Any, most: int = 100) -> List[str]:

@@ -30,11 +30,12 @@ _NO_USER = (-1, 0xFFFFFFFF)
 
 
 class Link(NamedTuple):
-    """`state` is one of the three words above."""
+    """`state` is one of the three words above; `installed` is what an update would take the place of."""
 
     text: str
     package: Package
     state: str
+    installed: List[InstalledPackage]
 
 
 Piece = Union[str, Link]
@@ -108,7 +109,9 @@ class _Around:
         lines: List[Line] = [[_REASONS[reason]]]
         lines += [[text] for text in self._put_in(row)]
         if reason in (Reason.DEPENDENCY, Reason.WEAK, Reason.UNKNOWN):
-            lines += self._chain(row, reasons)
+            chain = self._chain(row, reasons)
+            # Where nobody knows of this one, nobody may know of the others either.
+            lines += chain if len(chain) > 1 or reason is not Reason.UNKNOWN else []
         return lines, len(lines)
 
     def _installed_form(self) -> Optional[Row]:
@@ -144,12 +147,8 @@ class _Around:
             wanted = [one for key, one in above.items() if reasons.get(key) in (Reason.USER, Reason.GROUP)]
             asked = min(wanted, key=lambda one: one.name, default=None)
         if asked is None:
-            nobody = not levels[1]
-            return [
-                [_("Nothing that is installed needs it.")]
-                if nobody
-                else [_("Nothing that needs it was asked for by anybody.")]
-            ]
+            needed = bool(levels[1])
+            return [[_("Nobody asked for what needs it.") if needed else _("Nothing that is installed needs it.")]]
         lines: List[Line] = [[*self._package_line(asked), ": ", _REASONS[reasons[pkgtup(asked)]]]]
         for level in reversed(levels[: len(levels) - 1]):
             kind, requirement, asked = self._step(asked, level)
@@ -211,10 +210,10 @@ class _Around:
 
     def _link(self, row: Row, text: str) -> Link:
         if row.reponame == _SYSTEM:
-            return Link(text, InstalledPackage(row, self._details), INSTALLED)
-        there = self._namesakes(row.name, row.arch)
-        newer = bool(there) and versions.compare(row, there[-1]) > 0
-        return Link(text, AvailablePackage(row, self._details), UPDATE if newer else AVAILABLE)
+            return Link(text, InstalledPackage(row, self._details), INSTALLED, [])
+        older = [one for one in self._namesakes(row.name, row.arch) if versions.compare(row, one) > 0]
+        package = AvailablePackage(row, self._details)
+        return Link(text, package, UPDATE if older else AVAILABLE, [InstalledPackage(one, self._details) for one in older])
 
     def _namesakes(self, name: str, arch: str) -> List[Row]:
         """What is installed of that name, of that architecture if there is such a thing; the oldest first."""
