@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "packagetable/PackageTableDescribeSection.h"
 
+#include "widgets/Sizing.h"
+
 #include <QKeyEvent>
 #include <QLabel>
 #include <QScrollArea>
@@ -16,6 +18,7 @@ namespace
 
 /// Lines that are laid out, with links, in no time.
 constexpr qsizetype firstPart = 100;
+constexpr int usualColumns = 55; ///< characters
 QLatin1String const allLink("all");
 
 struct Words
@@ -119,6 +122,12 @@ void Section::open()
 QString Section::all()
 {
     return relations.text(shownKind, entry);
+}
+
+// Wide enough for what it will tell.
+QSize Section::sizeHint() const
+{
+    return QWidget::sizeHint().expandedTo({Sizing::columns(this, usualColumns), 0});
 }
 
 // Return would close the dialog.

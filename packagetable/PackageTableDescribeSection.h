@@ -35,6 +35,8 @@ public:
     /// Job: everything that it tells, as plain text, where only a first part is shown.
     [[nodiscard]] QString all();
 
+    [[nodiscard]] QSize sizeHint() const override;
+
 Q_SIGNALS:
     /// A job begins, or has ended.
     void reading(bool begins);

@@ -2,6 +2,7 @@
 """The description of a row, on real rpms: an update from its repository, the version before it from the rpm database."""
 from __future__ import annotations
 
+import platform
 from pathlib import Path
 from typing import Callable, Optional
 
@@ -11,7 +12,8 @@ import pytest
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi  # noqa: E402
 
-from program import NAME_COLUMN, Program, wait_for, walk  # noqa: E402
+from advisories import advise  # noqa: E402
+from program import NAME_COLUMN, Program, has_state, wait_for, walk  # noqa: E402
 from rpmestate import Estate, shell_spec, spec  # noqa: E402
 
 DESCRIPTION = "VEM Package Description"
@@ -32,17 +34,20 @@ def beacon_spec(version: str, files: list[str], changelog: str) -> str:
 
 @pytest.fixture
 def beacon(tmp_path: Path) -> Estate:
-    """Version 1.0 is installed; 1.1, with a file and a change more, is offered. Both own a directory."""
+    """Version 1.0 is installed; 1.1, with a file and a change more, is offered. Both own a directory. What is offered,
+    too, requires it."""
     estate = Estate(tmp_path / "beacon")
-    shell, old, new = estate.build(
+    shell, old, new, pier = estate.build(
         [
             shell_spec("beacon-shell"),
             beacon_spec("1.0", ["/usr/share/beacon/lamp"], LIT),
             beacon_spec("1.1", ["/usr/share/beacon/lamp", "/usr/share/beacon/second"], f"{SECOND}\n\n{LIT}"),
+            spec("pier", requires=["beacon >= 1.1", "tide"]),
         ]
     )
     estate.write_main_config()
-    estate.repository("cliff", [new], name="Cliff Station")
+    cliff = estate.repository("cliff", [new, pier], name="Cliff Station")
+    advise(cliff, ("BEACON-7", "beacon", "1.1"))
     estate.install([shell, old])
     return estate
 
@@ -122,6 +127,51 @@ def test_a_row_is_described_with_files_change_log_and_repository(beacon: Estate,
     program.key("Escape")
     program.wait_closed(DESCRIPTION)
     wait_for(program.is_ready, "the main window to be usable again")
+
+
+def content(description: Atspi.Accessible, title: str) -> str:
+    """Opens a section, and reads what it tells."""
+    nodes = list(walk(description))
+    at = next(n for n, node in enumerate(nodes) if node.get_name() == title)
+    label = nodes[at + 1]
+    if not has_state(label, Atspi.StateType.SHOWING):
+        Atspi.Action.do_action(nodes[at], 0)
+    wait_for(lambda: label.get_name() not in ("", "Reading\N{HORIZONTAL ELLIPSIS}"), f"the section {title}")
+    return str(label.get_name())
+
+
+def test_sections_tell_of_other_packages_and_links_lead_there_and_back(beacon: Estate, start: Start) -> None:
+    program = start(beacon)
+    program.wait_ready()
+    program.click_cell("beacon", NAME_COLUMN)
+    program.press("Describe", program.window("VEM - "))
+    description = program.window(DESCRIPTION)
+    assert content(description, "Recommended By") == "None"
+    assert content(description, "Provides What It Requires") == f"/bin/sh: beacon-shell-1.0-1.{platform.machine()} (installed)"
+    assert "The history of transactions doesn't tell when it came." in content(description, "Why Installed")
+    advisories = content(description, "Advisories")
+    assert advisories.startswith("BEACON-7 (security, Important)") and advisories.endswith(", not installed")
+    assert content(description, "Other Versions").split("\n") == ["1.1-1.noarch (cliff)", "1.0-1.noarch (installed)"]
+    assert content(description, "Required By") == "pier-1.0-1.noarch (cliff)"
+    program.shot("sections")
+
+    # By keyboard: from the title to the text behind it, and to its first link.
+    title = program.wait("Required By", inside=description)
+    Atspi.Component.grab_focus(title)
+    wait_for(lambda: has_state(title, Atspi.StateType.FOCUSED), "the section's title to have the keyboard")
+    for key in ("Tab", "Tab", "Return"):
+        program.key(key)
+    wait_for(lambda: program.texts(description).startswith("pier\n"), "the description of the other package")
+    assert content(description, "Provides What It Requires").split("\n") == [
+        "beacon >= 1.1: beacon-1.1-1.noarch (cliff)", "tide: nothing that is installed or offered",
+    ]
+    program.shot("followed")
+    program.key("alt+Left")
+    wait_for(lambda: program.texts(description).startswith("beacon\n"), "the description before")
+    # What was open is open again.
+    assert "pier-1.0-1.noarch (cliff)" in program.texts(description)
+    program.key("Escape")
+    program.wait_closed(DESCRIPTION)
 
 
 def test_a_package_that_was_erased_meanwhile_is_described_as_far_as_it_is_known(beacon: Estate, start: Start) -> None:

@@ -20,7 +20,9 @@ FILES = 100_000
 CHANGES = 10_000
 
 COMPS = """<?xml version="1.0" encoding="UTF-8"?>
-<comps><group><id>yard</id><name>Yard &amp; Slip</name><uservisible>true</uservisible><packagelist>
+<comps><group><id>yard</id><name>Yard &amp; Slip</name>
+<description>Where ships are built</description><description xml:lang="de">Wo Schiffe gebaut werden</description>
+<uservisible>true</uservisible><packagelist>
 <packagereq type="mandatory">mast</packagereq><packagereq type="mandatory">keel</packagereq>
 <packagereq type="default">sail</packagereq><packagereq type="optional">flag</packagereq>
 <packagereq type="conditional" requires="mast">stay</packagereq></packagelist></group></comps>
@@ -235,6 +237,7 @@ def test_groups_bare_packages_and_undecodable_texts(yard: Estate, start: Start) 
     program.press("Include Groups")
     assert fields(describe(program, "Yard & Slip")) == [
         ("Kind", "Group of packages"),
+        ("Description", "Where ships are built"),
         ("Mandatory Packages", "keel\nmast"),
         ("Default Packages", "sail"),
         ("Optional Packages", "flag"),

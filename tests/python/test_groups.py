@@ -3,6 +3,8 @@
 
 from __future__ import annotations
 
+import locale
+
 import pytest
 from catalogue import Catalogue
 from fake_host import FakeHost
@@ -122,6 +124,20 @@ def test_translated_name(estate: Estate, rpms: Catalogue, program: Program) -> N
     estate.repository("base", rpms.some("lib-1.0"), comps=text)
     (one,) = program.collect().groups
     assert one.name in ("Light", "Licht \u2014 Leuchten")
+
+
+def test_the_description_is_told_in_the_users_language(
+    estate: Estate, rpms: Catalogue, program: Program, monkeypatch: pytest.MonkeyPatch
+) -> None:
+    text = comps(group("light", "Light", mandatory="lib")).replace(
+        "<description/>", '<description>All that shines</description><description xml:lang="de">Was leuchtet</description>'
+    )
+    estate.repository("base", rpms.some("lib-1.0"), comps=text)
+    (one,) = program.collect().groups
+    assert one.description == "All that shines"
+    monkeypatch.setattr(locale, "setlocale", lambda category: {locale.LC_MESSAGES: "de_AT.UTF-8"}[category])
+    (one,) = program.collect().groups
+    assert one.description == "Was leuchtet"
 
 
 def test_members_without_a_name_are_no_packages(estate: Estate, rpms: Catalogue, program: Program) -> None:
