@@ -3,7 +3,7 @@
 
 from __future__ import annotations
 
-from typing import List, Sequence, Tuple
+from typing import Dict, List, Sequence, Tuple
 
 import dnf.package
 import dnf.sack
@@ -20,15 +20,32 @@ _KINDS = {
 }
 
 
-def wanting(
-    sack: dnf.sack.Sack, rows: Sequence[dnf.package.Package], kind: str, installed_only: bool
-) -> List[dnf.package.Package]:
+def wanting(sack: dnf.sack.Sack, rows: Sequence[dnf.package.Package], kind: str) -> List[dnf.package.Package]:
     condition = {kind: list(rows)}
-    found = list(_all(sack).installed().filter(**condition))
-    if not installed_only:
-        offered = sack.query().available().filter(latest_per_arch_by_priority=True, arch=sack.list_arches())
-        found += offered.filter(**condition)
-    return found
+    offered = sack.query().available().filter(latest_per_arch_by_priority=True, arch=sack.list_arches())
+    return [*_all(sack).installed().filter(**condition), *offered.filter(**condition)]
+
+
+class Needs:
+    """Which installed packages want what an installed one satisfies. A query about packages goes through everything
+    once for each of them."""
+
+    def __init__(self, sack: dnf.sack.Sack, kind: str) -> None:
+        installed = _all(sack).installed()
+        satisfying: Dict[str, List[dnf.package.Package]] = {}
+        self._wanting: Dict[dnf.package.Package, List[dnf.package.Package]] = {}
+        for package in installed:
+            for one in getattr(package, kind):
+                word = str(one)
+                if word not in satisfying:
+                    # rpm's own abilities are no package's.
+                    own = word.startswith("rpmlib(")
+                    satisfying[word] = [] if own else list(installed.filter(provides=one))
+                for other in satisfying[word]:
+                    self._wanting.setdefault(other, []).append(package)
+
+    def of(self, rows: Sequence[dnf.package.Package]) -> List[dnf.package.Package]:
+        return list(dict.fromkeys(one for row in rows for one in self._wanting.get(row, ())))
 
 
 def satisfying(

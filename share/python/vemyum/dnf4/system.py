@@ -27,7 +27,7 @@ from ..vendors import by_name, refused
 from .base import open_base
 from .configuration import Settings
 from .history import LAYOUT, history_path
-from .relations import advice, satisfying, versions_of, wanting
+from .relations import Needs, advice, satisfying, versions_of, wanting
 from .rows import checksum, dependencies
 from .sack import light_packages
 
@@ -48,6 +48,7 @@ class System:
         self._base = open_base(settings.conf, sections)
         self.lacking = self._base.lacking
         self.sections = self._base.sections
+        self._needs: Dict[str, Needs] = {}
 
     # Repositories ----------------------------------------------------------------------------------------
 
@@ -130,7 +131,11 @@ class System:
     def wanting(
         self, rows: Sequence[dnf.package.Package], kind: str, installed_only: bool = False
     ) -> List[dnf.package.Package]:
-        return wanting(self._base.sack, rows, kind, installed_only)
+        if not installed_only:
+            return wanting(self._base.sack, rows, kind)
+        if kind not in self._needs:
+            self._needs[kind] = Needs(self._base.sack, kind)
+        return self._needs[kind].of(rows)
 
     def satisfying(self, row: dnf.package.Package, kind: str) -> List[Tuple[str, List[dnf.package.Package]]]:
         return satisfying(self._base.sack, row, kind)
@@ -196,4 +201,5 @@ class System:
         return put_in(path, LAYOUT, row.name, row.arch)
 
     def close(self) -> None:
+        self._needs.clear()
         self._base.close()
