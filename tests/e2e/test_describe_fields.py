@@ -97,7 +97,7 @@ def fields(window: Atspi.Accessible) -> list[tuple[str, ...]]:
             word = node.get_name()
             if word.endswith(":") and node.get_role() == Atspi.Role.LABEL:
                 rows.append((word[:-1],))
-            elif rows:
+            elif rows and word:  # A section that hasn't been opened has none.
                 rows[-1] += (word,)
     return rows
 
