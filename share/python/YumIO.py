@@ -124,6 +124,13 @@ class YumIO:
         with reported_as(RepoError):
             self._session.read_repositories()
 
+    def openPackageFiles(self, words: Sequence[str]) -> List[Tuple[str, str, str]]:
+        """Behind `setupRepos`: adds the packages of these paths and addresses to the lists to come, in the place of
+        others of their names. For each word itself, the name of its package, empty for none, and why there is none.
+        YumBaseError."""
+        with reported_as(YumBaseError):
+            return [tuple(one) for one in self._session.open_package_files(words)]
+
     def setupTs(self) -> None:
         """YumBaseError. Each transaction is prepared by its own `apply`; here it only must be possible."""
         self._session.collector

@@ -24,6 +24,7 @@ ONE_OF_EACH: List[Any] = [
         messages.PROTOCOL,
         [RepositorySection("base", {"name": "Base $releasever", "enabled": "0"}, True)],
         [messages.Wish("base", "lamp", "noarch", "1.1-1")],
+        ["/srv/lamp.rpm"],
         [messages.Wish("@System", "lone", "noarch", "1:2-3")],
         7,
         "/etc/yum.conf",

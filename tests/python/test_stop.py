@@ -164,6 +164,17 @@ def test_a_stopped_download_keeps_what_is_there_as_a_whole(
     assert len(served.installed()) == 3
 
 
+def test_the_fetching_of_a_package_file_is_stopped(
+    served: Estate, program: Program, web: Web, stopper: Stopper, requests: Path
+) -> None:
+    yumio = program.start()
+    yumio.setupRepos()
+    web.hold("silent.rpm")
+    with stopper.once(requests, "silent.rpm"), stopped(program):
+        yumio.openPackageFiles([f"{web.url}/silent.rpm"])
+    assert stopper.seconds() < AT_ONCE
+
+
 def test_what_rpm_has_begun_is_not_stopped(
     estate: Estate, rpms: Catalogue, program: Program, stopper: Stopper, host: FakeHost
 ) -> None:

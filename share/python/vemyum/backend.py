@@ -240,6 +240,17 @@ class System(Protocol):
         """The transactions that brought a version of the package's name and architecture, the latest first; none for a
         history that cannot be read."""
 
+    def architectures(self) -> Sequence[str]:
+        """Those of packages that fit this machine."""
+
+    def add_file(self, path: str) -> Row:
+        """Behind `load`: takes a package file for a package that a repository "@commandline" offers, whose location is
+        the path."""
+
+    def fetch(self, address: str, path: str) -> None:
+        """Makes a file of what an address gives, by the main configuration's settings. YumBaseError with the library's
+        words, also where the user wants to stop."""
+
     def native(self) -> Sequence[str]:
         """The architectures that go before others."""
 

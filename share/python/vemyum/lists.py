@@ -9,12 +9,19 @@ from __future__ import annotations
 
 from functools import cached_property, cmp_to_key
 from operator import attrgetter
-from typing import Dict, FrozenSet, Iterable, List
+from typing import Dict, FrozenSet, Iterable, List, Tuple
 
 from . import versions
 from .backend import Row, System
 from .database import require_sound
-from .packages import AvailablePackage, Details, InstalledPackage, ReplacingPackage
+from .packages import (
+    COMMAND_LINE,
+    AvailablePackage,
+    Details,
+    FilePackage,
+    InstalledPackage,
+    ReplacingPackage,
+)
 
 
 def _names(rows: Iterable[Row]) -> FrozenSet[str]:
@@ -41,15 +48,45 @@ class Collector:
         self.updatable: FrozenSet[str] = frozenset()
         self.installed_names: FrozenSet[str] = frozenset()
         self._available: List[Row] = []
+        self._files: Dict[str, Row] = {}
+
+    def take_files(self, rows: Iterable[Row]) -> None:
+        """Package files of one name each, which go before what the repositories have of that name. Before the lists are
+        asked for."""
+        self._files = {row.name: row for row in rows}
+
+    def _without_files(self, rows: List[Row]) -> List[Row]:
+        """What the repositories have; the libraries take the files for packages of one more."""
+        if not self._files:
+            return rows
+        return [row for row in rows if row.reponame != COMMAND_LINE and row.name not in self._files]
 
     def updates(self) -> List[AvailablePackage]:
         """Newer versions of installed packages, and packages that make installed ones obsolete."""
-        upgrades = self._system.upgrades()
+        upgrades = self._without_files(self._system.upgrades())
         replacing = self._system.replacing({row.name for row in upgrades})
+        files = self._updating_files(replacing)
+        replacing = [(row, olds) for row, olds in replacing if row.name not in self._files]
         replaced = {id(row): olds for row, olds in replacing}
         rows = self._best_first([*upgrades, *(row for row, _olds in replacing)])
         self.updatable = _names(rows)
-        return [self._update(row, replaced.get(id(row), [])) for row in rows]
+        return [*files, *(self._update(row, replaced.get(id(row), [])) for row in rows)]
+
+    def _updating_files(self, replacing: List[Tuple[Row, List[Row]]]) -> List[AvailablePackage]:
+        """The files of which another version is installed, be it a newer one, or that make installed packages of other
+        names obsolete."""
+        if not self._files:
+            return []
+        names = _names(self._system.installed())
+        obsolete = {row.name: olds for row, olds in replacing if row.reponame == COMMAND_LINE}
+        return [
+            self._file(row, [] if row.name in names else obsolete[row.name])
+            for row in self._files.values()
+            if row.name in names or row.name in obsolete
+        ]
+
+    def _file(self, row: Row, replaced: List[Row]) -> AvailablePackage:
+        return FilePackage(row, self._details, [InstalledPackage(old, self._details) for old in replaced])
 
     def _update(self, row: Row, replaced: List[Row]) -> AvailablePackage:
         if not replaced:
@@ -64,11 +101,15 @@ class Collector:
         installed = self._best_first(self._system.installed())
         self.installed_names = _names(installed)
         self._check_installed(len(installed))
-        available = self._best_first(self._system.available())
+        available = self._without_files(self._best_first(self._system.available()))
         self._available = available
         return PackageLists(
             [InstalledPackage(row, self._details) for row in installed],
-            [AvailablePackage(row, self._details) for row in available],
+            # The engine passes over those that it has met among the updates.
+            [
+                *(self._file(row, []) for row in self._files.values()),
+                *(AvailablePackage(row, self._details) for row in available),
+            ],
         )
 
     @cached_property

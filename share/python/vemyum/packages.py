@@ -24,6 +24,10 @@ from .text import valid
 
 INSTALLED = "installed"
 """The repository name that yum gives to installed packages."""
+COMMAND_LINE = "@commandline"
+"""What both libraries call the repository of package files that they were given by path."""
+FILES = "files"
+"""What the user sees instead."""
 
 _OPERATORS = {">": "GT", ">=": "GE", "<": "LT", "<=": "LE", "=": "EQ"}
 _KINDS = ("provides", "requires", "conflicts", "obsoletes")
@@ -163,6 +167,47 @@ class ReplacingPackage(AvailablePackage):
         self.replaces = replaces
 
 
+class FilePackage(ReplacingPackage):
+    """A package of a file that the user has opened. It may replace nothing, too."""
+
+    __slots__ = ()
+
+    repoid = FILES
+
+    def returnChangelog(self) -> List[Tuple[int, str, str]]:
+        """No metadata has it."""
+        header = _header_of(self)
+        return [] if header is None else list(
+            zip(header["changelogtime"], map(valid, header["changelogname"]), map(valid, header["changelogtext"]))
+        )
+
+
+def _header_of(package: FilePackage) -> Any:
+    """The file's header; None where it is gone or has become another one."""
+    path = package.localPkg()
+    if path is None:
+        return None
+    transaction = rpm.TransactionSet()
+    transaction.setVSFlags(rpm._RPMVSF_NODIGESTS | rpm._RPMVSF_NOSIGNATURES)
+    try:
+        with open(path, "rb") as file:
+            return transaction.hdrFromFdno(file.fileno())
+    except (OSError, rpm.error):
+        return None
+
+
+def _build_host_of(package: FilePackage) -> Optional[str]:
+    header = _header_of(package)
+    return None if header is None else header["buildhost"]
+
+
+FilePackage._fields = {
+    **AvailablePackage._fields,
+    "repoid": lambda package: FILES,
+    "buildhost": _build_host_of,
+}
+
+
 class InstalledPackage(Package):
     """A package of the rpm database."""
 
@@ -244,6 +289,10 @@ class Listed:
 
 def pkgtup(row: Row) -> PkgTup:
     return (row.name, row.arch, str(row.epoch), row.version, row.release)
+
+
+def shown_repository(id: str) -> str:
+    return FILES if id == COMMAND_LINE else id
 
 
 def shown(package: PkgTup) -> str:

@@ -23,6 +23,7 @@ from .errors import LockError, RepoError, YumBaseError, reported_as
 from .groups import Group, groups_of, read_groups
 from .lists import Collector, PackageLists
 from .lock import LOCK
+from .packagefiles import Opened, open_files
 from .packages import InstalledPackage
 from .repositories import Repositories, UnreadableRepositories
 from .root import as_configured, managed_root
@@ -134,6 +135,15 @@ class Session:
             self._system.load()
         self._details = PackageDetails(self._system)
         self._collector = Collector(self._system, self._details)
+
+    def open_package_files(self, words: Sequence[str]) -> List[Opened]:
+        """Makes packages of these files and addresses rows of the lists to come."""
+        opened, rows = open_files(words, self.system)
+        for one in opened:
+            if one.refusal:
+                host.errorlog(host.LEVEL_NOTICE, one.refusal)
+        self.collector.take_files(rows)
+        return opened
 
     def updates(self) -> Sequence[Any]:
         stop.check()

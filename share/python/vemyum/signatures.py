@@ -12,7 +12,7 @@ import re
 import shutil
 import subprocess
 import tempfile
-from typing import Any, Callable, Dict, List, NamedTuple, Optional
+from typing import Any, Callable, Dict, List, NamedTuple, Optional, Sequence
 
 import rpm
 
@@ -22,6 +22,7 @@ from .database import database_directory
 from .errors import YumBaseError
 from .keys import Agreed, Missing, Search, imported, key_file
 from .openpgp import Key
+from .packages import FILES
 from .text import valid
 from .texts import _
 
@@ -31,6 +32,20 @@ DAMAGED = re.compile(r": BAD\b|^error:")
 """Stands in what rpmkeys says of a package that isn't as it was signed."""
 _LACKS_A_KEY = re.compile(r"\b([0-9a-f]{8,64}): NO(?:KEY|TTRUSTED)$", re.I)
 _ISSUER = re.compile(r"\b[0-9a-f]{16,64}\b", re.I)
+
+
+class _NoKeys:
+    """Where package files come from that the user has opened (`backend.KeySource`): nobody has named a key for them."""
+
+    id = FILES
+    gpgkey: Sequence[str] = ()
+    verified = True
+
+    def fetch(self, address: str) -> bytes:
+        raise RuntimeError(address)
+
+
+NO_KEYS = _NoKeys()
 
 
 class Fault(NamedTuple):

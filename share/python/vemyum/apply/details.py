@@ -13,7 +13,7 @@ from typing import Any, Collection, Dict, Iterable, List, NamedTuple, Optional, 
 from .. import versions
 from ..backend import Dependency, PkgTup
 from ..database import running_kernel
-from ..packages import pkgtup
+from ..packages import pkgtup, shown_repository
 from ..text import valid
 from .messages import (
     DOWNGRADE,
@@ -153,7 +153,7 @@ class _Telling:
                 package.arch,
                 "" if old is None else old.evr,
                 package.evr,
-                repository,
+                shown_repository(repository),
                 int(package.size),
                 why,
                 whom[:_MOST_NAMES],

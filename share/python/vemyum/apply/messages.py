@@ -17,7 +17,7 @@ from typing import Any, Dict, List, Type, Union
 
 from ..sections import RepositorySection
 
-PROTOCOL = 3
+PROTOCOL = 4
 """Raised whenever a message changes its form: child and parent are always of one version, or don't work together."""
 
 
@@ -44,7 +44,8 @@ class Wish:
 
 @dataclasses.dataclass(frozen=True)
 class Request:
-    """What is to be done. `repositories` are those that the list of packages rests on; `installed` is how many
+    """What is to be done. `repositories` are those that the list of packages rests on; `files` are the paths of the
+    incoming packages that no repository has; `installed` is how many
     packages the system has by all that the parent knows, 0 where it knows nothing; `main_file` is the main
     configuration file that the list rests on, empty for none; `command` is the program's command line and `comment`
     what is marked, both for the history."""
@@ -52,6 +53,7 @@ class Request:
     protocol: int
     repositories: List[RepositorySection]
     incoming: List[Wish]
+    files: List[str]
     removes: List[Wish]
     installed: int
     main_file: str

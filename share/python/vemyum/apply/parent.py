@@ -16,6 +16,7 @@ from .. import choice, host, processes, stop
 from ..errors import ALL_DONE, REFRESH, LockError, YumBaseError, reported_as
 from ..lists import Collector
 from ..lock import LOCK
+from ..packages import COMMAND_LINE
 from ..root import managed_root
 from ..session import Session
 from ..text import valid
@@ -60,10 +61,12 @@ class Apply:
             host.log(host.LEVEL_NOTICE, _("Nothing is marked"))
             return
         root = managed_root()
+        incoming = [*installs, *(pair[0] for pair in updates)]
         request = messages.Request(
             messages.PROTOCOL,
             self._session.repository_sections(),
-            [_wish(package, package.po.reponame) for package in (*installs, *(pair[0] for pair in updates))],
+            [_wish(package, package.po.reponame) for package in incoming],
+            [package.po.location for package in incoming if package.po.reponame == COMMAND_LINE],
             [_wish(package, messages.SYSTEM) for package in removes],
             Collector.known_installed(root),
             self._session.main_file,

@@ -11,7 +11,7 @@ from typing import Any, Callable, Collection, Dict, Iterable, List, NamedTuple, 
 from .. import versions
 from ..backend import PkgTup
 from ..errors import YumBaseError
-from ..packages import pkgtup
+from ..packages import pkgtup, shown_repository
 from ..texts import _
 from .details import Details, Facts, counterpart, details
 from .messages import OBSOLETED, REMOVE, REPLACED, UPGRADE, Change, Wish
@@ -132,7 +132,7 @@ def _marked(solver: Solver, incoming: Sequence[Wish], removes: Sequence[Wish]) -
     installed = _of_names(solver.installed, removes)
     for wanted in incoming:
         if wanted not in available:
-            raise YumBaseError(_NOT_OFFERED.format(package=_shown(wanted), repository=wanted.repository))
+            raise YumBaseError(_NOT_OFFERED.format(package=_shown(wanted), repository=shown_repository(wanted.repository)))
     for unwanted in removes:
         if unwanted not in installed:
             raise YumBaseError(NOT_INSTALLED.format(package=_shown(unwanted)))
@@ -201,7 +201,7 @@ def _changes(native: str, marked: Set[PkgTup], solution: Solution) -> List[Chang
 
     def add(package: Any, kind: str, replaced_by: int = -1) -> None:
         key = pkgtup(package)
-        changes.append(Change(kind, key in marked, *key, package.reponame, replaced_by))
+        changes.append(Change(kind, key in marked, *key, shown_repository(package.reponame), replaced_by))
 
     obsoleted = set(map(pkgtup, solution.obsoleted))
     replaced: Dict[PkgTup, Any] = {}

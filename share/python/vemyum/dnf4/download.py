@@ -94,4 +94,5 @@ def _place(package: dnf.package.Package) -> Place:
 
 def not_in_cache(packages: List[dnf.package.Package]) -> List[dnf.package.Package]:
     """The packages that the repositories still have to give: all but those that the download cache has as a whole."""
-    return [package for package in packages if package._is_local_pkg() or not _place(package).is_whole()]
+    wanted = [package for package in packages if not package._from_cmdline]
+    return [package for package in wanted if package._is_local_pkg() or not _place(package).is_whole()]

@@ -15,7 +15,7 @@ import libdnf.transaction as lt
 from ..apply.messages import INSTALL, UPGRADE
 from ..apply.solving import Incoming, Marks, Solution
 from ..backend import Dependency, PkgTup
-from ..packages import pkgtup
+from ..packages import COMMAND_LINE, pkgtup
 from .base import Base
 from .rows import checksum, dependencies
 
@@ -92,6 +92,8 @@ class Solver:
         return list(self._base.conf.protected_packages)
 
     def asks_for_signature(self, package: dnf.package.Package) -> bool:
+        if package.reponame == COMMAND_LINE:
+            return bool(self._base.conf.localpkg_gpgcheck)
         return bool(self._base.repos[package.reponame].gpgcheck)
 
 

@@ -9,7 +9,8 @@ from typing import Any, Iterator, List, Tuple
 import dnf.package
 import dnf.rpm.miscutils
 
-from ..signatures import DAMAGED, Fault, checksig, keys_below, lines, missing_keys
+from ..packages import COMMAND_LINE
+from ..signatures import DAMAGED, NO_KEYS, Fault, checksig, keys_below, lines, missing_keys
 from .base import Base
 from .keys import RepositoryKeys
 
@@ -25,7 +26,9 @@ def signature_faults(base: Base, packages: List[dnf.package.Package]) -> List[Fa
             missing.clear()
             result, message = base.package_signature_check(package)
             if result != 0:
-                source = RepositoryKeys(base.repos[package.reponame])
+                repository = package.reponame
+                of_file = repository == COMMAND_LINE
+                source = NO_KEYS if of_file else RepositoryKeys(base.repos[repository])
                 found.append(Fault(str(package), package.localPkg(), source, message, list(wrong), list(missing)))
     return found
 

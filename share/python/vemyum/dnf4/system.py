@@ -26,6 +26,7 @@ from ..sections import RepositorySection
 from ..vendors import by_name, refused
 from .base import open_base
 from .configuration import Settings
+from .fetching import fetch
 from .history import LAYOUT, history_path
 from .relations import Needs, advice, satisfying, versions_of, wanting
 from .rows import checksum, dependencies
@@ -145,6 +146,15 @@ class System:
 
     def advice(self, row: dnf.package.Package) -> List[Advice]:
         return advice(self._base.sack, row)
+
+    def architectures(self) -> Sequence[str]:
+        return [str(arch) for arch in self._base.sack.list_arches()]
+
+    def add_file(self, path: str) -> dnf.package.Package:
+        return self._base.sack.add_cmdline_package(path)
+
+    def fetch(self, address: str, path: str) -> None:
+        fetch(address, path, self._base.conf)
 
     def native(self) -> Sequence[str]:
         variables = self._base.conf.substitutions

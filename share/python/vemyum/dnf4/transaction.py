@@ -58,6 +58,8 @@ class Transaction:
                 # Which the reading of the system alone has switched off.
                 repo.enable()
             base.load_everything()
+        for file in request.files:
+            base.sack.add_cmdline_package(file)
         if not lists_all(solver.visible(names), request.removes):
             # The solver doesn't see what a hidden package needs, and what nothing needs any more without it.
             base.show_installed()

@@ -10,6 +10,7 @@ import libdnf5.repo
 
 from ..download import Causes, File, Meter, Place, failure, require_files
 from ..errors import YumBaseError
+from ..packages import COMMAND_LINE
 from ..repomd import digest, join
 from ..text import valid
 from ..texts import _
@@ -93,6 +94,8 @@ class DownloadMeter:
 
 def download(base: Base, packages: List[Any]) -> None:
     """Fetches what isn't on this machine yet. YumBaseError names each package that failed, and why."""
+    # What the user has opened is there, and the library would not know where to look for it.
+    packages = [package for package in packages if package.get_repo_id() != COMMAND_LINE]
     local = {repo.get_id() for repo in base.repositories(enabled_only=True) if repo.is_local()}
     meter = DownloadMeter(packages, local)
     try:

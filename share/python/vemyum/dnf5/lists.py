@@ -97,7 +97,7 @@ class Lists:
         found = rows(query, self._base)
         costs = {repo.get_id(): repo.get_cost() for repo in self._base.repositories(enabled_only=True)}
         if len(set(costs.values())) > 1:
-            found.sort(key=lambda row: costs[row.reponame])
+            found.sort(key=lambda row: costs.get(row.reponame, 0))
         return found
 
     def _changeable(self, query: libdnf5.rpm.PackageQuery) -> libdnf5.rpm.PackageQuery:

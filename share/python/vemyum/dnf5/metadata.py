@@ -23,7 +23,7 @@ import libdnf5.repo
 from .. import stop
 from ..acts import MIRROR_LISTS
 from ..backend import CHANGELOGS, FILE_LISTS, PRIMARY
-from ..errors import RepoError, os_error_text
+from ..errors import RepoError, YumBaseError, os_error_text
 from ..mirrors import TRIES, mirrors_in
 from ..queries import fetch
 from ..reading import NEVER_FETCHED, failure_text, is_unreadable
@@ -93,6 +93,21 @@ def content_of(base: Base, repo: libdnf5.repo.Repo, address: str) -> bytes:
                 return file.read()
     except FAILURES as error:
         raise RuntimeError("; ".join(dict.fromkeys(causes.told)) or words(error)) from error
+    finally:
+        base.downloads.listener = listener
+
+
+def fetch_file(base: Base, address: str, path: str) -> None:
+    """See `backend.System`."""
+    causes = _Causes()
+    listener, base.downloads.listener = base.downloads.listener, causes
+    downloader = libdnf5.repo.FileDownloader(base.library)
+    downloader.add(address, path)
+    try:
+        downloader.download()
+    except FAILURES as error:
+        stop.check()
+        raise YumBaseError("; ".join(dict.fromkeys(causes.told)) or words(error)) from error
     finally:
         base.downloads.listener = listener
 

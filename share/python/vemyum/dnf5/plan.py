@@ -13,6 +13,7 @@ from ..apply.messages import INSTALL, UPGRADE
 from ..apply.solving import Incoming, Marks, Solution
 from ..backend import Dependency, PkgTup
 from ..errors import YumBaseError
+from ..packages import COMMAND_LINE
 from ..packages import pkgtup as pkgtup_of_row
 from .base import Base
 from .rows import checksum, dependencies, rows
@@ -135,6 +136,8 @@ class Solver:
         return list(self._base.config.protected_packages)
 
     def asks_for_signature(self, package: Any) -> bool:
+        if package.reponame == COMMAND_LINE:
+            return bool(self._base.config.localpkg_gpgcheck)
         config = self._base.repository(package.reponame).get_config()
         return bool(config.get_pkg_gpgcheck_option().get_value())
 

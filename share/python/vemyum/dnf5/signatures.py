@@ -8,7 +8,9 @@ from typing import Any, Dict, List
 
 import libdnf5.rpm
 
-from ..signatures import DAMAGED, Fault, checksig, keys_below, lines, missing_keys
+from ..backend import KeySource
+from ..packages import COMMAND_LINE
+from ..signatures import DAMAGED, NO_KEYS, Fault, checksig, keys_below, lines, missing_keys
 from ..text import valid
 from ..texts import _
 from .base import Base
@@ -24,7 +26,7 @@ def signature_faults(base: Base, packages: List[Any]) -> List[Fault]:
     """Those of the packages that have no good signature where the configuration asks for one."""
     check = _Signature(base.library)
     where = keys_below(base.settings.root)
-    sources: Dict[str, Source] = {}
+    sources: Dict[str, KeySource] = {}
     found = []
     for package in packages:
         result = check.check_package_signature(package)
@@ -38,7 +40,7 @@ def signature_faults(base: Base, packages: List[Any]) -> List[Fault]:
             damaged = said
         id = package.get_repo_id()
         if id not in sources:
-            sources[id] = Source(base, base.repository(id))
+            sources[id] = NO_KEYS if id == COMMAND_LINE else Source(base, base.repository(id))
         file = valid(os.path.basename(path))
         found.append(Fault(shown(package), path, sources[id], _message(result, file), damaged, missing))
     return found

@@ -13,6 +13,7 @@ import urllib.parse
 from typing import Any, Callable, Dict, List, Optional, Sequence, Set, Tuple
 
 import libdnf5.repo
+import libdnf5.rpm
 import rpm
 
 from .. import stop
@@ -32,6 +33,7 @@ from ..database import point_rpm_at, unreadable
 from ..errors import RepoError, YumBaseError, os_error_text
 from ..history import open_entry, put_in
 from ..messages import rpms_words
+from ..packages import COMMAND_LINE
 from ..reading import drop_damaged, without_durations
 from ..sections import RepositorySection
 from ..texts import _
@@ -39,12 +41,12 @@ from .base import Base, open_base
 from .failures import FAILURES, in_full, words
 from .history import LAYOUT, history_path
 from .keys import load_signed
-from .lists import Lists, installed_rows
+from .lists import Lists, fitting, installed_rows
 from .log import LOGGER
-from .metadata import Metadata, told_of
+from .metadata import Metadata, fetch_file, told_of
 from .progress import is_to_be_converted
 from .relations import Relations
-from .rows import Row, checksum, dependencies, reason
+from .rows import Row, checksum, dependencies, reason, rows
 from .settings import Settings
 
 _MAIN = "main"
@@ -300,6 +302,22 @@ class System:
     @property
     def _relations(self) -> Relations:
         return Relations(self.base, self._installed)
+
+    def architectures(self) -> Sequence[str]:
+        return fitting()
+
+    def add_file(self, path: str) -> Row:
+        base = self.base
+        with in_full():
+            found = base.library.get_repo_sack().add_cmdline_packages([path])
+        # The bindings cannot read this map, and would say on the terminal that they cannot free it either.
+        found.disown()
+        query = libdnf5.rpm.PackageQuery(base.library)
+        query.filter_repo_id([COMMAND_LINE])
+        return next(row for row in rows(query, base) if row.location == path)
+
+    def fetch(self, address: str, path: str) -> None:
+        fetch_file(self.base, address, path)
 
     def native(self) -> Sequence[str]:
         variables = self.settings.variables

@@ -86,6 +86,8 @@ class Transaction:
             if not with_repositories:
                 repo.disable()
         system.load()
+        for file in self._request.files:
+            system.add_file(file)
         point_rpm_at(self._settings.root)
         return system
 
