@@ -6,6 +6,7 @@
 #include "bridge/YumIOHost.h"
 #include "engine/ApplyRun.h"
 #include "engine/Package.h"
+#include "engine/PackageFiles.h"
 #include "engine/RowDetails.h"
 #include "engine/Stop.h"
 #include "services/CaptureSink.h"
@@ -159,6 +160,8 @@ public:
     /// and table stay as they are.
     bool apply();
 
+    /// Whether the script can make rows of `packageFiles`. GUI thread.
+    [[nodiscard]] bool opensPackageFiles();
     /// What the configuration asks for and the script had to do without in the last collection that
     /// succeeded: a text, of several lines at times, for each repository or file.
     [[nodiscard]] QStringList const& incomplete() const { return incompleteTexts; }
@@ -268,6 +271,7 @@ public:
     void warning(char const* message) override;
 
     Stop stop;                       ///< of the job in progress
+    PackageFiles packageFiles;       ///< opened by the user; the next collection makes rows of them
     Log::EntryList logEntries;       ///< everything that was said since the program's start
     bool fileListsCollected = false; ///< the file lists of the repositories are loaded
     bool otherDataCollected = false; ///< the same for change logs
@@ -335,6 +339,9 @@ protected:
     /// A script that finds a transaction of another process at work may show it meanwhile, as its own.
     bool takeLock();
     bool readRepositories(QHash<QString, bool> const& repoStates);
+    /// Tells of files that cannot be used, and goes on without them; false where the script gives up.
+    bool collectPackageFiles();
+    void closeInstalledFiles();
     bool collectPackages();
     bool collectGroupData();
     /// Ask a script that knows: for what the collection had to do without, and for what a transaction has

@@ -82,6 +82,9 @@ bool YumIO::applyReal(ApplyOf what)
     pyMethodCall(yumIO.get(), "flush", "()");
     progress->reset();
     run.updateNames.clear();
+    if (run.applyConfirmed && what == ApplyOf::Marks) {
+        closeInstalledFiles();
+    }
     return run.applyConfirmed;
 }
 

@@ -84,8 +84,8 @@ bool YumIO::collectReal(QHash<QString, bool> const& repoStates)
     buildHostRepos.clear();
     startCollectionProgress();
 
-    bool const collected =
-        takeLock() && readRepositories(repoStates) && collectPackages() && collectGroupData();
+    bool const collected = takeLock() && readRepositories(repoStates) && collectPackageFiles() &&
+                           collectPackages() && collectGroupData();
     if (collected) {
         collectIncomplete();
         collectUnfinished();

@@ -29,6 +29,7 @@ bool YumIO::collect(QHash<QString, bool> const& repoStates)
     if (!stop.stopped()) {
         return false;
     }
+    packageFiles.closeFresh();
     // The table is to show what it showed before, or would have shown without a look at the network.
     log(Log::Action, 0, tr("Reading what was fetched before"));
     clear();

@@ -3,7 +3,9 @@
 
 #include "base/Application.h"
 #include "shell/MainWindow.h"
+#include "shell/PackageWords.h"
 
+#include <QFile>
 #include <array>
 #include <cstdio>
 #include <cstdlib>
@@ -33,6 +35,11 @@ void printUsage(std::FILE* stream)
         "   -l,     --log            start with the log window displayed\n"
         "           --disablerepo=r  disable the specified repository, r\n"
         "           --enablerepo=r   enable the specified repository, r\n"
+        "\n"
+        "arguments:\n"
+        "\n"
+        "   file.rpm, https://...    show the packages of these files and addresses,\n"
+        "                            marked for installation\n"
         "\n",
         program);
 }
@@ -60,9 +67,13 @@ void readCommandLine(int argc, char** argv, MainWindow& window)
         int const chosen = getopt_long(argc, argv, "+hHrl", options.data(), nullptr);
         switch (chosen) {
         case -1:
-            if (optind < argc) {
-                std::fprintf(stderr, "%s: unrecognized argument: %s\n", program, argv[optind]);
-                endWithUsage();
+            for (; optind < argc; ++optind) {
+                QString const word = PackageWords::understood(QFile::decodeName(argv[optind]));
+                if (word.isEmpty()) {
+                    std::fprintf(stderr, "%s: unrecognized argument: %s\n", program, argv[optind]);
+                    endWithUsage();
+                }
+                window.packageFiles.append(word);
             }
             return;
         case 'h':

@@ -68,6 +68,7 @@ void MainWindow::initialize()
         return;
     }
     statusLine->setLooking(yumIO->whyNoChange());
+    takeNamedFiles();
     if (repoEditorFlag) {
         model->reset();
         setReady(true);
@@ -87,6 +88,7 @@ void MainWindow::initialize()
     yumIO->collect(reposEnabled);
     model->reset();
     showTable();
+    markOpened();
     setReady(true);
 }
 
@@ -109,6 +111,7 @@ void MainWindow::setReady(bool ready)
 {
     Python::PyGILStateWrapper const lock(ready);
     programMenu->setEnabled(ready);
+    enableOpening(ready);
     quitAction->setEnabled(ready);
     repositoriesMenu->setEnabled(ready);
     editRepositoriesAction->setEnabled(ready);
@@ -166,6 +169,7 @@ void MainWindow::rebuild()
         modeCombo->setCurrentIndex(PackageTable::Filter);
     }
     showMarks();
+    markOpened();
 }
 
 void MainWindow::resize()

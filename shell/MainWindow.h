@@ -8,6 +8,7 @@
 #include <QList>
 #include <QMainWindow>
 #include <QPointer>
+#include <QStringList>
 
 class HMenu;
 class QAction;
@@ -58,6 +59,7 @@ public:
     bool repoEditorFlag = false;              ///< begin with the repository configuration editor
     bool logFlag = false;                     ///< begin with the log window
     QList<YumRepoEnabled> yumRepoEnabledList; ///< requests of the command line, in its order
+    QStringList packageFiles;                 ///< paths and addresses of packages that are to be opened
 
 public Q_SLOTS:
     void resize();
@@ -95,6 +97,9 @@ public Q_SLOTS:
     void setUpdateAll();
     void clearActions();
     void apply();
+    void choosePackageFiles();
+    /// Makes rows of these package files, absolute paths and addresses, and marks them.
+    void openPackageFiles(QStringList const& words);
     /// Has the job in progress give up, if it can.
     void stop();
     /// What there is to tell behind a collection.
@@ -110,6 +115,8 @@ protected:
     /// While rpm works it waits for the end of that, with a word; ends the process while another job is in
     /// progress.
     void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     void createMenuBar();
@@ -131,6 +138,12 @@ private:
     template <typename Clean>
     void cleaning(Clean const& clean);
     void rebuild();
+    void createOpenAction();
+    void enableOpening(bool ready);
+    /// Hands the engine what the command line names.
+    void takeNamedFiles();
+    /// Marks what was opened for the table on show, and shows it.
+    void markOpened();
     /// Behind a rebuild; tells of those that have lost their rows.
     void restore(PackageTable::Marks const& marks);
     void showTable();
@@ -158,6 +171,7 @@ private:
     YumIO* yumIO = nullptr;
     YumConfIO* yumConfIO = nullptr; ///< child of this window; null until initialize()
     HMenu* programMenu = nullptr;
+    QAction* openFilesAction = nullptr;
     QAction* quitAction = nullptr;
     HMenu* repositoriesMenu = nullptr;
     QAction* editRepositoriesAction = nullptr;

@@ -60,6 +60,7 @@ void MainWindow::createMenuBar()
     };
 
     programMenu = addMenu(tr("&Program"));
+    createOpenAction();
     quitAction = addEntry(programMenu, tr("&Quit"), &MainWindow::quit);
     quitAction->setShortcut(QKeySequence(tr("Ctrl+Q")));
 

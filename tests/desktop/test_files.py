@@ -34,8 +34,12 @@ def test_desktop_entry_speaks_every_language() -> None:
 
 
 def test_desktop_entry_starts_the_launcher() -> None:
-    assert entry()["Exec"].endswith("/share/vem/launch")
+    assert entry()["Exec"].endswith("/share/vem/launch %U")
     assert entry()["TryExec"].endswith("/bin/vem")
+
+
+def test_desktop_entry_offers_to_open_package_files() -> None:
+    assert entry()["MimeType"].split(";") == ["application/x-rpm", "application/x-redhat-package-manager", ""]
 
 
 def test_metainfo_is_valid_and_names_the_desktop_entry() -> None:

@@ -146,6 +146,16 @@ def test_a_key_file_of_any_name_is_found_from_any_folder(installed: Installed, t
     assert there["XAUTHORITY"] == f"{os.getcwd()}/keys/x"
 
 
+def test_a_package_file_is_found_from_any_folder(
+    installed: Installed, tmp_path: Path, monkeypatch: pytest.MonkeyPatch
+) -> None:
+    installed.add_pkexec()
+    (tmp_path / "a b.rpm").touch()
+    monkeypatch.chdir(tmp_path)
+    words = ["--log", "a b.rpm", "none.rpm", "/srv/c.rpm", "https://example.org/d.rpm"]
+    assert arguments(installed.launch(*words)) == ["--log", f"{tmp_path}/a b.rpm", *words[2:]]
+
+
 def test_a_remote_display_keeps_its_name(installed: Installed) -> None:
     installed.add_pkexec()
     assert environment(installed.launch(DISPLAY="localhost:10.0"))["DISPLAY"] == "localhost:10.0"

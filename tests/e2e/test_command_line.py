@@ -19,6 +19,11 @@ options:
            --disablerepo=r  disable the specified repository, r
            --enablerepo=r   enable the specified repository, r
 
+arguments:
+
+   file.rpm, https://...    show the packages of these files and addresses,
+                            marked for installation
+
 """
 
 

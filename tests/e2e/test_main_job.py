@@ -42,6 +42,34 @@ def test_rows_follow_the_state_filter_and_the_expression(site: Estate, start: St
     assert program.names() == ["fleet-oil", "fleet-wick"]
 
 
+def test_package_files_of_the_command_line_are_marked_and_installed(
+    site: Estate, fleet: Estate, start: Start, tmp_path: Path
+) -> None:
+    """Of one file the repository has the package, too; the other one is known to nobody, and of a third there is less
+    than there should be."""
+    new, lamp = fleet.build([spec("fleet-flag", "3.0"), spec("fleet-lamp", "2.0")])
+    cut = tmp_path / "cut.rpm"
+    cut.write_bytes(new.read_bytes()[:-40])
+    program = start(site, str(new), f"file://{lamp}", str(cut))
+    box = program.window("VEM Yum Error")
+    assert f"{cut}: this is no rpm package, or it is damaged" in program.texts(box)
+    program.press("OK", box)
+    program.wait_ready()
+    assert program.names() == ["fleet-flag", "fleet-lamp"]
+    assert program.cell(0, REPOSITORY_COLUMN).get_name() == "files"
+    program.press("Apply Actions")
+    question = program.window("Apply")
+    text = program.texts(question)
+    assert "\tInstall: fleet-flag 3.0-1 (noarch) [files]" in text
+    assert "\tUpdate: fleet-lamp 2.0-1 (noarch) [files]" in text
+    program.press("OK", question)
+    program.wait_closed("Apply")
+    program.wait_ready()
+    assert site.installed() == BEFORE - {"fleet-lamp-1.0-1.noarch"} | {
+        "fleet-flag-3.0-1.noarch", "fleet-lamp-2.0-1.noarch",
+    }
+
+
 def test_a_click_on_a_header_sorts_and_a_second_one_reverses(site: Estate, start: Start) -> None:
     program = open_program(start, site)
     program.choose("View Removable")

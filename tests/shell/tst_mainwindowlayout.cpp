@@ -69,7 +69,11 @@ private Q_SLOTS:
     void menusHaveTheirEntries()
     {
         QCOMPARE(window->menuBar()->actions().size(), 6);
-        QCOMPARE(menuTexts(menu(QStringLiteral("&Program"))), QStringList{QStringLiteral("&Quit|Ctrl+Q")});
+        QCOMPARE(
+            menuTexts(menu(QStringLiteral("&Program"))),
+            QStringList(
+                {QStringLiteral("&Open Package Files...|Ctrl+O"), QStringLiteral("-"),
+                 QStringLiteral("&Quit|Ctrl+Q")}));
         QCOMPARE(
             menuTexts(menu(QStringLiteral("&Windows"))),
             QStringList(
