@@ -45,8 +45,6 @@ def test_rows_follow_the_state_filter_and_the_expression(site: Estate, start: St
 def test_package_files_of_the_command_line_are_marked_and_installed(
     site: Estate, fleet: Estate, start: Start, tmp_path: Path
 ) -> None:
-    """Of one file the repository has the package, too; the other one is known to nobody, and of a third there is less
-    than there should be."""
     new, lamp = fleet.build([spec("fleet-flag", "3.0"), spec("fleet-lamp", "2.0")])
     cut = tmp_path / "cut.rpm"
     cut.write_bytes(new.read_bytes()[:-40])

@@ -165,6 +165,14 @@ private Q_SLOTS:
         QVERIFY(shown().contains(QStringLiteral("good-five")));
     }
 
+    void whatAGoodApplyHasPutInIsClosed()
+    {
+        boxes->press({QStringLiteral("OK")});
+        QTest::mouseClick(button(QStringLiteral("Apply Actions")), Qt::LeftButton);
+        boxes->take();
+        QCOMPARE(opened(), QStringLiteral("good-two.rpm"));
+    }
+
     void aScriptThatCannotOpenThemDisablesTheAction()
     {
         QVERIFY(action(QStringLiteral("Open Package Files..."))->isEnabled());

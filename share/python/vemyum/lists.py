@@ -69,7 +69,7 @@ class Collector:
         replacing = [(row, olds) for row, olds in replacing if row.name not in self._files]
         replaced = {id(row): olds for row, olds in replacing}
         rows = self._best_first([*upgrades, *(row for row, _olds in replacing)])
-        self.updatable = _names(rows)
+        self.updatable = _names([*rows, *(file.po for file in files)])
         return [*files, *(self._update(row, replaced.get(id(row), [])) for row in rows)]
 
     def _updating_files(self, replacing: List[Tuple[Row, List[Row]]]) -> List[AvailablePackage]:
