@@ -160,6 +160,7 @@ private Q_SLOTS:
         });
         boxes->press({QStringLiteral("Open")});
         action(QStringLiteral("Open Package Files..."))->trigger();
+        QCOMPARE(boxes->take().size(), 1);
         QCOMPARE(
             opened(), QStringLiteral("good-one.rpm good-two.rpm good-three.RPM good-four.rpm good-five.rpm"));
         QVERIFY(shown().contains(QStringLiteral("good-five")));
