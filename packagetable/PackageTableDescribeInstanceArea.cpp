@@ -149,6 +149,8 @@ void Area::addSections(Relations& relations)
         sectionsLayout->addWidget(section);
         sections.append(section);
     }
+    // It has been asked for its size, and wouldn't look again before its next event.
+    container->layout()->invalidate();
 }
 
 QList<Relations::Kind> Area::openSections() const

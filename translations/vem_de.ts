@@ -811,6 +811,69 @@ That goes on to its end, and the program ends behind it.</source>
         <translation>Pakete werden installiert, aktualisiert oder entfernt.
 Das wird zu Ende geführt, und das Programm endet danach.</translation>
     </message>
+    <message>
+        <source>&amp;Open Package Files...</source>
+        <translation>Paketdateien ö&amp;ffnen...</translation>
+    </message>
+    <message>
+        <source>Ctrl+O</source>
+        <translation>Ctrl+O</translation>
+    </message>
+    <message>
+        <source>Shows packages of .rpm files and of https addresses in the table, marked for installation</source>
+        <translation>Zeigt Pakete aus .rpm-Dateien und von https-Adressen in der Tabelle, zur Installation markiert</translation>
+    </message>
+    <message>
+        <source>The package library in use can&apos;t open package files here</source>
+        <translation>Die verwendete Paketbibliothek kann hier keine Paketdateien öffnen</translation>
+    </message>
+    <message>
+        <source>The search was stopped: only what it had found by then is shown</source>
+        <translation>Die Suche wurde angehalten: Gezeigt wird nur, was bis dahin gefunden war</translation>
+    </message>
+</context>
+<context>
+    <name>PackageFilesDialog</name>
+    <message>
+        <source>Open Package Files</source>
+        <translation>Paketdateien öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Files (.rpm) and addresses (https), one a line:</source>
+        <translation>&amp;Dateien (.rpm) und Adressen (https), je eine pro Zeile:</translation>
+    </message>
+    <message>
+        <source>Package files</source>
+        <translation>Paketdateien</translation>
+    </message>
+    <message>
+        <source>Paths of .rpm files and https addresses, one a line</source>
+        <translation>Pfade von .rpm-Dateien und https-Adressen, je einer pro Zeile</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>D&amp;urchsuchen...</translation>
+    </message>
+    <message>
+        <source>Choose .rpm files of this machine</source>
+        <translation>.rpm-Dateien dieses Rechners auswählen</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>Ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>Show the packages in the table, marked for installation</source>
+        <translation>Die Pakete in der Tabelle zeigen, zur Installation markiert</translation>
+    </message>
+    <message>
+        <source>Package files (*.rpm);;All files (*)</source>
+        <translation>Paketdateien (*.rpm);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>This is no readable .rpm file and no https address: %1</source>
+        <translation>Das ist weder eine lesbare .rpm-Datei noch eine https-Adresse: %1</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>
@@ -840,6 +903,14 @@ Das wird zu Ende geführt, und das Programm endet danach.</translation>
     <message>
         <source>VEM Package Description</source>
         <translation>VEM - Paketbeschreibung</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Go back to the package described before</source>
+        <translation>Zurück zu dem Paket, das vorher beschrieben wurde</translation>
     </message>
 </context>
 <context>
@@ -1026,6 +1097,73 @@ Das wird zu Ende geführt, und das Programm endet danach.</translation>
     <message>
         <source>%1:</source>
         <translation>%1:</translation>
+    </message>
+</context>
+<context>
+    <name>PackageTable::Describe::Instance::Section</name>
+    <message>
+        <source>Required By</source>
+        <translation>Benötigt von</translation>
+    </message>
+    <message>
+        <source>Which packages require this one</source>
+        <translation>Welche Pakete dieses benötigen</translation>
+    </message>
+    <message>
+        <source>Recommended By</source>
+        <translation>Empfohlen von</translation>
+    </message>
+    <message>
+        <source>Which packages recommend this one</source>
+        <translation>Welche Pakete dieses empfehlen</translation>
+    </message>
+    <message>
+        <source>Provides What It Requires</source>
+        <translation>Stellt bereit, was es benötigt</translation>
+    </message>
+    <message>
+        <source>Which packages have what this one requires</source>
+        <translation>Welche Pakete haben, was dieses benötigt</translation>
+    </message>
+    <message>
+        <source>Why Installed</source>
+        <translation>Warum installiert</translation>
+    </message>
+    <message>
+        <source>Who wanted this package, and which transaction installed it</source>
+        <translation>Wer dieses Paket wollte und welche Transaktion es installiert hat</translation>
+    </message>
+    <message>
+        <source>Advisories</source>
+        <translation>Sicherheits- und Fehlerhinweise</translation>
+    </message>
+    <message>
+        <source>Which advisories name this package, and whether it has what they advise</source>
+        <translation>Welche Hinweise dieses Paket nennen und ob es hat, wozu sie raten</translation>
+    </message>
+    <message>
+        <source>Other Versions</source>
+        <translation>Andere Versionen</translation>
+    </message>
+    <message>
+        <source>All versions that are installed or that a repository has</source>
+        <translation>Alle Versionen, die installiert sind oder die ein Repository hat</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>Wird gelesen …</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>These are the first %L1 of %L2.</source>
+        <translation>Dies sind die ersten %L1 von %L2.</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Alle anzeigen</translation>
     </message>
 </context>
 <context>
@@ -1323,6 +1461,17 @@ In mehr als einer Version installiert: %1</translation>
     <message>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>Relations</name>
+    <message>
+        <source>Unable to read what is told of other packages</source>
+        <translation>Was über andere Pakete gesagt wird, kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Internal error: execution of yumIO.%1 failed</source>
+        <translation type="unfinished">Interner Fehler: Ausführung von yumIO.%1 fehlgeschlagen</translation>
     </message>
 </context>
 <context>
@@ -2615,6 +2764,14 @@ Wie soll fortgefahren werden?</translation>
     <message>
         <source>script of %1</source>
         <translation>Skript von %1</translation>
+    </message>
+    <message>
+        <source>Unable to open package files</source>
+        <translation>Paketdateien können nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <source>These package files can&apos;t be used:</source>
+        <translation>Diese Paketdateien können nicht verwendet werden:</translation>
     </message>
 </context>
 <context>

@@ -811,6 +811,69 @@ That goes on to its end, and the program ends behind it.</source>
         <translation>Se están instalando, actualizando o eliminando paquetes.
 Eso continúa hasta el final, y el programa termina después.</translation>
     </message>
+    <message>
+        <source>&amp;Open Package Files...</source>
+        <translation>&amp;Abrir archivos de paquetes...</translation>
+    </message>
+    <message>
+        <source>Ctrl+O</source>
+        <translation>Ctrl+O</translation>
+    </message>
+    <message>
+        <source>Shows packages of .rpm files and of https addresses in the table, marked for installation</source>
+        <translation>Muestra en la tabla paquetes de archivos .rpm y de direcciones https, marcados para instalar</translation>
+    </message>
+    <message>
+        <source>The package library in use can&apos;t open package files here</source>
+        <translation>La biblioteca de paquetes en uso no puede abrir aquí archivos de paquetes</translation>
+    </message>
+    <message>
+        <source>The search was stopped: only what it had found by then is shown</source>
+        <translation>La búsqueda se detuvo: solo se muestra lo que había encontrado hasta entonces</translation>
+    </message>
+</context>
+<context>
+    <name>PackageFilesDialog</name>
+    <message>
+        <source>Open Package Files</source>
+        <translation>Abrir archivos de paquetes</translation>
+    </message>
+    <message>
+        <source>&amp;Files (.rpm) and addresses (https), one a line:</source>
+        <translation>A&amp;rchivos (.rpm) y direcciones (https), uno por línea:</translation>
+    </message>
+    <message>
+        <source>Package files</source>
+        <translation>Archivos de paquetes</translation>
+    </message>
+    <message>
+        <source>Paths of .rpm files and https addresses, one a line</source>
+        <translation>Rutas de archivos .rpm y direcciones https, una por línea</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>&amp;Examinar...</translation>
+    </message>
+    <message>
+        <source>Choose .rpm files of this machine</source>
+        <translation>Elegir archivos .rpm de este equipo</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Abrir</translation>
+    </message>
+    <message>
+        <source>Show the packages in the table, marked for installation</source>
+        <translation>Mostrar los paquetes en la tabla, marcados para instalar</translation>
+    </message>
+    <message>
+        <source>Package files (*.rpm);;All files (*)</source>
+        <translation>Archivos de paquetes (*.rpm);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>This is no readable .rpm file and no https address: %1</source>
+        <translation>Esto no es un archivo .rpm legible ni una dirección https: %1</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>
@@ -840,6 +903,14 @@ Eso continúa hasta el final, y el programa termina después.</translation>
     <message>
         <source>VEM Package Description</source>
         <translation>VEM - Descripción del paquete</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Atrás</translation>
+    </message>
+    <message>
+        <source>Go back to the package described before</source>
+        <translation>Volver al paquete descrito antes</translation>
     </message>
 </context>
 <context>
@@ -1026,6 +1097,73 @@ Eso continúa hasta el final, y el programa termina después.</translation>
     <message>
         <source>%1:</source>
         <translation>%1:</translation>
+    </message>
+</context>
+<context>
+    <name>PackageTable::Describe::Instance::Section</name>
+    <message>
+        <source>Required By</source>
+        <translation>Requerido por</translation>
+    </message>
+    <message>
+        <source>Which packages require this one</source>
+        <translation>Qué paquetes requieren este</translation>
+    </message>
+    <message>
+        <source>Recommended By</source>
+        <translation>Recomendado por</translation>
+    </message>
+    <message>
+        <source>Which packages recommend this one</source>
+        <translation>Qué paquetes recomiendan este</translation>
+    </message>
+    <message>
+        <source>Provides What It Requires</source>
+        <translation>Proporciona lo que requiere</translation>
+    </message>
+    <message>
+        <source>Which packages have what this one requires</source>
+        <translation>Qué paquetes tienen lo que este requiere</translation>
+    </message>
+    <message>
+        <source>Why Installed</source>
+        <translation>Por qué está instalado</translation>
+    </message>
+    <message>
+        <source>Who wanted this package, and which transaction installed it</source>
+        <translation>Quién quiso este paquete y qué transacción lo instaló</translation>
+    </message>
+    <message>
+        <source>Advisories</source>
+        <translation>Avisos</translation>
+    </message>
+    <message>
+        <source>Which advisories name this package, and whether it has what they advise</source>
+        <translation>Qué avisos nombran este paquete y si tiene lo que aconsejan</translation>
+    </message>
+    <message>
+        <source>Other Versions</source>
+        <translation>Otras versiones</translation>
+    </message>
+    <message>
+        <source>All versions that are installed or that a repository has</source>
+        <translation>Todas las versiones instaladas o que tiene un repositorio</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>Leyendo…</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ninguno</translation>
+    </message>
+    <message>
+        <source>These are the first %L1 of %L2.</source>
+        <translation>Estos son los primeros %L1 de %L2.</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Mostrar todos</translation>
     </message>
 </context>
 <context>
@@ -1323,6 +1461,17 @@ Instalado en más de una versión: %1</translation>
     <message>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>Relations</name>
+    <message>
+        <source>Unable to read what is told of other packages</source>
+        <translation>No se puede leer lo que se dice de otros paquetes</translation>
+    </message>
+    <message>
+        <source>Internal error: execution of yumIO.%1 failed</source>
+        <translation type="unfinished">Error interno: falló la ejecución de yumIO.%1</translation>
     </message>
 </context>
 <context>
@@ -2615,6 +2764,14 @@ pero también pertenece al grupo %5 y por ello se marcó con la acción %6.
     <message>
         <source>script of %1</source>
         <translation>script de %1</translation>
+    </message>
+    <message>
+        <source>Unable to open package files</source>
+        <translation>No se pueden abrir los archivos de paquetes</translation>
+    </message>
+    <message>
+        <source>These package files can&apos;t be used:</source>
+        <translation>Estos archivos de paquetes no se pueden usar:</translation>
     </message>
 </context>
 <context>

@@ -811,6 +811,69 @@ That goes on to its end, and the program ends behind it.</source>
         <translation>Des paquets sont en cours d&apos;installation, de mise à jour ou de suppression.
 Cela ira à son terme, et le programme se terminera ensuite.</translation>
     </message>
+    <message>
+        <source>&amp;Open Package Files...</source>
+        <translation>&amp;Ouvrir des fichiers de paquets...</translation>
+    </message>
+    <message>
+        <source>Ctrl+O</source>
+        <translation>Ctrl+O</translation>
+    </message>
+    <message>
+        <source>Shows packages of .rpm files and of https addresses in the table, marked for installation</source>
+        <translation>Affiche dans la table les paquets de fichiers .rpm et d&apos;adresses https, marqués pour l&apos;installation</translation>
+    </message>
+    <message>
+        <source>The package library in use can&apos;t open package files here</source>
+        <translation>La bibliothèque de paquets utilisée ne peut pas ouvrir ici de fichiers de paquets</translation>
+    </message>
+    <message>
+        <source>The search was stopped: only what it had found by then is shown</source>
+        <translation>La recherche a été arrêtée : seul ce qu&apos;elle avait trouvé jusque-là est affiché</translation>
+    </message>
+</context>
+<context>
+    <name>PackageFilesDialog</name>
+    <message>
+        <source>Open Package Files</source>
+        <translation>Ouvrir des fichiers de paquets</translation>
+    </message>
+    <message>
+        <source>&amp;Files (.rpm) and addresses (https), one a line:</source>
+        <translation>&amp;Fichiers (.rpm) et adresses (https), un par ligne :</translation>
+    </message>
+    <message>
+        <source>Package files</source>
+        <translation>Fichiers de paquets</translation>
+    </message>
+    <message>
+        <source>Paths of .rpm files and https addresses, one a line</source>
+        <translation>Chemins de fichiers .rpm et adresses https, un par ligne</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>&amp;Parcourir...</translation>
+    </message>
+    <message>
+        <source>Choose .rpm files of this machine</source>
+        <translation>Choisir des fichiers .rpm de cette machine</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Ouvrir</translation>
+    </message>
+    <message>
+        <source>Show the packages in the table, marked for installation</source>
+        <translation>Afficher les paquets dans la table, marqués pour l&apos;installation</translation>
+    </message>
+    <message>
+        <source>Package files (*.rpm);;All files (*)</source>
+        <translation>Fichiers de paquets (*.rpm);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>This is no readable .rpm file and no https address: %1</source>
+        <translation>Ce n&apos;est ni un fichier .rpm lisible ni une adresse https : %1</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>
@@ -840,6 +903,14 @@ Cela ira à son terme, et le programme se terminera ensuite.</translation>
     <message>
         <source>VEM Package Description</source>
         <translation>VEM - Description du paquet</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+    <message>
+        <source>Go back to the package described before</source>
+        <translation>Revenir au paquet décrit auparavant</translation>
     </message>
 </context>
 <context>
@@ -1026,6 +1097,73 @@ Cela ira à son terme, et le programme se terminera ensuite.</translation>
     <message>
         <source>%1:</source>
         <translation>%1&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>PackageTable::Describe::Instance::Section</name>
+    <message>
+        <source>Required By</source>
+        <translation>Requis par</translation>
+    </message>
+    <message>
+        <source>Which packages require this one</source>
+        <translation>Quels paquets requièrent celui-ci</translation>
+    </message>
+    <message>
+        <source>Recommended By</source>
+        <translation>Recommandé par</translation>
+    </message>
+    <message>
+        <source>Which packages recommend this one</source>
+        <translation>Quels paquets recommandent celui-ci</translation>
+    </message>
+    <message>
+        <source>Provides What It Requires</source>
+        <translation>Fournit ce qu&apos;il requiert</translation>
+    </message>
+    <message>
+        <source>Which packages have what this one requires</source>
+        <translation>Quels paquets ont ce que celui-ci requiert</translation>
+    </message>
+    <message>
+        <source>Why Installed</source>
+        <translation>Pourquoi installé</translation>
+    </message>
+    <message>
+        <source>Who wanted this package, and which transaction installed it</source>
+        <translation>Qui a voulu ce paquet, et quelle transaction l&apos;a installé</translation>
+    </message>
+    <message>
+        <source>Advisories</source>
+        <translation>Avis</translation>
+    </message>
+    <message>
+        <source>Which advisories name this package, and whether it has what they advise</source>
+        <translation>Quels avis nomment ce paquet, et s&apos;il a ce qu&apos;ils conseillent</translation>
+    </message>
+    <message>
+        <source>Other Versions</source>
+        <translation>Autres versions</translation>
+    </message>
+    <message>
+        <source>All versions that are installed or that a repository has</source>
+        <translation>Toutes les versions installées ou qu&apos;un dépôt possède</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>Lecture…</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucun</translation>
+    </message>
+    <message>
+        <source>These are the first %L1 of %L2.</source>
+        <translation>Voici les %L1 premiers sur %L2.</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Tout afficher</translation>
     </message>
 </context>
 <context>
@@ -1323,6 +1461,17 @@ Installé en plusieurs versions&#xa0;: %1</translation>
     <message>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>Relations</name>
+    <message>
+        <source>Unable to read what is told of other packages</source>
+        <translation>Impossible de lire ce qui est dit d&apos;autres paquets</translation>
+    </message>
+    <message>
+        <source>Internal error: execution of yumIO.%1 failed</source>
+        <translation type="unfinished">Erreur interne&#xa0;: échec de l’exécution de yumIO.%1</translation>
     </message>
 </context>
 <context>
@@ -2615,6 +2764,14 @@ Comment voulez-vous procéder&#xa0;?</translation>
     <message>
         <source>script of %1</source>
         <translation>script de %1</translation>
+    </message>
+    <message>
+        <source>Unable to open package files</source>
+        <translation>Impossible d&apos;ouvrir les fichiers de paquets</translation>
+    </message>
+    <message>
+        <source>These package files can&apos;t be used:</source>
+        <translation>Ces fichiers de paquets ne peuvent pas être utilisés :</translation>
     </message>
 </context>
 <context>

@@ -811,6 +811,69 @@ That goes on to its end, and the program ends behind it.</source>
         <translation>パッケージのインストール、更新、または削除を行っています。
 この処理は最後まで続き、その後プログラムは終了します。</translation>
     </message>
+    <message>
+        <source>&amp;Open Package Files...</source>
+        <translation>パッケージファイルを開く(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>Ctrl+O</source>
+        <translation>Ctrl+O</translation>
+    </message>
+    <message>
+        <source>Shows packages of .rpm files and of https addresses in the table, marked for installation</source>
+        <translation>.rpm ファイルや https アドレスのパッケージを、インストールの印を付けて表に表示します</translation>
+    </message>
+    <message>
+        <source>The package library in use can&apos;t open package files here</source>
+        <translation>使用中のパッケージライブラリは、ここではパッケージファイルを開けません</translation>
+    </message>
+    <message>
+        <source>The search was stopped: only what it had found by then is shown</source>
+        <translation>検索は中止されました。それまでに見つかったものだけが表示されています</translation>
+    </message>
+</context>
+<context>
+    <name>PackageFilesDialog</name>
+    <message>
+        <source>Open Package Files</source>
+        <translation>パッケージファイルを開く</translation>
+    </message>
+    <message>
+        <source>&amp;Files (.rpm) and addresses (https), one a line:</source>
+        <translation>ファイル (.rpm) とアドレス (https)、1 行に 1 つ(&amp;F):</translation>
+    </message>
+    <message>
+        <source>Package files</source>
+        <translation>パッケージファイル</translation>
+    </message>
+    <message>
+        <source>Paths of .rpm files and https addresses, one a line</source>
+        <translation>.rpm ファイルのパスと https アドレス、1 行に 1 つ</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>参照(&amp;B)...</translation>
+    </message>
+    <message>
+        <source>Choose .rpm files of this machine</source>
+        <translation>このマシンの .rpm ファイルを選びます</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>開く(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Show the packages in the table, marked for installation</source>
+        <translation>パッケージを、インストールの印を付けて表に表示します</translation>
+    </message>
+    <message>
+        <source>Package files (*.rpm);;All files (*)</source>
+        <translation>パッケージファイル (*.rpm);;すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>This is no readable .rpm file and no https address: %1</source>
+        <translation>読み取れる .rpm ファイルでも https アドレスでもありません: %1</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>
@@ -840,6 +903,14 @@ That goes on to its end, and the program ends behind it.</source>
     <message>
         <source>VEM Package Description</source>
         <translation>VEM パッケージの詳細</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source>Go back to the package described before</source>
+        <translation>直前に説明していたパッケージに戻る</translation>
     </message>
 </context>
 <context>
@@ -1026,6 +1097,73 @@ That goes on to its end, and the program ends behind it.</source>
     <message>
         <source>%1:</source>
         <translation>%1:</translation>
+    </message>
+</context>
+<context>
+    <name>PackageTable::Describe::Instance::Section</name>
+    <message>
+        <source>Required By</source>
+        <translation>このパッケージを必要とするもの</translation>
+    </message>
+    <message>
+        <source>Which packages require this one</source>
+        <translation>どのパッケージがこのパッケージを必要とするか</translation>
+    </message>
+    <message>
+        <source>Recommended By</source>
+        <translation>このパッケージを推奨するもの</translation>
+    </message>
+    <message>
+        <source>Which packages recommend this one</source>
+        <translation>どのパッケージがこのパッケージを推奨するか</translation>
+    </message>
+    <message>
+        <source>Provides What It Requires</source>
+        <translation>必要なものを提供するパッケージ</translation>
+    </message>
+    <message>
+        <source>Which packages have what this one requires</source>
+        <translation>このパッケージが必要とするものをどのパッケージが持つか</translation>
+    </message>
+    <message>
+        <source>Why Installed</source>
+        <translation>インストールの理由</translation>
+    </message>
+    <message>
+        <source>Who wanted this package, and which transaction installed it</source>
+        <translation>誰がこのパッケージを求め、どのトランザクションがインストールしたか</translation>
+    </message>
+    <message>
+        <source>Advisories</source>
+        <translation>アドバイザリー</translation>
+    </message>
+    <message>
+        <source>Which advisories name this package, and whether it has what they advise</source>
+        <translation>どのアドバイザリーがこのパッケージを挙げ、その内容が適用済みか</translation>
+    </message>
+    <message>
+        <source>Other Versions</source>
+        <translation>他のバージョン</translation>
+    </message>
+    <message>
+        <source>All versions that are installed or that a repository has</source>
+        <translation>インストール済み、またはリポジトリーにあるすべてのバージョン</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>読み込み中…</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>These are the first %L1 of %L2.</source>
+        <translation>%L2 件中の最初の %L1 件です。</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>すべて表示</translation>
     </message>
 </context>
 <context>
@@ -1323,6 +1461,17 @@ Installed in more than one version: %1</source>
     <message>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>Relations</name>
+    <message>
+        <source>Unable to read what is told of other packages</source>
+        <translation>他のパッケージについての情報を読み込めません</translation>
+    </message>
+    <message>
+        <source>Internal error: execution of yumIO.%1 failed</source>
+        <translation type="unfinished">内部エラー: yumIO.%1 の実行に失敗しました</translation>
     </message>
 </context>
 <context>
@@ -2615,6 +2764,14 @@ How do you wish to proceed?</source>
     <message>
         <source>script of %1</source>
         <translation>%1 のスクリプト</translation>
+    </message>
+    <message>
+        <source>Unable to open package files</source>
+        <translation>パッケージファイルを開けません</translation>
+    </message>
+    <message>
+        <source>These package files can&apos;t be used:</source>
+        <translation>これらのパッケージファイルは使えません:</translation>
     </message>
 </context>
 <context>

@@ -811,6 +811,69 @@ That goes on to its end, and the program ends behind it.</source>
         <translation>正在安装、更新或删除软件包。
 该操作会进行到底，随后程序退出。</translation>
     </message>
+    <message>
+        <source>&amp;Open Package Files...</source>
+        <translation>打开软件包文件(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>Ctrl+O</source>
+        <translation>Ctrl+O</translation>
+    </message>
+    <message>
+        <source>Shows packages of .rpm files and of https addresses in the table, marked for installation</source>
+        <translation>在表格中显示 .rpm 文件和 https 地址的软件包，并标记为安装</translation>
+    </message>
+    <message>
+        <source>The package library in use can&apos;t open package files here</source>
+        <translation>正在使用的软件包库在此无法打开软件包文件</translation>
+    </message>
+    <message>
+        <source>The search was stopped: only what it had found by then is shown</source>
+        <translation>搜索已停止：仅显示此前找到的内容</translation>
+    </message>
+</context>
+<context>
+    <name>PackageFilesDialog</name>
+    <message>
+        <source>Open Package Files</source>
+        <translation>打开软件包文件</translation>
+    </message>
+    <message>
+        <source>&amp;Files (.rpm) and addresses (https), one a line:</source>
+        <translation>文件 (.rpm) 和地址 (https)，每行一个(&amp;F)：</translation>
+    </message>
+    <message>
+        <source>Package files</source>
+        <translation>软件包文件</translation>
+    </message>
+    <message>
+        <source>Paths of .rpm files and https addresses, one a line</source>
+        <translation>.rpm 文件的路径和 https 地址，每行一个</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>浏览(&amp;B)...</translation>
+    </message>
+    <message>
+        <source>Choose .rpm files of this machine</source>
+        <translation>选择本机的 .rpm 文件</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>打开(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Show the packages in the table, marked for installation</source>
+        <translation>在表格中显示这些软件包，并标记为安装</translation>
+    </message>
+    <message>
+        <source>Package files (*.rpm);;All files (*)</source>
+        <translation>软件包文件 (*.rpm);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>This is no readable .rpm file and no https address: %1</source>
+        <translation>这既不是可读的 .rpm 文件，也不是 https 地址：%1</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>
@@ -840,6 +903,14 @@ That goes on to its end, and the program ends behind it.</source>
     <message>
         <source>VEM Package Description</source>
         <translation>VEM 软件包详细信息</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>返回</translation>
+    </message>
+    <message>
+        <source>Go back to the package described before</source>
+        <translation>返回之前描述的软件包</translation>
     </message>
 </context>
 <context>
@@ -1026,6 +1097,73 @@ That goes on to its end, and the program ends behind it.</source>
     <message>
         <source>%1:</source>
         <translation>%1：</translation>
+    </message>
+</context>
+<context>
+    <name>PackageTable::Describe::Instance::Section</name>
+    <message>
+        <source>Required By</source>
+        <translation>被以下软件包需要</translation>
+    </message>
+    <message>
+        <source>Which packages require this one</source>
+        <translation>哪些软件包需要此软件包</translation>
+    </message>
+    <message>
+        <source>Recommended By</source>
+        <translation>被以下软件包推荐</translation>
+    </message>
+    <message>
+        <source>Which packages recommend this one</source>
+        <translation>哪些软件包推荐此软件包</translation>
+    </message>
+    <message>
+        <source>Provides What It Requires</source>
+        <translation>提供其所需的软件包</translation>
+    </message>
+    <message>
+        <source>Which packages have what this one requires</source>
+        <translation>哪些软件包具有此软件包所需的内容</translation>
+    </message>
+    <message>
+        <source>Why Installed</source>
+        <translation>为何安装</translation>
+    </message>
+    <message>
+        <source>Who wanted this package, and which transaction installed it</source>
+        <translation>谁需要此软件包，以及由哪个事务安装</translation>
+    </message>
+    <message>
+        <source>Advisories</source>
+        <translation>公告</translation>
+    </message>
+    <message>
+        <source>Which advisories name this package, and whether it has what they advise</source>
+        <translation>哪些公告提及此软件包，以及其建议是否已应用</translation>
+    </message>
+    <message>
+        <source>Other Versions</source>
+        <translation>其他版本</translation>
+    </message>
+    <message>
+        <source>All versions that are installed or that a repository has</source>
+        <translation>已安装或软件仓库中的所有版本</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>正在读取…</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>These are the first %L1 of %L2.</source>
+        <translation>这是 %L2 项中的前 %L1 项。</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>全部显示</translation>
     </message>
 </context>
 <context>
@@ -1323,6 +1461,17 @@ Installed in more than one version: %1</source>
     <message>
         <source>%1 (%2)</source>
         <translation>%1（%2）</translation>
+    </message>
+</context>
+<context>
+    <name>Relations</name>
+    <message>
+        <source>Unable to read what is told of other packages</source>
+        <translation>无法读取有关其他软件包的信息</translation>
+    </message>
+    <message>
+        <source>Internal error: execution of yumIO.%1 failed</source>
+        <translation type="unfinished">内部错误：执行 yumIO.%1 失败</translation>
     </message>
 </context>
 <context>
@@ -2615,6 +2764,14 @@ How do you wish to proceed?</source>
     <message>
         <source>script of %1</source>
         <translation>%1 的脚本</translation>
+    </message>
+    <message>
+        <source>Unable to open package files</source>
+        <translation>无法打开软件包文件</translation>
+    </message>
+    <message>
+        <source>These package files can&apos;t be used:</source>
+        <translation>无法使用这些软件包文件：</translation>
     </message>
 </context>
 <context>
