@@ -18,6 +18,9 @@ int main(int argc, char** argv)
 #ifdef M_ARENA_MAX
     // What a job has freed is for the next one, whichever thread does it.
     mallopt(M_ARENA_MAX, 1);
+    // Otherwise the first large block that is freed makes later ones leave holes: this is the value that it
+    // begins with.
+    mallopt(M_MMAP_THRESHOLD, 128 * 1024);
 #endif
     StartingPoint::remember();
     Interrupt::endAtOnce();

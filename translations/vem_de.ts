@@ -1471,7 +1471,7 @@ In mehr als einer Version installiert: %1</translation>
     </message>
     <message>
         <source>Internal error: execution of yumIO.%1 failed</source>
-        <translation type="unfinished">Interner Fehler: Ausführung von yumIO.%1 fehlgeschlagen</translation>
+        <translation>Interner Fehler: Ausführung von yumIO.%1 fehlgeschlagen</translation>
     </message>
 </context>
 <context>

@@ -1471,7 +1471,7 @@ Instalado en más de una versión: %1</translation>
     </message>
     <message>
         <source>Internal error: execution of yumIO.%1 failed</source>
-        <translation type="unfinished">Error interno: falló la ejecución de yumIO.%1</translation>
+        <translation>Error interno: falló la ejecución de yumIO.%1</translation>
     </message>
 </context>
 <context>

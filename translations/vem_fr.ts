@@ -1471,7 +1471,7 @@ Installé en plusieurs versions&#xa0;: %1</translation>
     </message>
     <message>
         <source>Internal error: execution of yumIO.%1 failed</source>
-        <translation type="unfinished">Erreur interne&#xa0;: échec de l’exécution de yumIO.%1</translation>
+        <translation>Erreur interne&#xa0;: échec de l’exécution de yumIO.%1</translation>
     </message>
 </context>
 <context>

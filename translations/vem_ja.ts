@@ -1471,7 +1471,7 @@ Installed in more than one version: %1</source>
     </message>
     <message>
         <source>Internal error: execution of yumIO.%1 failed</source>
-        <translation type="unfinished">内部エラー: yumIO.%1 の実行に失敗しました</translation>
+        <translation>内部エラー: yumIO.%1 の実行に失敗しました</translation>
     </message>
 </context>
 <context>

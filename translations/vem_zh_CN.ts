@@ -1471,7 +1471,7 @@ Installed in more than one version: %1</source>
     </message>
     <message>
         <source>Internal error: execution of yumIO.%1 failed</source>
-        <translation type="unfinished">内部错误：执行 yumIO.%1 失败</translation>
+        <translation>内部错误：执行 yumIO.%1 失败</translation>
     </message>
 </context>
 <context>

@@ -3,6 +3,8 @@
 
 from __future__ import annotations
 
+from typing import TYPE_CHECKING
+
 import libdnf5.conf
 
 from ..apply.messages import Request
@@ -18,7 +20,9 @@ from .logfiles import tell_end as tell_end
 from .settings import Settings
 from .settings import read_settings as read_settings
 from .system import open_system as open_system
-from .transaction import Transaction
+
+if TYPE_CHECKING:
+    from .transaction import Transaction
 
 _version = libdnf5.conf.get_library_version()
 
@@ -36,4 +40,7 @@ NEEDED_LATER = (
 
 
 def open_transaction(settings: Settings, request: Request) -> Transaction:
+    # Only a process that applies needs it, and the modules that it rests on.
+    from .transaction import Transaction
+
     return Transaction(settings, request)
