@@ -76,6 +76,8 @@ void SelectionActions::fill(QMenu& menu)
         describe->setEnabled(hasRow);
         browse->setEnabled(hasRow);
     });
+    // Nothing is selected so far, and the keys wait for nobody to open the menu.
+    enableAll();
 }
 
 // What a menu greys out is a key all the same, for rows that are selected later.

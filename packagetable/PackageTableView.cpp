@@ -286,12 +286,15 @@ void View::currentChanged(QModelIndex const& current, QModelIndex const& previou
 
 // The toolkit makes the first row the current one as soon as a table without one gets the keyboard. Behind a
 // rebuild that happens by itself, and the row that a key then acts on would be one that nobody has chosen.
-// Who comes by Tab has asked for a place in the table.
+// Who comes by Tab has asked for a place in the table, and the keys that mark are about selected rows.
 void View::focusInEvent(QFocusEvent* event)
 {
     bool const byTab = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
     if (currentIndex().isValid() || byTab) {
         HTableView::focusInEvent(event);
+        if (byTab && currentIndex().isValid() && !selectionModel()->hasSelection()) {
+            selectionModel()->select(currentIndex(), QItemSelectionModel::Select | QItemSelectionModel::Rows);
+        }
     } else {
         // What stands between would choose the row.
         QAbstractScrollArea::focusInEvent(event); // NOLINT(bugprone-parent-virtual-call)

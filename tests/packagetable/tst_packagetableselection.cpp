@@ -5,6 +5,7 @@
 #include "tests/Eventually.h"
 
 #include "packagetable/PackageTableMarks.h"
+#include "packagetable/PackageTableSelectionActions.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>
@@ -123,6 +124,21 @@ private Q_SLOTS:
         QTest::keyClick(view, key);
         QTEST(action(0), "expected");
         QCOMPARE(action(1), Package::None);
+    }
+
+    void keysWorkBeforeAnyMenuHasBeenOpened()
+    {
+        QMenu menu;
+        view->actions()->fill(menu);
+        window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(window.get()));
+        view->setFocus();
+        EVENTUALLY_COMPARE(QApplication::focusWidget(), view);
+        view->selectRow(cell(0, 3).row());
+        QTest::keyClick(view, Qt::Key_Plus);
+        QCOMPARE(action(0), Package::Update);
+        QTest::keyClick(view, Qt::Key_Backspace);
+        QCOMPARE(action(0), Package::None);
     }
 
     void whatIsTypedIsLookedForAmongTheNames()

@@ -130,6 +130,8 @@ private Q_SLOTS:
         QFocusEvent event(QEvent::FocusIn, reason);
         QCoreApplication::sendEvent(view, &event);
         QTEST(view->currentIndex().row(), "row");
+        // Keys that mark are about selected rows.
+        QCOMPARE(view->selectionModel()->isRowSelected(0), view->currentIndex().isValid());
         QCOMPARE(moves.isEmpty(), !view->currentIndex().isValid());
         // The arrows still find into the table.
         QTest::keyClick(view, Qt::Key_Down);
