@@ -90,7 +90,7 @@ def test_no_file_tells_where_it_was_built(package: Package) -> None:
 
 def test_the_desktop_is_pointed_to_what_is_installed(package: Package) -> None:
     entry = package.place("/usr/share/applications/org.example.vem.desktop").read_text(encoding="utf-8")
-    assert "\nExec=/usr/share/vem/launch\n" in entry
+    assert "\nExec=/usr/share/vem/launch %U\n" in entry
     assert "\nTryExec=/usr/bin/vem\n" in entry
     policy = package.place("/usr/share/polkit-1/actions/org.example.vem.policy").read_text(encoding="utf-8")
     assert ">/usr/share/vem/as-root<" in policy
