@@ -46,6 +46,7 @@ class Apply:
             PROTOCOL,
             list(table.sections.values()),
             [wish(path, repository) for path in incoming],
+            [],
             [wish(path, "@System") for path in removes],
             0,
             "",

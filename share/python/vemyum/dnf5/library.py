@@ -3,8 +3,6 @@
 
 from __future__ import annotations
 
-from typing import TYPE_CHECKING
-
 import libdnf5.conf
 
 from ..apply.messages import Request
@@ -20,9 +18,7 @@ from .logfiles import tell_end as tell_end
 from .settings import Settings
 from .settings import read_settings as read_settings
 from .system import open_system as open_system
-
-if TYPE_CHECKING:
-    from .transaction import Transaction
+from .transaction import Transaction
 
 _version = libdnf5.conf.get_library_version()
 
@@ -40,7 +36,4 @@ NEEDED_LATER = (
 
 
 def open_transaction(settings: Settings, request: Request) -> Transaction:
-    # Only a process that applies needs it, and the modules that it rests on.
-    from .transaction import Transaction
-
     return Transaction(settings, request)
