@@ -27,7 +27,9 @@ PackageFilesDialog::PackageFilesDialog(QWidget* parent)
     fault = new QLabel(this);
     fault->setTextFormat(Qt::PlainText);
     fault->setWordWrap(true);
-    auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
+    auto* const buttons = new QDialogButtonBox(this);
+    // The toolkit has its own word for this in few languages.
+    buttons->addButton(tr("Cancel"), QDialogButtonBox::RejectRole);
     QPushButton* const browseButton = buttons->addButton(tr("&Browse..."), QDialogButtonBox::ActionRole);
     browseButton->setAccessibleDescription(tr("Choose .rpm files of this machine"));
     openButton = buttons->addButton(tr("&Open"), QDialogButtonBox::AcceptRole);

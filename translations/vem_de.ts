@@ -874,6 +874,10 @@ Das wird zu Ende geführt, und das Programm endet danach.</translation>
         <source>This is no readable .rpm file and no https address: %1</source>
         <translation>Das ist weder eine lesbare .rpm-Datei noch eine https-Adresse: %1</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>

@@ -874,6 +874,10 @@ Eso continúa hasta el final, y el programa termina después.</translation>
         <source>This is no readable .rpm file and no https address: %1</source>
         <translation>Esto no es un archivo .rpm legible ni una dirección https: %1</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>

@@ -874,6 +874,10 @@ Cela ira à son terme, et le programme se terminera ensuite.</translation>
         <source>This is no readable .rpm file and no https address: %1</source>
         <translation>Ce n&apos;est ni un fichier .rpm lisible ni une adresse https : %1</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>

@@ -874,6 +874,10 @@ That goes on to its end, and the program ends behind it.</source>
         <source>This is no readable .rpm file and no https address: %1</source>
         <translation>読み取れる .rpm ファイルでも https アドレスでもありません: %1</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>

@@ -874,6 +874,10 @@ That goes on to its end, and the program ends behind it.</source>
         <source>This is no readable .rpm file and no https address: %1</source>
         <translation>这既不是可读的 .rpm 文件，也不是 https 地址：%1</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
 </context>
 <context>
     <name>PackageTable::ActionContextMenu</name>

@@ -12,6 +12,7 @@
 #include "services/ScrollableConfirmDialog.h"
 #include "services/ScrollableErrorDialog.h"
 #include "services/TransactionDetails.h"
+#include "shell/PackageFilesDialog.h"
 #include "widgets/HMenu.h"
 
 #include <QApplication>
@@ -19,7 +20,9 @@
 #include <QFile>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLayout>
 #include <QMenuBar>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QSet>
@@ -285,6 +288,17 @@ private Q_SLOTS:
         boxes->whileShown([&] { look(&dialog, data); });
         dialog.exec(&entry);
         QCOMPARE(looked.size(), 1);
+    }
+
+    void packageFiles()
+    {
+        PackageFilesDialog dialog(window);
+        dialog.show();
+        look(&dialog);
+        dialog.findChild<QPlainTextEdit*>()->setPlainText(QStringLiteral("1"));
+        // The next event would do that.
+        dialog.layout()->activate();
+        look(&dialog, {QStringLiteral("1")});
     }
 
     void keys()
