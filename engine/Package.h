@@ -8,12 +8,12 @@
 #include <QMetaType>
 #include <QString>
 
-/// The records behind the package table.
+/// The records behind the package table. There are tens of thousands: the enumerations are small for that.
 namespace Package
 {
 
 /// What the user wants done with an entry. The values travel as ints (sorting, tests).
-enum Action
+enum Action : quint8
 {
     Update = 0,
     Install = 1,
@@ -22,14 +22,14 @@ enum Action
 };
 
 /// How an entry stands on the managed system.
-enum State
+enum State : quint8
 {
     OutOfDate = 0,
     Available = 1,
     UpToDate = 2
 };
 
-enum Kind
+enum Kind : quint8
 {
     Suite = 0,
     Group = 1,
