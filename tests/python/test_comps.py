@@ -115,6 +115,19 @@ def test_what_is_no_group_file_is_told_and_leaves_the_others_as_they_are(content
     assert [pairs(one) for one in comps.groups] == [[("one", "mandatory")]]
 
 
+def test_nothing_is_taken_from_a_file_that_is_damaged_behind_a_group() -> None:
+    comps = Comps()
+    comps.add([f"<comps>{group('g', '<name>A</name>', members=req('one'))}</comps>".encode()])
+    text = f"<comps>{group('g', '<name>B</name>', members=req('two'))}{group('new')}<group>".encode()
+    with pytest.raises(CompsError):
+        comps.add(text[at : at + 7] for at in range(0, len(text), 7))
+    assert [(one.id, one.names, pairs(one)) for one in comps.groups] == [("g", {"": "A"}, [("one", "mandatory")])]
+
+
+def test_a_group_in_a_group_is_none() -> None:
+    assert [one.id for one in read("<environment><group><id>far</id></group></environment>" + group())] == ["g"]
+
+
 def test_a_fault_while_reading_comes_through() -> None:
     def broken():  # type: ignore[no-untyped-def]
         yield b"<comps>"

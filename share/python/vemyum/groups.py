@@ -13,6 +13,8 @@ from .errors import GroupsError
 from .records import chunks
 from .texts import _
 
+_PIECE = 1 << 15
+"""How much of a group file stands in memory at a time, in bytes: its elements take ten times as much."""
 NO_GROUPS = "No Groups Available in any repository"
 """The engine recognises the normal outcome "no groups" by the first three words."""
 
@@ -61,7 +63,7 @@ def read_groups(system: System) -> List[CompsGroup]:
         path = system.metadata_file(repository.id, GROUPS) if repository.enabled else None
         if path:
             try:
-                comps.add(chunks(path))
+                comps.add(chunks(path, _PIECE))
             except (CompsError, OSError) as error:
                 host.errorlog(
                     host.LEVEL_ERROR,

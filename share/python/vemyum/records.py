@@ -34,24 +34,24 @@ _CHANGE_IN_ANY_ORDER = re.compile(
 _COMPRESSIONS = {".gz": "gzdio", ".xz": "xzdio", ".bz2": "bzdio", ".zst": "zstdio", ".xml": "ufdio"}
 
 
-def chunks(path: str) -> Iterator[bytes]:
-    """The content of a metadata file, uncompressed. OSError, Stopped."""
-    for chunk in _chunks(path):
+def chunks(path: str, size: int = _CHUNK) -> Iterator[bytes]:
+    """The content of a metadata file, uncompressed, in pieces of `size` bytes at most. OSError, Stopped."""
+    for chunk in _chunks(path, size):
         stop.check()
         yield chunk
 
 
-def _chunks(path: str) -> Iterator[bytes]:
+def _chunks(path: str, size: int) -> Iterator[bytes]:
     # rpm tells no path, and other programs no cause.
     os.stat(path)
     ending = os.path.splitext(path)[1]
     if ending == ".zck":
-        yield from _unzck(path)
+        yield from _unzck(path, size)
         return
     stream = rpm.fd(path, "r", _COMPRESSIONS.get(ending, "ufdio"))
     try:
         while True:
-            chunk = stream.read(_CHUNK)
+            chunk = stream.read(size)
             if not chunk:
                 return
             yield chunk
@@ -59,12 +59,12 @@ def _chunks(path: str) -> Iterator[bytes]:
         stream.close()
 
 
-def _unzck(path: str) -> Iterator[bytes]:
+def _unzck(path: str, size: int) -> Iterator[bytes]:
     """By the program of the library that dnf fetches such files with; rpm doesn't read them. OSError."""
     with subprocess.Popen(["unzck", "--stdout", path], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL) as unzck:
         assert unzck.stdout is not None
         while True:
-            chunk = unzck.stdout.read(_CHUNK)
+            chunk = unzck.stdout.read(size)
             if not chunk:
                 break
             yield chunk
