@@ -100,8 +100,31 @@ def test_texts_are_valid_whatever_the_bytes(estate: Estate, loaded: Callable[...
 def test_rows_of_one_package_are_equal(estate: Estate, rpms: Catalogue, loaded: Callable[..., Any]) -> None:  # noqa: F811
     estate.repository("base", rpms.some("lamp-1.1", "lib-1.0"))
     system = loaded()
-    first, again = system.available(), system.available()
+    first, again = list(system.available()), list(system.available())
     assert first == again and set(first) == set(again) and first[0] != first[1]
+
+
+def test_row_on_offer_holds_nothing_of_the_library_once_the_next_is_read(
+    estate: Estate, rpms: Catalogue, loaded: Callable[..., Any]  # noqa: F811
+) -> None:
+    from vemyum.dnf5.rows import Row
+
+    made = estate.build([spec(f"part{number:02}", "1") for number in range(70)])
+    estate.repository("base", [*made, *rpms.some("lamp-1.1")])
+    offered = loaded().available()
+    assert len(offered) == 71
+    held = Row.this
+    told, rows = [], []
+    for row in offered:
+        assert held.__get__(row)
+        told.append(str(row))
+        rows.append(row)
+    for row in rows:
+        with pytest.raises(AttributeError):
+            held.__get__(row)
+    # In whatever order they are read later.
+    assert [str(row) for row in reversed(rows)] == told[::-1]
+    assert len(set(told)) == 71 and [str(row) for row in offered] == told
 
 
 def test_row_outlives_its_system_and_takes_the_base_along_at_last(
@@ -111,7 +134,7 @@ def test_row_outlives_its_system_and_takes_the_base_along_at_last(
     estate.repository("base", rpms.some("lamp-1.1"))
     system = loaded()
     rows = [*system.available(), *system.installed()]
-    held = weakref.ref(rows[0].base)
+    held = weakref.ref(system.base)
     system.close()
     system.close()
     del system

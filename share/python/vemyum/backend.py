@@ -200,9 +200,11 @@ class System(Protocol):
     def installed(self) -> List[Row]:
         """All there are, excluded or not."""
 
-    def available(self) -> List[Row]:
+    def available(self) -> Collection[Row]:
         """The newest of each name and architecture that fits this machine, by the repositories' priorities, without
-        what is excluded. Here and in the next two lists, the same package comes first from where it costs least."""
+        what is excluded. Of each name, a native one comes before others, and the newest of these first. Each row is to
+        be read before the next is taken: later, that takes longer and more memory. Here and in the next two lists, the
+        same package comes first from where it costs least."""
 
     def upgrades(self) -> List[Row]:
         """The newest of those that would take the place of an installed version, as the solver allows it."""

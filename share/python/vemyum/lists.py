@@ -7,9 +7,10 @@ within each list is part of the result: native architecture first, newest versio
 
 from __future__ import annotations
 
+import gc
 from functools import cached_property, cmp_to_key
 from operator import attrgetter
-from typing import Dict, FrozenSet, Iterable, List, Tuple
+from typing import Any, Collection, Dict, FrozenSet, Iterable, Iterator, List, Tuple
 
 from . import versions
 from .backend import Row, System
@@ -28,12 +29,52 @@ def _names(rows: Iterable[Row]) -> FrozenSet[str]:
     return frozenset(map(attrgetter("name"), rows))
 
 
+class nothing_is_garbage:
+    """Lets Python's garbage collector rest while tens of thousands of objects are made that all stay.
+
+    Not a generator, for the reason that `reported_as` has.
+    """
+
+    def __enter__(self) -> None:
+        gc.disable()
+
+    def __exit__(self, *_: Any) -> None:
+        gc.enable()
+
+
 class PackageLists:
     """Result of `collectAll`."""
 
-    def __init__(self, installed: List[InstalledPackage], available: List[AvailablePackage]) -> None:
+    def __init__(self, installed: List[InstalledPackage], available: "Offered") -> None:
         self.installed = installed
         self.available = available
+
+
+class Offered:
+    """The files that are opened, and the packages of the repositories, which are made as one goes through them."""
+
+    def __init__(self, files: List[AvailablePackage], rows: Collection[Row], details: Details) -> None:
+        self._files = files
+        self._rows = rows
+        self._details = details
+
+    def __length_hint__(self) -> int:
+        return len(self._files) + len(self._rows)
+
+    def __iter__(self) -> Iterator[AvailablePackage]:
+        yield from self._files
+        rows: Iterable[Row] = self._rows
+        if self._files:
+            rows = _without_files(rows, {file.name for file in self._files})
+        details = self._details
+        with nothing_is_garbage():
+            for row in rows:
+                yield AvailablePackage(row, details)
+
+
+def _without_files(rows: Iterable[Row], names: Collection[str]) -> Iterator[Row]:
+    """What the repositories have; the libraries take the files for packages of one more."""
+    return (row for row in rows if row.reponame != COMMAND_LINE and row.name not in names)
 
 
 class Collector:
@@ -47,7 +88,6 @@ class Collector:
         self._details = details
         self.updatable: FrozenSet[str] = frozenset()
         self.installed_names: FrozenSet[str] = frozenset()
-        self._available: List[Row] = []
         self._files: Dict[str, Row] = {}
 
     def take_files(self, rows: Iterable[Row]) -> None:
@@ -55,15 +95,11 @@ class Collector:
         asked for."""
         self._files = {row.name: row for row in rows}
 
-    def _without_files(self, rows: List[Row]) -> List[Row]:
-        """What the repositories have; the libraries take the files for packages of one more."""
-        if not self._files:
-            return rows
-        return [row for row in rows if row.reponame != COMMAND_LINE and row.name not in self._files]
-
     def updates(self) -> List[AvailablePackage]:
         """Newer versions of installed packages, and packages that make installed ones obsolete."""
-        upgrades = self._without_files(self._system.upgrades())
+        upgrades = self._system.upgrades()
+        if self._files:
+            upgrades = list(_without_files(upgrades, self._files))
         replacing = self._system.replacing({row.name for row in upgrades})
         files = self._updating_files(replacing)
         replacing = [(row, olds) for row, olds in replacing if row.name not in self._files]
@@ -101,21 +137,17 @@ class Collector:
         installed = self._best_first(self._system.installed())
         self.installed_names = _names(installed)
         self._check_installed(len(installed))
-        available = self._without_files(self._best_first(self._system.available()))
-        self._available = available
+        # The engine passes over those that it has met among the updates.
+        files = [self._file(row, []) for row in self._files.values()]
         return PackageLists(
             [InstalledPackage(row, self._details) for row in installed],
-            # The engine passes over those that it has met among the updates.
-            [
-                *(self._file(row, []) for row in self._files.values()),
-                *(AvailablePackage(row, self._details) for row in available),
-            ],
+            Offered(files, self._system.available(), self._details),
         )
 
     @cached_property
     def available_names(self) -> FrozenSet[str]:
         """Made when the first apply asks for them: they take as much memory as a tenth of the table."""
-        return _names(self._available)
+        return _names(_without_files(self._system.available(), self._files))
 
     @classmethod
     def known_installed(cls, root: str) -> int:

@@ -8,7 +8,6 @@ from __future__ import annotations
 
 import contextlib
 import dataclasses
-import gc
 import os
 from typing import Any, Iterator, List, Optional, Sequence, Tuple
 
@@ -21,7 +20,7 @@ from .credentials import masked
 from .details import PackageDetails
 from .errors import LockError, RepoError, YumBaseError, reported_as
 from .groups import Group, groups_of, read_groups
-from .lists import Collector, PackageLists
+from .lists import Collector, PackageLists, nothing_is_garbage
 from .lock import LOCK
 from .packagefiles import Opened, open_files
 from .packages import InstalledPackage
@@ -33,19 +32,6 @@ from .texts import _
 from .unfinished import Unfinished, unfinished
 
 _NOT_READ = _("The repositories are not read")
-
-
-class _nothing_is_garbage:
-    """Lets Python's garbage collector rest while tens of thousands of objects are made that all stay.
-
-    Not a generator, for the reason that `reported_as` has.
-    """
-
-    def __enter__(self) -> None:
-        gc.disable()
-
-    def __exit__(self, *_: Any) -> None:
-        gc.enable()
 
 
 class Session:
@@ -131,7 +117,7 @@ class Session:
             self._system.enable(state.id, bool(self.repositories.repos[state.id].enabled))
         if self._on_disk:
             self._system.stay_on_disk()
-        with reported_as(RepoError), _nothing_is_garbage():
+        with reported_as(RepoError), nothing_is_garbage():
             self._system.load()
         self._details = PackageDetails(self._system)
         self._collector = Collector(self._system, self._details)
@@ -147,12 +133,12 @@ class Session:
 
     def updates(self) -> Sequence[Any]:
         stop.check()
-        with _nothing_is_garbage():
+        with nothing_is_garbage():
             return self.collector.updates()
 
     def everything(self) -> PackageLists:
         stop.check()
-        with _nothing_is_garbage():
+        with nothing_is_garbage():
             return self.collector.everything()
 
     def read_groups(self) -> None:

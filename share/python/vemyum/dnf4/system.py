@@ -91,7 +91,13 @@ class System:
     def available(self) -> List[dnf.package.Package]:
         sack = self._base.sack
         query = sack.query().available().filter(latest_per_arch_by_priority=True)
-        return list(query.filter(arch=sack.list_arches()))
+        query = query.filter(arch=sack.list_arches())
+        native = query.filter(arch=self.native())
+        found = []
+        for part in (native, query.difference(native)):
+            newest = part.filter(latest=True)
+            found += [*newest, *part.difference(newest)]
+        return found
 
     def upgrades(self) -> List[dnf.package.Package]:
         upgrades = self._changeable(self._base.sack.query()).filter(upgrades_by_priority=True)

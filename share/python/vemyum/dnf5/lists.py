@@ -4,7 +4,7 @@
 from __future__ import annotations
 
 import functools
-from typing import Any, Dict, Iterable, List, Set, Tuple
+from typing import Any, Dict, Iterable, Iterator, List, Sequence, Set, Tuple
 
 import libdnf5.advisory
 import libdnf5.common
@@ -16,7 +16,7 @@ from ..backend import Advised
 from ..packages import whole_evr
 from ..vendors import by_name, refused
 from .base import Base
-from .rows import InstalledRow, Row, rows
+from .rows import InstalledRow, Offered, Row, rows
 
 
 def installed_rows(base: Base) -> List[Any]:
@@ -29,15 +29,19 @@ def installed_rows(base: Base) -> List[Any]:
 class Lists:
     """Of a loaded Base; each as `backend.System` has it."""
 
-    def __init__(self, base: Base, installed: List[Any]) -> None:
-        """`installed` are all that are there, excluded or not."""
+    def __init__(self, base: Base, installed: List[Any], native: Sequence[str]) -> None:
+        """`installed` are all that are there, excluded or not; `native` as `backend.System` has it."""
         self._base = base
         self._installed = installed
+        self._native = native
 
-    def available(self) -> List[Row]:
+    def available(self) -> Offered:
         query = self._offered()
         query.filter_latest_evr()
-        return self._cheapest_first(query)
+        native = libdnf5.rpm.PackageQuery(query)
+        native.filter_arch(list(self._native))
+        query.difference(native)
+        return Offered([each for part in (native, query) for each in self._best_first(part)], self._base)
 
     def upgrades(self) -> List[Row]:
         query = self._changeable(self._offered())
@@ -99,6 +103,20 @@ class Lists:
         if len(set(costs.values())) > 1:
             found.sort(key=lambda row: costs.get(row.reponame, 0))
         return found
+
+    def _best_first(self, query: libdnf5.rpm.PackageQuery) -> Iterator[libdnf5.rpm.PackageQuery]:
+        """Parts of a query, of which the first that has a name has the newest, from where it costs least."""
+        newest = libdnf5.rpm.PackageQuery(query)
+        newest.filter_latest_evr_any_arch()
+        query.difference(newest)
+        by_cost: Dict[int, List[str]] = {}
+        for repo in self._base.repositories(enabled_only=True):
+            by_cost.setdefault(repo.get_cost(), []).append(repo.get_id())
+        for part in (newest, query):
+            for _cost, ids in sorted(by_cost.items()):
+                of_these = libdnf5.rpm.PackageQuery(part)
+                of_these.filter_repo_id(ids)
+                yield of_these
 
     def _changeable(self, query: libdnf5.rpm.PackageQuery) -> libdnf5.rpm.PackageQuery:
         """The query without the updates that the solver refuses."""

@@ -88,4 +88,4 @@ class Relations:
 
     def _rows(self, query: Iterable[Any]) -> List[Row]:
         found = rows(query, self._base)
-        return [InstalledRow(row.this, row.base) if row.reponame == _SYSTEM else row for row in found]
+        return [InstalledRow(row.this, row.holder) if row.reponame == _SYSTEM else row for row in found]

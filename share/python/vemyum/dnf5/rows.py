@@ -8,7 +8,7 @@ the attribute `this`, and a row's attributes are these functions themselves, wit
 
 from __future__ import annotations
 
-from typing import Any, Callable, Iterable, Iterator, List, Optional
+from typing import Any, Callable, Collection, Iterable, Iterator, List, Optional, Sequence
 
 import libdnf5.rpm
 import libdnf5.transaction
@@ -20,6 +20,11 @@ from .base import Base
 
 _functions = libdnf5.rpm._rpm
 _Package = libdnf5.rpm.Package
+_copy = _functions.new_PackageSetIterator
+_value, _step = _functions.PackageSetIterator_value, _functions.PackageSetIterator_next
+
+_STRETCH = 32
+"""How many rows share a place from which they are found: more save memory, and make each take longer to be found."""
 
 
 def _text(function: Callable[[Any], str]) -> property:
@@ -35,19 +40,19 @@ def _optional(function: Callable[[Any], str]) -> property:
 class Row:
     """A package of a repository. See `backend.Row`; it has the methods of the library's packages, too.
 
-    It holds the Base that it is of: the library ends the process when a package is asked for anything after its Base has
-    gone.
+    It holds the Base that it is of, by its holder: the library ends the process when a package is asked for anything after
+    its Base has gone.
     """
 
-    __slots__ = ("this", "base")
+    __slots__ = ("this", "holder")
     # With each value the library's functions spell out the name of the type, which takes as long as the rest if a module
     # stands before it.
     __module__ = "builtins"
 
-    def __init__(self, this: Any, base: Base) -> None:
+    def __init__(self, this: Any, holder: Any) -> None:
         """`this` is the attribute of that name of one of the library's packages."""
         self.this = this
-        self.base = base
+        self.holder = holder
 
     name = property(_functions.Package_get_name)
     arch = property(_functions.Package_get_arch)
@@ -84,6 +89,77 @@ for _name, _method in vars(_Package).items():
         setattr(Row, _name, _method)
 
 
+class _Stretch:
+    """Some rows that follow each other in a set of packages: where the first of them is to be found.
+
+    Its Base is held for the reason that a row has.
+    """
+
+    __slots__ = ("base", "_packages", "_first")
+
+    def __init__(self, base: Base, packages: libdnf5.rpm.PackageSet, place: Any) -> None:
+        """`place` is that of the first, as an iterator of the set has it."""
+        self.base = base
+        # A place doesn't hold its set.
+        self._packages = packages
+        self._first = _copy(place)
+
+    def find(self, offset: int) -> Any:
+        """What the row that stands `offset` places behind the first refers to."""
+        place = _copy(self._first)
+        for _number in range(offset):
+            _step(place)
+        return _value(place).this
+
+
+class RestingRow(Row):
+    """A package of a set, which holds nothing of the library's until it is asked for a value: that takes more than twice
+    the memory of the row itself."""
+
+    __slots__ = ("_offset",)
+    __module__ = Row.__module__
+
+    def __init__(self, this: Any, holder: _Stretch, offset: int) -> None:
+        """Who has made it takes `this` away again."""
+        self.this = this
+        self.holder = holder
+        self._offset = offset
+
+    def __getattr__(self, name: str) -> Any:
+        if name != "this":
+            raise AttributeError(name)
+        self.this = self.holder.find(self._offset)
+        return self.this
+
+
+class Offered(Collection[RestingRow]):
+    """The packages of some sets, one set behind the other. Each time that one goes through them, the rows are made anew;
+    one is quick to read until the next comes."""
+
+    def __init__(self, sets: Sequence[libdnf5.rpm.PackageSet], base: Base) -> None:
+        self._sets = sets
+        self._base = base
+
+    def __len__(self) -> int:
+        return sum(packages.size() for packages in self._sets)
+
+    def __contains__(self, row: object) -> bool:
+        return any(row == one for one in self)
+
+    def __iter__(self) -> Iterator[RestingRow]:
+        for packages in self._sets:
+            iterator = packages.begin()
+            place = iterator.this
+            size = packages.size()
+            for first in range(0, size, _STRETCH):
+                stretch = _Stretch(self._base, packages, place)
+                for offset in range(min(_STRETCH, size - first)):
+                    row = RestingRow(_value(place).this, stretch, offset)
+                    _step(place)
+                    yield row
+                    del row.this
+
+
 class InstalledRow(Row):
     """A package of the rpm database."""
 
@@ -111,10 +187,9 @@ def _each(packages: libdnf5.rpm.PackageSet) -> Iterator[Any]:
     """As the library's own iterator, which goes through several Python functions for each package."""
     iterator = packages.begin()
     place = iterator.this
-    value, step = _functions.PackageSetIterator_value, _functions.PackageSetIterator_next
     for _number in range(packages.size()):
-        yield value(place)
-        step(place)
+        yield _value(place)
+        _step(place)
 
 
 def dependencies(found: libdnf5.rpm.ReldepList) -> List[Dependency]:

@@ -46,7 +46,7 @@ from .log import LOGGER
 from .metadata import Metadata, fetch_file, told_of
 from .progress import is_to_be_converted
 from .relations import Relations
-from .rows import Row, checksum, dependencies, reason, rows
+from .rows import Offered, Row, checksum, dependencies, reason, rows
 from .settings import Settings
 
 _MAIN = "main"
@@ -269,7 +269,7 @@ class System:
     def installed(self) -> List[Row]:
         return list(self._installed)
 
-    def available(self) -> List[Row]:
+    def available(self) -> Offered:
         return self._lists.available()
 
     def upgrades(self) -> List[Row]:
@@ -327,7 +327,7 @@ class System:
     def _lists(self) -> Lists:
         base = self.base
         if self._made_lists is None:
-            self._made_lists = Lists(base, self._installed)
+            self._made_lists = Lists(base, self._installed, self.native())
         return self._made_lists
 
     # Of a package ------------------------------------------------------------------------------------------------
