@@ -19,7 +19,7 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_AUTOMOC ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
-find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets LinguistTools)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core DBus Gui Widgets LinguistTools)
 if(VEM_TESTS)
     find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
 endif()
@@ -87,10 +87,10 @@ function(vem_library name)
     vem_precompiled(vem_${name})
 endfunction()
 
-# vem_test(name SOURCES file... LINKS folder-or-target... [LABELS label...])
-# A QtTest program run by ctest without a display.
+# vem_test(name SOURCES file... LINKS folder-or-target... [LABELS label...] [ON_DISPLAY])
+# A QtTest program run by ctest, without a display unless it is to have one of its own.
 function(vem_test name)
-    cmake_parse_arguments(arg "" "" "SOURCES;LINKS;LABELS" ${ARGN})
+    cmake_parse_arguments(arg "ON_DISPLAY" "" "SOURCES;LINKS;LABELS" ${ARGN})
     add_executable(${name} ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE vem_options Qt6::Test)
     vem_link(${name} ${arg_LINKS})
@@ -102,11 +102,16 @@ function(vem_test name)
         VEM_TEST_SHARE="${VEM_SHARE_DIR}"
         VEM_TEST_SOURCE="${CMAKE_CURRENT_SOURCE_DIR}")
     add_dependencies(${name} vem_share)
-    add_test(NAME ${name} COMMAND ${name})
+    if(arg_ON_DISPLAY)
+        add_test(NAME ${name} COMMAND "${PROJECT_SOURCE_DIR}/tools/on-virtual-display" "$<TARGET_FILE:${name}>")
+    else()
+        add_test(NAME ${name} COMMAND ${name})
+    endif()
+    # Nothing is to show on the desktop of whoever runs the tests.
     set_tests_properties(${name} PROPERTIES
         LABELS "${arg_LABELS}"
         TIMEOUT 300
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;VEMSHARE=${VEM_SHARE_DIR};LC_ALL=C.UTF-8;XDG_CONFIG_HOME=${CMAKE_BINARY_DIR}/configuration;${VEM_SANITIZER_ENVIRONMENT}")
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;DBUS_SESSION_BUS_ADDRESS=disabled:;VEMSHARE=${VEM_SHARE_DIR};LC_ALL=C.UTF-8;XDG_CONFIG_HOME=${CMAKE_BINARY_DIR}/configuration;${VEM_SANITIZER_ENVIRONMENT}")
 endfunction()
 
 function(vem_link target)

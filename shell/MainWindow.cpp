@@ -15,7 +15,7 @@
 #include "repo/RepoEditorDialog.h"
 #include "repo/YumConfIO.h"
 #include "services/LogWindow.h"
-#include "services/ScrollableErrorDialog.h"
+#include "shell/Desktop.h"
 #include "shell/StatusLine.h"
 #include "shell/WindowMemory.h"
 #include "widgets/HMenu.h"
@@ -27,7 +27,6 @@
 #include <QFile>
 #include <QItemSelectionModel>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QTimer>
 #include <utility>
 
@@ -49,7 +48,8 @@ MainWindow::~MainWindow()
 void MainWindow::setVisible(bool visible)
 {
     QMainWindow::setVisible(visible);
-    if (visible) {
+    // A window that is shown may be shown once more: as an icon, or as large as the screen.
+    if (visible && !std::exchange(begun, true)) {
         QTimer::singleShot(0, this, &MainWindow::initialize);
     }
 }
@@ -129,6 +129,7 @@ void MainWindow::setReady(bool ready)
     }
     tableArea->setEnabled(ready);
     if (ready) {
+        desktop->clearProgress();
         QApplication::restoreOverrideCursor();
         // What is disabled loses the keyboard, and doesn't get it back by itself.
         if (focusWhenReady && !focusWidget()) {
@@ -181,6 +182,7 @@ void MainWindow::reset()
 {
     memory->forget();
     regExpEdit->setMatchesCase(true);
+    logWithApplyAction->setChecked(false);
     modeCombo->setCurrentIndex(0);
     view->sortByColumn(PackageTable::KindColumn, Qt::AscendingOrder);
     QMainWindow::resize(sizeHint());
@@ -249,14 +251,6 @@ void MainWindow::quit()
     // The table reads the engine's rows, so it goes first.
     delete tableArea;
     delete std::exchange(yumIO, nullptr);
-}
-
-void MainWindow::displayLog()
-{
-    if (!logWindow) {
-        logWindow = new Log::Window(yumIO->logEntries, this);
-    }
-    logWindow->show();
 }
 
 void MainWindow::editRepositories(bool forceReposChanged)
@@ -512,86 +506,4 @@ void MainWindow::clearActions()
 {
     model->clearActions();
     stateChanged(-1);
-}
-
-void MainWindow::apply()
-{
-    applying([this] { return yumIO->apply(); });
-}
-
-template <typename Job>
-void MainWindow::applying(Job const& job)
-{
-    setReady(false);
-    bool const applied = job();
-    if (endsBehind) {
-        quit();
-        return;
-    }
-    if (applied) {
-        if (RepoAuth::Checker(this, yumConfIO).quitRequested) {
-            quit();
-            return;
-        }
-        rebuild();
-    }
-    setReady(true);
-}
-
-void MainWindow::tellCollected()
-{
-    if (yumIO && !yumIO->jobRuns()) {
-        statusLine->setRepositoryTimes(yumIO->repositoryTimes());
-    }
-    // One after the other.
-    tellIncomplete();
-    tellUnfinished();
-}
-
-void MainWindow::tellIncomplete()
-{
-    if (!yumIO || yumIO->jobRuns() || yumIO->incomplete() == incompleteTold) {
-        return;
-    }
-    incompleteTold = yumIO->incomplete();
-    statusLine->setIncomplete(!incompleteTold.isEmpty());
-    if (!incompleteTold.isEmpty()) {
-        showIncomplete();
-    }
-}
-
-void MainWindow::showIncomplete()
-{
-    QStringList const paragraphs =
-        QStringList{tr(
-            "Not everything that is configured could be used, so the table may not show what it should:")} +
-        incompleteTold;
-    ScrollableErrorDialog dialog(paragraphs.join(QLatin1String("\n\n")), this, QStyle::SP_MessageBoxWarning);
-    dialog.setWindowTitle(tr("Incomplete Table"));
-    dialog.exec();
-}
-
-void MainWindow::tellUnfinished()
-{
-    // A collection that has failed knows of nothing, which doesn't mean that there is nothing.
-    if (!yumIO || yumIO->jobRuns() || yumIO->unfinished().text.isEmpty() ||
-        yumIO->unfinished().text == unfinishedTold) {
-        return;
-    }
-    unfinishedTold = yumIO->unfinished().text;
-    QMessageBox box(
-        QMessageBox::Warning, tr("Unfinished Transaction"), unfinishedTold, QMessageBox::NoButton, this);
-    box.setTextFormat(Qt::PlainText);
-    if (!yumIO->unfinished().older) {
-        box.exec();
-        return;
-    }
-    box.setInformativeText(tr(
-        "Shall the older versions be removed? What exactly is done is shown before, and asked once more."));
-    QPushButton const* const remove = box.addButton(tr("&Remove Older Versions"), QMessageBox::AcceptRole);
-    box.addButton(tr("&Leave Them"), QMessageBox::RejectRole);
-    box.exec();
-    if (box.clickedButton() == remove) {
-        applying([this] { return yumIO->removeOlder(); });
-    }
 }

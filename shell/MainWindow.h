@@ -10,6 +10,7 @@
 #include <QPointer>
 #include <QStringList>
 
+class Desktop;
 class HMenu;
 class QAction;
 class QCheckBox;
@@ -112,6 +113,7 @@ public Q_SLOTS:
     void tellUnfinished();
 
 protected:
+    bool event(QEvent* event) override;
     /// While rpm works it waits for the end of that, with a word; ends the process while another job is in
     /// progress.
     void closeEvent(QCloseEvent* event) override;
@@ -157,12 +159,16 @@ private:
     template <typename Step>
     void whileSearching(bool searches, Step const& step);
     void tellIfCutOff();
+    void makeLog();
+    /// Opens the log without giving it the keyboard, where the user wants it to open with each apply.
+    void showLogBeside();
     /// Runs a job that applies something, and fills the table anew behind it.
     template <typename Job>
     void applying(Job const& job);
 
     /// What is remembered, by its key in the user's settings.
     static constexpr QLatin1String matchCaseSetting{"table/matchCase"};
+    static constexpr QLatin1String logWithApplySetting{"log/openWithApply"};
 
     QIcon updateIcon;
     QIcon clearIcon;
@@ -181,11 +187,14 @@ private:
     QAction* cleanXmlMetadataAction = nullptr;
     QAction* cleanPickledCacheAction = nullptr;
     QAction* cleanAllAction = nullptr;
+    QAction* logWithApplyAction = nullptr;
     QAction* resetAction = nullptr;
     HMenu* selectionMenu = nullptr;
     QAction* findAction = nullptr;
     QStringList incompleteTold;       ///< what `tellIncomplete` has told last
     QString unfinishedTold;           ///< what `tellUnfinished` has told last
+    bool begun = false;               ///< the start-up is under way, or done
+    bool applies = false;             ///< an apply is in progress
     bool endsBehind = false;          ///< the program ends once rpm has done its work
     QPointer<QWidget> tableArea;      ///< hidden until the first collection is done
     QPointer<QWidget> focusWhenReady; ///< had the keyboard when the window became busy
@@ -199,6 +208,7 @@ private:
     QPushButton* describeButton = nullptr;
     QPushButton* applyButton = nullptr;
     StatusLine* statusLine = nullptr;
+    Desktop* desktop = nullptr;
     WindowMemory* memory = nullptr;
     RepoEditor::Dialog* repoEditorDialog = nullptr; ///< null until first used
     Log::Window* logWindow = nullptr; ///< null until first used; top-level, deleted with this window

@@ -11,6 +11,7 @@
 #include "packagetable/PackageTableSelectionActions.h"
 #include "packagetable/PackageTableView.h"
 #include "services/HProgressBar.h"
+#include "shell/Desktop.h"
 #include "shell/EmptyTableNote.h"
 #include "shell/StatusLine.h"
 #include "shell/StopButton.h"
@@ -66,6 +67,12 @@ void MainWindow::createMenuBar()
 
     HMenu* const windowsMenu = addMenu(tr("&Windows"));
     addEntry(windowsMenu, tr("&Log"), &MainWindow::displayLog)->setShortcut(QKeySequence(tr("Ctrl+L")));
+    logWithApplyAction = windowsMenu->addAction(tr("Open Log With Each &Apply"));
+    logWithApplyAction->setCheckable(true);
+    logWithApplyAction->setChecked(UserSettings::value(logWithApplySetting, false).toBool());
+    connect(logWithApplyAction, &QAction::toggled, this, [](bool wanted) {
+        UserSettings::setValue(logWithApplySetting, wanted);
+    });
     windowsMenu->addSeparator();
     resetAction = addEntry(windowsMenu, tr("&Reset Window"), &MainWindow::reset);
 
@@ -232,6 +239,10 @@ void MainWindow::createMainArea()
     itemBar->setAccessibleName(tr("Item Progress"));
     auto* const totalBar = new HProgressBar(central);
     totalBar->setAccessibleName(tr("Total Progress"));
+    desktop = new Desktop(this);
+    connect(totalBar, &QProgressBar::valueChanged, desktop, [this, totalBar](int value) {
+        desktop->showProgress(value, totalBar->minimum(), totalBar->maximum());
+    });
     auto* const stopButton = new StopButton(yumIO->stop, central);
     connect(stopButton, &QPushButton::clicked, this, &MainWindow::stop);
     auto* const bars = new QVBoxLayout;

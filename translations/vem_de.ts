@@ -37,6 +37,13 @@
     </message>
 </context>
 <context>
+    <name>Desktop</name>
+    <message>
+        <source>Show</source>
+        <translation>Anzeigen</translation>
+    </message>
+</context>
+<context>
     <name>DetailsModel</name>
     <message>
         <source>What happens to the package</source>
@@ -830,6 +837,22 @@ Das wird zu Ende geführt, und das Programm endet danach.</translation>
     <message>
         <source>The search was stopped: only what it had found by then is shown</source>
         <translation>Die Suche wurde angehalten: Gezeigt wird nur, was bis dahin gefunden war</translation>
+    </message>
+    <message>
+        <source>An answer is waited for.</source>
+        <translation>Es wird auf eine Antwort gewartet.</translation>
+    </message>
+    <message>
+        <source>All actions have been applied.</source>
+        <translation>Alle Aktionen sind angewandt.</translation>
+    </message>
+    <message>
+        <source>The actions have not been applied.</source>
+        <translation>Die Aktionen sind nicht angewandt worden.</translation>
+    </message>
+    <message>
+        <source>Open Log With Each &amp;Apply</source>
+        <translation>Protokoll bei jedem &amp;Anwenden öffnen</translation>
     </message>
 </context>
 <context>

@@ -37,6 +37,13 @@
     </message>
 </context>
 <context>
+    <name>Desktop</name>
+    <message>
+        <source>Show</source>
+        <translation>Mostrar</translation>
+    </message>
+</context>
+<context>
     <name>DetailsModel</name>
     <message>
         <source>What happens to the package</source>
@@ -830,6 +837,22 @@ Eso continúa hasta el final, y el programa termina después.</translation>
     <message>
         <source>The search was stopped: only what it had found by then is shown</source>
         <translation>La búsqueda se detuvo: solo se muestra lo que había encontrado hasta entonces</translation>
+    </message>
+    <message>
+        <source>An answer is waited for.</source>
+        <translation>Se espera una respuesta.</translation>
+    </message>
+    <message>
+        <source>All actions have been applied.</source>
+        <translation>Se han aplicado todas las acciones.</translation>
+    </message>
+    <message>
+        <source>The actions have not been applied.</source>
+        <translation>No se han aplicado las acciones.</translation>
+    </message>
+    <message>
+        <source>Open Log With Each &amp;Apply</source>
+        <translation>Abrir el registro en cada &amp;aplicación</translation>
     </message>
 </context>
 <context>

@@ -37,6 +37,13 @@
     </message>
 </context>
 <context>
+    <name>Desktop</name>
+    <message>
+        <source>Show</source>
+        <translation>Afficher</translation>
+    </message>
+</context>
+<context>
     <name>DetailsModel</name>
     <message>
         <source>What happens to the package</source>
@@ -830,6 +837,22 @@ Cela ira à son terme, et le programme se terminera ensuite.</translation>
     <message>
         <source>The search was stopped: only what it had found by then is shown</source>
         <translation>La recherche a été arrêtée : seul ce qu&apos;elle avait trouvé jusque-là est affiché</translation>
+    </message>
+    <message>
+        <source>An answer is waited for.</source>
+        <translation>Une réponse est attendue.</translation>
+    </message>
+    <message>
+        <source>All actions have been applied.</source>
+        <translation>Toutes les actions ont été appliquées.</translation>
+    </message>
+    <message>
+        <source>The actions have not been applied.</source>
+        <translation>Les actions n’ont pas été appliquées.</translation>
+    </message>
+    <message>
+        <source>Open Log With Each &amp;Apply</source>
+        <translation>Ouvrir le journal à chaque &amp;application</translation>
     </message>
 </context>
 <context>

@@ -37,6 +37,13 @@
     </message>
 </context>
 <context>
+    <name>Desktop</name>
+    <message>
+        <source>Show</source>
+        <translation>表示</translation>
+    </message>
+</context>
+<context>
     <name>DetailsModel</name>
     <message>
         <source>What happens to the package</source>
@@ -830,6 +837,22 @@ That goes on to its end, and the program ends behind it.</source>
     <message>
         <source>The search was stopped: only what it had found by then is shown</source>
         <translation>検索は中止されました。それまでに見つかったものだけが表示されています</translation>
+    </message>
+    <message>
+        <source>An answer is waited for.</source>
+        <translation>応答を待っています。</translation>
+    </message>
+    <message>
+        <source>All actions have been applied.</source>
+        <translation>すべてのアクションを適用しました。</translation>
+    </message>
+    <message>
+        <source>The actions have not been applied.</source>
+        <translation>アクションは適用されませんでした。</translation>
+    </message>
+    <message>
+        <source>Open Log With Each &amp;Apply</source>
+        <translation>適用のたびにログを開く(&amp;A)</translation>
     </message>
 </context>
 <context>

@@ -37,6 +37,13 @@
     </message>
 </context>
 <context>
+    <name>Desktop</name>
+    <message>
+        <source>Show</source>
+        <translation>显示</translation>
+    </message>
+</context>
+<context>
     <name>DetailsModel</name>
     <message>
         <source>What happens to the package</source>
@@ -830,6 +837,22 @@ That goes on to its end, and the program ends behind it.</source>
     <message>
         <source>The search was stopped: only what it had found by then is shown</source>
         <translation>搜索已停止：仅显示此前找到的内容</translation>
+    </message>
+    <message>
+        <source>An answer is waited for.</source>
+        <translation>正在等待答复。</translation>
+    </message>
+    <message>
+        <source>All actions have been applied.</source>
+        <translation>所有操作均已应用。</translation>
+    </message>
+    <message>
+        <source>The actions have not been applied.</source>
+        <translation>操作未被应用。</translation>
+    </message>
+    <message>
+        <source>Open Log With Each &amp;Apply</source>
+        <translation>每次应用时打开日志(&amp;A)</translation>
     </message>
 </context>
 <context>

@@ -4,6 +4,7 @@ from __future__ import annotations
 
 import os
 import signal
+import subprocess
 from pathlib import Path
 from typing import Callable
 
@@ -48,6 +49,11 @@ def test_package_files_of_the_command_line_are_marked_and_installed(
     new, lamp = fleet.build([spec("fleet-flag", "3.0"), spec("fleet-lamp", "2.0")])
     cut = tmp_path / "cut.rpm"
     cut.write_bytes(new.read_bytes()[:-40])
+    heard = tmp_path / "heard"
+    with heard.open("wb") as file:
+        listener = subprocess.Popen(
+            ["dbus-monitor", "--session", "interface='com.canonical.Unity.LauncherEntry'"], stdout=file
+        )
     program = start(site, str(new), f"file://{lamp}", str(cut))
     box = program.window("VEM Yum Error")
     assert f"{cut}: this is no rpm package, or it is damaged" in program.texts(box)
@@ -66,6 +72,12 @@ def test_package_files_of_the_command_line_are_marked_and_installed(
     assert site.installed() == BEFORE - {"fleet-lamp-1.0-1.noarch"} | {
         "fleet-flag-3.0-1.noarch", "fleet-lamp-2.0-1.noarch",
     }
+    # The desktop's task bar has followed all of it.
+    listener.terminate()
+    listener.wait()
+    told = heard.read_text(errors="replace").split("member=Update")[1:]
+    assert len(told) > 20 and all("application://org.example.vem.desktop" in each for each in told)
+    assert "boolean true" in told[0] and "boolean false" in told[-1]
 
 
 def test_a_click_on_a_header_sorts_and_a_second_one_reverses(site: Estate, start: Start) -> None:

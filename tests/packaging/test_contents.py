@@ -122,7 +122,7 @@ def test_rpm_requires_what_the_program_starts_and_imports(rpm_file: Path) -> Non
         "rpm",
     }
     plain = {re.sub(r"[\d.]*\.so.*", "", name) for name in libraries}
-    assert plain >= {"libQt6Core", "libQt6Gui", "libQt6Widgets", "libpython"}
+    assert plain >= {"libQt6Core", "libQt6DBus", "libQt6Gui", "libQt6Widgets", "libpython"}
 
 
 def test_rpm_runs_one_script_after_it_is_gone(rpm_file: Path) -> None:
@@ -171,7 +171,7 @@ def test_deb_depends_on_what_the_program_starts_and_imports(deb_file: Path) -> N
     # Libraries that were built anew for 64 bits of time.
     names = {name.removesuffix("t64") for name in names}
     assert names == {
-        "hicolor-icon-theme", "libc6", "libgcc-s1", "libpython3", "libqt6core6", "libqt6gui6", "libqt6widgets6",
+        "hicolor-icon-theme", "libc6", "libgcc-s1", "libpython3", "libqt6core6", "libqt6dbus6", "libqt6gui6", "libqt6widgets6",
         "libstdc++6", "pkexec", "python3", "python3-dnf", "python3-rpm", "rpm",
     }
 

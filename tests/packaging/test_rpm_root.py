@@ -46,7 +46,7 @@ STAND_INS = {
     "python3-dnf": StandIn("4.14.0"),
     "python3-libs": StandIn("3.11", r"libpython3\..*"),
     "python3-rpm": StandIn("4.18"),
-    "qt6-qtbase": StandIn("6.4.2", r"libQt6Core\.so.*"),
+    "qt6-qtbase": StandIn("6.4.2", r"libQt6(Core|DBus)\.so.*"),
     "qt6-qtbase-gui": StandIn("6.4.2", r"libQt6(Gui|Widgets)\.so.*"),
     "rpm": StandIn("4.18"),
     "systemd": StandIn(folders=("/usr/lib/tmpfiles.d",)),

@@ -77,7 +77,8 @@ private Q_SLOTS:
         QCOMPARE(
             menuTexts(menu(QStringLiteral("&Windows"))),
             QStringList(
-                {QStringLiteral("&Log|Ctrl+L"), QStringLiteral("-"), QStringLiteral("&Reset Window")}));
+                {QStringLiteral("&Log|Ctrl+L"), QStringLiteral("Open Log With Each &Apply"),
+                 QStringLiteral("-"), QStringLiteral("&Reset Window")}));
         QCOMPARE(window->menuBar()->actions().at(4)->text(), QStringLiteral("S&election"));
         QCOMPARE(
             menuTexts(menu(QStringLiteral("S&election"))).filter(QStringLiteral("|")),
