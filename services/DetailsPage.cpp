@@ -5,6 +5,7 @@
 #include "services/WrappedText.h"
 #include "widgets/Fonts.h"
 #include "widgets/HTableView.h"
+#include "widgets/SignLabel.h"
 #include "widgets/Sizing.h"
 
 #include <QEvent>
@@ -14,7 +15,6 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSplitter>
-#include <QStyle>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -100,10 +100,8 @@ QString DetailsPage::warningsOf(QList<TransactionDetails::Row> const& rows)
 QLayout* DetailsPage::warningLine(QString const& text)
 {
     auto* const line = new QHBoxLayout;
-    auto* const picture = new QLabel(this);
-    int const side = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
-    picture->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, this).pixmap(side, side));
-    line->addWidget(picture, 0, Qt::AlignTop);
+    auto* const sign = new SignLabel(QStyle::SP_MessageBoxWarning, QStyle::PM_SmallIconSize, this);
+    line->addWidget(sign, 0, Qt::AlignTop);
     auto* const warnings = new WrappedText(text, this);
     warnings->setFont(Fonts::makeBold(font()));
     warnings->setAccessibleName(tr("Warnings"));

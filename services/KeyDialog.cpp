@@ -5,6 +5,7 @@
 #include "services/WrappedText.h"
 #include "widgets/Colors.h"
 #include "widgets/Fonts.h"
+#include "widgets/SignLabel.h"
 #include "widgets/Sizing.h"
 
 #include <QDateTime>
@@ -88,9 +89,8 @@ KeyDialog::KeyDialog(KeyQuestion const& question, QWidget* parent)
     setWindowTitle(fetched ? tr("Import Key") : tr("Fetch Key"));
 
     auto* const columns = new QHBoxLayout;
-    auto* const picture = new QLabel(this);
-    picture->setPixmap(style()->standardPixmap(QStyle::SP_MessageBoxWarning, nullptr, this));
-    columns->addWidget(picture, 0, Qt::AlignTop);
+    auto* const sign = new SignLabel(QStyle::SP_MessageBoxWarning, QStyle::PM_MessageBoxIconSize, this);
+    columns->addWidget(sign, 0, Qt::AlignTop);
     auto* const content = new QVBoxLayout;
     columns->addLayout(content, 1);
 

@@ -3,6 +3,7 @@
 
 #include "services/TextLabel.h"
 #include "widgets/HScrollArea.h"
+#include "widgets/SignLabel.h"
 
 #include <QDialog>
 #include <QHBoxLayout>
@@ -23,9 +24,7 @@ QLabel* layOutScrollableDialog(
     rows->addLayout(upper);
     rows->addLayout(lower);
 
-    auto* const pictureLabel = new QLabel(dialog);
-    pictureLabel->setPixmap(dialog->style()->standardPixmap(picture, nullptr, dialog));
-    upper->addWidget(pictureLabel);
+    upper->addWidget(new SignLabel(picture, QStyle::PM_MessageBoxIconSize, dialog));
 
     auto* const area = new HScrollArea(dialog);
     area->setFrameStyle(QFrame::Plain);

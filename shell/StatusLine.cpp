@@ -3,6 +3,7 @@
 
 #include "engine/YumIO.h"
 #include "packagetable/PackageTableMarks.h"
+#include "widgets/SignLabel.h"
 
 #include <QDateTime>
 #include <QHBoxLayout>
@@ -40,7 +41,7 @@ StatusLine::StatusLine(QWidget* parent)
       rows(new QLabel(this)),
       selected(new QLabel(this)),
       marks(makeLink()),
-      sign(new QLabel(this)),
+      sign(new SignLabel(QStyle::SP_MessageBoxWarning, QStyle::PM_SmallIconSize, this)),
       warning(new QLabel(this)),
       incomplete(makeLink()),
       age(new YieldingLabel(this)),
@@ -51,8 +52,6 @@ StatusLine::StatusLine(QWidget* parent)
     for (QLabel* const label : {rows, selected, warning, age}) {
         label->setTextFormat(Qt::PlainText);
     }
-    int const size = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
-    sign->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, this).pixmap(size));
     // The sign may be higher than the letters.
     QSizePolicy keepsPlace = sign->sizePolicy();
     keepsPlace.setRetainSizeWhenHidden(true);
