@@ -46,8 +46,6 @@ QVariant DetailsModel::data(QModelIndex const& index, int role) const
         return toolTip(row, index.column());
     case Qt::FontRole:
         return (row.warnings & serious) ? QVariant(bold) : QVariant();
-    case Qt::TextAlignmentRole:
-        return index.column() == SizeColumn ? QVariant(Qt::AlignRight | Qt::AlignVCenter) : QVariant();
     default:
         return {};
     }

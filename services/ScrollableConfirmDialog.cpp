@@ -3,7 +3,9 @@
 
 #include "services/DetailsPage.h"
 #include "services/ScrollableDialogLayout.h"
+#include "widgets/Sizing.h"
 
+#include <QLayout>
 #include <QPushButton>
 #include <QTabWidget>
 
@@ -40,6 +42,12 @@ ScrollableConfirmDialog::ScrollableConfirmDialog(
         this, QStyle::SP_MessageBoxQuestion, text, {ok, cancel}, pages,
         details ? tr("&Transaction") : QString());
     ok->setFocus();
+    if (details) {
+        // The toolkit stops at two thirds of the screen, where large letters leave the table no row.
+        ensurePolished();
+        layout()->activate();
+        resize(sizeHint().boundedTo(Sizing::screenLimit(this)));
+    }
 }
 
 ScrollableConfirmDialog::~ScrollableConfirmDialog() = default;

@@ -120,11 +120,13 @@ private Q_SLOTS:
     void reasonsAreWords();
     void orderOfTheTransactionStandsUntilAColumnIsSorted();
     void sizesAreSortedByBytes();
+    void sizesStandClearOfTheReasons();
     void warningsNameTheirPackages();
     void nothingToWarnOfShowsNoWarnings();
     void rowsThatWantAttentionAreBold();
     void totalsTellCountsDownloadAndDisk();
     void thousandsOfRowsFitTheScreen();
+    void largeLettersLeaveRowsInSight();
 
     void toldTextIsTheFirstPage();
     void changesAreReadOnTheAskingThread();
@@ -214,6 +216,17 @@ void TestDetailsPage::sizesAreSortedByBytes()
     auto* const table = page.findChild<QTableView*>();
     table->sortByColumn(DetailsModel::SizeColumn, Qt::DescendingOrder);
     QCOMPARE(column(table, DetailsModel::SizeColumn), QStringList({"4.8Mb", "2.0Kb", "900b"}));
+}
+
+void TestDetailsPage::sizesStandClearOfTheReasons()
+{
+    DetailsPage page(sample(), &window);
+    auto const* const table = page.findChild<QTableView*>();
+    for (int at = 0; at < table->model()->rowCount(); ++at) {
+        auto const alignment =
+            table->model()->index(at, DetailsModel::SizeColumn).data(Qt::TextAlignmentRole).toInt();
+        QVERIFY(!(alignment & Qt::AlignRight));
+    }
 }
 
 void TestDetailsPage::warningsNameTheirPackages()
@@ -307,6 +320,24 @@ void TestDetailsPage::thousandsOfRowsFitTheScreen()
     int const before = table->height();
     dialog.resize(dialog.width(), dialog.height() + 100);
     EVENTUALLY_VERIFY(table->height() > before);
+}
+
+void TestDetailsPage::largeLettersLeaveRowsInSight()
+{
+    QFont const before = QApplication::font();
+    QFont large = before;
+    large.setPointSizeF(before.pointSizeF() * 2);
+    QApplication::setFont(large);
+    Details details = sample();
+    details.rows[0].warnings |= Details::Protected | Details::Running | Details::Older;
+    ScrollableConfirmDialog dialog(QStringLiteral("Text"), details, &window);
+    dialog.findChild<QTabWidget*>()->setCurrentIndex(1);
+    dialog.show();
+    QApplication::setFont(before);
+    auto const* const table = dialog.findChild<QTableView*>();
+    EVENTUALLY_VERIFY(table->viewport()->height() >= 3 * table->rowHeight(0));
+    QSize const screen = dialog.screen()->geometry().size();
+    QVERIFY(dialog.width() <= screen.width() && dialog.height() <= screen.height());
 }
 
 void TestDetailsPage::toldTextIsTheFirstPage()
