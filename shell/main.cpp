@@ -5,6 +5,7 @@
 #include "base/StartingPoint.h"
 #include "shell/CommandLine.h"
 #include "shell/DefaultStyle.h"
+#include "shell/LegiblePalette.h"
 #include "shell/MainWindow.h"
 #include "shell/Translations.h"
 
@@ -27,6 +28,7 @@ int main(int argc, char** argv)
     DefaultStyle const defaultStyle(argc, argv);
     QApplication app(argc, argv);
     defaultStyle.set(app, QStringLiteral("plastique"));
+    LegiblePalette const legiblePalette(app);
     installTranslations(app);
     // Wayland has no window icons: the compositor takes that of the desktop entry.
     QGuiApplication::setDesktopFileName(QStringLiteral("org.example.vem"));

@@ -14,6 +14,8 @@ namespace
 // to be seen, 21 black on white.
 constexpr double leastContrast = 4.5;
 constexpr double companionContrast = 6.0; ///< more, so that a disabled companion can be fainter
+constexpr double placeholderContrast =
+    4.8; ///< some more than the least, since colours on a screen are rounded
 
 double linear(float channel)
 {
@@ -80,6 +82,47 @@ QPalette withText(QPalette palette, QColor const& color)
     return palette;
 }
 
+QColor blended(QColor const& words, QColor const& ground)
+{
+    float const share = words.alphaF();
+    return QColor::fromRgbF(
+        words.redF() * share + ground.redF() * (1 - share),
+        words.greenF() * share + ground.greenF() * (1 - share),
+        words.blueF() * share + ground.blueF() * (1 - share));
+}
+
+QColor legibleLink(QPalette const& palette)
+{
+    QColor const link = palette.color(QPalette::Link);
+    auto const canBeRead = [&](QPalette::ColorRole ground) {
+        return contrast(link, palette.color(ground)) >= leastContrast;
+    };
+    if (canBeRead(QPalette::Window) && canBeRead(QPalette::Base)) {
+        return link;
+    }
+    QColor const ground = lightestGround(palette, {QPalette::Window, QPalette::Base});
+    return isDark(ground) ? companion(link, ground, companionContrast) : QColor(Qt::blue);
+}
+
+/// Fainter than what somebody has filled in, as far as that can be read.
+QColor legiblePlaceholder(QPalette const& palette)
+{
+    QColor const ground = palette.color(QPalette::Base);
+    QColor words = palette.color(QPalette::PlaceholderText);
+    if (contrast(blended(words, ground), ground) >= leastContrast) {
+        return words;
+    }
+    words = palette.color(QPalette::Text);
+    constexpr int full = 255;
+    for (int alpha = full / 2; alpha < full; ++alpha) {
+        words.setAlpha(alpha);
+        if (contrast(blended(words, ground), ground) >= placeholderContrast) {
+            break;
+        }
+    }
+    return words;
+}
+
 QColor rowGround(QPalette const& palette)
 {
     return lightestGround(palette, {QPalette::Base, QPalette::AlternateBase});
@@ -137,6 +180,20 @@ QColor Colors::onDisabledBase(QString const& name, QPalette const& palette)
     QColor const color(name);
     QColor const ground = rowGround(palette);
     return isDark(ground) ? companion(color, ground, leastContrast) : color;
+}
+
+QPalette Colors::makeLegible(QPalette const& palette)
+{
+    QPalette copy(palette);
+    QColor const link = legibleLink(palette);
+    QColor const placeholder = legiblePlaceholder(palette);
+    if (link != palette.color(QPalette::Link)) {
+        copy.setColor(QPalette::Link, link);
+    }
+    if (placeholder != palette.color(QPalette::PlaceholderText)) {
+        copy.setColor(QPalette::PlaceholderText, placeholder);
+    }
+    return copy;
 }
 
 QPalette Colors::makeRequired(QPalette const& palette)

@@ -40,6 +40,9 @@ public:
     /// The same for a name that stands for a disabled table: fainter than `onBase`, yet to be read.
     [[nodiscard]] static QColor onDisabledBase(QString const& name, QPalette const& palette);
 
+    /// A copy in which links, and the words in empty fields, can be read: toolkit and desktops often leave
+    /// links blue on dark ground, and those words too faint.
+    [[nodiscard]] static QPalette makeLegible(QPalette const& palette);
     /// A copy in which a field that can be edited has the background `required`; a disabled one keeps its
     /// own. The colours' names are taken at the first call and kept for the life of the process, here and
     /// below.

@@ -34,6 +34,15 @@ inline double ratio(QColor const& one, QColor const& other)
     return std::max(first, second) / std::min(first, second);
 }
 
+/// As words that let their ground through come to the screen.
+inline QColor blended(QColor const& words, QColor const& ground)
+{
+    int const alpha = words.alpha();
+    auto const mix = [alpha](int one, int other) { return (one * alpha + other * (255 - alpha)) / 255; };
+    return {
+        mix(words.red(), ground.red()), mix(words.green(), ground.green()), mix(words.blue(), ground.blue())};
+}
+
 inline QPalette darkPalette(QColor const& window, QColor const& base, QColor const& alternateBase)
 {
     QPalette palette(window);

@@ -22,6 +22,9 @@ private Q_SLOTS:
     void lightRowsKeepTheColours();
     void darkPaletteColoursCanBeRead_data();
     void darkPaletteColoursCanBeRead();
+    void linksAndPlaceholdersCanBeRead_data();
+    void linksAndPlaceholdersCanBeRead();
+    void whatCanBeReadStaysAsItIs();
     void darkDisabledRowsAreFainter();
 };
 
@@ -132,6 +135,40 @@ void tst_Colors::darkPaletteColoursCanBeRead()
     verify(words(Colors::makeError(palette)), Colors::error(), window);
     verify(words(Colors::makeWarning(palette)), Colors::warning(), window);
     verify(words(Colors::makeOK(palette)), Colors::ok(), window);
+}
+
+void tst_Colors::linksAndPlaceholdersCanBeRead_data()
+{
+    darkPaletteColoursCanBeRead_data();
+    QTest::newRow("light") << QPalette(QColor(0xef, 0xef, 0xef));
+    QPalette stale(QColor(0xef, 0xef, 0xef));
+    stale.setColor(QPalette::Link, QColor(0x99, 0x99, 0xff));
+    QTest::newRow("light with the links of a dark one") << stale;
+}
+
+void tst_Colors::linksAndPlaceholdersCanBeRead()
+{
+    QFETCH(QPalette, palette);
+
+    QPalette const after = Colors::makeLegible(palette);
+
+    QColor const base = after.color(QPalette::Base);
+    for (QColor const& ground : {base, after.color(QPalette::Window)}) {
+        QVERIFY(Contrast::ratio(after.color(QPalette::Link), ground) >= Contrast::legible);
+    }
+    QColor const words = after.color(QPalette::PlaceholderText);
+    double const ratio = Contrast::ratio(Contrast::blended(words, base), base);
+    QVERIFY2(ratio >= Contrast::legible, qPrintable(QString::number(ratio)));
+    QVERIFY(ratio < Contrast::ratio(after.color(QPalette::Text), base));
+    QCOMPARE(Colors::makeLegible(after), after);
+}
+
+void tst_Colors::whatCanBeReadStaysAsItIs()
+{
+    QPalette palette(QColor(0xef, 0xef, 0xef));
+    palette.setColor(QPalette::Link, Qt::darkBlue);
+    palette.setColor(QPalette::PlaceholderText, QColor(80, 80, 80));
+    QCOMPARE(Colors::makeLegible(palette), palette);
 }
 
 void tst_Colors::darkDisabledRowsAreFainter()
