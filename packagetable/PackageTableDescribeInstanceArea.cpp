@@ -104,6 +104,7 @@ Area::Area(
       scrollArea(new HScrollArea(80, 24, parent))
 {
     scrollArea->setFrameStyle(QFrame::NoFrame | QFrame::Plain);
+    scrollArea->setAccessibleName(yumIO->getState(entry));
     int row = 0;
     addHeader(row, yumIO->getState(entry));
     if (full || entry.kind == Package::Group) {

@@ -28,6 +28,8 @@ QLabel* layOutScrollableDialog(
 
     auto* const area = new HScrollArea(dialog);
     area->setFrameStyle(QFrame::Plain);
+    // Who comes to it by Tab, to scroll, hears it.
+    area->setAccessibleName(text);
     auto* const textLabel = new TextLabel(text, area);
     area->setWidget(textLabel);
     if (pages) {

@@ -4,6 +4,7 @@
 #include "engine/YumIO.h"
 #include "packagetable/PackageTableExpressionEdit.h"
 #include "packagetable/PackageTableView.h"
+#include "widgets/Sizing.h"
 
 #include <QAbstractItemModel>
 #include <QCheckBox>
@@ -17,6 +18,8 @@ namespace
 
 /// Nobody is told in the middle of a word.
 constexpr std::chrono::milliseconds pauseTime(300);
+
+constexpr int columnsOfExpression = 40; ///< characters
 
 constexpr QLatin1String viewAll("all");
 constexpr QLatin1String withGroups("groups");
@@ -79,6 +82,13 @@ void EmptyTableNote::say(QStringList const& lines)
     setAccessibleName(QTextDocumentFragment::fromHtml(text()).toPlainText());
 }
 
+// What is longer would run out of the table.
+QString EmptyTableNote::shownExpression() const
+{
+    return fontMetrics().elidedText(
+        view->expression(), Qt::ElideMiddle, Sizing::columns(this, columnsOfExpression));
+}
+
 QString EmptyTableNote::reason() const
 {
     QString const state = controls.state->currentText();
@@ -87,7 +97,7 @@ QString EmptyTableNote::reason() const
         words = tr("There are no packages.");
     } else if (view->hasExpression()) {
         //: %1 is an expression, %2 one of the choices beside it, such as "View All"
-        words = tr("Nothing matches %1 in %2.").arg(view->expression(), state);
+        words = tr("Nothing matches %1 in %2.").arg(shownExpression(), state);
     } else {
         //: %1 is one of the choices above the table, such as "View Updatable"
         words = tr("There is nothing in %1.").arg(state);

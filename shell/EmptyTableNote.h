@@ -37,6 +37,7 @@ private:
     void wait();
     void tell();
     void say(QStringList const& lines);
+    [[nodiscard]] QString shownExpression() const;
     [[nodiscard]] QString reason() const;
     /// HTML, each one a link.
     [[nodiscard]] QStringList ways() const;

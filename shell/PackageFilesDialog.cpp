@@ -2,6 +2,7 @@
 #include "shell/PackageFilesDialog.h"
 
 #include "shell/PackageWords.h"
+#include "widgets/Sizing.h"
 
 #include <QDialogButtonBox>
 #include <QFileDialog>
@@ -9,6 +10,13 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+namespace
+{
+
+constexpr int columnsOfFault = 50; ///< characters of what isn't understood
+
+} // namespace
 
 PackageFilesDialog::PackageFilesDialog(QWidget* parent)
     : QDialog(parent)
@@ -70,8 +78,12 @@ void PackageFilesDialog::read()
             strange = text;
         }
     }
+    // A long path has no place where it could be wrapped, and the dialog keeps its width.
+    QString const shown =
+        fontMetrics().elidedText(strange, Qt::ElideMiddle, Sizing::columns(this, columnsOfFault));
     fault->setText(
         strange.isEmpty() ? QString()
-                          : tr("This is no readable .rpm file and no https address: %1").arg(strange));
+                          : tr("This is no readable .rpm file and no https address: %1").arg(shown));
+    fault->setToolTip(strange);
     openButton->setEnabled(!named.isEmpty() && strange.isEmpty());
 }

@@ -58,7 +58,6 @@ StatusLine::StatusLine(QWidget* parent)
     sign->setSizePolicy(keepsPlace);
     // Not wider for what somebody writes: the window keeps its width.
     warning->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    warning->setTextInteractionFlags(Qt::TextSelectableByMouse);
     line->addWidget(rows);
     line->addWidget(selected);
     line->addWidget(marks);
@@ -185,5 +184,7 @@ void StatusLine::setWarning(QString const& words)
     warning->setText(words);
     // All of it, where the line is too short.
     warning->setToolTip(words);
+    // Nobody stops at a place where nothing is.
+    warning->setTextInteractionFlags(words.isEmpty() ? Qt::NoTextInteraction : Qt::TextSelectableByMouse);
     sign->setVisible(!words.isEmpty());
 }

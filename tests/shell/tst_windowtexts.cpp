@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // The words of every window in the language that VEM_TEST_LANGUAGE names, in letters of VEM_TEST_FONT_SCALE
-// times the usual size: all are there, none is cut off, and no letter does two things.
+// times the usual size, on the ground that VEM_TEST_PALETTE names: all are there, none is cut off, and no
+// letter does two things; all can be read, and heard.
 #include "ShellTest.h"
 
+#include "WindowAccess.h"
 #include "WindowTexts.h"
+#include "packagetable/PackageTableDescribeSection.h"
+#include "packagetable/PackageTableHeader.h"
 #include "packagetable/PackageTableView.h"
 #include "repo/RepoAuthDialog.h"
 #include "repo/RepoEntry.h"
@@ -12,7 +16,11 @@
 #include "services/ScrollableConfirmDialog.h"
 #include "services/ScrollableErrorDialog.h"
 #include "services/TransactionDetails.h"
+#include "shell/EmptyTableNote.h"
+#include "shell/LegiblePalette.h"
 #include "shell/PackageFilesDialog.h"
+#include "tests/Eventually.h"
+#include "tests/widgets/Contrast.h"
 #include "widgets/HMenu.h"
 
 #include <QApplication>
@@ -21,6 +29,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLayout>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -29,6 +38,7 @@
 #include <QTabWidget>
 #include <QTest>
 #include <QTimer>
+#include <QToolButton>
 #include <QTranslator>
 #include <QXmlStreamReader>
 
@@ -90,6 +100,7 @@ class WindowTextsTest : public ShellTest
     bool const isMarked = language == QLatin1String("marked");
     QTranslator texts;
     Marker marker{QStringLiteral(VEM_TEST_SOURCE "/../../translations/vem_de.ts")};
+    std::unique_ptr<LegiblePalette> legiblePalette;
     int pictures = 0;   ///< that VEM_SHOTS, a directory, has got
     QStringList looked; ///< titles of the windows that `look` has seen
 
@@ -111,6 +122,10 @@ class WindowTextsTest : public ShellTest
             shown->grab().save(name);
         }
         QString const title = shown->windowTitle() + QStringLiteral(": ");
+        QStringList const unheard = WindowAccess::unheard(*shown);
+        QVERIFY2(unheard.isEmpty(), qPrintable(title + unheard.join(QStringLiteral("; "))));
+        QStringList const faint = WindowAccess::faint(*shown);
+        QVERIFY2(faint.isEmpty(), qPrintable(title + faint.join(QStringLiteral("; "))));
         QStringList const cut = WindowTexts::cut(*shown);
         QVERIFY2(cut.isEmpty(), qPrintable(title + cut.join(QStringLiteral("; "))));
         QStringList clashes = WindowTexts::clashes(*shown);
@@ -183,6 +198,16 @@ private Q_SLOTS:
         QFont font = QApplication::font();
         font.setPointSizeF(font.pointSizeF() * qEnvironmentVariable("VEM_TEST_FONT_SCALE", "1").toDouble());
         QApplication::setFont(font);
+        legiblePalette = std::make_unique<LegiblePalette>(*qApp);
+        if (qEnvironmentVariable("VEM_TEST_PALETTE") == QLatin1String("dark")) {
+            QApplication::setPalette(Contrast::darkPalette());
+        }
+        // What a description tells of other packages, which needs no translation.
+        qputenv(
+            "VEM_TEST_STATEMENTS", "def relations(self, kind, package, most):\n"
+                                   "    other = standin.world.find('available', 'hazel')\n"
+                                   "    return [['1 ', ('2', other, 'available', [])]] * 2, 3\n"
+                                   "YumIO.relations = relations\n");
         makeWindow();
         write(
             QStringLiteral("etc/yum.repos.d/trees.repo"),
@@ -209,6 +234,37 @@ private Q_SLOTS:
             look(*action->menu());
             action->menu()->close();
         }
+    }
+
+    void wrongExpressionAndEmptyTable()
+    {
+        auto* const line = window->findChild<QLineEdit*>();
+        QString const before = line->text();
+        auto const apply = [line](QString const& expression) {
+            line->setText(expression);
+            QTest::keyClick(line, Qt::Key_Return);
+        };
+        apply(QStringLiteral("1["));
+        // The system's library tells what is wrong, in words of its own.
+        look(window, {});
+        apply(QStringLiteral("123"));
+        EVENTUALLY_VERIFY(window->findChild<EmptyTableNote*>()->isVisible());
+        look(window);
+        EmptyTableNote const* const note = window->findChild<EmptyTableNote*>();
+        apply(QString(500, QLatin1Char('1')));
+        EVENTUALLY_VERIFY(note->isVisible());
+        look(window);
+        QVERIFY(note->parentWidget()->rect().contains(note->geometry()));
+        apply(before);
+        boxes->take();
+    }
+
+    void columnsMenu()
+    {
+        QMenu* const menu = packages()->findChild<PackageTable::Header*>()->columnsMenu();
+        menu->popup(QPoint());
+        look(*menu);
+        menu->close();
     }
 
     void logWindow()
@@ -242,6 +298,34 @@ private Q_SLOTS:
             QStringList values;
             for (QLabel const* const label : shown->findChildren<QLabel*>()) {
                 if (!label->text().endsWith(QLatin1Char(':'))) {
+                    values.append(label->text());
+                }
+            }
+            look(shown, values);
+        });
+        packages()->describe();
+        QCOMPARE(looked.size(), 1);
+    }
+
+    void openSectionsOfADescription()
+    {
+        packages()->setCurrentIndex(packages()->model()->index(0, 3));
+        boxes->press({QStringLiteral("Escape")});
+        boxes->whileShown([this] {
+            QWidget* const shown = QApplication::activeModalWidget();
+            auto const sections = shown->findChildren<PackageTable::Describe::Instance::Section*>();
+            QVERIFY(sections.size() >= 5);
+            QStringList values;
+            for (auto* const section : sections) {
+                section->findChild<QToolButton*>()->click();
+                QVERIFY(section->isOpen());
+            }
+            // What has been opened is laid out by and by.
+            EVENTUALLY_VERIFY(WindowTexts::cut(*shown).isEmpty());
+            for (QLabel const* const label : shown->findChildren<QLabel*>()) {
+                bool const ofSection =
+                    qobject_cast<PackageTable::Describe::Instance::Section*>(label->parentWidget());
+                if (!ofSection && !label->text().endsWith(QLatin1Char(':'))) {
                     values.append(label->text());
                 }
             }
@@ -299,6 +383,13 @@ private Q_SLOTS:
         // The next event would do that.
         dialog.layout()->activate();
         look(&dialog, {QStringLiteral("1")});
+        // A path has no place where a line of it could end.
+        QString const path = QLatin1Char('/') + QString(300, QLatin1Char('1'));
+        int const before = dialog.width();
+        dialog.findChild<QPlainTextEdit*>()->setPlainText(path);
+        dialog.layout()->activate();
+        look(&dialog, {path});
+        QCOMPARE(dialog.width(), before);
     }
 
     void keys()
