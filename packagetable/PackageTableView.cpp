@@ -292,9 +292,7 @@ void View::focusInEvent(QFocusEvent* event)
     bool const byTab = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
     if (currentIndex().isValid() || byTab) {
         HTableView::focusInEvent(event);
-        if (byTab && currentIndex().isValid() && !selectionModel()->hasSelection()) {
-            selectionModel()->select(currentIndex(), QItemSelectionModel::Select | QItemSelectionModel::Rows);
-        }
+        selectRowByTab(event);
     } else {
         // What stands between would choose the row.
         QAbstractScrollArea::focusInEvent(event); // NOLINT(bugprone-parent-virtual-call)

@@ -29,6 +29,19 @@ constexpr int mostRows = 9;
 constexpr int widestColumn = 44;  ///< characters; the tool tip has all of a longer text
 constexpr int linesOfChanges = 5; ///< at least
 
+class Table final : public HTableView
+{
+public:
+    using HTableView::HTableView;
+
+protected:
+    void focusInEvent(QFocusEvent* event) override
+    {
+        HTableView::focusInEvent(event);
+        selectRowByTab(event);
+    }
+};
+
 } // namespace
 
 DetailsPage::DetailsPage(TransactionDetails const& transaction, QWidget* parent)
@@ -130,7 +143,7 @@ QString DetailsPage::totals(TransactionDetails const& transaction) const
 
 void DetailsPage::buildTable()
 {
-    table = new HTableView(QStyleOptionViewItem::Left, fewestRows, mostRows, this);
+    table = new Table(QStyleOptionViewItem::Left, fewestRows, mostRows, this);
     table->setAccessibleName(tr("Details"));
     table->setAccessibleDescription(tr("The packages of the transaction, and why each is part of it"));
     table->setModel(proxy);

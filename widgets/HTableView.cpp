@@ -7,6 +7,7 @@
 
 #include <QAccessible>
 #include <QContextMenuEvent>
+#include <QFocusEvent>
 #include <QHeaderView>
 #include <QScrollBar>
 #include <algorithm>
@@ -138,6 +139,14 @@ QList<QModelIndex> HTableView::selectedRows() const
         }
     }
     return rows;
+}
+
+void HTableView::selectRowByTab(QFocusEvent const* event)
+{
+    bool const byTab = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    if (byTab && currentIndex().isValid() && !selectionModel()->hasSelection()) {
+        selectionModel()->select(currentIndex(), QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    }
 }
 
 void HTableView::showMoveOfCurrent(QModelIndex const& current, QModelIndex const& previous)

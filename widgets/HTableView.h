@@ -57,6 +57,8 @@ protected:
     /// What the toolkit does when the current cell moves, for a view whose `currentChanged` is its own:
     /// repaints both cells, scrolls to the new one and tells it to screen readers.
     void showMoveOfCurrent(QModelIndex const& current, QModelIndex const& previous);
+    /// For a table whose rows are chosen: whoever comes by Tab has the current one selected, where none is.
+    void selectRowByTab(QFocusEvent const* event);
 
 private:
     [[nodiscard]] int rowHeightForHint() const;

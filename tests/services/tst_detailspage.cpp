@@ -123,6 +123,7 @@ private Q_SLOTS:
     void sizesStandClearOfTheReasons();
     void warningsNameTheirPackages();
     void nothingToWarnOfShowsNoWarnings();
+    void whoComesByTabHasARow();
     void rowsThatWantAttentionAreBold();
     void totalsTellCountsDownloadAndDisk();
     void thousandsOfRowsFitTheScreen();
@@ -256,6 +257,22 @@ void TestDetailsPage::nothingToWarnOfShowsNoWarnings()
     }
     DetailsPage page(details, &window);
     QVERIFY(!named<WrappedText>(&page, "Warnings"));
+}
+
+void TestDetailsPage::whoComesByTabHasARow()
+{
+    ScrollableConfirmDialog dialog(QStringLiteral("Text"), sample(), &window);
+    dialog.findChild<QTabWidget*>()->setCurrentIndex(1);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    auto* const table = dialog.findChild<QTableView*>();
+    QVERIFY(!table->selectionModel()->hasSelection());
+    EVENTUALLY_VERIFY(button(&dialog, "OK")->hasFocus());
+    for (int turn = 0; turn < 10 && !table->hasFocus(); ++turn) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    QVERIFY(table->hasFocus());
+    QCOMPARE(table->selectionModel()->selectedRows(), QModelIndexList{table->model()->index(0, 0)});
 }
 
 void TestDetailsPage::rowsThatWantAttentionAreBold()
