@@ -27,6 +27,7 @@
 #include <QFile>
 #include <QItemSelectionModel>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTimer>
 #include <utility>
 
