@@ -4,6 +4,7 @@
 #include "tests/Eventually.h"
 
 #include <QApplication>
+#include <QRegularExpression>
 #include <QWidget>
 
 class DesktopTest : public QObject
@@ -103,6 +104,7 @@ private Q_SLOTS:
         QByteArray const runtime = qgetenv("XDG_RUNTIME_DIR");
         qunsetenv("DBUS_SESSION_BUS_ADDRESS");
         qputenv("XDG_RUNTIME_DIR", "/nonexistent");
+        QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
         QWidget window;
         Desktop desktop(&window);
         desktop.showProgress(1, 0, 2);

@@ -74,7 +74,7 @@ private Q_SLOTS:
         QVERIFY(!log()->isVisible());
     }
 
-    void whoIsAwayIsNotifiedOfTheQuestionAndOfTheEnd()
+    void whoIsAwayIsNotifiedOfTheQuestion()
     {
         window->showMinimized();
         EVENTUALLY_VERIFY(QGuiApplication::applicationState() != Qt::ApplicationActive);
