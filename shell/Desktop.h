@@ -24,9 +24,9 @@ public:
     void showProgress(int value, int minimum, int maximum);
     void clearProgress();
 
-    /// Notifies the user, unless a window of the program has the keyboard. The body is no markup. A new
-    /// notification takes the place of the last one, and goes when the user comes back; a click on it brings
-    /// the window forward.
+    /// Notifies the user, unless a window of the program has the keyboard. The body is plain text, without
+    /// what a desktop may take for markup. A new notification takes the place of the last one, and goes when
+    /// the user comes back; a click on it brings the window forward.
     void notify(QString const& summary, QString const& body);
 
 private Q_SLOTS:

@@ -107,7 +107,7 @@ void MainWindow::applying(Job const& job)
     }
     desktop->notify(
         windowTitle(),
-        applied ? tr("All actions have been applied.") : tr("The actions have not been applied."));
+        applied ? tr("All actions have been applied.") : tr("Not all actions have been applied."));
     if (applied) {
         if (RepoAuth::Checker(this, yumConfIO).quitRequested) {
             quit();

@@ -847,8 +847,8 @@ Das wird zu Ende geführt, und das Programm endet danach.</translation>
         <translation>Alle Aktionen sind angewandt.</translation>
     </message>
     <message>
-        <source>The actions have not been applied.</source>
-        <translation>Die Aktionen sind nicht angewandt worden.</translation>
+        <source>Not all actions have been applied.</source>
+        <translation>Nicht alle Aktionen sind angewandt worden.</translation>
     </message>
     <message>
         <source>Open Log With Each &amp;Apply</source>

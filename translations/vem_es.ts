@@ -847,8 +847,8 @@ Eso continúa hasta el final, y el programa termina después.</translation>
         <translation>Se han aplicado todas las acciones.</translation>
     </message>
     <message>
-        <source>The actions have not been applied.</source>
-        <translation>No se han aplicado las acciones.</translation>
+        <source>Not all actions have been applied.</source>
+        <translation>No se han aplicado todas las acciones.</translation>
     </message>
     <message>
         <source>Open Log With Each &amp;Apply</source>

@@ -847,8 +847,8 @@ Cela ira à son terme, et le programme se terminera ensuite.</translation>
         <translation>Toutes les actions ont été appliquées.</translation>
     </message>
     <message>
-        <source>The actions have not been applied.</source>
-        <translation>Les actions n’ont pas été appliquées.</translation>
+        <source>Not all actions have been applied.</source>
+        <translation>Toutes les actions n’ont pas été appliquées.</translation>
     </message>
     <message>
         <source>Open Log With Each &amp;Apply</source>

@@ -847,8 +847,8 @@ That goes on to its end, and the program ends behind it.</source>
         <translation>すべてのアクションを適用しました。</translation>
     </message>
     <message>
-        <source>The actions have not been applied.</source>
-        <translation>アクションは適用されませんでした。</translation>
+        <source>Not all actions have been applied.</source>
+        <translation>一部のアクションは適用されませんでした。</translation>
     </message>
     <message>
         <source>Open Log With Each &amp;Apply</source>

@@ -847,8 +847,8 @@ That goes on to its end, and the program ends behind it.</source>
         <translation>所有操作均已应用。</translation>
     </message>
     <message>
-        <source>The actions have not been applied.</source>
-        <translation>操作未被应用。</translation>
+        <source>Not all actions have been applied.</source>
+        <translation>并非所有操作都已应用。</translation>
     </message>
     <message>
         <source>Open Log With Each &amp;Apply</source>

@@ -118,7 +118,7 @@ def stop_refresh_and_download_but_not_rpm(
     button = stop_button(program)
     look_elsewhere(program)
     Atspi.Action.do_action(button, 0)
-    come_back_by_click(program, desktop, "The actions have not been applied.")
+    come_back_by_click(program, desktop, "Not all actions have been applied.")
     program.wait_ready()
 
     # What rpm has begun comes to its end.
