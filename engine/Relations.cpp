@@ -3,13 +3,8 @@
 
 #include "engine/Relations.h"
 
-#include "engine/WorkThreads.h"
 #include "engine/YumIO.h"
-#include "services/ProgressUser.h"
-#include "services/YumIODialogsUser.h"
 
-#include <QEventLoop>
-#include <functional>
 #include <limits>
 #include <utility>
 
@@ -37,22 +32,6 @@ char const* scriptName(Relations::Kind kind)
     }
     return "";
 }
-
-class AskThread final : public WorkThread
-{
-public:
-    AskThread(YumIO* engine, QEventLoop& callersLoop, std::function<bool()> question)
-        : WorkThread(engine, callersLoop),
-          ask(std::move(question))
-    {
-    }
-
-protected:
-    bool work() override { return ask(); }
-
-private:
-    std::function<bool()> const ask;
-};
 
 } // namespace
 
@@ -108,21 +87,13 @@ QString Relations::text(Kind kind, Package::Entry const& entry)
 Relations::Answer Relations::run(Kind kind, Package::Entry const& entry, qsizetype most, bool withEntries)
 {
     Answer answer;
-    if (!yumIO->jobRuns()) {
-        QEventLoop loop;
-        AskThread thread(yumIO, loop, [&] { return read(kind, entry, most, withEntries, answer); });
-        yumIO->execWorkThread(loop, thread);
-        answer.told = thread.result;
-    }
+    answer.told = yumIO->jobs.run([&] { return read(kind, entry, most, withEntries, answer); });
     return answer;
 }
 
-// On the worker.
+// On the worker, with the lock.
 bool Relations::read(Kind kind, Package::Entry const& entry, qsizetype most, bool withEntries, Answer& answer)
 {
-    ProgressUser const progressUser(yumIO->progress, yumIO->totalBar, yumIO->itemBar);
-    YumIODialogsUser const dialogsUser(yumIO->dialogs, yumIO->parent);
-    Python::PyGILStateWrapper const lock(true);
     PyObject* const baseError = yumIO->pyLookup("yum.Errors.YumBaseError");
     yumIO->pyExceptStart();
     yumIO->pyExceptExpect(baseError);

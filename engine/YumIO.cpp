@@ -9,7 +9,6 @@
 #include "base/Share.h"
 #include "bridge/YumIOC.h"
 #include "engine/WorkThreads.h"
-#include "services/YumIODialogs.h"
 #include "services/YumIODialogsUser.h"
 
 #include <QEventLoop>
@@ -63,17 +62,11 @@ YumIO::~YumIO()
         detachEntries();
         dropEntries();
     }
-    delete ownDialogs;
 }
 
 void YumIO::setup(QWidget* dialogParent, HProgressBar* total, HProgressBar* item)
 {
-    delete ownDialogs;
-    ownDialogs = new YumIODialogs(dialogParent);
-    dialogs = ownDialogs;
-    parent = dialogParent;
-    totalBar = total;
-    itemBar = item;
+    jobs.setup(dialogParent, total, item);
 }
 
 bool YumIO::initialize()
@@ -154,9 +147,7 @@ bool YumIO::initialize()
 void YumIO::preload()
 {
     if (QFile::exists(Share::absolute(QStringLiteral("python/preload.py")))) {
-        QEventLoop loop;
-        PreloadThread thread(this, loop);
-        execWorkThread(loop, thread);
+        jobs.runBare([this] { return preloadReal(); });
     }
 }
 
@@ -184,14 +175,12 @@ void YumIO::clear()
         return;
     }
     detachEntries();
-    QEventLoop loop;
-    ClearThread thread(this, loop);
-    execWorkThread(loop, thread);
+    jobs.runBare([this] { return clearReal(); });
 }
 
 bool YumIO::clearReal()
 {
-    YumIODialogsUser const dialogsUser(dialogs, parent);
+    YumIODialogsUser const dialogsUser(jobs.dialogs, jobs.parent);
     PyGILStateWrapper const lock(true);
     pyMethodCall(yumIO.get(), "flush", "()");
     dropEntries();
@@ -229,44 +218,7 @@ void YumIO::dropEntries()
 
 void YumIO::execWorkThread(QEventLoop& loop, QThread& thread)
 {
-    // A short job may end before the loop begins, and would be waited for in vain: unlike a call of the loop,
-    // a queued signal is not lost then.
-    connect(&thread, &QThread::finished, &loop, &QEventLoop::quit, Qt::QueuedConnection);
-    ++jobs;
-    blocker.prepare();
-    thread.start(QThread::HighPriority);
-
-    // Only now, so that the worker has started with SIGCHLD open: from here on it alone can receive the
-    // signals of the children that a transaction forks.
-    sigset_t childSignal;
-    sigset_t oldMask;
-    sigemptyset(&childSignal);
-    sigaddset(&childSignal, SIGCHLD);
-    pthread_sigmask(SIG_BLOCK, &childSignal, &oldMask);
-    blocker.release();
-
-    if (loop.exec() > 0) {
-        // Only the toolkit gives event loops a status: the display is gone. Older releases of it end the
-        // process themselves; newer ones end the loops, and complain at every turn of the one below. A
-        // transaction that has begun comes to its end without this process.
-        std::_Exit(EXIT_FAILURE);
-    }
-    // Once the last window is closed, event loops end at once; but the worker needs this thread for its
-    // dialogs and signals until its job is done.
-    while (!thread.isFinished()) {
-        loop.processEvents(QEventLoop::WaitForMoreEvents);
-    }
-    thread.wait();
-    loop.processEvents(QEventLoop::ExcludeUserInputEvents);
-    {
-        // Python sets signal handlers from its main thread only.
-        PyGILStateWrapper const lock(initialized);
-        if (initialized) {
-            setEnablePythonSIGINTHandler(false);
-        }
-    }
-    pthread_sigmask(SIG_SETMASK, &oldMask, nullptr);
-    --jobs;
+    jobs.exec(loop, thread);
 }
 
 void YumIO::leave()
@@ -324,10 +276,7 @@ bool YumIO::collectBuildHost(Package::Entry const& entry)
     if (buildHostAtHand(entry)) {
         return true;
     }
-    QEventLoop loop;
-    CollectBuildHostThread thread(this, loop, entry);
-    execWorkThread(loop, thread);
-    return thread.result;
+    return jobs.runBare([&] { return collectBuildHostReal(entry); });
 }
 
 bool YumIO::apply()

@@ -5,6 +5,7 @@
 #include "bridge/Python.h"
 #include "bridge/YumIOHost.h"
 #include "engine/ApplyRun.h"
+#include "engine/Jobs.h"
 #include "engine/Package.h"
 #include "engine/PackageFiles.h"
 #include "engine/RowDetails.h"
@@ -14,7 +15,6 @@
 
 #include <QHash>
 #include <QMap>
-#include <QMutex>
 #include <QObject>
 #include <QSet>
 #include <QStringList>
@@ -26,13 +26,10 @@
 #include <unordered_map>
 
 class HProgressBar;
-class Progress;
 class QEventLoop;
 class QThread;
 class QWidget;
 class Relations;
-class YumIOCapturers;
-class YumIODialogs;
 
 /// The engine: the one object that talks to the package library, through the Python object that the helper
 /// script defines. The main window owns the only instance and calls it on the GUI thread. Long work runs as
@@ -175,7 +172,7 @@ public:
     /// Whether the job in progress has come to where it must not be cut off: rpm works. GUI thread.
     [[nodiscard]] bool transactionRuns() const { return transactionBegun; }
     /// Whether a job is in progress. GUI thread.
-    [[nodiscard]] bool jobRuns() const { return jobs > 0; }
+    [[nodiscard]] bool jobRuns() const { return jobs.running(); }
     /// Ends the process in the middle of a job, within two seconds: gives the lock back, if that can be done
     /// by then, and leaves everything else to the system. What another process does for the job ends with
     /// this one, unless rpm works there. GUI thread.
@@ -271,6 +268,7 @@ public:
     void warning(char const* message) override;
 
     Stop stop;                       ///< of the job in progress
+    Jobs jobs{*this, stop};          ///< its own, and those of others
     PackageFiles packageFiles;       ///< opened by the user; the next collection makes rows of them
     Log::EntryList logEntries;       ///< everything that was said since the program's start
     bool fileListsCollected = false; ///< the file lists of the repositories are loaded
@@ -281,23 +279,6 @@ Q_SIGNALS:
     void collectedExtraData();
 
 protected:
-    /// The start gate of a worker: nothing of a transaction may begin before the GUI thread has blocked
-    /// SIGCHLD.
-    class Blocker
-    {
-    public:
-        void prepare() { mutex.lock(); }
-        void release() { mutex.unlock(); }
-        void block()
-        {
-            mutex.lock();
-            mutex.unlock();
-        }
-
-    private:
-        QMutex mutex;
-    };
-
     /// The seven lists of a transaction and the two objects that hold them.
     struct TransactionLists
     {
@@ -305,15 +286,10 @@ protected:
         PyRef updated, installed, removed, obsoleted, depupdated, depinstalled, depremoved;
     };
 
-    friend class PreloadThread;
-    friend class ClearThread;
     friend class CollectThread;
     friend class CollectFileListsThread;
     friend class CollectOtherDataThread;
-    friend class CollectBuildHostThread;
-    friend class CollectDetailsThread;
     friend class ApplyThread;
-    friend class CleanThread;
     friend class Relations;
 
     // Jobs.
@@ -546,15 +522,12 @@ protected:
     QMap<QString, qint64> readTimes;
     QStringList incompleteTexts;
     Unfinished left;
-    EntryHash entryHash;                 ///< the same entries by key; while collecting, the only holder
-    qsizetype logMark = -1;              ///< first log line of the guarded call in progress; -1: none
-    QWidget* parent = nullptr;           ///< parent of every dialog
-    YumIODialogs* dialogs = nullptr;     ///< the dialog front in force
-    YumIOCapturers* capturers = nullptr; ///< the capture of descriptors 1 and 2; null outside an apply
-    PyObject* rpmDict = nullptr;         ///< dictionary of the module rpm, borrowed
-    PyRef pyYumIOClass;                  ///< the helper script's class
-    PyRef yumIO;                         ///< its one instance; set means "initialized"
-    PyRef repos;                         ///< the dictionary yumIO.repos.repos
+    EntryHash entryHash;         ///< the same entries by key; while collecting, the only holder
+    qsizetype logMark = -1;      ///< first log line of the guarded call in progress; -1: none
+    PyObject* rpmDict = nullptr; ///< dictionary of the module rpm, borrowed
+    PyRef pyYumIOClass;          ///< the helper script's class
+    PyRef yumIO;                 ///< its one instance; set means "initialized"
+    PyRef repos;                 ///< the dictionary yumIO.repos.repos
     std::unordered_map<std::string_view, PyRef> internedNames;
     void const* plainAsked = nullptr; ///< the class that `plainForm` was asked for last
     bool plainOffered = false;        ///< its answer
@@ -564,7 +537,6 @@ protected:
     bool watching = false;            ///< the transaction on show is another process's
     bool watched = false;             ///< there was one
     bool onDisk = false;              ///< the collection in progress fetches nothing
-    int jobs = 0; ///< jobs in progress, of the GUI thread's event loops; one at most works
     std::atomic<bool> transactionBegun{false};
     bool yumVersionKnown = false;
     QString yumVersionText;
@@ -573,9 +545,6 @@ protected:
     QString stdoutBuffer, stderrBuffer; ///< the unfinished last line of each stream
     Log::Kind stderrKind = Log::Error;
     unsigned int stderrLevel = 0;
-    HProgressBar* totalBar = nullptr;
-    HProgressBar* itemBar = nullptr;
-    Progress* progress = nullptr;     ///< of the job in progress; null between jobs
     QStringList repoNames;            ///< ids of the enabled repositories
     QSet<QString> buildHostRepos;     ///< repositories whose build hosts are at hand
     QString repoContents;             ///< what is being loaded from the repositories, in words
@@ -584,16 +553,14 @@ protected:
     QString repoActName;              ///< name of the act last started
     QSet<QString> groupsBeingChecked; ///< groups on the way down to the one whose state is asked
     ApplyRun run;
-    Blocker blocker;
 
 private:
     /// What a function of the script answers that scripts for older releases lack; null then, for None, and
     /// after the report of a failure. With the interpreter lock.
     QString toldByScript(char const* function);
 
-    YumIODialogs* ownDialogs = nullptr; ///< the front for use outside jobs
-    QString libraryName;                ///< what the script said at the start
-    QString lastReportText;             ///< words of the last report, for the exception of a host function
+    QString libraryName;    ///< what the script said at the start
+    QString lastReportText; ///< words of the last report, for the exception of a host function
 };
 
 size_t qHash(YumIO::EntryKey const& key, size_t seed = 0) noexcept;

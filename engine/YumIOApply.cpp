@@ -9,10 +9,8 @@
 #include "base/StartingPoint.h"
 #include "engine/TransactionWeight.h"
 #include "services/Progress.h"
-#include "services/ProgressUser.h"
 #include "services/YumIOCapturersUser.h"
 #include "services/YumIODialogs.h"
-#include "services/YumIODialogsUser.h"
 
 #include <QDialog>
 #include <QFile>
@@ -34,13 +32,12 @@ constexpr Steps transactionSteps = 9100;
 
 bool YumIO::applyReal(ApplyOf what)
 {
-    blocker.block();
-    ProgressUser const progressUser(progress, totalBar, itemBar);
-    YumIODialogsUser const dialogsUser(dialogs, parent);
+    jobs.blocker.block();
+    Jobs::Means const means(jobs);
     log(Log::Action, 0, tr("Applying"));
     PyGILStateWrapper const lock(true);
-    progress->startTotal(tr("Checking Dependencies: Total Progress"), preparingSteps + solverSteps);
-    progress->startItem(tr("Preparing"), preparingSteps, 1);
+    jobs.progress->startTotal(tr("Checking Dependencies: Total Progress"), preparingSteps + solverSteps);
+    jobs.progress->startItem(tr("Preparing"), preparingSteps, 1);
 
     run = ApplyRun();
     PyRef const installs = PyRef::steal(PyList_New(0));
@@ -54,10 +51,10 @@ bool YumIO::applyReal(ApplyOf what)
     }
     run.pkgActs = run.nPkgs;
     run.totalPkgActs = run.pkgActs;
-    progress->setupItemActs(solverSteps, run.totalPkgActs + run.nHdrs * actsPerHeader);
+    jobs.progress->setupItemActs(solverSteps, run.totalPkgActs + run.nHdrs * actsPerHeader);
 
     {
-        YumIOCapturersUser const capturersUser(capturers, this);
+        YumIOCapturersUser const capturersUser(jobs.capturers, this);
         PyObject* const baseError = pyLookup("yum.Errors.YumBaseError");
         pyExceptStart();
         pyExceptExpect(baseError);
@@ -80,7 +77,7 @@ bool YumIO::applyReal(ApplyOf what)
         pyExceptClear();
     }
     pyMethodCall(yumIO.get(), "flush", "()");
-    progress->reset();
+    jobs.progress->reset();
     run.updateNames.clear();
     if (run.applyConfirmed && what == ApplyOf::Marks) {
         closeInstalledFiles();
@@ -180,11 +177,11 @@ bool YumIO::addUpdatePair(Package::Entry const& entry, PyObject* updates)
 
 PyObject* YumIO::userconfirm(PyObject*, PyObject*)
 {
-    if (!progress || !dialogs) {
+    if (!jobs.progress || !jobs.dialogs) {
         return PyLong_FromLong(0);
     }
-    progress->endItemActs();
-    progress->reset();
+    jobs.progress->endItemActs();
+    jobs.progress->reset();
     run.applyConfirmed = askUser();
     log(Log::Action, 0, run.applyConfirmed ? tr("Applying: OK") : tr("Not Applying: Canceled"));
     if (run.applyConfirmed) {
@@ -200,7 +197,7 @@ void YumIO::prepareTransactionProgress()
                            : static_cast<unsigned int>(run.downloadBytes * downloadSteps / run.totalBytes);
     Steps const total = run.downloadActs + (usesPresto() ? deltaSteps : 0) +
                         (hasTransTest() ? testSteps : 0) + transactionSteps;
-    progress->startTotal(tr("Running Transaction: Total Progress"), total);
-    progress->startItem(tr("Preparing"), preparingSteps, 1);
-    progress->setupItemActs(run.downloadActs, run.downloadBytes);
+    jobs.progress->startTotal(tr("Running Transaction: Total Progress"), total);
+    jobs.progress->startItem(tr("Preparing"), preparingSteps, 1);
+    jobs.progress->setupItemActs(run.downloadActs, run.downloadBytes);
 }

@@ -4,10 +4,7 @@
 
 #include "engine/YumIO.h"
 
-#include "engine/WorkThreads.h"
 #include "services/YumIODialogsUser.h"
-
-#include <QEventLoop>
 
 namespace
 {
@@ -31,15 +28,12 @@ bool isSuccess(PyObject* answer)
 bool YumIO::cleanCaches(QString const& heading, QList<char const*> const& methods)
 {
     Stop::Job const stoppable(stop);
-    QEventLoop loop;
-    CleanThread thread(this, loop, heading, methods);
-    execWorkThread(loop, thread);
-    return thread.result;
+    return jobs.runBare([&] { return cleanCachesReal(heading, methods); });
 }
 
 bool YumIO::cleanCachesReal(QString const& heading, QList<char const*> const& methods)
 {
-    YumIODialogsUser const dialogsUser(dialogs, parent);
+    YumIODialogsUser const dialogsUser(jobs.dialogs, jobs.parent);
     log(Log::Action, 0, heading);
     PyGILStateWrapper const lock(true);
     PyObject* const baseError = pyLookup("yum.Errors.YumBaseError");

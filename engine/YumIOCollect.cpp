@@ -6,9 +6,7 @@
 #include "engine/YumIO.h"
 
 #include "services/Progress.h"
-#include "services/ProgressUser.h"
 #include "services/YumIODialogs.h"
-#include "services/YumIODialogsUser.h"
 
 #include <memory>
 #include <string_view>
@@ -75,8 +73,7 @@ private:
 
 bool YumIO::collectReal(QHash<QString, bool> const& repoStates)
 {
-    ProgressUser const progressUser(progress, totalBar, itemBar);
-    YumIODialogsUser const dialogsUser(dialogs, parent);
+    Jobs::Means const means(jobs);
     log(Log::Action, 0, tr("Initialization"));
     PyGILStateWrapper const lock(true);
     fileListsCollected = false;
@@ -101,8 +98,8 @@ bool YumIO::collectReal(QHash<QString, bool> const& repoStates)
 
 void YumIO::startCollectionProgress()
 {
-    progress->startTotal(tr("Initializing: Total Progress"), collectionSteps);
-    progress->startItem(tr("Preparing"), preparingSteps, 1);
+    jobs.progress->startTotal(tr("Initializing: Total Progress"), collectionSteps);
+    jobs.progress->startItem(tr("Preparing"), preparingSteps, 1);
 }
 
 bool YumIO::takeLock()
@@ -117,7 +114,7 @@ bool YumIO::takeLock()
     PyRef const result = pyMethodCall(yumIO.get(), "lock", "()");
     watching = false;
     if (std::exchange(watched, false)) {
-        progress->reset();
+        jobs.progress->reset();
         startCollectionProgress();
     }
     if (pyExceptMatches(result.get(), lockError)) {
@@ -162,15 +159,15 @@ bool YumIO::readRepositories(QHash<QString, bool> const& repoStates)
     if (onDisk && !stayOnDisk()) {
         return false;
     }
-    progress->startItem(tr("Reading repositories"), setupSteps, 1);
-    progress->setupItemActs(repositorySteps, actsPerRepository * static_cast<Steps>(repoNames.size()));
+    jobs.progress->startItem(tr("Reading repositories"), setupSteps, 1);
+    jobs.progress->setupItemActs(repositorySteps, actsPerRepository * static_cast<Steps>(repoNames.size()));
     PyObject* const repoError = pyLookup("yum.Errors.RepoError");
     PyObject* const debuggerQuit = pyLookup("bdb.BdbQuit");
     pyExceptStart();
     pyExceptExpect(repoError);
     pyExceptExpect(debuggerQuit);
     PyRef const result = pyMethodCall(yumIO.get(), "setupRepos", "()");
-    progress->endItemActs();
+    jobs.progress->endItemActs();
     if (pyExceptMatches(result.get(), repoError) || pyExceptMatches(result.get(), debuggerQuit)) {
         pythonExceptionV(tr("Unable to initialize"));
         return false;
@@ -198,7 +195,7 @@ bool YumIO::collectPackages()
     };
 
     PyRef result;
-    progress->startItem(tr("Collecting updatable packages"), updatesSteps, 1);
+    jobs.progress->startItem(tr("Collecting updatable packages"), updatesSteps, 1);
     if (!call("setupTs", tr("Unable to setup transaction"), result) ||
         !call("collectUpdates", tr("Unable to collect updatable packages"), result)) {
         return false;
@@ -211,7 +208,7 @@ bool YumIO::collectPackages()
         return false;
     }
 
-    progress->startItem(tr("Collecting installed and available packages"), packagesSteps, 1);
+    jobs.progress->startItem(tr("Collecting installed and available packages"), packagesSteps, 1);
     if (!call("collectAll", tr("Unable to collect installed and available packages"), result)) {
         return false;
     }
@@ -225,7 +222,7 @@ bool YumIO::collectPackages()
 
 bool YumIO::collectGroupData()
 {
-    progress->startItem(tr("Collecting groups"), groupsSteps, 1);
+    jobs.progress->startItem(tr("Collecting groups"), groupsSteps, 1);
     PyObject* const groupsError = pyLookup("yum.Errors.GroupsError");
     PyObject* const baseError = pyLookup("yum.Errors.YumBaseError");
     PyObject* const debuggerQuit = pyLookup("bdb.BdbQuit");

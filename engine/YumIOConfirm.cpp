@@ -146,10 +146,10 @@ bool YumIO::askUser()
 {
     QString const caption = tr("Apply");
     if (run.details.rows.isEmpty()) {
-        return dialogs->confirm(caption, run.transactionText) == QDialog::Accepted;
+        return jobs.dialogs->confirm(caption, run.transactionText) == QDialog::Accepted;
     }
     int const answer =
-        dialogs->confirm(caption, run.transactionText, run.details, [this] { return newerChanges(); });
+        jobs.dialogs->confirm(caption, run.transactionText, run.details, [this] { return newerChanges(); });
     run.changes.reset();
     return answer == QDialog::Accepted;
 }
@@ -158,15 +158,15 @@ QStringList YumIO::newerChanges()
 {
     // Loading is a job with bars of its own and a call that may fail, in the middle of the script's apply.
     // Trouble is told by a front of its own: the one of the apply waits for the answer.
-    YumIODialogsUser const dialogsUser(dialogs, parent);
-    Progress* const ofTheApply = progress;
+    YumIODialogsUser const dialogsUser(jobs.dialogs, jobs.parent);
+    Progress* const ofTheApply = jobs.progress;
     QScopedValueRollback<qsizetype> const mark(logMark);
     bool const loaded = otherDataCollected || collectOtherDataReal();
-    progress = ofTheApply;
+    jobs.progress = ofTheApply;
     if (!loaded) {
         pyExceptClear();
     }
-    progress->reset();
+    jobs.progress->reset();
     if (!loaded) {
         return {};
     }

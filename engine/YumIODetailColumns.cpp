@@ -2,12 +2,8 @@
 // Details of all rows at a time, for whoever shows them as a column.
 #include "bridge/PythonApi.h"
 
-#include "engine/WorkThreads.h"
 #include "engine/YumIO.h"
-#include "services/ProgressUser.h"
-#include "services/YumIODialogsUser.h"
 
-#include <QEventLoop>
 #include <utility>
 
 using Package::Detail;
@@ -61,17 +57,14 @@ bool YumIO::collectDetails()
     if (!yumIO || detailsAtHand()) {
         return true;
     }
-    QEventLoop loop;
-    CollectDetailsThread thread(this, loop);
-    execWorkThread(loop, thread);
+    bool const collected = jobs.runBare([this] { return collectDetailsReal(); });
     takeDetails();
-    return thread.result;
+    return collected;
 }
 
 bool YumIO::collectDetailsReal()
 {
-    ProgressUser const progressUser(progress, totalBar, itemBar);
-    YumIODialogsUser const dialogsUser(dialogs, parent);
+    Jobs::Means const means(jobs);
     PyGILStateWrapper const lock(true);
     return readDetails(entries);
 }

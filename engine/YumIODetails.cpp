@@ -6,9 +6,7 @@
 #include "engine/YumIO.h"
 
 #include "services/Progress.h"
-#include "services/ProgressUser.h"
 #include "services/YumIODialogs.h"
-#include "services/YumIODialogsUser.h"
 
 #include <algorithm>
 #include <array>
@@ -92,11 +90,10 @@ bool YumIO::buildHostAtHand(Package::Entry const& entry) const
 
 bool YumIO::collectBuildHostReal(Package::Entry const& entry)
 {
-    ProgressUser const progressUser(progress, totalBar, itemBar);
-    YumIODialogsUser const dialogsUser(dialogs, parent);
+    Jobs::Means const means(jobs);
     PyGILStateWrapper const lock(true);
-    progress->startTotal(tr("Loading build hosts: Total Progress"), readingSteps);
-    progress->startItem(tr("Reading repositories"), readingSteps, 1);
+    jobs.progress->startTotal(tr("Loading build hosts: Total Progress"), readingSteps);
+    jobs.progress->startItem(tr("Reading repositories"), readingSteps, 1);
     // A fault is left to whoever wants the text.
     bool const answered = bool(pyQuickCall(entry.pyObject.get(), "returnSimple", "buildhost"));
     buildHostRepos.insert(entry.repo);
@@ -107,15 +104,14 @@ bool YumIO::collectExtraDataReal(
     bool YumIO::*collected, QString const& heading, QString const& contents, QString const& total,
     char const* method, QString const& failure)
 {
-    ProgressUser const progressUser(progress, totalBar, itemBar);
-    YumIODialogsUser const dialogsUser(dialogs, parent);
+    Jobs::Means const means(jobs);
     log(Log::Action, 0, heading);
     repoContents = contents;
     repoAct = 0;
     PyGILStateWrapper const lock(true);
-    progress->startTotal(total, readingSteps + repositorySteps);
-    progress->startItem(tr("Reading repositories"), readingSteps, 1);
-    progress->setupItemActs(repositorySteps, actsPerRepository * static_cast<Steps>(repoNames.size()));
+    jobs.progress->startTotal(total, readingSteps + repositorySteps);
+    jobs.progress->startItem(tr("Reading repositories"), readingSteps, 1);
+    jobs.progress->setupItemActs(repositorySteps, actsPerRepository * static_cast<Steps>(repoNames.size()));
 
     PyObject* const baseError = pyLookup("yum.Errors.YumBaseError");
     pyExceptStart();
@@ -130,7 +126,7 @@ bool YumIO::collectExtraDataReal(
         return false;
     }
     pyExceptClear();
-    progress->endItemActs();
+    jobs.progress->endItemActs();
     this->*collected = true;
     Q_EMIT collectedExtraData();
     return true;

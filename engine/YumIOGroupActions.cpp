@@ -181,7 +181,7 @@ bool YumIO::applyGrpConflict(Package::Entry const* group, Package::Entry* entry)
                "proceed?")
                 .arg(entry->name, group->name, groupAction, wouldBeAction, entry->applyCause->name, present);
     }
-    int const answer = dialogs->critical(
+    int const answer = jobs.dialogs->critical(
         tr("Apply"), text, wouldBeAction, present, tr("Cancel"), cancelButton, cancelButton);
     if (answer == cancelButton) {
         return false;

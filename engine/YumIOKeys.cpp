@@ -25,7 +25,7 @@ PyObject* YumIO::confirmKey(PyObject*, PyObject* args)
             &expires, &verified)) {
         return nullptr;
     }
-    if (!progress || !dialogs) {
+    if (!jobs.progress || !jobs.dialogs) {
         return PyLong_FromLong(0);
     }
     KeyQuestion const question{
@@ -40,7 +40,7 @@ PyObject* YumIO::confirmKey(PyObject*, PyObject* args)
         verified != 0};
     // Nobody needs to wait for the interpreter as long as the user thinks.
     PyThreadState* const state = PyEval_SaveThread();
-    bool const agreed = dialogs->key(question) == QDialog::Accepted;
+    bool const agreed = jobs.dialogs->key(question) == QDialog::Accepted;
     PyEval_RestoreThread(state);
     if (!question.fingerprint.isEmpty()) {
         log(Log::Action, 0,

@@ -13,7 +13,7 @@
 void YumIO::collectProgress(QString const& name, bool newAct, RepoAct act, long long value, long long total)
 {
     if (!newAct) {
-        progress->setItemValue(static_cast<Steps>(value));
+        jobs.progress->setItemValue(static_cast<Steps>(value));
         return;
     }
     if (yumVersion() > 30106) {
@@ -47,9 +47,9 @@ void YumIO::collectProgress(QString const& name, bool newAct, RepoAct act, long 
     } else {
         error("Internal error: invalid collect act\n");
     }
-    progress->startItemAct(message, static_cast<Steps>(total), static_cast<Steps>(repoAct));
+    jobs.progress->startItemAct(message, static_cast<Steps>(total), static_cast<Steps>(repoAct));
     if (value != 0) {
-        progress->setItemValue(static_cast<Steps>(value));
+        jobs.progress->setItemValue(static_cast<Steps>(value));
     }
 }
 
@@ -72,7 +72,7 @@ PyObject* YumIO::collectProgress(PyObject*, PyObject* args)
     if (!PyArg_ParseTuple(args, "llO", &value, &total, &nameObject)) {
         return nullptr;
     }
-    if (!progress) {
+    if (!jobs.progress) {
         Py_RETURN_NONE;
     }
     QString const name = pyProgressText(nameObject, true, "Internal error: unexpected progress name");
@@ -104,7 +104,7 @@ PyObject* YumIO::collectGrabMeterStart(PyObject*, PyObject* args)
     if (!PyArg_ParseTuple(args, "sssOO", &file, &ignoredUrl, &ignoredBase, &sizeObject, &ignoredText)) {
         return nullptr;
     }
-    if (!progress) {
+    if (!jobs.progress) {
         Py_RETURN_NONE;
     }
     long long size = 1;
@@ -138,7 +138,7 @@ PyObject* YumIO::collectGrabMeterUpdate(PyObject*, PyObject* args)
     if (!PyArg_ParseTuple(args, "L", &bytes)) {
         return nullptr;
     }
-    if (progress) {
+    if (jobs.progress) {
         collectProgress(QString(), false, ActNone, bytes, -1);
     }
     Py_RETURN_NONE;

@@ -15,8 +15,8 @@ void YumIO::error(QString const& text)
 {
     lastReportText = text;
     log(Log::Error, 0, text);
-    if (dialogs) {
-        dialogs->critical(tr("VEM Yum Error"), text, QString(), QString(), QString(), 0, -1);
+    if (jobs.dialogs) {
+        jobs.dialogs->critical(tr("VEM Yum Error"), text, QString(), QString(), QString(), 0, -1);
     }
 }
 
@@ -24,8 +24,8 @@ void YumIO::warning(QString const& text)
 {
     lastReportText = text;
     log(Log::Warning, 0, text);
-    if (dialogs) {
-        dialogs->warning(tr("VEM Yum Warning"), text, QString(), QString(), QString(), 0, -1);
+    if (jobs.dialogs) {
+        jobs.dialogs->warning(tr("VEM Yum Warning"), text, QString(), QString(), QString(), 0, -1);
     }
 }
 
@@ -59,8 +59,8 @@ bool YumIO::offerLooking()
     }
     constexpr int look = 0;
     constexpr int quit = 1;
-    return reason.isEmpty() || !dialogs ||
-           dialogs->warning(
+    return reason.isEmpty() || !jobs.dialogs ||
+           jobs.dialogs->warning(
                tr("VEM Looking Only"), reason, tr("&Look"), tr("&Quit"), QString(), look, quit) == look;
 }
 
@@ -118,9 +118,9 @@ void YumIO::reportException(QString const& value, QString const& text)
         log(Log::Action, 0, tr("Stopped"));
         return;
     }
-    if (capturers) {
+    if (jobs.capturers) {
         // What has just been written belongs to this report, and may not have been read yet.
-        capturers->drain();
+        jobs.capturers->drain();
     }
     qsizetype start = logMark;
     if (start == -1) {
@@ -143,8 +143,8 @@ void YumIO::reportException(QString const& value, QString const& text)
         }
     }
     lastReportText = collected.join(QLatin1Char('\n'));
-    if (dialogs) {
-        dialogs->scrollable(tr("VEM Yum Error"), lastReportText);
+    if (jobs.dialogs) {
+        jobs.dialogs->scrollable(tr("VEM Yum Error"), lastReportText);
     }
 }
 

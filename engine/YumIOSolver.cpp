@@ -12,9 +12,9 @@
 
 PyObject* YumIO::dsTsCheck(PyObject*, PyObject*)
 {
-    if (progress) {
+    if (jobs.progress) {
         run.actsDone += run.pkgActs;
-        progress->startItemAct(tr("Resolve Dependencies"), 1, run.actsDone);
+        jobs.progress->startItemAct(tr("Resolve Dependencies"), 1, run.actsDone);
     }
     Py_RETURN_NONE;
 }
@@ -29,8 +29,8 @@ PyObject* YumIO::dsRestartLoop(PyObject*, PyObject*)
 
 void YumIO::updateSolverActs()
 {
-    if (progress) {
-        progress->changeItemActs(run.totalPkgActs + run.nHdrs * actsPerHeader);
+    if (jobs.progress) {
+        jobs.progress->changeItemActs(run.totalPkgActs + run.nHdrs * actsPerHeader);
     }
 }
 

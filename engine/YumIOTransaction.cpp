@@ -72,14 +72,15 @@ PyObject* YumIO::applyGrabMeterStart(PyObject*, PyObject* args)
     if (!PyArg_ParseTuple(args, "OOOLO", &nameObject, &ignoredUrl, &ignoredBase, &size, &textObject)) {
         return nullptr;
     }
-    if (!progress) {
+    if (!jobs.progress) {
         Py_RETURN_NONE;
     }
     QString const text = pyProgressText(textObject, true, "Internal error: unexpected progress text");
     if (text == QLatin1String("<delta rebuild>")) {
-        progress->endItemActs();
+        jobs.progress->endItemActs();
         run.deltaRebuild = true;
-        progress->startItem(tr("Finishing RPM rebuild from deltas"), deltaSteps, static_cast<Steps>(size));
+        jobs.progress->startItem(
+            tr("Finishing RPM rebuild from deltas"), deltaSteps, static_cast<Steps>(size));
         Py_RETURN_NONE;
     }
     QString name = pyProgressText(nameObject, false, "Internal error: unexpected progress name");
@@ -97,7 +98,7 @@ PyObject* YumIO::applyGrabMeterStart(PyObject*, PyObject* args)
         shown = tr("Downloading %1 header").arg(name);
         run.actsDone += actsPerHeader;
     }
-    progress->startItemAct(shown, static_cast<Steps>(size), run.actsDone);
+    jobs.progress->startItemAct(shown, static_cast<Steps>(size), run.actsDone);
     if (run.applyConfirmed) {
         if (!run.clock.isValid()) {
             run.clock.start();
@@ -115,8 +116,8 @@ PyObject* YumIO::applyGrabMeterUpdate(PyObject*, PyObject* args)
     if (!PyArg_ParseTuple(args, "L", &bytes)) {
         return nullptr;
     }
-    if (progress) {
-        progress->setItemValue(static_cast<Steps>(bytes));
+    if (jobs.progress) {
+        jobs.progress->setItemValue(static_cast<Steps>(bytes));
         if (run.clock.isValid() && !run.deltaRebuild) {
             qint64 const now = run.clock.elapsed();
             run.rate.update(bytes, now);
@@ -135,7 +136,7 @@ void YumIO::tellRate(qint64 now)
     run.rateShown = now;
     QString const speed = tr("%1/s").arg(bytesFormat(static_cast<unsigned long long>(*rate)));
     std::optional<long long> const seconds = run.rate.secondsLeft(static_cast<long long>(run.reportedBytes));
-    progress->setItemNote(seconds ? tr("%1, %2 left").arg(speed, duration(*seconds)) : speed);
+    jobs.progress->setItemNote(seconds ? tr("%1, %2 left").arg(speed, duration(*seconds)) : speed);
 }
 
 PyObject* YumIO::applyGrabMeterEnd(PyObject*, PyObject* args)
@@ -157,10 +158,10 @@ PyObject* YumIO::tsInitCallback(PyObject*, PyObject* args)
         // Behind this one the collection starts its bars again.
         watched = true;
         run = ApplyRun();
-        if (progress) {
-            progress->reset();
-            progress->startTotal(tr("Running Transaction: Total Progress"), getReadySteps + runSteps);
-            progress->startItem(tr("Preparing to Run Transaction"), getReadySteps, 1);
+        if (jobs.progress) {
+            jobs.progress->reset();
+            jobs.progress->startTotal(tr("Running Transaction: Total Progress"), getReadySteps + runSteps);
+            jobs.progress->startItem(tr("Preparing to Run Transaction"), getReadySteps, 1);
         }
         Py_RETURN_NONE;
     }
@@ -170,30 +171,30 @@ PyObject* YumIO::tsInitCallback(PyObject*, PyObject* args)
         stop.tooLate();
         Interrupt::transactionBegins((words + QLatin1Char('\n')).toLocal8Bit().toStdString());
     }
-    if (!progress) {
+    if (!jobs.progress) {
         Py_RETURN_NONE;
     }
     run.actsDone = 0;
     Steps const testActs = run.transactionActs / testShare;
     if (real) {
         if (hasTransTest()) {
-            progress->endItemActs();
+            jobs.progress->endItemActs();
         }
-        progress->startItem(tr("Preparing to Run Transaction"), getReadySteps, 1);
-        progress->setupItemActs(runSteps, run.transactionActs + testActs);
+        jobs.progress->startItem(tr("Preparing to Run Transaction"), getReadySteps, 1);
+        jobs.progress->setupItemActs(runSteps, run.transactionActs + testActs);
         Py_RETURN_NONE;
     }
     if (!run.deltaRebuild) {
-        progress->endItemActs();
+        jobs.progress->endItemActs();
         if (usesPresto()) {
             // The steps that were set aside for a rebuild which never came are spent at a stroke.
-            progress->startItem(tr("Finishing RPM rebuild from deltas"), deltaSteps, 1);
-            progress->setItemValue(1);
+            jobs.progress->startItem(tr("Finishing RPM rebuild from deltas"), deltaSteps, 1);
+            jobs.progress->setItemValue(1);
         }
     }
     if (hasTransTest()) {
-        progress->startItem(tr("Preparing to Test Transaction"), getReadySteps, 1);
-        progress->setupItemActs(testSteps, testActs);
+        jobs.progress->startItem(tr("Preparing to Test Transaction"), getReadySteps, 1);
+        jobs.progress->setupItemActs(testSteps, testActs);
     }
     Py_RETURN_NONE;
 }
@@ -207,7 +208,7 @@ void YumIO::startPuttingIn(QString const& name, bool update, long long total)
         run.actsDone += weightOfInstalling(entry->size);
     }
     log(Log::Info, 1, text);
-    progress->startItemAct(text, static_cast<Steps>(total), run.actsDone);
+    jobs.progress->startItemAct(text, static_cast<Steps>(total), run.actsDone);
 }
 
 void YumIO::startTakingOut(QString const& name, bool update, long long total)
@@ -222,7 +223,7 @@ void YumIO::startTakingOut(QString const& name, bool update, long long total)
             run.actsDone += weightOfCleanup(entry->installed->size);
         }
     }
-    progress->startItemAct(text, static_cast<Steps>(total), run.actsDone);
+    jobs.progress->startItemAct(text, static_cast<Steps>(total), run.actsDone);
 }
 
 PyObject* YumIO::tsCallback(PyObject*, PyObject* args)
@@ -235,18 +236,18 @@ PyObject* YumIO::tsCallback(PyObject*, PyObject* args)
     if (!PyArg_ParseTuple(args, "lLLOO", &what, &amount, &total, &key, &ignored)) {
         return nullptr;
     }
-    if (!progress) {
+    if (!jobs.progress) {
         Py_RETURN_NONE;
     }
     if (what & transStart) {
         run.actsDone += run.transactionActs / testShare;
-        progress->startItemAct(tr("Transaction Test"), static_cast<Steps>(total), run.actsDone);
+        jobs.progress->startItemAct(tr("Transaction Test"), static_cast<Steps>(total), run.actsDone);
     }
     if (what & transProgress) {
-        progress->setItemValue(static_cast<Steps>(amount));
+        jobs.progress->setItemValue(static_cast<Steps>(amount));
     }
     if (what & transStop) {
-        progress->setItemValue(static_cast<Steps>(total));
+        jobs.progress->setItemValue(static_cast<Steps>(total));
     }
     if (what & instStart) {
         // A key that isn't understood is reported, but doesn't stop what rpm has begun.
@@ -258,17 +259,17 @@ PyObject* YumIO::tsCallback(PyObject*, PyObject* args)
         startPuttingIn(name, run.updateNames.contains(name), total);
     }
     if (what & instProgress) {
-        progress->setItemValue(static_cast<Steps>(amount));
+        jobs.progress->setItemValue(static_cast<Steps>(amount));
     }
     if (what & uninstStart) {
         QString const name = pyString(key);
         startTakingOut(name, run.updateNames.contains(name), total);
     }
     if (what & uninstProgress) {
-        progress->setItemValue(static_cast<Steps>(amount));
+        jobs.progress->setItemValue(static_cast<Steps>(amount));
     }
     if (what & uninstStop) {
-        progress->setItemValue(static_cast<Steps>(total));
+        jobs.progress->setItemValue(static_cast<Steps>(total));
     }
     if (!(what & understoodCallbacks)) {
         warning(tr("Internal error: YumIO::tsCallback what=%1 not understood; ignoring").arg(what));
@@ -282,9 +283,9 @@ PyObject* YumIO::scriptRuns(PyObject*, PyObject* args)
     if (!PyArg_ParseTuple(args, "s", &name)) {
         return nullptr;
     }
-    if (progress) {
+    if (jobs.progress) {
         run.scriptTold = true;
-        progress->setItemNote(tr("script of %1").arg(QString::fromUtf8(name)));
+        jobs.progress->setItemNote(tr("script of %1").arg(QString::fromUtf8(name)));
     }
     Py_RETURN_NONE;
 }
@@ -301,19 +302,19 @@ PyObject* YumIO::tsEvent(PyObject*, PyObject* args)
             args, "OlLLll", &package, &action, &elementValue, &elementTotal, &ordinal, &count)) {
         return nullptr;
     }
-    if (!progress) {
+    if (!jobs.progress) {
         Py_RETURN_NONE;
     }
     if (run.scriptTold) {
         // What is reported now comes behind the script.
         run.scriptTold = false;
-        progress->setItemNote(QString());
+        jobs.progress->setItemNote(QString());
     }
     // Reported for every chunk of every file: a package is new when its ordinal is.
     bool const isNew = static_cast<unsigned long long>(ordinal) != run.lastEventPkg;
     if (watching && run.lastEventPkg == 0) {
         // There is no table yet to weigh the packages by: each counts the same.
-        progress->setupItemActs(runSteps, static_cast<Steps>(count));
+        jobs.progress->setupItemActs(runSteps, static_cast<Steps>(count));
     }
     switch (action) {
     case tsUpdate:
@@ -340,7 +341,7 @@ PyObject* YumIO::tsEvent(PyObject*, PyObject* args)
         Py_RETURN_NONE;
     }
     run.lastEventPkg = static_cast<unsigned long long>(ordinal);
-    progress->setItemValue(static_cast<Steps>(elementValue));
+    jobs.progress->setItemValue(static_cast<Steps>(elementValue));
     Py_RETURN_NONE;
 }
 
@@ -350,8 +351,8 @@ PyObject* YumIO::postTransactionOutput(PyObject*, PyObject* args)
     if (!PyArg_ParseTuple(args, "O", &holder)) {
         return nullptr;
     }
-    if (progress) {
-        progress->endItemActs();
+    if (jobs.progress) {
+        jobs.progress->endItemActs();
     }
     TransactionLists lists;
     if (!makeLists(holder, lists)) {

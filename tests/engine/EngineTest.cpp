@@ -15,9 +15,9 @@ TestEngine::TestEngine()
         &logEntries, &Log::EntryList::appended, this,
         [this] {
             bool const onWorker = QThread::currentThread() != application->thread();
-            if (onWorker && progress && progress != followed) {
-                followed = progress;
-                progressRecord.follow(progress);
+            if (onWorker && jobs.progress && jobs.progress != followed) {
+                followed = jobs.progress;
+                progressRecord.follow(jobs.progress);
             }
         },
         Qt::DirectConnection);
@@ -132,9 +132,9 @@ void EngineTest::startProgress(Steps steps, Steps acts)
 {
     actSteps = steps;
     actCount = acts;
-    progressUser = std::make_unique<ProgressUser>(engine->progress, totalBar.get(), itemBar.get());
-    engine->progressRecord.follow(engine->progress);
-    engine->progress->setupItemActs(steps, acts);
+    progressUser = std::make_unique<ProgressUser>(engine->jobs.progress, totalBar.get(), itemBar.get());
+    engine->progressRecord.follow(engine->jobs.progress);
+    engine->jobs.progress->setupItemActs(steps, acts);
 }
 
 void EngineTest::initTestCase()

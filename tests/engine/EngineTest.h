@@ -40,23 +40,22 @@ public:
     ProgressRecord progressRecord; ///< of the jobs since the test began
 
     using YumIO::allPkgs, YumIO::buildTimeOf, YumIO::findGroup, YumIO::findPackage, YumIO::getPkgKind;
-    using YumIO::applyGroups, YumIO::applyGrpConflict, YumIO::capturers, YumIO::findRelation,
-        YumIO::handleException;
-    using YumIO::applyReal, YumIO::blocker, YumIO::bytesFormat, YumIO::collectProgress, YumIO::collectReal;
-    using YumIO::dialogs, YumIO::displayTransactionPkgs, YumIO::displayTransactionPkgsObs;
+    using YumIO::applyGroups, YumIO::applyGrpConflict, YumIO::findRelation, YumIO::handleException;
+    using YumIO::applyReal, YumIO::bytesFormat, YumIO::collectProgress, YumIO::collectReal;
+    using YumIO::displayTransactionPkgs, YumIO::displayTransactionPkgsObs;
     using YumIO::displayTransactionPkgsRepo, YumIO::dsTsInfo, YumIO::entries, YumIO::entryHash;
     using YumIO::getGroupItem_22, YumIO::getGroupItem_25, YumIO::getLocalHdr, YumIO::getLocalPkg;
     using YumIO::getPrco, YumIO::getRpmHdrValue, YumIO::getRpmList, YumIO::getRpmTime;
-    using YumIO::itemBar, YumIO::locked, YumIO::logMark, YumIO::makeLists, YumIO::makeSorted;
+    using YumIO::locked, YumIO::logMark, YumIO::makeLists, YumIO::makeSorted;
     using YumIO::makeSortedUniq, YumIO::namesOf, YumIO::noteTransactionPkgs, YumIO::pkgTree;
-    using YumIO::pkgtupFormat, YumIO::pkgtupRepoFormat, YumIO::progress, YumIO::PyGILStateWrapper;
+    using YumIO::pkgtupFormat, YumIO::pkgtupRepoFormat, YumIO::PyGILStateWrapper;
     using YumIO::pyDictGetItem, YumIO::pyExceptClear, YumIO::pyExceptExpect, YumIO::pyExceptMatches;
     using YumIO::pyExceptStart, YumIO::pyLookup, YumIO::pyMappingString, YumIO::pyMethodCall;
     using YumIO::pyString, YumIO::pyStringDec, YumIO::pyStringX, YumIO::pyStringXDec, YumIO::pythonException;
     using YumIO::pythonExceptionV, YumIO::pyTime, YumIO::pyTimeDec, YumIO::repoAct, YumIO::repoActName;
     using YumIO::repoActTotal, YumIO::repoContents, YumIO::repoNames, YumIO::requiredPkgs, YumIO::run;
     using YumIO::simpleString, YumIO::sizeOf, YumIO::sqliteKnown, YumIO::tellRate, YumIO::prestoKnown,
-        YumIO::stderrKind, YumIO::stderrLevel, YumIO::totalBar;
+        YumIO::stderrKind, YumIO::stderrLevel;
     using YumIO::TransactionLists, YumIO::yumIO, YumIO::yumVersionKnown;
 
 private:

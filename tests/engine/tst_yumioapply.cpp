@@ -313,8 +313,8 @@ void TestYumIOApply::expectedErrorIsShownWithItsLines()
     QVERIFY(!engine->calls().contains("flush"));
     QCOMPARE(package("elm")->action, Package::Install);
     QCOMPARE(engine->count(), 12);
-    QVERIFY(!engine->progress);
-    QVERIFY(!engine->capturers);
+    QVERIFY(!engine->jobs.progress);
+    QVERIFY(!engine->jobs.capturers);
 }
 
 // How far it came is a part of the answer to what went wrong.

@@ -113,7 +113,7 @@ void TestYumIODownload::rateAndTimeLeftAreToldAtTimes()
     engine->run.applyConfirmed = true;
     QStringList notes;
     // The notes of a Progress of this thread come at once.
-    connect(engine->progress, &Progress::setItemNoteSig, this, [&notes](QString const& note) {
+    connect(engine->jobs.progress, &Progress::setItemNoteSig, this, [&notes](QString const& note) {
         notes.append(note);
     });
     SCRIPT("class Sized:\n    size = 10 * 1024 * 1024\nyumIOC.reportDownloadSize([Sized()])");

@@ -220,12 +220,12 @@ void TestYumIOLifecycle::transactionWaitsAtTheGate()
         &engine->logEntries, &Log::EntryList::appended, this, [&] { begun.release(); }, Qt::DirectConnection);
     QEventLoop loop;
     ApplyThread thread(engine.get(), loop, YumIO::ApplyOf::Marks);
-    engine->blocker.prepare();
+    engine->jobs.blocker.prepare();
     thread.start();
     // Long enough for any worker that doesn't wait.
     QVERIFY(!begun.tryAcquire(1, 300));
     QVERIFY(!calls().contains("apply"));
-    engine->blocker.release();
+    engine->jobs.blocker.release();
     EVENTUALLY_VERIFY(thread.isFinished());
     QVERIFY2(!thread.result, "nobody was asked");
     QVERIFY(calls().contains("apply"));

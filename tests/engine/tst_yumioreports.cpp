@@ -104,7 +104,7 @@ void TestYumIOReports::workerWaitsForTheUser()
     bool waited = false;
     boxes->whileShown([&] {
         // The engine's lock is held by the waiting worker, so nothing can be asked of the script now.
-        waited = engine->progress != nullptr && engine->entries.isEmpty();
+        waited = engine->jobs.progress != nullptr && engine->entries.isEmpty();
     });
     QVERIFY(engine->collect({}));
     QVERIFY(waited);

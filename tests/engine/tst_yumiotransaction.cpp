@@ -66,7 +66,7 @@ void TestYumIOTransaction::callbackBits_data()
 void TestYumIOTransaction::callbackBits()
 {
     startProgress(8000, 1000000);
-    engine->progress->startItem("An item", 100, 100);
+    engine->jobs.progress->startItem("An item", 100, 100);
     engine->progressRecord.lines.clear();
     QFETCH(long, what);
     QFETCH(int, value);
@@ -235,7 +235,7 @@ void TestYumIOTransaction::scriptIsNamedUntilTheNextEvent()
 {
     startProgress(8000, 1000000);
     QStringList notes;
-    connect(engine->progress, &Progress::setItemNoteSig, this, [&notes](QString const& note) {
+    connect(engine->jobs.progress, &Progress::setItemNoteSig, this, [&notes](QString const& note) {
         notes.append(note);
     });
     SCRIPT("yumIOC.tsEvent('cedar', 40, 0, 9, 3, 4)\nyumIOC.scriptRuns('cedar')\nyumIOC.scriptRuns('elm')");

@@ -107,7 +107,7 @@ private Q_SLOTS:
         QTimer poll;
         // The bars move while the job is held in its middle, and the user tries to get away.
         connect(&poll, &QTimer::timeout, this, [&] {
-            if (totalBar->value() <= totalBar->minimum() || !engine->progress) {
+            if (totalBar->value() <= totalBar->minimum() || !engine->jobs.progress) {
                 return;
             }
             poll.stop();
