@@ -57,12 +57,8 @@ void Relations::forget()
 
 bool Relations::offers(Kind kind, Package::Entry const& entry) const
 {
-    if (entry.kind == Package::Group || !yumIO->yumIO ||
-        (kind == Kind::WhyInstalled && entry.state == Package::Available)) {
-        return false;
-    }
-    Python::PyGILStateWrapper const lock(true);
-    return PyObject_HasAttrString(yumIO->yumIO.get(), method) != 0;
+    return entry.kind != Package::Group &&
+           (kind != Kind::WhyInstalled || entry.state != Package::Available) && yumIO->script.has(method);
 }
 
 Relations::Answer Relations::ask(Kind kind, Package::Entry const& entry, qsizetype most)
@@ -94,24 +90,16 @@ Relations::Answer Relations::run(Kind kind, Package::Entry const& entry, qsizety
 // On the worker, with the lock.
 bool Relations::read(Kind kind, Package::Entry const& entry, qsizetype most, bool withEntries, Answer& answer)
 {
-    PyObject* const baseError = yumIO->pyLookup("yum.Errors.YumBaseError");
-    yumIO->pyExceptStart();
-    yumIO->pyExceptExpect(baseError);
-    PyRef const told = yumIO->pyMethodCall(
-        yumIO->yumIO.get(), method, "(sOn)", scriptName(kind), entry.pyObject.get(),
-        static_cast<Py_ssize_t>(most));
-    if (yumIO->pyExceptMatches(told.get(), baseError)) {
-        yumIO->pythonExceptionV(tr("Unable to read what is told of other packages"));
-        return false;
-    }
-    yumIO->pyExceptClear();
+    PyRef const told = yumIO->script.object(
+        method, {QLatin1String(scriptName(kind)), entry, static_cast<qint64>(most)},
+        tr("Unable to read what is told of other packages"));
     PyObject* lines = nullptr;
     Py_ssize_t count = 0;
     if (!told || !PyTuple_Check(told.get()) ||
         PyArg_ParseTuple(told.get(), "O!n", &PyList_Type, &lines, &count) == 0) {
         PyErr_Clear();
         if (told) {
-            yumIO->error(tr("Internal error: execution of yumIO.%1 failed").arg(QLatin1String(method)));
+            yumIO->script.misunderstood(method);
         }
         return false;
     }

@@ -108,8 +108,8 @@ bool YumIO::initialize()
     setEnablePythonSIGINTHandler(false);
 
     QByteArray const path = QFile::encodeName(Share::absolute(QStringLiteral("python/YumIO.py")));
-    std::unique_ptr<std::FILE, int (*)(std::FILE*)> script(std::fopen(path.constData(), "re"), &std::fclose);
-    if (!script) {
+    std::unique_ptr<std::FILE, int (*)(std::FILE*)> source(std::fopen(path.constData(), "re"), &std::fclose);
+    if (!source) {
         return fail("Internal error: unable to open YumIO.py");
     }
     // The script finds the modules beside it by its own path, which running an open file doesn't tell.
@@ -117,10 +117,10 @@ bool YumIO::initialize()
     if (file) {
         pyAssignGlobal("__file__", file.get());
     }
-    if (PyRun_SimpleFileExFlags(script.get(), "YumIO.py", 0, nullptr) == -1) {
+    if (PyRun_SimpleFileExFlags(source.get(), "YumIO.py", 0, nullptr) == -1) {
         return fail("Internal error: unable to execute YumIO.py");
     }
-    script.reset();
+    source.reset();
 
     pyYumIOClass = PyRef::borrow(PyDict_GetItemString(main_dict, "YumIO"));
     if (!pyYumIOClass) {
@@ -139,7 +139,7 @@ bool YumIO::initialize()
     if (!yumIO) {
         return fail("Internal error: cannot create python yumIO");
     }
-    libraryName = toldByScript("packageLibrary");
+    libraryName = script.told("packageLibrary");
     offerStop();
     return true;
 }

@@ -9,6 +9,7 @@
 #include "engine/Package.h"
 #include "engine/PackageFiles.h"
 #include "engine/RowDetails.h"
+#include "engine/Script.h"
 #include "engine/Stop.h"
 #include "services/CaptureSink.h"
 #include "services/Log.h"
@@ -269,6 +270,7 @@ public:
 
     Stop stop;                       ///< of the job in progress
     Jobs jobs{*this, stop};          ///< its own, and those of others
+    Script script{*this};            ///< its optional functions
     PackageFiles packageFiles;       ///< opened by the user; the next collection makes rows of them
     Log::EntryList logEntries;       ///< everything that was said since the program's start
     bool fileListsCollected = false; ///< the file lists of the repositories are loaded
@@ -291,6 +293,7 @@ protected:
     friend class CollectOtherDataThread;
     friend class ApplyThread;
     friend class Relations;
+    friend class Script;
 
     // Jobs.
     void execWorkThread(QEventLoop& loop, QThread& thread);
@@ -555,10 +558,6 @@ protected:
     ApplyRun run;
 
 private:
-    /// What a function of the script answers that scripts for older releases lack; null then, for None, and
-    /// after the report of a failure. With the interpreter lock.
-    QString toldByScript(char const* function);
-
     QString libraryName;    ///< what the script said at the start
     QString lastReportText; ///< words of the last report, for the exception of a host function
 };

@@ -135,7 +135,7 @@ bool YumIO::askScript(char const* name, QList<Package::Entry*> const& rows, Pack
 PyRef YumIO::scriptDetails(char const* name, QList<Package::Entry*> const& rows)
 {
     constexpr char const* method = "rowDetails";
-    if (PyObject_HasAttrString(yumIO.get(), method) == 0) {
+    if (!script.has(method)) {
         return PyRef::borrow(Py_None);
     }
     PyRef const packages = PyRef::steal(PyList_New(0));
@@ -145,16 +145,9 @@ PyRef YumIO::scriptDetails(char const* name, QList<Package::Entry*> const& rows)
             return PyRef();
         }
     }
-    PyObject* const baseError = pyLookup("yum.Errors.YumBaseError");
-    pyExceptStart();
-    pyExceptExpect(baseError);
-    PyRef answer = pyMethodCall(yumIO.get(), method, "(sO)", name, packages.get());
-    if (pyExceptMatches(answer.get(), baseError)) {
-        pythonExceptionV(tr("Unable to read what a column shows"));
-        return PyRef();
-    }
-    pyExceptClear();
-    return answer;
+    return script.object(
+        method, {QLatin1String(name), Script::Argument::object(packages)},
+        tr("Unable to read what a column shows"));
 }
 
 std::optional<long long> YumIO::installedSize(QList<Package::Entry const*> const& those)

@@ -11,10 +11,10 @@ void YumIO::collectIncomplete()
     constexpr char const* method = "incomplete";
     incompleteTexts.clear();
     // Older scripts don't know the question.
-    if (PyObject_HasAttrString(yumIO.get(), method) == 0) {
+    if (!script.has(method)) {
         return;
     }
-    PyRef const answer = pyMethodCall(yumIO.get(), method, "()");
+    PyRef const answer = script.object(method, {}, QString());
     QStringList texts;
     bool const isList = answer && PyList_Check(answer.get());
     for (Py_ssize_t at = 0; isList && at < PyList_GET_SIZE(answer.get()); ++at) {
@@ -25,7 +25,7 @@ void YumIO::collectIncomplete()
         texts.append(pyString(text));
     }
     if (!isList || texts.size() != PyList_GET_SIZE(answer.get())) {
-        error(QStringLiteral("Internal error: execution of yumIO.%1 failed").arg(QLatin1String(method)));
+        script.misunderstood(method);
         return;
     }
     incompleteTexts = texts;
@@ -33,12 +33,8 @@ void YumIO::collectIncomplete()
 
 void YumIO::collectRepositoryTimes()
 {
-    constexpr char const* method = "repositoryTimes";
     readTimes.clear();
-    if (PyObject_HasAttrString(yumIO.get(), method) == 0) {
-        return;
-    }
-    PyRef const answer = pyMethodCall(yumIO.get(), method, "()");
+    PyRef const answer = script.object("repositoryTimes", {}, QString());
     PyObject* name = nullptr;
     PyObject* time = nullptr;
     Py_ssize_t position = 0;

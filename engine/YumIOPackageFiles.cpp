@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // Package files from elsewhere: handed to the script in each collection, and forgotten once they are
 // installed.
-#include "bridge/PythonApi.h"
-
 #include "engine/YumIO.h"
+
+#include <QJsonArray>
 
 namespace
 {
@@ -14,51 +14,37 @@ constexpr char const* openFiles = "openPackageFiles";
 
 bool YumIO::opensPackageFiles()
 {
-    PyGILStateWrapper const lock(initialized);
-    return initialized && yumIO && PyObject_HasAttrString(yumIO.get(), openFiles) != 0;
+    return script.has(openFiles);
 }
 
 bool YumIO::collectPackageFiles()
 {
-    if (packageFiles.isEmpty() || PyObject_HasAttrString(yumIO.get(), openFiles) == 0) {
+    if (packageFiles.isEmpty() || !script.has(openFiles)) {
         return true;
     }
-    PyRef const words = PyRef::steal(PyList_New(0));
-    for (QString const& word : packageFiles.words()) {
-        QByteArray const bytes = word.toUtf8();
-        PyRef const text = PyRef::steal(PyUnicode_FromStringAndSize(bytes.constData(), bytes.size()));
-        if (!text || PyList_Append(words.get(), text.get()) != 0) {
-            PyErr_Clear();
-        }
-    }
-    PyObject* const baseError = pyLookup("yum.Errors.YumBaseError");
-    pyExceptStart();
-    pyExceptExpect(baseError);
-    PyRef const answer = pyMethodCall(yumIO.get(), openFiles, "(O)", words.get());
-    if (pyExceptMatches(answer.get(), baseError)) {
-        pythonExceptionV(tr("Unable to open package files"));
+    std::optional<QJsonValue> const answer = script.call(
+        openFiles, {QJsonArray::fromStringList(packageFiles.words())}, tr("Unable to open package files"));
+    if (!answer) {
         return false;
     }
-    pyExceptClear();
     QStringList refusals;
-    bool understood = answer && PyList_Check(answer.get());
-    for (Py_ssize_t at = 0; understood && at < PyList_GET_SIZE(answer.get()); ++at) {
-        PyObject* word = nullptr;
-        PyObject* name = nullptr;
-        PyObject* refusal = nullptr;
-        PyObject* const one = PyList_GET_ITEM(answer.get(), at);
-        understood = PyTuple_Check(one) && PyArg_ParseTuple(one, "UUU", &word, &name, &refusal) != 0;
+    bool understood = answer->isArray();
+    for (QJsonValue const& one : answer->toArray()) {
+        QJsonArray const told = one.toArray();
+        understood =
+            understood && told.size() == 3 && told[0].isString() && told[1].isString() && told[2].isString();
         if (!understood) {
-            PyErr_Clear();
-        } else if (PyUnicode_GetLength(name) > 0) {
-            packageFiles.settle(pyString(word), pyString(name));
+            break;
+        }
+        if (!told[1].toString().isEmpty()) {
+            packageFiles.settle(told[0].toString(), told[1].toString());
         } else {
-            packageFiles.close(pyString(word));
-            refusals.append(pyString(refusal));
+            packageFiles.close(told[0].toString());
+            refusals.append(told[2].toString());
         }
     }
     if (!understood) {
-        error(QStringLiteral("Internal error: execution of yumIO.%1 failed").arg(QLatin1String(openFiles)));
+        script.misunderstood(openFiles);
         return false;
     }
     if (!refusals.isEmpty()) {

@@ -39,24 +39,9 @@ void YumIO::warning(char const* message)
     warning(QString::fromUtf8(message));
 }
 
-QString YumIO::toldByScript(char const* function)
-{
-    if (!PyDict_GetItemString(main_dict, function)) {
-        return {};
-    }
-    pyExceptStart();
-    PyRef const answer = pyCall(function, "()");
-    pyExceptClear();
-    return answer ? pyString(answer.get()) : QString();
-}
-
 bool YumIO::offerLooking()
 {
-    QString reason;
-    {
-        PyGILStateWrapper const lock(initialized);
-        reason = initialized ? toldByScript("whyOnlyLooking") : QString();
-    }
+    QString const reason = script.told("whyOnlyLooking");
     constexpr int look = 0;
     constexpr int quit = 1;
     return reason.isEmpty() || !jobs.dialogs ||
@@ -66,8 +51,7 @@ bool YumIO::offerLooking()
 
 QString YumIO::whyNoChange()
 {
-    PyGILStateWrapper const lock(initialized);
-    return initialized ? toldByScript("whyNoChange") : QString();
+    return script.told("whyNoChange");
 }
 
 QByteArray YumIO::lastReport() const

@@ -8,18 +8,7 @@
 void YumIO::collectUnfinished()
 {
     constexpr char const* method = "unfinished";
-    if (PyObject_HasAttrString(yumIO.get(), method) == 0) {
-        return;
-    }
-    PyObject* const baseError = pyLookup("yum.Errors.YumBaseError");
-    pyExceptStart();
-    pyExceptExpect(baseError);
-    PyRef const answer = pyMethodCall(yumIO.get(), method, "()");
-    if (pyExceptMatches(answer.get(), baseError)) {
-        pythonExceptionV(tr("Unable to see whether a transaction was cut off"));
-        return;
-    }
-    pyExceptClear();
+    PyRef const answer = script.object(method, {}, tr("Unable to see whether a transaction was cut off"));
     PyObject* text = nullptr;
     PyObject* versions = nullptr;
     PyObject* older = nullptr;
@@ -29,7 +18,7 @@ void YumIO::collectUnfinished()
     if (!PyTuple_Check(answer.get()) ||
         PyArg_ParseTuple(answer.get(), "OO!O!", &text, &PyDict_Type, &versions, &PyList_Type, &older) == 0) {
         PyErr_Clear();
-        error(QStringLiteral("Internal error: execution of yumIO.%1 failed").arg(QLatin1String(method)));
+        script.misunderstood(method);
         return;
     }
     left.text = pyString(text);
