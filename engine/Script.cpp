@@ -33,7 +33,8 @@ PyRef objectOf(QJsonValue const& value)
         return textObject(value.toString());
     case QJsonValue::Array: {
         PyRef list = PyRef::steal(PyList_New(0));
-        for (QJsonValue const& item : value.toArray()) {
+        QJsonArray const items = value.toArray();
+        for (QJsonValue const item : items) {
             PyRef const made = objectOf(item);
             if (!made || PyList_Append(list.get(), made.get()) != 0) {
                 return PyRef();

@@ -29,7 +29,8 @@ bool YumIO::collectPackageFiles()
     }
     QStringList refusals;
     bool understood = answer->isArray();
-    for (QJsonValue const& one : answer->toArray()) {
+    QJsonArray const answers = answer->toArray();
+    for (QJsonValue const one : answers) {
         QJsonArray const told = one.toArray();
         understood =
             understood && told.size() == 3 && told[0].isString() && told[1].isString() && told[2].isString();
