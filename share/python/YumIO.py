@@ -31,6 +31,7 @@ import bdb  # noqa: E402,F401
 from vemyum import choice, clean, host, messages, rights, stop, surroundings  # noqa: E402
 from vemyum.apply.parent import Apply  # noqa: E402
 from vemyum.errors import LockError, RepoError, YumBaseError, reported_as  # noqa: E402
+from vemyum.matters import history  # noqa: E402
 from vemyum.root import managed_root  # noqa: E402
 from vemyum.session import Session  # noqa: E402
 
@@ -181,6 +182,27 @@ class YumIO:
         """What `relations.told` tells of a package. YumBaseError."""
         with reported_as(YumBaseError):
             return self._session.relations(kind, package, most)
+
+    def historyList(self) -> List[Dict[str, Any]]:
+        """All transactions, the latest first; `matters.history` tells what each is. Needs no collection. YumBaseError."""
+        with reported_as(YumBaseError):
+            return history.listed(self._session.records(), managed_root())
+
+    def historyOf(self, number: int) -> Dict[str, Any]:
+        """One transaction in full, as `matters.history` tells. YumBaseError."""
+        with reported_as(YumBaseError):
+            return history.told(self._session.records(), managed_root(), number)
+
+    def historySearch(self, text: str) -> List[int]:
+        """The numbers of the transactions, the latest first, about packages that a text or a pattern fits.
+        YumBaseError."""
+        with reported_as(YumBaseError):
+            return history.concerning(self._session.records(), text)
+
+    def historyExport(self, number: int, form: str) -> str:
+        """A transaction, or for 0 all of them, as "text" or "json". YumBaseError."""
+        with reported_as(YumBaseError):
+            return history.exported(self._session.records(), managed_root(), number, form)
 
     def collectFileLists(self) -> bool:
         """YumBaseError."""

@@ -15,6 +15,7 @@ import enum
 import functools
 import importlib
 from typing import (
+    TYPE_CHECKING,
     Any,
     Callable,
     Collection,
@@ -33,6 +34,9 @@ from typing import (
 
 from . import choice
 from .sections import RepositorySection
+
+if TYPE_CHECKING:
+    from .transactions import Records
 
 PkgTup = Tuple[str, str, str, str, str]
 """Name, architecture, epoch ("0" for none), version, release."""
@@ -361,6 +365,9 @@ class Library(Protocol):
 
     def usable_history(self, settings: Settings) -> ContextManager[None]:
         """Lets a block use the history. YumBaseError where it cannot be used, by then or in the block."""
+
+    def records(self, settings: Settings) -> "Records":
+        """The managed system's history, there or not, for whoever only looks."""
 
     def lock_files(self, settings: Settings) -> List[str]:
         """The pid files by which programs keep each other off."""

@@ -11,9 +11,8 @@ import contextlib
 import os
 import sqlite3
 import urllib.parse
-from typing import Callable, Collection, Iterator, List, NamedTuple, Optional, Set, Tuple, Union
+from typing import Callable, Iterator, List, Optional
 
-from .backend import OpenEntry, PutIn
 from .errors import FAILURES, YumBaseError, words
 from .root import as_configured
 from .space import scarce_space
@@ -21,27 +20,6 @@ from .texts import _
 
 _BESIDE = ("", "-wal", "-shm", "-journal")
 """What SQLite puts beside a database."""
-
-_Code = Union[int, str]
-
-
-class Layout(NamedTuple):
-    """How a library writes it down."""
-
-    last: str
-    """Asks for number, beginning, command and state of the last transaction."""
-    items: str
-    """Asks, for a number, for name, epoch, version, release, architecture and action of what was to be done."""
-    begun: _Code
-    """The state of a transaction without an end."""
-    incoming: Collection[_Code]
-    outgoing: Collection[_Code]
-    """Actions."""
-    about: str
-    """Asks, for a name and an architecture, for number, beginning, user, command, action, epoch, version and release,
-    the latest first."""
-    first: _Code
-    """The action by which something comes that wasn't there."""
 
 
 @contextlib.contextmanager
@@ -84,40 +62,6 @@ def _make(path: str, make: Callable[[], None], told_of: Callable[[str], List[str
         raise YumBaseError("\n".join([text, *causes])) from error
 
 
-def open_entry(path: str, layout: Layout) -> Optional[OpenEntry]:
-    """The last entry if it has no end; None for a history that cannot be read: whoever wants to write into that is told
-    then."""
-    with contextlib.suppress(sqlite3.Error), contextlib.closing(_opened(path, "ro")) as database:
-        database.text_factory = lambda content: content.decode("utf-8", "replace")
-        last = database.execute(layout.last).fetchone()
-        if last is None or last[3] != layout.begun:
-            return None
-        incoming: Set[Tuple[str, str, str]] = set()
-        outgoing: Set[Tuple[str, str, str]] = set()
-        for name, epoch, version, release, arch, action in database.execute(layout.items, last[:1]):
-            package = (name, f"{epoch}:{version}-{release}", arch)
-            if action in layout.incoming:
-                incoming.add(package)
-            elif action in layout.outgoing:
-                outgoing.add(package)
-        return OpenEntry(last[0], last[1] or 0, last[2] or "", incoming, outgoing - incoming)
-    return None
-
-
-def put_in(path: str, layout: Layout, name: str, arch: str) -> List[PutIn]:
-    """See `backend.System`."""
-    with contextlib.suppress(sqlite3.Error), contextlib.closing(_readable(path)) as database:
-        database.text_factory = lambda content: content.decode("utf-8", "replace")
-        return [
-            PutIn(number, begun or 0, user, command or "", f"{epoch or 0}:{version}-{release}", action == layout.first)
-            for number, begun, user, command, action, epoch, version, release in database.execute(
-                layout.about, (name, arch)
-            )
-            if action in layout.incoming
-        ]
-    return []
-
-
 def fault(path: str) -> Optional[str]:
     """Why nothing can be written into a history; None where it can."""
     try:
@@ -155,14 +99,14 @@ def _remove_useless(path: str) -> None:
 def _holds_anything(path: str) -> bool:
     """Whether there is an entry; where nobody can tell, there may be one."""
     try:
-        with contextlib.closing(_readable(path)) as database:
+        with contextlib.closing(readable(path)) as database:
             return database.execute("select count(*) from trans").fetchone() != (0,)
     except sqlite3.Error as error:
         return "no such table" not in str(error)
 
 
-def _readable(path: str) -> sqlite3.Connection:
-    """For whoever may write nothing there, or has no room. sqlite3.Error."""
+def readable(path: str) -> sqlite3.Connection:
+    """For whoever only looks, may write nothing there, or has no room. sqlite3.Error."""
     # Else SQLite wants to put something beside it.
     alone = not os.path.exists(path + "-wal") or os.path.getsize(path + "-wal") == 0
     return _opened(path, "ro&immutable=1" if alone else "ro")

@@ -8,7 +8,6 @@ asked for, and takes a second at most with tens of thousands of packages.
 
 from __future__ import annotations
 
-import pwd
 import time
 from typing import Any, Callable, Dict, List, NamedTuple, Optional, Sequence, Set, Tuple, Union
 
@@ -16,6 +15,7 @@ from . import versions
 from .backend import Advice, PutIn, Reason, Row, System
 from .details import PackageDetails
 from .packages import AvailablePackage, InstalledPackage, Package, pkgtup, shown
+from .people import user_name
 from .text import valid
 from .texts import _
 
@@ -25,8 +25,6 @@ INSTALLED, UPDATE, AVAILABLE = "installed", "update", "available"
 _SYSTEM = "@System"
 _FEW = 5
 """So many packages that satisfy one requirement are named."""
-_NO_USER = (-1, 0xFFFFFFFF)
-"""The kernel's number for somebody who has never logged in."""
 
 
 class Link(NamedTuple):
@@ -229,19 +227,10 @@ class _Around:
 def _transaction(template: str, one: PutIn) -> str:
     moment = time.strftime("%Y-%m-%d %H:%M", time.localtime(one.begun))
     text = template.format(number=one.number, time=moment)
-    who = _user(one.user)
+    who = user_name(one.user)
     if who:
         text += ", " + _("by {user}").format(user=who)
     return f"{text}: {valid(one.command)}" if one.command else text
-
-
-def _user(number: Optional[int]) -> str:
-    if number is None or number in _NO_USER:
-        return ""
-    try:
-        return pwd.getpwuid(number).pw_name
-    except (KeyError, OverflowError):
-        return str(number)
 
 
 def _date(seconds: int) -> str:

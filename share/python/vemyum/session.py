@@ -29,6 +29,7 @@ from .root import as_configured, managed_root
 from .sections import RepositorySection
 from .text import valid
 from .texts import _
+from .transactions import Records
 from .unfinished import Unfinished, unfinished
 
 _NOT_READ = _("The repositories are not read")
@@ -186,6 +187,14 @@ class Session:
         if self._details is None:
             raise YumBaseError(_NOT_READ)
         return relations.told(kind, package, most, self.system, self._details)
+
+    # History ---------------------------------------------------------------------------------------------
+
+    def records(self) -> Records:
+        """Whether anything is collected or not. YumBaseError for a configuration that cannot be used."""
+        if self._settings is None:
+            raise YumBaseError(str(self._fault))
+        return backend.library().records(self._settings)
 
     # Extra data ------------------------------------------------------------------------------------------
 

@@ -11,6 +11,7 @@ import dnf.lock
 
 from ..apply.messages import Request
 from ..sections import RepositorySection
+from ..transactions import Records
 from . import history, logfiles
 from .clean import clean as clean
 from .configuration import Settings
@@ -54,6 +55,10 @@ def open_transaction(settings: Settings, request: Request) -> Transaction:
 
 def usable_history(settings: Settings) -> ContextManager[None]:
     return history.usable_history(settings.conf)
+
+
+def records(settings: Settings) -> Records:
+    return history.records(settings)
 
 
 def open_log_files(settings: Settings) -> None:

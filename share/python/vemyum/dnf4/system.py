@@ -20,14 +20,13 @@ from ..backend import (
     Reason,
     RepositoryState,
 )
-from ..history import open_entry, put_in
 from ..packages import whole_evr
 from ..sections import RepositorySection
 from ..vendors import by_name, refused
 from .base import open_base
 from .configuration import Settings
 from .fetching import fetch
-from .history import LAYOUT, history_path
+from .history import records
 from .relations import Needs, advice, satisfying, versions_of, wanting
 from .rows import checksum, dependencies
 from .sack import light_packages
@@ -210,11 +209,10 @@ class System:
     # History ---------------------------------------------------------------------------------------------
 
     def open_entry(self) -> Optional[OpenEntry]:
-        return open_entry(history_path(self.settings.system_persistent_directory), LAYOUT)
+        return records(self.settings).open_entry()
 
     def put_in(self, row: dnf.package.Package) -> List[PutIn]:
-        path = history_path(self.settings.system_persistent_directory)
-        return put_in(path, LAYOUT, row.name, row.arch)
+        return records(self.settings).put_in(row.name, row.arch)
 
     def close(self) -> None:
         self._needs.clear()

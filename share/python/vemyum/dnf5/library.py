@@ -7,6 +7,7 @@ import libdnf5.conf
 
 from ..apply.messages import Request
 from .clean import clean as clean
+from .history import records as records
 from .history import usable_history as usable_history
 from .lock import hold as hold
 from .lock import let_go as let_go

@@ -31,7 +31,6 @@ from ..backend import (
 )
 from ..database import point_rpm_at, unreadable
 from ..errors import RepoError, YumBaseError, os_error_text
-from ..history import open_entry, put_in
 from ..messages import rpms_words
 from ..packages import COMMAND_LINE
 from ..reading import drop_damaged, without_durations
@@ -39,7 +38,7 @@ from ..sections import RepositorySection
 from ..texts import _
 from .base import Base, open_base
 from .failures import FAILURES, in_full, words
-from .history import LAYOUT, history_path
+from .history import records
 from .keys import load_signed
 from .lists import Lists, fitting, installed_rows
 from .log import LOGGER
@@ -377,10 +376,10 @@ class System:
         return str(row.get_package_path()) or None
 
     def open_entry(self) -> Optional[OpenEntry]:
-        return open_entry(history_path(self.base.settings, self.base.config), LAYOUT)
+        return records(self.settings).open_entry()
 
     def put_in(self, row: Row) -> List[PutIn]:
-        return put_in(history_path(self.base.settings, self.base.config), LAYOUT, row.name, row.arch)
+        return records(self.settings).put_in(row.name, row.arch)
 
     # End ---------------------------------------------------------------------------------------------------------
 
