@@ -222,6 +222,18 @@ class YumIO:
             rights.require_changeable(managed_root())
             Apply(self._session).run(installs, updates, removes)
 
+    def applyHistory(self, kind: str, number: int, without: bool) -> List[str]:
+        """Does the opposite of a transaction ("undo"), the same once more ("redo"), or the opposite of all that came
+        behind it ("rollback"), by the same way as `apply`: lists, asks, downloads and runs.
+
+        Gives what cannot be done, a sentence for each package or group; nothing was asked or done then. With `without`
+        the rest of it is done, and nothing is given. Behind a refusal nothing is given either. Needs a collection.
+        Raises as `apply`.
+        """
+        with reported_as(YumBaseError):
+            rights.require_changeable(managed_root())
+            return Apply(self._session).turn(kind, number, without)
+
     def usesPresto(self) -> bool:
         """Packages are never rebuilt from deltas."""
         return False

@@ -48,6 +48,7 @@ class Apply:
             [wish(path, repository) for path in incoming],
             [],
             [wish(path, "@System") for path in removes],
+            [],
             0,
             "",
             "vem --test",

@@ -15,9 +15,10 @@ from typing import Any, Callable, Dict, Iterator, List, Mapping, NamedTuple, Opt
 
 from . import stop
 from .apply.messages import DOWNGRADE, INSTALL, OBSOLETED, REINSTALL, REMOVE, REPLACED, UPGRADE
-from .backend import OpenEntry, PutIn
+from .backend import OpenEntry, PkgTup, PutIn
 from .errors import YumBaseError
 from .history import readable
+from .packages import whole_evr
 from .root import as_configured
 from .text import valid
 from .texts import _
@@ -87,6 +88,9 @@ class Item(NamedTuple):
     reason: str
     repository: str
     state: str
+
+    def pkgtup(self) -> PkgTup:
+        return (self.name, self.arch, *whole_evr(self.evr))
 
 
 class PastGroup(NamedTuple):

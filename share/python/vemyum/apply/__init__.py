@@ -5,6 +5,7 @@
     child       the other process: `share/python/apply-child.py` runs it
     work        what it does: solves, asks, downloads, runs the transaction
     solving     from the marks to the list of changes, by a library's solver
+    turning     from a wish about the history to the same list
     messages    what the two say to each other
     channel     how
     listing     the transaction as the engine lists it, made of what the child tells

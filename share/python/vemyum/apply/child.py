@@ -66,6 +66,7 @@ def _work(parent: "_Parent") -> messages.Ended:
     from ..errors import YumBaseError, reported_as
     from ..lock import LOCK
     from ..messages import install_handler
+    from .turning import Obstructed
     from .work import Work
 
     streams.replace_streams()
@@ -85,6 +86,9 @@ def _work(parent: "_Parent") -> messages.Ended:
             work = Work(settings, request)
             done = work.do(parent.agreed, lambda changes: parent.commit(settings, changes))
         outcome, text = (messages.DONE, "") if done else (messages.REFUSED, "")
+    except Obstructed as error:
+        parent.send(messages.Obstacles([masked(text) for text in error.texts]))
+        outcome, text = messages.REFUSED, ""
     except YumBaseError as error:
         outcome, text = messages.FAILED, str(error)
     except BrokenPipeError as error:

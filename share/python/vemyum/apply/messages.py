@@ -17,7 +17,7 @@ from typing import Any, Dict, List, Type, Union
 
 from ..sections import RepositorySection
 
-PROTOCOL = 4
+PROTOCOL = 5
 """Raised whenever a message changes its form: child and parent are always of one version, or don't work together."""
 
 
@@ -42,9 +42,23 @@ class Wish:
     evr: str
 
 
+UNDO, REDO, ROLL_BACK = "undo", "redo", "rollback"
+"""What can be done about the history: the opposite of a transaction; the same once more; the opposite of all that came
+behind it."""
+
+
+@dataclasses.dataclass(frozen=True)
+class Past:
+    """A wish about the transaction of that number. `without` tells to go on without what cannot be done."""
+
+    kind: str
+    number: int
+    without: bool
+
+
 @dataclasses.dataclass(frozen=True)
 class Request:
-    """What is to be done. `repositories` are those that the list of packages rests on; `files` are the paths of the
+    """What is to be done. `past` has one wish about the history, and then nothing is marked, or none. `repositories` are those that the list of packages rests on; `files` are the paths of the
     incoming packages that no repository has; `installed` is how many
     packages the system has by all that the parent knows, 0 where it knows nothing; `main_file` is the main
     configuration file that the list rests on, empty for none; `command` is the program's command line and `comment`
@@ -55,6 +69,7 @@ class Request:
     incoming: List[Wish]
     files: List[str]
     removes: List[Wish]
+    past: List[Past]
     installed: int
     main_file: str
     command: str
@@ -119,6 +134,13 @@ class ErrorOutput:
 @dataclasses.dataclass(frozen=True)
 class Solving:
     """The solver begins."""
+
+
+@dataclasses.dataclass(frozen=True)
+class Obstacles:
+    """What cannot be done of a wish about the history, a sentence for each package or group. Nothing is done then."""
+
+    texts: List[str]
 
 
 INSTALL, UPGRADE, OBSOLETED, REMOVE, REPLACED = "install", "upgrade", "obsoleted", "remove", "replaced"
@@ -291,6 +313,7 @@ Message = Union[
     Output,
     ErrorOutput,
     Solving,
+    Obstacles,
     Plan,
     KeyWanted,
     FileStarted,

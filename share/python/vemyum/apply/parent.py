@@ -49,6 +49,7 @@ class Apply:
         self._session = session
         self._begun = False
         self._leaves = False
+        self._obstacles: List[str] = []
         self.tsInfo: Optional[TransactionInfo] = None
 
     def run(self, installs: Sequence[Any], updates: Sequence[Any], removes: Sequence[Any]) -> None:
@@ -60,18 +61,42 @@ class Apply:
         if not (installs or updates or removes):
             host.log(host.LEVEL_NOTICE, _("Nothing is marked"))
             return
-        root = managed_root()
         incoming = [*installs, *(pair[0] for pair in updates)]
-        request = messages.Request(
-            messages.PROTOCOL,
-            self._session.repository_sections(),
+        self._do(
             [_wish(package, package.po.reponame) for package in incoming],
             [package.po.location for package in incoming if package.po.reponame == COMMAND_LINE],
             [_wish(package, messages.SYSTEM) for package in removes],
+            [],
+            _comment(installs, updates, removes),
+        )
+
+    def turn(self, kind: str, number: int, without: bool) -> List[str]:
+        """Undoes the transaction of that number, does it once more, or rolls back to it; `kind` is one of the words of
+        `messages`. Gives what cannot be done, a sentence for each package or group, and does nothing then, unless it is
+        to go on `without`. Raises and blocks as `run`."""
+        self._do([], [], [], [messages.Past(kind, number, without)], f"history {kind} {number}")
+        return self._obstacles
+
+    def _do(
+        self,
+        incoming: List[messages.Wish],
+        files: List[str],
+        removes: List[messages.Wish],
+        past: List[messages.Past],
+        comment: str,
+    ) -> None:
+        root = managed_root()
+        request = messages.Request(
+            messages.PROTOCOL,
+            self._session.repository_sections(),
+            incoming,
+            files,
+            removes,
+            past,
             Collector.known_installed(root),
             self._session.main_file,
             processes.command_line(os.getpid()),
-            _comment(installs, updates, removes),
+            comment,
         )
         with _Child(root) as child:
             ended = self._converse(child, request)
@@ -160,6 +185,8 @@ class Apply:
             host.stderr_write(message.text)
         elif isinstance(message, messages.Solving):
             host.solver_check()
+        elif isinstance(message, messages.Obstacles):
+            self._obstacles = [valid(text) for text in message.texts]
         elif isinstance(message, messages.Plan):
             child.tell(messages.Answer(not self._leaves and self._agreed(message)))
         elif isinstance(message, messages.KeyWanted):

@@ -17,6 +17,7 @@ from .details import Details, Facts, counterpart, details
 from .messages import OBSOLETED, REMOVE, REPLACED, UPGRADE, Change, Wish
 from .work import NOT_INSTALLED
 
+NOTHING = _("Nothing to do: the system is already as it was asked to be.")
 _NOT_OFFERED = _("{package} is no longer in the repository {repository}. Please refresh the list of packages.")
 
 
@@ -90,11 +91,15 @@ def solve(solver: Solver, incoming: Sequence[Wish], removes: Sequence[Wish]) -> 
     if marks.incoming and marks.removed:
         solution = _pushing_nothing_out(solver, marks, solution)
     if not solution.incoming and not solution.removed:
-        raise YumBaseError(_("Nothing to do: the system is already as it was asked to be."))
+        raise YumBaseError(NOTHING)
     _require_marks(marks, solution)
     _require_doubled(solver, marks, solution)
-    marked = marks.tuples()
-    return Solved(_changes(solver.native, marked, solution), details(solver, marked, solution))
+    return told(solver, marks.tuples(), solution)
+
+
+def told(solver: Solver, asked: Set[PkgTup], solution: Solution) -> Solved:
+    """What comes of a solution, where these packages were asked for."""
+    return Solved(_changes(solver.native, asked, solution), details(solver, asked, solution))
 
 
 def lists_all(installed: Iterable[Any], removes: Sequence[Wish]) -> bool:

@@ -14,10 +14,12 @@ import libdnf.transaction as lt
 
 from ..apply.messages import INSTALL, UPGRADE
 from ..apply.solving import Incoming, Marks, Solution
+from ..apply.turning import Aim
 from ..backend import Dependency, PkgTup
 from ..packages import COMMAND_LINE, pkgtup
 from .base import Base
 from .rows import checksum, dependencies
+from .turning import turn
 
 
 class Solver:
@@ -59,6 +61,10 @@ class Solver:
         base._goal.add_protected(protected)
         base.resolve(allow_erasing=erasing)
         return _solution(base.goal)
+
+    def turn(self, aim: Aim) -> Solution:
+        turn(self._base, aim)
+        return _solution(self._base.goal)
 
     def gone_without(self, removed: Sequence[dnf.package.Package]) -> Set[PkgTup]:
         base = self._base

@@ -17,6 +17,7 @@ import libdnf.transaction as lt
 
 from ..apply.messages import Request
 from ..apply.solving import Solved, lists_all, only_doubled, solve
+from ..apply.turning import turn
 from ..backend import PkgTup
 from ..packages import pkgtup
 from ..signatures import require_signatures
@@ -24,6 +25,7 @@ from .base import open_base
 from .configuration import Settings
 from .display import Display
 from .download import download, not_in_cache
+from .history import records
 from .plan import Solver, enabled_streams
 from .signatures import signature_faults
 
@@ -33,6 +35,7 @@ class Transaction:
 
     def __init__(self, settings: Settings, request: Request) -> None:
         self._request = request
+        self._records = records(settings)
         conf = settings.conf
         conf.comment = "; ".join(filter(None, (conf.comment, request.comment)))
         # A repository that was added or changed meanwhile is none of those that the marks rest on.
@@ -49,11 +52,12 @@ class Transaction:
         for repo in enabled:
             # The table shows what the cache holds; newer metadata must not slip in behind it.
             repo._repo.setSyncStrategy(dnf.repo.SYNC_LAZY)
-        if not request.incoming:
+        whole = bool(request.incoming or request.past)
+        if not whole:
             base.load_system()
-        solver = Solver(base)
+        solver = Solver(self._base)
         names = [one.name for one in request.removes]
-        if request.incoming or only_doubled(solver.installed(names), solver.install_only(names), request.removes):
+        if whole or only_doubled(solver.installed(names), solver.install_only(names), request.removes):
             for repo in enabled:
                 # Which the reading of the system alone has switched off.
                 repo.enable()
@@ -68,7 +72,10 @@ class Transaction:
         return [package.name for package in self._base.sack.query(flags=hawkey.IGNORE_EXCLUDES).installed()]
 
     def solve(self) -> Solved:
-        solved = solve(Solver(self._base), self._request.incoming, self._request.removes)
+        for past in self._request.past:
+            solved = turn(Solver(self._base), past, self._records)
+        if not self._request.past:
+            solved = solve(Solver(self._base), self._request.incoming, self._request.removes)
         self._incoming = sorted(self._base.transaction.install_set)
         return solved
 

@@ -11,12 +11,14 @@ from libdnf5 import transaction as kinds
 
 from ..apply.messages import INSTALL, UPGRADE
 from ..apply.solving import Incoming, Marks, Solution
+from ..apply.turning import Aim
 from ..backend import Dependency, PkgTup
 from ..errors import YumBaseError
 from ..packages import COMMAND_LINE
 from ..packages import pkgtup as pkgtup_of_row
 from .base import Base
 from .rows import checksum, dependencies, rows
+from .turning import turned
 
 _INCOMING = (
     kinds.TransactionItemAction_UPGRADE,
@@ -98,6 +100,12 @@ class Solver:
         if transaction.get_problems() != libdnf5_base.GoalProblem_NO_PROBLEM:
             raise YumBaseError("\n".join(transaction.get_resolve_logs_as_strings()))
         self.solved = Solved(transaction)
+        return self._solution(self.solved)
+
+    def turn(self, aim: Aim) -> Solution:
+        surplus = aim.surplus()
+        there = self.installed([name for name, *_rest in surplus]) if surplus else []
+        self.solved = Solved(turned(self._base, aim, [one for one in there if pkgtup_of_row(one) in surplus]))
         return self._solution(self.solved)
 
     def _solution(self, solved: Solved) -> Solution:

@@ -17,6 +17,7 @@ import libdnf5.rpm
 
 from ..apply.messages import Request
 from ..apply.solving import Solved, lists_all, only_doubled, solve
+from ..apply.turning import turn
 from ..backend import PkgTup
 from ..database import point_rpm_at
 from ..errors import YumBaseError
@@ -28,6 +29,7 @@ from . import download, plan
 from .base import Base
 from .display import Display, rpms_lines
 from .failures import in_full
+from .history import records
 from .librarylog import TransactionLog
 from .settings import Settings
 from .signatures import signature_faults
@@ -57,11 +59,11 @@ class Transaction:
         """Where there are removals alone, without repositories, as on the command line: nothing is to come in. Behind
         a transaction that was cut off, the rest of it may have to."""
         incoming, removes = self._request.incoming, self._request.removes
-        with_repositories = bool(incoming)
+        with_repositories = bool(incoming or self._request.past)
         system = self._read(with_repositories)
         names = [one.name for one in removes]
         named = [row for row in system.installed() if row.name in names]
-        if not incoming and only_doubled(named, plan.install_only(system.base, names), removes):
+        if not with_repositories and only_doubled(named, plan.install_only(system.base, names), removes):
             with_repositories = True
             self._system = self._new_system()
             system = self._read(with_repositories)
@@ -115,7 +117,10 @@ class Transaction:
         solver = plan.Solver(self._loaded, self._gone_without)
         try:
             with in_full():
-                solved = solve(solver, self._request.incoming, self._request.removes)
+                for past in self._request.past:
+                    solved = turn(solver, past, records(self._settings))
+                if not self._request.past:
+                    solved = solve(solver, self._request.incoming, self._request.removes)
                 self._solved = solver.solved
                 return solved
         finally:
