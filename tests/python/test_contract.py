@@ -23,6 +23,7 @@ import dnf.conf.config
 import dnf.conf.read
 import dnf.const
 import dnf.crypto
+import dnf.db.history
 import dnf.exceptions
 import dnf.i18n
 import dnf.lock
@@ -34,6 +35,7 @@ import dnf.rpm
 import dnf.rpm.miscutils
 import dnf.sack
 import dnf.transaction
+import dnf.transaction_sr
 import dnf.util
 import dnf.yum.rpmtrans
 import hawkey
@@ -45,6 +47,18 @@ import rpm
 
 NAMES = [
     (dnf.const, "VERSION"),
+    (dnf.db.history.RPMTransactionItemWrapper, "reason"),
+    (dnf.db.history.SwdbInterface, "env"),
+    (dnf.db.history.SwdbInterface, "group"),
+    (dnf.db.history.SwdbInterface, "old"),
+    (dnf.db.history.SwdbInterface, "swdb"),
+    (dnf.transaction_sr, "VERSION"),
+    (dnf.transaction_sr, "TransactionReplayError"),
+    (dnf.transaction_sr, "serialize_transaction"),
+    (dnf.transaction_sr.TransactionReplay, "get_warnings"),
+    (dnf.transaction_sr.TransactionReplay, "post_transaction"),
+    (dnf.transaction_sr.TransactionReplay, "run"),
+    (libdnf.transaction.Swdb, "resolveRPMTransactionItemReason"),
     (dnf.const, "LOG"),
     (dnf.const, "LOG_MARKER"),
     (dnf.const, "LOG_RPM"),
@@ -128,6 +142,7 @@ NAMES = [
     (libdnf.transaction, "TransactionItemAction_DOWNGRADE"),
     (libdnf.transaction, "TransactionItemAction_DOWNGRADED"),
     (libdnf.transaction, "TransactionItemAction_INSTALL"),
+    (libdnf.transaction, "TransactionItemAction_OBSOLETE"),
     (libdnf.transaction, "TransactionItemAction_OBSOLETED"),
     (libdnf.transaction, "TransactionItemAction_REASON_CHANGE"),
     (libdnf.transaction, "TransactionItemAction_REINSTALL"),
@@ -135,7 +150,13 @@ NAMES = [
     (libdnf.transaction, "TransactionItemAction_REMOVE"),
     (libdnf.transaction, "TransactionItemAction_UPGRADE"),
     (libdnf.transaction, "TransactionItemAction_UPGRADED"),
+    (libdnf.transaction, "TransactionItemReasonToString"),
     (libdnf.transaction, "TransactionItemReason_CLEAN"),
+    (libdnf.transaction, "TransactionItemReason_DEPENDENCY"),
+    (libdnf.transaction, "TransactionItemReason_GROUP"),
+    (libdnf.transaction, "TransactionItemReason_USER"),
+    (libdnf.transaction, "TransactionItemReason_WEAK_DEPENDENCY"),
+    (libdnf.transaction, "TransactionItemState_DONE"),
     (libdnf.transaction, "TransactionItemState_ERROR"),
     (rpm, "RPMTAG_BUILDHOST"),
     (rpm, "TransactionSet"),

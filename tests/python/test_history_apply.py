@@ -209,6 +209,27 @@ def test_what_needs_a_package_that_goes_goes_along_and_is_told(
     assert listed == ["app"] and house.installed() == set()
 
 
+def test_a_group_goes_and_comes_with_its_transaction(house: Estate, rpms: Catalogue, program: Program) -> None:
+    comps = (
+        "<comps><group><id>light</id><name>Light</name><uservisible>true</uservisible>"
+        '<packagelist><packagereq type="mandatory">lone</packagereq></packagelist></group></comps>'
+    )
+    shutil.rmtree(house.repos_dir / "base")
+    house.repository("base", rpms.some(*NAMES), comps=comps)
+    do(house, "group install light")
+    whole = program.namespace["YumIO"]().historyOf(1)
+    assert whole["groups"] == [{"id": "light", "name": "Light", "action": "install", "environment": False}]
+    assert whole["counts"] == {"install": 1, "groups": 1}
+    assert program.namespace["YumIO"]().historyList()[0]["counts"] == whole["counts"]
+    program.end()
+    assert done(program, "undo", 1) == []
+    assert house.installed() == set()
+    assert done(program, "undo", 2) == []
+    assert house.installed() == {"lone-1.0-1.noarch"}
+    yumio = program.namespace["YumIO"]()
+    assert [[one["action"] for one in yumio.historyOf(number)["groups"]] for number in (2, 3)] == [["remove"], ["install"]]
+
+
 def test_an_undo_can_be_undone(house: Estate, program: Program) -> None:
     do(house, "install app", "remove app")
     before = reasons(house)

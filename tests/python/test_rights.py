@@ -289,6 +289,26 @@ def test_caches_are_not_cleaned(house: Guests, kind: str) -> None:
 # The lock -------------------------------------------------------------------------------------------
 
 
+def test_history_is_the_systems_and_is_told_without_a_collection(house: Guests, program: Program) -> None:
+    found = program.collect()
+    found.yumio.apply([found.offered("lone")], [], [])
+    program.end()
+    before = system(house.estate)
+    said = house.run(
+        """
+yumio = program.namespace["YumIO"]()
+said["list"] = yumio.historyList()
+said["names"] = [one["name"] for one in yumio.historyOf(1)["packages"]]
+said["found"] = yumio.historySearch("lone")
+said["text"] = yumio.historyExport(0, "text")
+"""
+    )
+    assert [one["counts"] for one in said["list"]] == [{"install": 1}]
+    assert (said["names"], said["found"]) == (["lone"], [1])
+    assert said["text"].startswith("Transaction 1\n")
+    assert system(house.estate) == before
+
+
 def test_two_copies_of_one_user_exclude_each_other(house: Guests, tmp_path: Path) -> None:
     first = house.start(COLLECT)
     said = house.start(COLLECT).said
