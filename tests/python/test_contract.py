@@ -55,7 +55,6 @@ NAMES = [
     (dnf.transaction_sr, "VERSION"),
     (dnf.transaction_sr, "TransactionReplayError"),
     (dnf.transaction_sr, "serialize_transaction"),
-    (dnf.transaction_sr.TransactionReplay, "get_warnings"),
     (dnf.transaction_sr.TransactionReplay, "post_transaction"),
     (dnf.transaction_sr.TransactionReplay, "run"),
     (libdnf.transaction.Swdb, "resolveRPMTransactionItemReason"),

@@ -177,6 +177,25 @@ def test_what_was_changed_since_is_told_and_stays(
     assert house.installed() == {"battery-1.0-1.noarch", "lib-2.0-1.noarch"}
 
 
+def test_what_came_back_in_another_version_since_is_told_and_stays(house: Estate, program: Program) -> None:
+    do(house, "install lib-1.0 lone", "remove lib lone", "install lib-2.0")
+    assert done(program, "undo", 2) == ["lib.noarch has been changed since then: installed is lib-2.0-1.noarch."]
+    assert done(program, "undo", 2, without=True) == []
+    assert house.installed() == {"lib-2.0-1.noarch", "lone-1.0-1.noarch"}
+
+
+def test_what_is_done_once_more_takes_the_place_of_what_came_since(house: Estate, program: Program) -> None:
+    do(house, "install lib-2.0", "reinstall lib", "downgrade lib")
+    assert done(program, "redo", 1) == []
+    assert house.installed() == {"lib-2.0-1.noarch"}
+    if BACKEND == choice.DNF5:
+        # It reinstalls nothing that isn't installed, nor does its command line.
+        return
+    do(house, "remove lib")
+    assert done(program, "redo", 2) == []
+    assert house.installed() == {"lib-2.0-1.noarch"}
+
+
 def test_the_user_is_asked_about_what_comes_of_it_and_may_refuse(
     house: Estate, program: Program, host: FakeHost
 ) -> None:

@@ -14,7 +14,7 @@ from ..errors import YumBaseError
 from ..packages import pkgtup, shown
 from ..texts import _
 from ..transactions import FAILED, INCOMING, OUTGOING, Item, Records
-from .messages import ROLL_BACK, UNDO, Past
+from .messages import REDO, ROLL_BACK, UNDO, Past
 from .solving import NOTHING, Solution, Solved, Solver, told
 
 
@@ -102,7 +102,9 @@ def _aim(turner: Turner, past: Past, numbers: List[int], steps: Sequence[Sequenc
         wanted, leaving = (went, came) if past.kind == UNDO else (came, went)
     several = {name for name, *_rest in turner.install_only(names)} if names else set()
     changed = {}
-    for key in sorted((came | went) - present):
+    # What is done once more takes the place of whatever there is.
+    again = {key[:2] for key in wanted} if past.kind == REDO else set()
+    for key in sorted(one for one in (came | went) - present if one[:2] not in again):
         there = [one for one in present if one[:2] == key[:2] and one not in came | went]
         if there and key[0] not in several:
             versions = ", ".join(map(shown, sorted(there)))

@@ -14,7 +14,7 @@ import hawkey
 import libdnf.transaction as lt
 from dnf.transaction_sr import VERSION, TransactionReplay, TransactionReplayError, serialize_transaction
 
-from ..apply.messages import ROLL_BACK, UNDO, Past
+from ..apply.messages import REDO, ROLL_BACK, UNDO, Past
 from ..apply.turning import Aim, require_unobstructed
 from ..backend import PkgTup
 from ..packages import pkgtup, shown, whole_evr
@@ -46,9 +46,10 @@ def turn(base: Base, aim: Aim) -> None:
     data["rpms"] = [part for part in data.get("rpms", ()) if _is_to_be_done(part, aim)]
     if data.get("groups") or data.get("environments"):
         base.read_comps(arch_filter=True)
+    obstacles: Iterable[str] = ()
     try:
+        # It warns of what isn't as the transaction has left it, which is known.
         replay = _marked(base, data, skip=False)
-        obstacles = replay.get_warnings()
     except TransactionReplayError as error:
         # Marks stay behind a failure.
         base.reset(goal=True)
@@ -106,7 +107,7 @@ def _is_to_be_done(part: Part, aim: Aim) -> bool:
     package = _parsed(part["nevra"])
     if part["action"] in _FORWARD:
         return package not in aim.present and package not in aim.changed
-    return package in aim.present
+    return package in aim.present or (part["action"] == "Reinstall" and aim.past.kind == REDO)
 
 
 def _rolled_back(base: Base, aim: Aim) -> Part:

@@ -17,7 +17,7 @@ from ..errors import YumBaseError
 from ..packages import COMMAND_LINE
 from ..packages import pkgtup as pkgtup_of_row
 from .base import Base
-from .rows import checksum, dependencies, rows
+from .rows import checksum, dependencies, pkgtup, rows
 from .turning import turned
 
 _INCOMING = (
@@ -29,17 +29,6 @@ _INCOMING = (
 """What puts a package into the system, updates first."""
 
 _FILES = "glob:"
-
-
-def pkgtup(package: Any) -> PkgTup:
-    """Of a package that no row has been made of."""
-    return (
-        package.get_name(),
-        package.get_arch(),
-        package.get_epoch(),
-        package.get_version(),
-        package.get_release(),
-    )
 
 
 class Solved:

@@ -13,7 +13,7 @@ from typing import Any, Callable, Collection, Iterable, Iterator, List, Optional
 import libdnf5.rpm
 import libdnf5.transaction
 
-from ..backend import Dependency, Reason
+from ..backend import Dependency, PkgTup, Reason
 from ..packages import dependency
 from ..text import valid
 from .base import Base
@@ -190,6 +190,17 @@ def _each(packages: libdnf5.rpm.PackageSet) -> Iterator[Any]:
     for _number in range(packages.size()):
         yield _value(place)
         _step(place)
+
+
+def pkgtup(package: Any) -> PkgTup:
+    """Of a package that no row has been made of."""
+    return (
+        package.get_name(),
+        package.get_arch(),
+        package.get_epoch(),
+        package.get_version(),
+        package.get_release(),
+    )
 
 
 def dependencies(found: libdnf5.rpm.ReldepList) -> List[Dependency]:

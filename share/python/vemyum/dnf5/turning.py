@@ -3,16 +3,19 @@
 
 from __future__ import annotations
 
-from typing import Any, Sequence
+from typing import Any, Collection, Sequence
 
 import libdnf5.base
+import libdnf5.rpm
 import libdnf5.transaction
 
 from ..apply.messages import REDO, ROLL_BACK, Past
 from ..apply.turning import Aim, require_unobstructed
+from ..backend import PkgTup
 from ..errors import YumBaseError
 from ..text import valid
 from .base import Base
+from .rows import pkgtup
 
 _NO_OBSTACLES = (
     # Of the whole.
@@ -22,6 +25,8 @@ _NO_OBSTACLES = (
     libdnf5.base.GoalProblem_ALREADY_INSTALLED,
     libdnf5.base.GoalProblem_INSTALLED_IN_DIFFERENT_VERSION,
     libdnf5.base.GoalProblem_MERGE_ERROR,
+    libdnf5.base.GoalProblem_NOT_INSTALLED,
+    libdnf5.base.GoalProblem_NOT_INSTALLED_FOR_ARCHITECTURE,
     # What comes along is listed before the question.
     libdnf5.base.GoalProblem_EXTRA,
 )
@@ -29,6 +34,8 @@ _NO_OBSTACLES = (
 
 def turned(base: Base, aim: Aim, surplus: Sequence[Any]) -> Any:
     """The solved transaction, see `apply.turning.Turner`. `surplus` is what goes and leaves no other version behind."""
+    if aim.past.without:
+        _hide(base, aim.changed)
     history = base.library.get_transaction_history()
     chosen = libdnf5.transaction.VectorTransaction()
     # It takes them in the order in which they happened.
@@ -38,7 +45,7 @@ def turned(base: Base, aim: Aim, surplus: Sequence[Any]) -> Any:
     transaction = _goal(aim.past, chosen, False, base).resolve()
     obstacles = [one for one in transaction.get_resolve_logs() if one.get_problem() not in _NO_OBSTACLES]
     require_unobstructed(aim, [valid(one.to_string()) for one in obstacles])
-    without = bool(obstacles)
+    without = aim.past.without
     for erasing in (False, True):
         if transaction.get_problems() != libdnf5.base.GoalProblem_NO_PROBLEM:
             goal = _goal(aim.past, chosen, without, base)
@@ -68,6 +75,18 @@ def _goal(past: Past, chosen: Any, without: bool, base: Base) -> Any:
     else:
         goal.add_revert_transactions(chosen, settings)
     return goal
+
+
+def _hide(base: Base, packages: Collection[PkgTup]) -> None:
+    """Lets these be in no repository, so that nothing comes in where somebody else has changed something."""
+    query = libdnf5.rpm.PackageQuery(base.library)
+    query.filter_available()
+    query.filter_name(sorted({name for name, *_rest in packages}))
+    hidden = libdnf5.rpm.PackageSet(base.library)
+    for package in query:
+        if pkgtup(package) in packages:
+            hidden.add(package)
+    base.library.get_rpm_package_sack().add_user_excludes(hidden)
 
 
 def _keeping_dependencies() -> Any:
