@@ -5,6 +5,7 @@
 #include "engine/WorkThread.h"
 #include "services/YumIODialogs.h"
 
+#include <QDeadlineTimer>
 #include <QEventLoop>
 #include <csignal>
 #include <cstdlib>
@@ -34,11 +35,27 @@ void Jobs::setup(QWidget* dialogParent, HProgressBar* total, HProgressBar* item)
 
 bool Jobs::run(Work const& work)
 {
-    return !running() && runBare([this, &work] {
+    return !running() && runBare(withMeans(work));
+}
+
+bool Jobs::runBriefly(Work const& work, std::function<void()> const& lasts)
+{
+    if (running()) {
+        return false;
+    }
+    QEventLoop loop;
+    WorkThread thread(stop, loop, withMeans(work));
+    exec(loop, thread, lasts);
+    return thread.result;
+}
+
+Jobs::Work Jobs::withMeans(Work const& work)
+{
+    return [this, &work] {
         Means const means(*this);
         Python::PyGILStateWrapper const lock(true);
         return work();
-    });
+    };
 }
 
 bool Jobs::runBare(Work const& work)
@@ -49,7 +66,7 @@ bool Jobs::runBare(Work const& work)
     return thread.result;
 }
 
-void Jobs::exec(QEventLoop& loop, QThread& thread)
+void Jobs::exec(QEventLoop& loop, QThread& thread, std::function<void()> const& lasts)
 {
     // A short job may end before the loop begins, and would be waited for in vain: unlike a call of the loop,
     // a queued signal is not lost then.
@@ -67,7 +84,19 @@ void Jobs::exec(QEventLoop& loop, QThread& thread)
     pthread_sigmask(SIG_BLOCK, &childSignal, &oldMask);
     blocker.release();
 
-    if (loop.exec() > 0) {
+    if (lasts) {
+        constexpr int patience = 100;
+        QDeadlineTimer const patient(patience);
+        while (!thread.isFinished() && !patient.hasExpired()) {
+            loop.processEvents(QEventLoop::ExcludeUserInputEvents);
+            thread.wait(1);
+        }
+        if (!thread.isFinished()) {
+            lasts();
+        }
+    }
+    // What has finished by now may have told so already.
+    if (!(lasts && thread.isFinished()) && loop.exec() > 0) {
         // Only the toolkit gives event loops a status: the display is gone. Older releases of it end the
         // process themselves; newer ones end the loops, and complain at every turn of the one below. A
         // transaction that has begun comes to its end without this process.

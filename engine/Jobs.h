@@ -69,10 +69,14 @@ public:
     /// Runs a job that has its means and the interpreter lock. False at once, with nothing done, where
     /// another job is in progress.
     bool run(Work const& work);
+    /// As `run`, for what takes milliseconds as a rule: nothing of what the user does is served for a tenth
+    /// of a second, so nothing has to be disabled for the job. If it takes longer, `lasts` is called, which
+    /// sees to that, and events are served from then on.
+    bool runBriefly(Work const& work, std::function<void()> const& lasts);
     /// Runs a job that sees to its means and to the lock by itself. The caller knows that no other works.
     bool runBare(Work const& work);
     /// Runs a thread that ends this loop, as `runBare` runs its own.
-    void exec(QEventLoop& loop, QThread& thread);
+    void exec(QEventLoop& loop, QThread& thread, std::function<void()> const& lasts = {});
 
     /// Whether a job is in progress.
     [[nodiscard]] bool running() const { return count > 0; }
@@ -86,6 +90,8 @@ public:
     Blocker blocker;
 
 private:
+    [[nodiscard]] Work withMeans(Work const& work);
+
     Python& python;
     Stop& stop;
     std::unique_ptr<YumIODialogs> ownDialogs; ///< the front for use outside jobs

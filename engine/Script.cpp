@@ -149,6 +149,24 @@ PyRef Script::object(char const* function, Arguments const& arguments, QString c
     return answer;
 }
 
+std::optional<QStringList> Script::texts(char const* function, PyRef const& answer)
+{
+    bool const isList = answer && PyList_Check(answer.get());
+    QStringList found;
+    for (Py_ssize_t at = 0; isList && at < PyList_GET_SIZE(answer.get()); ++at) {
+        PyObject* const text = PyList_GET_ITEM(answer.get(), at);
+        if (!PyUnicode_Check(text)) {
+            break;
+        }
+        found.append(yumIO.pyString(text));
+    }
+    if (!isList || found.size() != PyList_GET_SIZE(answer.get())) {
+        misunderstood(function);
+        return std::nullopt;
+    }
+    return found;
+}
+
 std::optional<QJsonValue> Script::plain(PyObject* object, int depth)
 {
     if (object == Py_None) {

@@ -7,6 +7,7 @@
 #include <QJsonValue>
 #include <QList>
 #include <QString>
+#include <QStringList>
 #include <concepts>
 #include <optional>
 #include <variant>
@@ -65,6 +66,8 @@ public:
     /// For the engine's own: as `call`, with the answer as it is. Empty after a report, and where the script
     /// lacks the function. With the interpreter lock.
     [[nodiscard]] PyRef object(char const* function, Arguments const& arguments, QString const& failure);
+    /// What a function has answered as a list of str. Nothing after a report. With the interpreter lock.
+    [[nodiscard]] std::optional<QStringList> texts(char const* function, PyRef const& answer);
 
 private:
     [[nodiscard]] std::optional<QJsonValue> plain(PyObject* object, int depth);

@@ -300,6 +300,12 @@ bool YumIO::removeOlder()
     return thread.result;
 }
 
+bool YumIO::applyHistory(HistoryWish const& wish, QStringList& obstacles)
+{
+    Stop::Job const stoppable(stop);
+    return jobs.runBare([&] { return applyHistoryReal(wish, obstacles); });
+}
+
 QList<Package::Entry*>::const_iterator YumIO::begin() const
 {
     return entries.constBegin();

@@ -5,6 +5,7 @@
 #include "bridge/Python.h"
 #include "bridge/YumIOHost.h"
 #include "engine/ApplyRun.h"
+#include "engine/HistoryWish.h"
 #include "engine/Jobs.h"
 #include "engine/Package.h"
 #include "engine/PackageFiles.h"
@@ -169,6 +170,10 @@ public:
     [[nodiscard]] QMap<QString, qint64> const& repositoryTimes() const { return readTimes; }
     /// Job: removes the older versions that `unfinished` knows, as `apply` does what is marked.
     bool removeOlder();
+    /// Job: does what is wished of the history, as `apply` does what is marked. `obstacles` gets what cannot
+    /// be done, a sentence for each package or group: nobody was asked then, nothing was done, and the same
+    /// wish `without` does the rest.
+    bool applyHistory(HistoryWish const& wish, QStringList& obstacles);
 
     /// Whether the job in progress has come to where it must not be cut off: rpm works. GUI thread.
     [[nodiscard]] bool transactionRuns() const { return transactionBegun; }
@@ -312,6 +317,13 @@ protected:
     bool collectOtherDataReal();
     bool collectBuildHostReal(Package::Entry const& entry);
     bool applyReal(ApplyOf what);
+    bool applyHistoryReal(HistoryWish const& wish, QStringList& obstacles);
+    /// Applies by this function of the script, called with a tuple that is made under the interpreter lock;
+    /// nothing is called without one. `obstacles` gets the texts that the function answers.
+    bool applyCalling(
+        char const* function, std::function<PyRef()> const& makeArguments, QStringList* obstacles = nullptr);
+    /// The three lists as a tuple; empty after a report.
+    PyRef applyLists(ApplyOf what);
 
     // Collection.
     void startCollectionProgress();

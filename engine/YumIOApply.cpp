@@ -28,9 +28,42 @@ constexpr Steps testSteps = 2000;
 /// Preparing 100, getting ready 1000, the transaction 8000.
 constexpr Steps transactionSteps = 9100;
 
+/// The script's word for it.
+char const* scriptName(HistoryWish::Kind kind)
+{
+    switch (kind) {
+    case HistoryWish::Kind::Undo:
+        return "undo";
+    case HistoryWish::Kind::Redo:
+        return "redo";
+    case HistoryWish::Kind::RollBack:
+        return "rollback";
+    }
+    return "";
+}
+
 } // namespace
 
 bool YumIO::applyReal(ApplyOf what)
+{
+    bool const applied = applyCalling("apply", [this, what] { return applyLists(what); });
+    if (applied && what == ApplyOf::Marks) {
+        closeInstalledFiles();
+    }
+    return applied;
+}
+
+bool YumIO::applyHistoryReal(HistoryWish const& wish, QStringList& obstacles)
+{
+    auto const wished = [&wish] {
+        return PyRef::steal(
+            Py_BuildValue("(s,i,O)", scriptName(wish.kind), wish.number, wish.without ? Py_True : Py_False));
+    };
+    return applyCalling("applyHistory", wished, &obstacles);
+}
+
+bool YumIO::applyCalling(
+    char const* function, std::function<PyRef()> const& makeArguments, QStringList* obstacles)
 {
     jobs.blocker.block();
     Jobs::Means const means(jobs);
@@ -40,13 +73,8 @@ bool YumIO::applyReal(ApplyOf what)
     jobs.progress->startItem(tr("Preparing"), preparingSteps, 1);
 
     run = ApplyRun();
-    PyRef const installs = PyRef::steal(PyList_New(0));
-    PyRef const updates = PyRef::steal(PyList_New(0));
-    PyRef removes = PyRef::steal(PyList_New(0));
-    if (what == ApplyOf::Older) {
-        removes = PyRef::borrow(left.older.get());
-        run.nPkgs = static_cast<unsigned int>(PyList_GET_SIZE(removes.get()));
-    } else if (!collectMarks(installs.get(), updates.get(), removes.get())) {
+    PyRef const arguments = makeArguments();
+    if (!arguments) {
         return false;
     }
     run.pkgActs = run.nPkgs;
@@ -59,8 +87,7 @@ bool YumIO::applyReal(ApplyOf what)
         pyExceptStart();
         pyExceptExpect(baseError);
         pyExceptExpect(PyExc_IOError);
-        PyRef const result =
-            pyMethodCall(yumIO.get(), "apply", "(O,O,O)", installs.get(), updates.get(), removes.get());
+        PyRef const result = pyMethodCall(yumIO.get(), function, "O", arguments.get());
         transactionBegun = false;
         if (Interrupt::transactionEnds()) {
             leaveAfterInterrupt(bool(result));
@@ -75,14 +102,28 @@ bool YumIO::applyReal(ApplyOf what)
             return false;
         }
         pyExceptClear();
+        if (obstacles && result) {
+            *obstacles = script.texts(function, result).value_or(QStringList());
+        }
     }
     pyMethodCall(yumIO.get(), "flush", "()");
     jobs.progress->reset();
     run.updateNames.clear();
-    if (run.applyConfirmed && what == ApplyOf::Marks) {
-        closeInstalledFiles();
-    }
     return run.applyConfirmed;
+}
+
+PyRef YumIO::applyLists(ApplyOf what)
+{
+    PyRef const installs = PyRef::steal(PyList_New(0));
+    PyRef const updates = PyRef::steal(PyList_New(0));
+    PyRef removes = PyRef::steal(PyList_New(0));
+    if (what == ApplyOf::Older) {
+        removes = PyRef::borrow(left.older.get());
+        run.nPkgs = static_cast<unsigned int>(PyList_GET_SIZE(removes.get()));
+    } else if (!collectMarks(installs.get(), updates.get(), removes.get())) {
+        return PyRef();
+    }
+    return PyRef::steal(PyTuple_Pack(3, installs.get(), updates.get(), removes.get()));
 }
 
 bool YumIO::collectMarks(PyObject* installs, PyObject* updates, PyObject* removes)

@@ -14,21 +14,9 @@ void YumIO::collectIncomplete()
     if (!script.has(method)) {
         return;
     }
-    PyRef const answer = script.object(method, {}, QString());
-    QStringList texts;
-    bool const isList = answer && PyList_Check(answer.get());
-    for (Py_ssize_t at = 0; isList && at < PyList_GET_SIZE(answer.get()); ++at) {
-        PyObject* const text = PyList_GET_ITEM(answer.get(), at);
-        if (!PyUnicode_Check(text)) {
-            break;
-        }
-        texts.append(pyString(text));
+    if (PyRef const answer = script.object(method, {}, QString())) {
+        incompleteTexts = script.texts(method, answer).value_or(QStringList());
     }
-    if (!isList || texts.size() != PyList_GET_SIZE(answer.get())) {
-        script.misunderstood(method);
-        return;
-    }
-    incompleteTexts = texts;
 }
 
 void YumIO::collectRepositoryTimes()

@@ -4,7 +4,7 @@
 #include "services/DetailsModel.h"
 #include "services/WrappedText.h"
 #include "widgets/Fonts.h"
-#include "widgets/HTableView.h"
+#include "widgets/ListTable.h"
 #include "widgets/SignLabel.h"
 #include "widgets/Sizing.h"
 
@@ -28,19 +28,6 @@ constexpr int fewestRows = 4;
 constexpr int mostRows = 9;
 constexpr int widestColumn = 44;  ///< characters; the tool tip has all of a longer text
 constexpr int linesOfChanges = 5; ///< at least
-
-class Table final : public HTableView
-{
-public:
-    using HTableView::HTableView;
-
-protected:
-    void focusInEvent(QFocusEvent* event) override
-    {
-        HTableView::focusInEvent(event);
-        selectRowByTab(event);
-    }
-};
 
 } // namespace
 
@@ -143,27 +130,16 @@ QString DetailsPage::totals(TransactionDetails const& transaction) const
 
 void DetailsPage::buildTable()
 {
-    table = new Table(QStyleOptionViewItem::Left, fewestRows, mostRows, this);
+    table = new ListTable(fewestRows, mostRows, this);
     table->setAccessibleName(tr("Details"));
     table->setAccessibleDescription(tr("The packages of the transaction, and why each is part of it"));
-    table->setModel(proxy);
-    table->setShowGrid(false);
-    table->setAlternatingRowColors(true);
-    table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    table->setSelectionMode(QAbstractItemView::SingleSelection);
-    table->setTabKeyNavigation(false);
-    table->setWordWrap(false);
-    table->verticalHeader()->hide();
-    QHeaderView* const header = table->horizontalHeader();
-    header->setStretchLastSection(true);
-    header->setSectionsMovable(true);
     // At first in the order of the transaction, with what wants attention on top.
-    header->setSortIndicator(-1, Qt::AscendingOrder);
-    table->setSortingEnabled(true);
+    table->display(proxy);
+    QHeaderView const* const header = table->horizontalHeader();
     int const widest = Sizing::columns(this, widestColumn);
     for (int column = 0; column < DetailsModel::ColumnCount; ++column) {
         int const wanted = std::max(table->sizeHintForColumn(column), header->sectionSizeHint(column));
-        header->resizeSection(column, std::min(wanted, widest));
+        table->setColumnWidth(column, std::min(wanted, widest));
     }
 }
 

@@ -8,7 +8,7 @@
 
 class DetailsModel;
 class DetailsProxy;
-class HTableView;
+class ListTable;
 class QLayout;
 class QPlainTextEdit;
 class QPushButton;
@@ -46,7 +46,7 @@ private:
 
     DetailsModel* model;
     DetailsProxy* proxy;
-    HTableView* table = nullptr;
+    ListTable* table = nullptr;
     QPushButton* load = nullptr; ///< null where there are no changes to load
     QPlainTextEdit* changesEdit = nullptr;
     QStringList changes;

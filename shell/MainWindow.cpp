@@ -125,6 +125,7 @@ void MainWindow::setReady(bool ready)
     resetAction->setEnabled(ready);
     selectionMenu->setEnabled(ready);
     findAction->setEnabled(ready);
+    allowMatters(ready);
     if (!ready) {
         focusWhenReady = focusWidget();
     }
@@ -197,6 +198,7 @@ void MainWindow::refresh()
         rebuild();
         restore(marks);
     });
+    reloadMatters();
 }
 
 void MainWindow::restore(PackageTable::Marks const& marks)
@@ -248,6 +250,7 @@ void MainWindow::quit()
     if (logWindow) {
         logWindow->close();
     }
+    closeMatters();
     close();
     // The table reads the engine's rows, so it goes first.
     delete tableArea;

@@ -9,6 +9,7 @@
 #include <QMainWindow>
 #include <QPointer>
 #include <QStringList>
+#include <functional>
 
 class Desktop;
 class HMenu;
@@ -21,6 +22,11 @@ class StatusLine;
 class WindowMemory;
 class YumConfIO;
 class YumIO;
+
+namespace History
+{
+class Window;
+}
 
 namespace Log
 {
@@ -72,6 +78,7 @@ public Q_SLOTS:
     void yumConfIOChanged();
     void quit();
     void displayLog();
+    void showHistory();
     void editRepositories(bool forceReposChanged = false);
     void cleanHeaders();
     void cleanPackages();
@@ -163,8 +170,13 @@ private:
     /// Opens the log without giving it the keyboard, where the user wants it to open with each apply.
     void showLogBeside();
     /// Runs a job that applies something, and fills the table anew behind it.
-    template <typename Job>
-    void applying(Job const& job);
+    void applying(std::function<bool()> const& job);
+    /// The windows of the matters that stand beside the table: their entries, what is allowed in them, and
+    /// that the system may be another one than they show.
+    void addMatters(HMenu& menu);
+    void allowMatters(bool ready);
+    void reloadMatters();
+    void closeMatters();
 
     /// What is remembered, by its key in the user's settings.
     static constexpr QLatin1String matchCaseSetting{"table/matchCase"};
@@ -211,5 +223,7 @@ private:
     Desktop* desktop = nullptr;
     WindowMemory* memory = nullptr;
     RepoEditor::Dialog* repoEditorDialog = nullptr; ///< null until first used
-    Log::Window* logWindow = nullptr; ///< null until first used; top-level, deleted with this window
+    QAction* historyAction = nullptr;
+    History::Window* historyWindow = nullptr; ///< null until first used
+    Log::Window* logWindow = nullptr;         ///< null until first used; top-level, deleted with this window
 };

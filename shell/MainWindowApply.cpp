@@ -93,8 +93,7 @@ void MainWindow::apply()
     applying([this] { return yumIO->apply(); });
 }
 
-template <typename Job>
-void MainWindow::applying(Job const& job)
+void MainWindow::applying(std::function<bool()> const& job)
 {
     setReady(false);
     showLogBeside();
@@ -116,6 +115,7 @@ void MainWindow::applying(Job const& job)
         rebuild();
     }
     setReady(true);
+    reloadMatters();
 }
 
 void MainWindow::tellCollected()

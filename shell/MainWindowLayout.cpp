@@ -74,6 +74,8 @@ void MainWindow::createMenuBar()
         UserSettings::setValue(logWithApplySetting, wanted);
     });
     windowsMenu->addSeparator();
+    addMatters(*windowsMenu);
+    windowsMenu->addSeparator();
     resetAction = addEntry(windowsMenu, tr("&Reset Window"), &MainWindow::reset);
 
     repositoriesMenu = addMenu(tr("&Repositories"));

@@ -20,7 +20,8 @@ EDGES: dict[str, set[str]] = {
     "engine": {"base", "bridge", "services"},
     "repo": {"base", "widgets", "engine"},
     "packagetable": {"base", "widgets", "engine", "repo"},
-    "shell": {"base", "widgets", "bridge", "services", "engine", "repo", "packagetable"},
+    "history": {"base", "widgets", "services", "engine"},
+    "shell": {"base", "widgets", "bridge", "services", "engine", "repo", "packagetable", "history"},
 }
 INCLUDE = re.compile(r'^\s*#\s*include\s+["<]([a-z]+)/', re.MULTILINE)
 PYTHON_API = re.compile(r'^\s*#\s*include\s+["<](Python\.h|bridge/PythonApi\.h)[">]', re.MULTILINE)

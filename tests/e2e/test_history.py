@@ -1,0 +1,84 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
+"""The history: what was done is told, searched, written into a file, and taken back."""
+from __future__ import annotations
+
+import json
+from pathlib import Path
+from typing import Callable
+
+from program import Atspi, Program, has_state, wait_for
+from rpmestate import Estate
+
+Start = Callable[..., Program]
+
+
+def apply_marks(program: Program) -> None:
+    program.press("Apply Actions")
+    confirm(program)
+
+
+def confirm(program: Program) -> str:
+    question = program.window("Apply")
+    text = program.texts(question)
+    program.press("OK", question)
+    program.wait_closed("Apply")
+    program.wait_ready()
+    return text
+
+
+def rows_of(program: Program, name: str) -> list[list[str]]:
+    """The cells of a table of the history's window, a list for each row."""
+    table = program.wait(name, Atspi.Role.TABLE, inside=program.window("History"))
+    cells = [
+        [table.get_accessible_at(row, column) for column in range(table.get_n_columns())]
+        for row in range(table.get_n_rows())
+    ]
+    # A table that is filled meanwhile lacks some.
+    return [[cell.get_name() for cell in row] for row in cells if all(row)]
+
+
+def numbers(program: Program) -> list[str]:
+    return [row[0] for row in rows_of(program, "History")]
+
+
+def changes(program: Program) -> set[tuple[str, str, str]]:
+    return {(action, name, version) for action, name, version, *_ in rows_of(program, "Packages")}
+
+
+def test_transaction_is_told_searched_exported_and_undone(site: Estate, start: Start, tmp_path: Path) -> None:
+    program = start(site)
+    program.wait_ready()
+    program.press("Set Update of All Out-of-Date")
+    apply_marks(program)
+    program.choose("View Installable")
+    program.click_cell("fleet-wick", 2)
+    program.press("Set Install/Update of Selected")
+    apply_marks(program)
+    before = site.installed()
+
+    program.key("ctrl+h")
+    history = program.window("History")
+    wait_for(lambda: numbers(program) == ["2", "1"], "both transactions, the latest first")
+    wait_for(lambda: ("Installed", "fleet-oil", "1.0-1") in changes(program), "the latest one in full")
+    assert changes(program) == {("Installed", "fleet-wick", "1.0-1"), ("Installed", "fleet-oil", "1.0-1")}
+    assert "Transaction 2: Done" in program.texts(history)
+    program.shot("history")
+
+    # The arrow goes to the one before.
+    program.key("Down")
+    wait_for(lambda: changes(program) == {("Updated", "fleet-lamp", "1.0-1 \u2192 1.1-1")}, "the first one in full")
+    search = program.wait("Package:", Atspi.Role.TEXT, inside=history)
+    program.click(search)
+    program.type_text("oil")
+    wait_for(lambda: numbers(program) == ["2"], "the transaction with the package")
+    program.key("ctrl+a", "Delete")
+    wait_for(lambda: numbers(program) == ["2", "1"], "all transactions again")
+
+    # To go back behind nothing is no change.
+    roll_back = program.wait("Roll Back To Here", Atspi.Role.PUSH_BUTTON, inside=history)
+    assert not has_state(roll_back, Atspi.StateType.ENABLED)
+    program.press("Undo This", history)
+    assert "Remove: fleet-wick" in confirm(program)
+    wait_for(lambda: numbers(program) == ["3", "2", "1"], "the undoing itself in the history")
+    assert site.installed() == before - {"fleet-wick-1.0-1.noarch", "fleet-oil-1.0-1.noarch"}
+    program.shot("history-undone")
