@@ -40,74 +40,73 @@ bool Records::exports() const
     return yumIO->script.has(exportFunction);
 }
 
-template <typename Call>
-std::optional<QJsonValue> Records::read(Call const& call)
+template <typename Take>
+bool Records::read(
+    char const* function, Script::Arguments const& arguments, QJsonValue::Type type, Take const& take)
 {
-    std::optional<QJsonValue> answer;
     bool lasted = false;
     auto const work = [&] {
-        answer = call(tr("Unable to read the history of transactions"));
+        auto const answer =
+            yumIO->script.call(function, arguments, tr("Unable to read the history of transactions"));
+        if (answer && answer->type() != type) {
+            yumIO->script.misunderstood(function);
+            return false;
+        }
+        if (answer) {
+            take(*answer);
+        }
         return answer.has_value();
     };
     auto const lasts = [&] {
         lasted = true;
         Q_EMIT busy(true);
     };
-    yumIO->jobs.runBriefly(work, lasts);
+    bool const read = yumIO->jobs.runBriefly(work, lasts);
     if (lasted) {
         Q_EMIT busy(false);
     }
-    return answer;
+    return read;
 }
 
 std::optional<QList<Transaction>> Records::all()
 {
-    // Thousands of transactions become values on the worker.
     QList<Transaction> transactions;
-    auto const answer = read([&](QString const& failure) {
-        std::optional<QJsonValue> told = yumIO->script.call(listFunction, {}, failure);
-        for (QJsonValue const transaction : told ? told->toArray() : QJsonArray()) {
+    bool const told = read(listFunction, {}, QJsonValue::Array, [&](QJsonValue const& answer) {
+        for (QJsonValue const transaction : answer.toArray()) {
             transactions.append(transactionOf(transaction.toObject()));
         }
-        return told;
     });
-    return answer ? std::optional(transactions) : std::nullopt;
+    return told ? std::optional(transactions) : std::nullopt;
 }
 
 std::optional<Whole> Records::whole(int number)
 {
     Whole found;
-    auto const answer = read([&](QString const& failure) {
-        std::optional<QJsonValue> told = yumIO->script.call(wholeFunction, {number}, failure);
-        if (told) {
-            found = wholeOf(told->toObject());
-        }
-        return told;
+    bool const told = read(wholeFunction, {number}, QJsonValue::Object, [&](QJsonValue const& answer) {
+        found = wholeOf(answer.toObject());
     });
-    return answer ? std::optional(found) : std::nullopt;
+    return told ? std::optional(found) : std::nullopt;
 }
 
 std::optional<QList<int>> Records::concerning(QString const& text)
 {
-    auto const answer =
-        read([&](QString const& failure) { return yumIO->script.call(searchFunction, {text}, failure); });
-    if (!answer) {
-        return std::nullopt;
-    }
     QList<int> numbers;
-    for (QJsonValue const number : answer->toArray()) {
-        numbers.append(number.toInt());
-    }
-    return numbers;
+    bool const told = read(searchFunction, {text}, QJsonValue::Array, [&](QJsonValue const& answer) {
+        for (QJsonValue const number : answer.toArray()) {
+            numbers.append(number.toInt());
+        }
+    });
+    return told ? std::optional(numbers) : std::nullopt;
 }
 
 std::optional<QString> Records::exported(int number, bool asJson)
 {
+    QString text;
     QLatin1String const form(asJson ? "json" : "text");
-    auto const answer = read([&](QString const& failure) {
-        return yumIO->script.call(exportFunction, {number, form}, failure);
+    bool const told = read(exportFunction, {number, form}, QJsonValue::String, [&](QJsonValue const& answer) {
+        text = answer.toString();
     });
-    return answer ? std::optional(answer->toString()) : std::nullopt;
+    return told ? std::optional(text) : std::nullopt;
 }
 
 } // namespace History

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "engine/Script.h"
 #include "history/HistoryTransaction.h"
 
+#include <QJsonValue>
 #include <QObject>
 #include <optional>
 
-class QJsonValue;
 class YumIO;
 
 namespace History
@@ -40,8 +41,10 @@ Q_SIGNALS:
     void busy(bool begins);
 
 private:
-    template <typename Call>
-    [[nodiscard]] std::optional<QJsonValue> read(Call const& call);
+    /// Calls the function; `take` gets what it has answered, of that type, on the worker.
+    template <typename Take>
+    [[nodiscard]] bool read(
+        char const* function, Script::Arguments const& arguments, QJsonValue::Type type, Take const& take);
 
     YumIO* yumIO;
 };

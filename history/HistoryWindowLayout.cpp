@@ -30,8 +30,8 @@ constexpr int mostPackageRows = 8;
 constexpr int searchWidth = 24; ///< characters
 
 // Widths in characters, at least those of the headings: to look at thousands of rows for them takes long.
-constexpr int historyWidths[Model::ColumnCount] = {7, 21, 14, 12, 30, 40, 12};
-constexpr int packageWidths[PackagesModel::ColumnCount] = {14, 28, 32, 12, 18, 18};
+constexpr int historyWidths[Model::ColumnCount] = {7, 20, 9, 9, 24, 18, 12};
+constexpr int packageWidths[PackagesModel::ColumnCount] = {13, 26, 28, 12, 14, 12};
 
 template <std::size_t count>
 void setWidths(ListTable& table, int const (&widths)[count])
