@@ -12,7 +12,6 @@
 #include <QEvent>
 #include <QFileDialog>
 #include <QItemSelectionModel>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPlainTextEdit>
@@ -98,6 +97,9 @@ void Window::takeLooks()
 {
     model->setLooks(font(), style()->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, this));
     packagesModel->setFont(font());
+    constexpr int lines = 5;
+    int const around = 2 * (headEdit->frameWidth() + qRound(headEdit->document()->documentMargin()));
+    headEdit->setFixedHeight(lines * headEdit->fontMetrics().lineSpacing() + around);
 }
 
 void Window::reload()
@@ -174,7 +176,7 @@ void Window::showHead(Whole const& whole)
 {
     Transaction const& head = whole.head;
     if (head.number == 0) {
-        headLabel->setText(
+        headEdit->setPlainText(
             model->rowCount() == 0 ? tr("No transaction is known.") : tr("No transaction fits the search."));
         return;
     }
@@ -191,7 +193,7 @@ void Window::showHead(Whole const& whole)
             lines.append(name.arg(value));
         }
     }
-    headLabel->setText(lines.join(QLatin1Char('\n')));
+    headEdit->setPlainText(lines.join(QLatin1Char('\n')));
 }
 
 void Window::showOutput(Whole const& whole)
@@ -238,6 +240,10 @@ void Window::wish(HistoryWish::Kind kind)
         wished.without = true;
         return !obstacles.isEmpty() && goesOnWithout(obstacles) && yumIO->applyHistory(wished, obstacles);
     });
+    // The keyboard comes back from the questions to the main window, whose they are.
+    if (isVisible()) {
+        activateWindow();
+    }
 }
 
 bool Window::goesOnWithout(QStringList const& obstacles)

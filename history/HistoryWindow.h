@@ -10,7 +10,6 @@
 
 class ListTable;
 class QHBoxLayout;
-class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
 class QPushButton;
@@ -89,7 +88,7 @@ private:
     PackagesModel* packagesModel;
     QLineEdit* searchEdit = nullptr;
     ListTable* table = nullptr;
-    QLabel* headLabel = nullptr;
+    QPlainTextEdit* headEdit = nullptr;
     QTabWidget* pages = nullptr;
     ListTable* packagesTable = nullptr;
     QPlainTextEdit* outputEdit = nullptr;

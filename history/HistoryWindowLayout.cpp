@@ -92,12 +92,13 @@ QWidget* Window::createDetails()
     auto* const details = new QWidget(this);
     auto* const rows = new QVBoxLayout(details);
     rows->setContentsMargins(0, 0, 0, 0);
-    headLabel = new QLabel(details);
-    headLabel->setTextFormat(Qt::PlainText);
-    headLabel->setWordWrap(true);
-    headLabel->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    headLabel->setAccessibleDescription(tr("The chosen transaction"));
-    rows->addWidget(headLabel);
+    // A command line may be as long as a list of packages.
+    headEdit = new QPlainTextEdit(details);
+    headEdit->setReadOnly(true);
+    headEdit->setTabChangesFocus(true);
+    headEdit->setAccessibleName(tr("Transaction"));
+    headEdit->setAccessibleDescription(tr("The chosen transaction"));
+    rows->addWidget(headEdit);
 
     pages = new QTabWidget(details);
     packagesTable = new ListTable(fewestRows, mostPackageRows, pages);

@@ -333,6 +333,387 @@
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>Done</source>
+        <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>Läuft</translation>
+    </message>
+    <message>
+        <source>Cut off</source>
+        <translation>Abgebrochen</translation>
+    </message>
+    <message>
+        <source>Installed</source>
+        <translation>Installiert</translation>
+    </message>
+    <message>
+        <source>Updated</source>
+        <translation>Aktualisiert</translation>
+    </message>
+    <message>
+        <source>Downgraded</source>
+        <translation>Zurückgestuft</translation>
+    </message>
+    <message>
+        <source>Reinstalled</source>
+        <translation>Neu installiert</translation>
+    </message>
+    <message>
+        <source>Removed</source>
+        <translation>Entfernt</translation>
+    </message>
+    <message>
+        <source>Obsoleted</source>
+        <translation>Ersetzt durch andere</translation>
+    </message>
+    <message>
+        <source>Reason changed</source>
+        <translation>Grund geändert</translation>
+    </message>
+    <message>
+        <source>Replaced</source>
+        <translation>Ersetzt</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Geändert</translation>
+    </message>
+    <message>
+        <source>user</source>
+        <translation>Benutzer</translation>
+    </message>
+    <message>
+        <source>group</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message>
+        <source>dependency</source>
+        <translation>Abhängigkeit</translation>
+    </message>
+    <message>
+        <source>weak dependency</source>
+        <translation>schwache Abhängigkeit</translation>
+    </message>
+    <message>
+        <source>no longer needed</source>
+        <translation>nicht mehr benötigt</translation>
+    </message>
+    <message>
+        <source>another program</source>
+        <translation>ein anderes Programm</translation>
+    </message>
+    <message>
+        <source>Groups: %1</source>
+        <translation>Gruppen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>History::Model</name>
+    <message>
+        <source>Number of the transaction, as the package library counts</source>
+        <translation>Nummer der Transaktion, wie die Paketbibliothek zählt</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Nummer</translation>
+    </message>
+    <message>
+        <source>When the transaction began</source>
+        <translation>Wann die Transaktion begann</translation>
+    </message>
+    <message>
+        <source>Begin</source>
+        <translation>Beginn</translation>
+    </message>
+    <message>
+        <source>Who had logged in</source>
+        <translation>Wer angemeldet war</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Benutzer</translation>
+    </message>
+    <message>
+        <source>What came of the transaction</source>
+        <translation>Was aus der Transaktion wurde</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>What was done to how many packages and groups</source>
+        <translation>Was mit wie vielen Paketen und Gruppen geschah</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Änderungen</translation>
+    </message>
+    <message>
+        <source>Command line of the program that did it</source>
+        <translation>Befehlszeile des Programms, das es tat</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Befehl</translation>
+    </message>
+    <message>
+        <source>What the user has noted</source>
+        <translation>Was der Benutzer vermerkt hat</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Kommentar</translation>
+    </message>
+</context>
+<context>
+    <name>History::PackagesModel</name>
+    <message>
+        <source>%1: failed</source>
+        <translation>%1: fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Group %1</source>
+        <translation>Gruppe %1</translation>
+    </message>
+    <message>
+        <source>What was done to the package</source>
+        <translation>Was mit dem Paket geschah</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Änderung</translation>
+    </message>
+    <message>
+        <source>Name of the package</source>
+        <translation>Name des Pakets</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Version before, and the version that took its place</source>
+        <translation>Version davor, und die Version, die an ihre Stelle trat</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>Architecture of the package</source>
+        <translation>Architektur des Pakets</translation>
+    </message>
+    <message>
+        <source>Architecture</source>
+        <translation>Architektur</translation>
+    </message>
+    <message>
+        <source>Where the package came from</source>
+        <translation>Woher das Paket kam</translation>
+    </message>
+    <message>
+        <source>Repository</source>
+        <translation>Repository</translation>
+    </message>
+    <message>
+        <source>Why the package was installed</source>
+        <translation>Warum das Paket installiert war</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Grund</translation>
+    </message>
+</context>
+<context>
+    <name>History::Records</name>
+    <message>
+        <source>Unable to read the history of transactions</source>
+        <translation>Der Verlauf der Transaktionen kann nicht gelesen werden</translation>
+    </message>
+</context>
+<context>
+    <name>History::Window</name>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>No transaction is known.</source>
+        <translation>Es ist keine Transaktion bekannt.</translation>
+    </message>
+    <message>
+        <source>No transaction fits the search.</source>
+        <translation>Keine Transaktion passt zur Suche.</translation>
+    </message>
+    <message>
+        <source>Transaction %1: %2</source>
+        <translation>Transaktion %1: %2</translation>
+    </message>
+    <message>
+        <source>Begun: %1</source>
+        <translation>Begonnen: %1</translation>
+    </message>
+    <message>
+        <source>From %1 to %2</source>
+        <translation>Von %1 bis %2</translation>
+    </message>
+    <message>
+        <source>User: %1</source>
+        <translation>Benutzer: %1</translation>
+    </message>
+    <message>
+        <source>Command: %1</source>
+        <translation>Befehl: %1</translation>
+    </message>
+    <message>
+        <source>Comment: %1</source>
+        <translation>Kommentar: %1</translation>
+    </message>
+    <message>
+        <source>The scripts of the packages wrote nothing.</source>
+        <translation>Die Skripte der Pakete haben nichts ausgegeben.</translation>
+    </message>
+    <message>
+        <source>The package library doesn&apos;t keep what scripts of packages write.</source>
+        <translation>Die Paketbibliothek bewahrt nicht auf, was Skripte von Paketen ausgeben.</translation>
+    </message>
+    <message>
+        <source>The helper script in use is too old for changes by the history</source>
+        <translation>Das verwendete Hilfsskript ist zu alt für Änderungen nach dem Verlauf</translation>
+    </message>
+    <message>
+        <source>Do the opposite of the chosen transaction</source>
+        <translation>Das Gegenteil der gewählten Transaktion tun</translation>
+    </message>
+    <message>
+        <source>Do the chosen transaction once more</source>
+        <translation>Die gewählte Transaktion noch einmal ausführen</translation>
+    </message>
+    <message>
+        <source>Undo all transactions behind the chosen one</source>
+        <translation>Alle Transaktionen nach der gewählten rückgängig machen</translation>
+    </message>
+    <message>
+        <source>Not all of it can be done:</source>
+        <translation>Nicht alles davon ist möglich:</translation>
+    </message>
+    <message>
+        <source>Go on with the rest? What exactly is done is shown before, and asked once more.</source>
+        <translation>Mit dem Rest fortfahren? Was genau getan wird, wird vorher gezeigt und noch einmal gefragt.</translation>
+    </message>
+    <message>
+        <source>Text (*.txt)</source>
+        <translation>Text (*.txt)</translation>
+    </message>
+    <message>
+        <source>JSON (*.json)</source>
+        <translation>JSON (*.json)</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportieren</translation>
+    </message>
+    <message>
+        <source>Unable to write %1: %2</source>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>All transactions, the latest first</source>
+        <translation>Alle Transaktionen, die letzte zuerst</translation>
+    </message>
+    <message>
+        <source>part of a name, or a pattern such as kernel*</source>
+        <translation>Teil eines Namens oder ein Muster wie kernel*</translation>
+    </message>
+    <message>
+        <source>Shows only the transactions about packages whose name, version and
+architecture hold this text or, with * or ?, match it</source>
+        <translation>Zeigt nur die Transaktionen mit Paketen, deren Name, Version und
+Architektur diesen Text enthalten oder, mit * oder ?, zu ihm passen</translation>
+    </message>
+    <message>
+        <source>Pac&amp;kage:</source>
+        <translation>Pa&amp;ket:</translation>
+    </message>
+    <message>
+        <source>The chosen transaction</source>
+        <translation>Die gewählte Transaktion</translation>
+    </message>
+    <message>
+        <source>Packages</source>
+        <translation>Pakete</translation>
+    </message>
+    <message>
+        <source>What the chosen transaction did</source>
+        <translation>Was die gewählte Transaktion tat</translation>
+    </message>
+    <message>
+        <source>Script Output</source>
+        <translation>Skriptausgabe</translation>
+    </message>
+    <message>
+        <source>What scripts of the packages wrote during the transaction</source>
+        <translation>Was Skripte der Pakete während der Transaktion ausgegeben haben</translation>
+    </message>
+    <message>
+        <source>&amp;Packages</source>
+        <translation>&amp;Pakete</translation>
+    </message>
+    <message>
+        <source>&amp;Script Output</source>
+        <translation>&amp;Skriptausgabe</translation>
+    </message>
+    <message>
+        <source>&amp;Undo This</source>
+        <translation>&amp;Rückgängig machen</translation>
+    </message>
+    <message>
+        <source>&amp;Roll Back To Here</source>
+        <translation>&amp;Bis hierher zurück</translation>
+    </message>
+    <message>
+        <source>Re&amp;do</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>&amp;This Transaction...</source>
+        <translation>&amp;Diese Transaktion...</translation>
+    </message>
+    <message>
+        <source>&amp;All Transactions...</source>
+        <translation>&amp;Alle Transaktionen...</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>&amp;Exportieren</translation>
+    </message>
+    <message>
+        <source>Write transactions into a file, as text or JSON</source>
+        <translation>Transaktionen als Text oder JSON in eine Datei schreiben</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>Close the history</source>
+        <translation>Den Verlauf schließen</translation>
+    </message>
+    <message>
+        <source>Transaction</source>
+        <translation>Transaktion</translation>
+    </message>
+</context>
+<context>
     <name>KeyDialog</name>
     <message>
         <source>Import Key</source>
@@ -853,6 +1234,22 @@ Das wird zu Ende geführt, und das Programm endet danach.</translation>
     <message>
         <source>Open Log With Each &amp;Apply</source>
         <translation>Protokoll bei jedem &amp;Anwenden öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;History</source>
+        <translation>&amp;Verlauf</translation>
+    </message>
+    <message>
+        <source>Ctrl+H</source>
+        <translation>Ctrl+H</translation>
+    </message>
+    <message>
+        <source>Shows what was installed, updated and removed, and takes it back</source>
+        <translation>Zeigt, was installiert, aktualisiert und entfernt wurde, und macht es rückgängig</translation>
+    </message>
+    <message>
+        <source>The helper script in use is too old to tell the history</source>
+        <translation>Das verwendete Hilfsskript ist zu alt, um den Verlauf zu nennen</translation>
     </message>
 </context>
 <context>
@@ -1495,10 +1892,6 @@ In mehr als einer Version installiert: %1</translation>
     <message>
         <source>Unable to read what is told of other packages</source>
         <translation>Was über andere Pakete gesagt wird, kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>Internal error: execution of yumIO.%1 failed</source>
-        <translation>Interner Fehler: Ausführung von yumIO.%1 fehlgeschlagen</translation>
     </message>
 </context>
 <context>

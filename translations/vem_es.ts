@@ -333,6 +333,387 @@
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>Done</source>
+        <translation>Hecha</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Fallida</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>En curso</translation>
+    </message>
+    <message>
+        <source>Cut off</source>
+        <translation>Interrumpida</translation>
+    </message>
+    <message>
+        <source>Installed</source>
+        <translation>Instalado</translation>
+    </message>
+    <message>
+        <source>Updated</source>
+        <translation>Actualizado</translation>
+    </message>
+    <message>
+        <source>Downgraded</source>
+        <translation>Degradado</translation>
+    </message>
+    <message>
+        <source>Reinstalled</source>
+        <translation>Reinstalado</translation>
+    </message>
+    <message>
+        <source>Removed</source>
+        <translation>Eliminado</translation>
+    </message>
+    <message>
+        <source>Obsoleted</source>
+        <translation>Obsoleto</translation>
+    </message>
+    <message>
+        <source>Reason changed</source>
+        <translation>Motivo cambiado</translation>
+    </message>
+    <message>
+        <source>Replaced</source>
+        <translation>Sustituido</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Cambiado</translation>
+    </message>
+    <message>
+        <source>user</source>
+        <translation>usuario</translation>
+    </message>
+    <message>
+        <source>group</source>
+        <translation>grupo</translation>
+    </message>
+    <message>
+        <source>dependency</source>
+        <translation>dependencia</translation>
+    </message>
+    <message>
+        <source>weak dependency</source>
+        <translation>dependencia débil</translation>
+    </message>
+    <message>
+        <source>no longer needed</source>
+        <translation>ya no hace falta</translation>
+    </message>
+    <message>
+        <source>another program</source>
+        <translation>otro programa</translation>
+    </message>
+    <message>
+        <source>Groups: %1</source>
+        <translation>Grupos: %1</translation>
+    </message>
+</context>
+<context>
+    <name>History::Model</name>
+    <message>
+        <source>Number of the transaction, as the package library counts</source>
+        <translation>Número de la transacción, según cuenta la biblioteca de paquetes</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Número</translation>
+    </message>
+    <message>
+        <source>When the transaction began</source>
+        <translation>Cuándo empezó la transacción</translation>
+    </message>
+    <message>
+        <source>Begin</source>
+        <translation>Inicio</translation>
+    </message>
+    <message>
+        <source>Who had logged in</source>
+        <translation>Quién había iniciado la sesión</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Usuario</translation>
+    </message>
+    <message>
+        <source>What came of the transaction</source>
+        <translation>En qué quedó la transacción</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Resultado</translation>
+    </message>
+    <message>
+        <source>What was done to how many packages and groups</source>
+        <translation>Qué se hizo con cuántos paquetes y grupos</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Cambios</translation>
+    </message>
+    <message>
+        <source>Command line of the program that did it</source>
+        <translation>Línea de órdenes del programa que lo hizo</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Orden</translation>
+    </message>
+    <message>
+        <source>What the user has noted</source>
+        <translation>Lo que anotó el usuario</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Comentario</translation>
+    </message>
+</context>
+<context>
+    <name>History::PackagesModel</name>
+    <message>
+        <source>%1: failed</source>
+        <translation>%1: falló</translation>
+    </message>
+    <message>
+        <source>Group %1</source>
+        <translation>Grupo %1</translation>
+    </message>
+    <message>
+        <source>What was done to the package</source>
+        <translation>Qué se hizo con el paquete</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Cambio</translation>
+    </message>
+    <message>
+        <source>Name of the package</source>
+        <translation>Nombre del paquete</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Version before, and the version that took its place</source>
+        <translation>Versión anterior, y la versión que ocupó su lugar</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Versión</translation>
+    </message>
+    <message>
+        <source>Architecture of the package</source>
+        <translation>Arquitectura del paquete</translation>
+    </message>
+    <message>
+        <source>Architecture</source>
+        <translation>Arquitectura</translation>
+    </message>
+    <message>
+        <source>Where the package came from</source>
+        <translation>De dónde vino el paquete</translation>
+    </message>
+    <message>
+        <source>Repository</source>
+        <translation>Repositorio</translation>
+    </message>
+    <message>
+        <source>Why the package was installed</source>
+        <translation>Por qué estaba instalado el paquete</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Motivo</translation>
+    </message>
+</context>
+<context>
+    <name>History::Records</name>
+    <message>
+        <source>Unable to read the history of transactions</source>
+        <translation>No se puede leer el historial de transacciones</translation>
+    </message>
+</context>
+<context>
+    <name>History::Window</name>
+    <message>
+        <source>History</source>
+        <translation>Historial</translation>
+    </message>
+    <message>
+        <source>No transaction is known.</source>
+        <translation>No se conoce ninguna transacción.</translation>
+    </message>
+    <message>
+        <source>No transaction fits the search.</source>
+        <translation>Ninguna transacción encaja con la búsqueda.</translation>
+    </message>
+    <message>
+        <source>Transaction %1: %2</source>
+        <translation>Transacción %1: %2</translation>
+    </message>
+    <message>
+        <source>Begun: %1</source>
+        <translation>Empezada: %1</translation>
+    </message>
+    <message>
+        <source>From %1 to %2</source>
+        <translation>De %1 a %2</translation>
+    </message>
+    <message>
+        <source>User: %1</source>
+        <translation>Usuario: %1</translation>
+    </message>
+    <message>
+        <source>Command: %1</source>
+        <translation>Orden: %1</translation>
+    </message>
+    <message>
+        <source>Comment: %1</source>
+        <translation>Comentario: %1</translation>
+    </message>
+    <message>
+        <source>The scripts of the packages wrote nothing.</source>
+        <translation>Los guiones de los paquetes no escribieron nada.</translation>
+    </message>
+    <message>
+        <source>The package library doesn&apos;t keep what scripts of packages write.</source>
+        <translation>La biblioteca de paquetes no guarda lo que escriben los guiones de los paquetes.</translation>
+    </message>
+    <message>
+        <source>The helper script in use is too old for changes by the history</source>
+        <translation>El guion auxiliar en uso es demasiado antiguo para hacer cambios según el historial</translation>
+    </message>
+    <message>
+        <source>Do the opposite of the chosen transaction</source>
+        <translation>Hacer lo contrario de la transacción elegida</translation>
+    </message>
+    <message>
+        <source>Do the chosen transaction once more</source>
+        <translation>Hacer otra vez la transacción elegida</translation>
+    </message>
+    <message>
+        <source>Undo all transactions behind the chosen one</source>
+        <translation>Deshacer todas las transacciones posteriores a la elegida</translation>
+    </message>
+    <message>
+        <source>Not all of it can be done:</source>
+        <translation>No todo se puede hacer:</translation>
+    </message>
+    <message>
+        <source>Go on with the rest? What exactly is done is shown before, and asked once more.</source>
+        <translation>¿Seguir con el resto? Antes se muestra qué se hace exactamente y se pregunta otra vez.</translation>
+    </message>
+    <message>
+        <source>Text (*.txt)</source>
+        <translation>Texto (*.txt)</translation>
+    </message>
+    <message>
+        <source>JSON (*.json)</source>
+        <translation>JSON (*.json)</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportar</translation>
+    </message>
+    <message>
+        <source>Unable to write %1: %2</source>
+        <translation>No se puede escribir %1: %2</translation>
+    </message>
+    <message>
+        <source>All transactions, the latest first</source>
+        <translation>Todas las transacciones, la última primero</translation>
+    </message>
+    <message>
+        <source>part of a name, or a pattern such as kernel*</source>
+        <translation>parte de un nombre, o un patrón como kernel*</translation>
+    </message>
+    <message>
+        <source>Shows only the transactions about packages whose name, version and
+architecture hold this text or, with * or ?, match it</source>
+        <translation>Muestra solo las transacciones de paquetes cuyo nombre, versión y
+arquitectura contienen este texto o, con * o ?, encajan con él</translation>
+    </message>
+    <message>
+        <source>Pac&amp;kage:</source>
+        <translation>Pa&amp;quete:</translation>
+    </message>
+    <message>
+        <source>The chosen transaction</source>
+        <translation>La transacción elegida</translation>
+    </message>
+    <message>
+        <source>Packages</source>
+        <translation>Paquetes</translation>
+    </message>
+    <message>
+        <source>What the chosen transaction did</source>
+        <translation>Qué hizo la transacción elegida</translation>
+    </message>
+    <message>
+        <source>Script Output</source>
+        <translation>Salida de guiones</translation>
+    </message>
+    <message>
+        <source>What scripts of the packages wrote during the transaction</source>
+        <translation>Qué escribieron los guiones de los paquetes durante la transacción</translation>
+    </message>
+    <message>
+        <source>&amp;Packages</source>
+        <translation>&amp;Paquetes</translation>
+    </message>
+    <message>
+        <source>&amp;Script Output</source>
+        <translation>&amp;Salida de guiones</translation>
+    </message>
+    <message>
+        <source>&amp;Undo This</source>
+        <translation>&amp;Deshacer esta</translation>
+    </message>
+    <message>
+        <source>&amp;Roll Back To Here</source>
+        <translation>&amp;Volver hasta aquí</translation>
+    </message>
+    <message>
+        <source>Re&amp;do</source>
+        <translation>&amp;Rehacer</translation>
+    </message>
+    <message>
+        <source>&amp;This Transaction...</source>
+        <translation>&amp;Esta transacción...</translation>
+    </message>
+    <message>
+        <source>&amp;All Transactions...</source>
+        <translation>&amp;Todas las transacciones...</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>&amp;Exportar</translation>
+    </message>
+    <message>
+        <source>Write transactions into a file, as text or JSON</source>
+        <translation>Escribir transacciones en un archivo, como texto o JSON</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+    <message>
+        <source>Close the history</source>
+        <translation>Cerrar el historial</translation>
+    </message>
+    <message>
+        <source>Transaction</source>
+        <translation>Transacción</translation>
+    </message>
+</context>
+<context>
     <name>KeyDialog</name>
     <message>
         <source>Import Key</source>
@@ -853,6 +1234,22 @@ Eso continúa hasta el final, y el programa termina después.</translation>
     <message>
         <source>Open Log With Each &amp;Apply</source>
         <translation>Abrir el registro en cada &amp;aplicación</translation>
+    </message>
+    <message>
+        <source>&amp;History</source>
+        <translation>&amp;Historial</translation>
+    </message>
+    <message>
+        <source>Ctrl+H</source>
+        <translation>Ctrl+H</translation>
+    </message>
+    <message>
+        <source>Shows what was installed, updated and removed, and takes it back</source>
+        <translation>Muestra lo que se instaló, actualizó y eliminó, y lo deshace</translation>
+    </message>
+    <message>
+        <source>The helper script in use is too old to tell the history</source>
+        <translation>El guion auxiliar en uso es demasiado antiguo para contar el historial</translation>
     </message>
 </context>
 <context>
@@ -1495,10 +1892,6 @@ Instalado en más de una versión: %1</translation>
     <message>
         <source>Unable to read what is told of other packages</source>
         <translation>No se puede leer lo que se dice de otros paquetes</translation>
-    </message>
-    <message>
-        <source>Internal error: execution of yumIO.%1 failed</source>
-        <translation>Error interno: falló la ejecución de yumIO.%1</translation>
     </message>
 </context>
 <context>

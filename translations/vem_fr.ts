@@ -333,6 +333,387 @@
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>Done</source>
+        <translation>Terminée</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Échouée</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>En cours</translation>
+    </message>
+    <message>
+        <source>Cut off</source>
+        <translation>Interrompue</translation>
+    </message>
+    <message>
+        <source>Installed</source>
+        <translation>Installé</translation>
+    </message>
+    <message>
+        <source>Updated</source>
+        <translation>Mis à jour</translation>
+    </message>
+    <message>
+        <source>Downgraded</source>
+        <translation>Rétrogradé</translation>
+    </message>
+    <message>
+        <source>Reinstalled</source>
+        <translation>Réinstallé</translation>
+    </message>
+    <message>
+        <source>Removed</source>
+        <translation>Supprimé</translation>
+    </message>
+    <message>
+        <source>Obsoleted</source>
+        <translation>Rendu obsolète</translation>
+    </message>
+    <message>
+        <source>Reason changed</source>
+        <translation>Raison modifiée</translation>
+    </message>
+    <message>
+        <source>Replaced</source>
+        <translation>Remplacé</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Modifié</translation>
+    </message>
+    <message>
+        <source>user</source>
+        <translation>utilisateur</translation>
+    </message>
+    <message>
+        <source>group</source>
+        <translation>groupe</translation>
+    </message>
+    <message>
+        <source>dependency</source>
+        <translation>dépendance</translation>
+    </message>
+    <message>
+        <source>weak dependency</source>
+        <translation>dépendance faible</translation>
+    </message>
+    <message>
+        <source>no longer needed</source>
+        <translation>plus nécessaire</translation>
+    </message>
+    <message>
+        <source>another program</source>
+        <translation>un autre programme</translation>
+    </message>
+    <message>
+        <source>Groups: %1</source>
+        <translation>Groupes : %1</translation>
+    </message>
+</context>
+<context>
+    <name>History::Model</name>
+    <message>
+        <source>Number of the transaction, as the package library counts</source>
+        <translation>Numéro de la transaction selon la bibliothèque de paquets</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Numéro</translation>
+    </message>
+    <message>
+        <source>When the transaction began</source>
+        <translation>Quand la transaction a commencé</translation>
+    </message>
+    <message>
+        <source>Begin</source>
+        <translation>Début</translation>
+    </message>
+    <message>
+        <source>Who had logged in</source>
+        <translation>Qui avait ouvert la session</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Utilisateur</translation>
+    </message>
+    <message>
+        <source>What came of the transaction</source>
+        <translation>Ce qu&apos;a donné la transaction</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Résultat</translation>
+    </message>
+    <message>
+        <source>What was done to how many packages and groups</source>
+        <translation>Ce qui a été fait de combien de paquets et de groupes</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Changements</translation>
+    </message>
+    <message>
+        <source>Command line of the program that did it</source>
+        <translation>Ligne de commande du programme qui l&apos;a fait</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Commande</translation>
+    </message>
+    <message>
+        <source>What the user has noted</source>
+        <translation>Ce que l&apos;utilisateur a noté</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Commentaire</translation>
+    </message>
+</context>
+<context>
+    <name>History::PackagesModel</name>
+    <message>
+        <source>%1: failed</source>
+        <translation>%1 : échec</translation>
+    </message>
+    <message>
+        <source>Group %1</source>
+        <translation>Groupe %1</translation>
+    </message>
+    <message>
+        <source>What was done to the package</source>
+        <translation>Ce qui a été fait du paquet</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Changement</translation>
+    </message>
+    <message>
+        <source>Name of the package</source>
+        <translation>Nom du paquet</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Version before, and the version that took its place</source>
+        <translation>Version d&apos;avant, et version qui a pris sa place</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>Architecture of the package</source>
+        <translation>Architecture du paquet</translation>
+    </message>
+    <message>
+        <source>Architecture</source>
+        <translation>Architecture</translation>
+    </message>
+    <message>
+        <source>Where the package came from</source>
+        <translation>D&apos;où venait le paquet</translation>
+    </message>
+    <message>
+        <source>Repository</source>
+        <translation>Dépôt</translation>
+    </message>
+    <message>
+        <source>Why the package was installed</source>
+        <translation>Pourquoi le paquet était installé</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Raison</translation>
+    </message>
+</context>
+<context>
+    <name>History::Records</name>
+    <message>
+        <source>Unable to read the history of transactions</source>
+        <translation>Impossible de lire l&apos;historique des transactions</translation>
+    </message>
+</context>
+<context>
+    <name>History::Window</name>
+    <message>
+        <source>History</source>
+        <translation>Historique</translation>
+    </message>
+    <message>
+        <source>No transaction is known.</source>
+        <translation>Aucune transaction n&apos;est connue.</translation>
+    </message>
+    <message>
+        <source>No transaction fits the search.</source>
+        <translation>Aucune transaction ne correspond à la recherche.</translation>
+    </message>
+    <message>
+        <source>Transaction %1: %2</source>
+        <translation>Transaction %1 : %2</translation>
+    </message>
+    <message>
+        <source>Begun: %1</source>
+        <translation>Commencée : %1</translation>
+    </message>
+    <message>
+        <source>From %1 to %2</source>
+        <translation>De %1 à %2</translation>
+    </message>
+    <message>
+        <source>User: %1</source>
+        <translation>Utilisateur : %1</translation>
+    </message>
+    <message>
+        <source>Command: %1</source>
+        <translation>Commande : %1</translation>
+    </message>
+    <message>
+        <source>Comment: %1</source>
+        <translation>Commentaire : %1</translation>
+    </message>
+    <message>
+        <source>The scripts of the packages wrote nothing.</source>
+        <translation>Les scripts des paquets n&apos;ont rien écrit.</translation>
+    </message>
+    <message>
+        <source>The package library doesn&apos;t keep what scripts of packages write.</source>
+        <translation>La bibliothèque de paquets ne garde pas ce qu&apos;écrivent les scripts des paquets.</translation>
+    </message>
+    <message>
+        <source>The helper script in use is too old for changes by the history</source>
+        <translation>Le script auxiliaire utilisé est trop ancien pour des changements selon l&apos;historique</translation>
+    </message>
+    <message>
+        <source>Do the opposite of the chosen transaction</source>
+        <translation>Faire le contraire de la transaction choisie</translation>
+    </message>
+    <message>
+        <source>Do the chosen transaction once more</source>
+        <translation>Refaire la transaction choisie</translation>
+    </message>
+    <message>
+        <source>Undo all transactions behind the chosen one</source>
+        <translation>Annuler toutes les transactions qui suivent celle choisie</translation>
+    </message>
+    <message>
+        <source>Not all of it can be done:</source>
+        <translation>Tout ne peut pas être fait :</translation>
+    </message>
+    <message>
+        <source>Go on with the rest? What exactly is done is shown before, and asked once more.</source>
+        <translation>Continuer avec le reste ? Ce qui est fait exactement est montré avant, et demandé encore une fois.</translation>
+    </message>
+    <message>
+        <source>Text (*.txt)</source>
+        <translation>Texte (*.txt)</translation>
+    </message>
+    <message>
+        <source>JSON (*.json)</source>
+        <translation>JSON (*.json)</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exporter</translation>
+    </message>
+    <message>
+        <source>Unable to write %1: %2</source>
+        <translation>Impossible d&apos;écrire %1 : %2</translation>
+    </message>
+    <message>
+        <source>All transactions, the latest first</source>
+        <translation>Toutes les transactions, la dernière d&apos;abord</translation>
+    </message>
+    <message>
+        <source>part of a name, or a pattern such as kernel*</source>
+        <translation>partie d&apos;un nom, ou un motif comme kernel*</translation>
+    </message>
+    <message>
+        <source>Shows only the transactions about packages whose name, version and
+architecture hold this text or, with * or ?, match it</source>
+        <translation>Montre seulement les transactions des paquets dont le nom, la version et
+l&apos;architecture contiennent ce texte ou, avec * ou ?, y correspondent</translation>
+    </message>
+    <message>
+        <source>Pac&amp;kage:</source>
+        <translation>Pa&amp;quet :</translation>
+    </message>
+    <message>
+        <source>The chosen transaction</source>
+        <translation>La transaction choisie</translation>
+    </message>
+    <message>
+        <source>Packages</source>
+        <translation>Paquets</translation>
+    </message>
+    <message>
+        <source>What the chosen transaction did</source>
+        <translation>Ce qu&apos;a fait la transaction choisie</translation>
+    </message>
+    <message>
+        <source>Script Output</source>
+        <translation>Sortie des scripts</translation>
+    </message>
+    <message>
+        <source>What scripts of the packages wrote during the transaction</source>
+        <translation>Ce que les scripts des paquets ont écrit pendant la transaction</translation>
+    </message>
+    <message>
+        <source>&amp;Packages</source>
+        <translation>&amp;Paquets</translation>
+    </message>
+    <message>
+        <source>&amp;Script Output</source>
+        <translation>&amp;Sortie des scripts</translation>
+    </message>
+    <message>
+        <source>&amp;Undo This</source>
+        <translation>A&amp;nnuler celle-ci</translation>
+    </message>
+    <message>
+        <source>&amp;Roll Back To Here</source>
+        <translation>&amp;Revenir jusqu&apos;ici</translation>
+    </message>
+    <message>
+        <source>Re&amp;do</source>
+        <translation>Re&amp;faire</translation>
+    </message>
+    <message>
+        <source>&amp;This Transaction...</source>
+        <translation>&amp;Cette transaction...</translation>
+    </message>
+    <message>
+        <source>&amp;All Transactions...</source>
+        <translation>&amp;Toutes les transactions...</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>&amp;Exporter</translation>
+    </message>
+    <message>
+        <source>Write transactions into a file, as text or JSON</source>
+        <translation>Écrire des transactions dans un fichier, en texte ou JSON</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>Fer&amp;mer</translation>
+    </message>
+    <message>
+        <source>Close the history</source>
+        <translation>Fermer l&apos;historique</translation>
+    </message>
+    <message>
+        <source>Transaction</source>
+        <translation>Transaction</translation>
+    </message>
+</context>
+<context>
     <name>KeyDialog</name>
     <message>
         <source>Import Key</source>
@@ -853,6 +1234,22 @@ Cela ira à son terme, et le programme se terminera ensuite.</translation>
     <message>
         <source>Open Log With Each &amp;Apply</source>
         <translation>Ouvrir le journal à chaque &amp;application</translation>
+    </message>
+    <message>
+        <source>&amp;History</source>
+        <translation>&amp;Historique</translation>
+    </message>
+    <message>
+        <source>Ctrl+H</source>
+        <translation>Ctrl+H</translation>
+    </message>
+    <message>
+        <source>Shows what was installed, updated and removed, and takes it back</source>
+        <translation>Montre ce qui a été installé, mis à jour et supprimé, et l&apos;annule</translation>
+    </message>
+    <message>
+        <source>The helper script in use is too old to tell the history</source>
+        <translation>Le script auxiliaire utilisé est trop ancien pour donner l&apos;historique</translation>
     </message>
 </context>
 <context>
@@ -1495,10 +1892,6 @@ Installé en plusieurs versions&#xa0;: %1</translation>
     <message>
         <source>Unable to read what is told of other packages</source>
         <translation>Impossible de lire ce qui est dit d&apos;autres paquets</translation>
-    </message>
-    <message>
-        <source>Internal error: execution of yumIO.%1 failed</source>
-        <translation>Erreur interne&#xa0;: échec de l’exécution de yumIO.%1</translation>
     </message>
 </context>
 <context>

@@ -333,6 +333,387 @@
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>Done</source>
+        <translation>完了</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>失敗</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>実行中</translation>
+    </message>
+    <message>
+        <source>Cut off</source>
+        <translation>中断</translation>
+    </message>
+    <message>
+        <source>Installed</source>
+        <translation>インストール</translation>
+    </message>
+    <message>
+        <source>Updated</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>Downgraded</source>
+        <translation>ダウングレード</translation>
+    </message>
+    <message>
+        <source>Reinstalled</source>
+        <translation>再インストール</translation>
+    </message>
+    <message>
+        <source>Removed</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Obsoleted</source>
+        <translation>廃止</translation>
+    </message>
+    <message>
+        <source>Reason changed</source>
+        <translation>理由を変更</translation>
+    </message>
+    <message>
+        <source>Replaced</source>
+        <translation>置き換え</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>変更</translation>
+    </message>
+    <message>
+        <source>user</source>
+        <translation>ユーザー</translation>
+    </message>
+    <message>
+        <source>group</source>
+        <translation>グループ</translation>
+    </message>
+    <message>
+        <source>dependency</source>
+        <translation>依存関係</translation>
+    </message>
+    <message>
+        <source>weak dependency</source>
+        <translation>弱い依存関係</translation>
+    </message>
+    <message>
+        <source>no longer needed</source>
+        <translation>不要になった</translation>
+    </message>
+    <message>
+        <source>another program</source>
+        <translation>別のプログラム</translation>
+    </message>
+    <message>
+        <source>Groups: %1</source>
+        <translation>グループ: %1</translation>
+    </message>
+</context>
+<context>
+    <name>History::Model</name>
+    <message>
+        <source>Number of the transaction, as the package library counts</source>
+        <translation>パッケージライブラリーが数えるトランザクションの番号</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>番号</translation>
+    </message>
+    <message>
+        <source>When the transaction began</source>
+        <translation>トランザクションが始まった時刻</translation>
+    </message>
+    <message>
+        <source>Begin</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>Who had logged in</source>
+        <translation>ログインしていた人</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>ユーザー</translation>
+    </message>
+    <message>
+        <source>What came of the transaction</source>
+        <translation>トランザクションの結果</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>結果</translation>
+    </message>
+    <message>
+        <source>What was done to how many packages and groups</source>
+        <translation>いくつのパッケージとグループに何をしたか</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>変更内容</translation>
+    </message>
+    <message>
+        <source>Command line of the program that did it</source>
+        <translation>実行したプログラムのコマンドライン</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>コマンド</translation>
+    </message>
+    <message>
+        <source>What the user has noted</source>
+        <translation>ユーザーのメモ</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>コメント</translation>
+    </message>
+</context>
+<context>
+    <name>History::PackagesModel</name>
+    <message>
+        <source>%1: failed</source>
+        <translation>%1: 失敗</translation>
+    </message>
+    <message>
+        <source>Group %1</source>
+        <translation>グループ %1</translation>
+    </message>
+    <message>
+        <source>What was done to the package</source>
+        <translation>パッケージに対して行われたこと</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>変更</translation>
+    </message>
+    <message>
+        <source>Name of the package</source>
+        <translation>パッケージの名前</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Version before, and the version that took its place</source>
+        <translation>以前のバージョンと、それに代わったバージョン</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>バージョン</translation>
+    </message>
+    <message>
+        <source>Architecture of the package</source>
+        <translation>パッケージのアーキテクチャー</translation>
+    </message>
+    <message>
+        <source>Architecture</source>
+        <translation>アーキテクチャー</translation>
+    </message>
+    <message>
+        <source>Where the package came from</source>
+        <translation>パッケージの取得元</translation>
+    </message>
+    <message>
+        <source>Repository</source>
+        <translation>リポジトリー</translation>
+    </message>
+    <message>
+        <source>Why the package was installed</source>
+        <translation>パッケージがインストールされた理由</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>理由</translation>
+    </message>
+</context>
+<context>
+    <name>History::Records</name>
+    <message>
+        <source>Unable to read the history of transactions</source>
+        <translation>トランザクションの履歴を読み取れません</translation>
+    </message>
+</context>
+<context>
+    <name>History::Window</name>
+    <message>
+        <source>History</source>
+        <translation>履歴</translation>
+    </message>
+    <message>
+        <source>No transaction is known.</source>
+        <translation>トランザクションはありません。</translation>
+    </message>
+    <message>
+        <source>No transaction fits the search.</source>
+        <translation>検索に合うトランザクションはありません。</translation>
+    </message>
+    <message>
+        <source>Transaction %1: %2</source>
+        <translation>トランザクション %1: %2</translation>
+    </message>
+    <message>
+        <source>Begun: %1</source>
+        <translation>開始: %1</translation>
+    </message>
+    <message>
+        <source>From %1 to %2</source>
+        <translation>%1 から %2 まで</translation>
+    </message>
+    <message>
+        <source>User: %1</source>
+        <translation>ユーザー: %1</translation>
+    </message>
+    <message>
+        <source>Command: %1</source>
+        <translation>コマンド: %1</translation>
+    </message>
+    <message>
+        <source>Comment: %1</source>
+        <translation>コメント: %1</translation>
+    </message>
+    <message>
+        <source>The scripts of the packages wrote nothing.</source>
+        <translation>パッケージのスクリプトは何も出力しませんでした。</translation>
+    </message>
+    <message>
+        <source>The package library doesn&apos;t keep what scripts of packages write.</source>
+        <translation>このパッケージライブラリーはパッケージのスクリプトの出力を保存しません。</translation>
+    </message>
+    <message>
+        <source>The helper script in use is too old for changes by the history</source>
+        <translation>使用中の補助スクリプトは古く、履歴による変更ができません</translation>
+    </message>
+    <message>
+        <source>Do the opposite of the chosen transaction</source>
+        <translation>選んだトランザクションの逆を行います</translation>
+    </message>
+    <message>
+        <source>Do the chosen transaction once more</source>
+        <translation>選んだトランザクションをもう一度行います</translation>
+    </message>
+    <message>
+        <source>Undo all transactions behind the chosen one</source>
+        <translation>選んだものより後のすべてのトランザクションを取り消します</translation>
+    </message>
+    <message>
+        <source>Not all of it can be done:</source>
+        <translation>次のことはできません:</translation>
+    </message>
+    <message>
+        <source>Go on with the rest? What exactly is done is shown before, and asked once more.</source>
+        <translation>残りを続けますか? 実際に行う内容は事前に表示され、もう一度確認されます。</translation>
+    </message>
+    <message>
+        <source>Text (*.txt)</source>
+        <translation>テキスト (*.txt)</translation>
+    </message>
+    <message>
+        <source>JSON (*.json)</source>
+        <translation>JSON (*.json)</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>エクスポート</translation>
+    </message>
+    <message>
+        <source>Unable to write %1: %2</source>
+        <translation>%1 に書き込めません: %2</translation>
+    </message>
+    <message>
+        <source>All transactions, the latest first</source>
+        <translation>すべてのトランザクション (新しい順)</translation>
+    </message>
+    <message>
+        <source>part of a name, or a pattern such as kernel*</source>
+        <translation>名前の一部、または kernel* のようなパターン</translation>
+    </message>
+    <message>
+        <source>Shows only the transactions about packages whose name, version and
+architecture hold this text or, with * or ?, match it</source>
+        <translation>名前・バージョン・アーキテクチャーがこのテキストを含む、
+または * や ? でこれに合うパッケージのトランザクションだけを表示します</translation>
+    </message>
+    <message>
+        <source>Pac&amp;kage:</source>
+        <translation>パッケージ(&amp;K):</translation>
+    </message>
+    <message>
+        <source>The chosen transaction</source>
+        <translation>選んだトランザクション</translation>
+    </message>
+    <message>
+        <source>Packages</source>
+        <translation>パッケージ</translation>
+    </message>
+    <message>
+        <source>What the chosen transaction did</source>
+        <translation>選んだトランザクションが行ったこと</translation>
+    </message>
+    <message>
+        <source>Script Output</source>
+        <translation>スクリプトの出力</translation>
+    </message>
+    <message>
+        <source>What scripts of the packages wrote during the transaction</source>
+        <translation>トランザクション中にパッケージのスクリプトが出力したもの</translation>
+    </message>
+    <message>
+        <source>&amp;Packages</source>
+        <translation>パッケージ(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Script Output</source>
+        <translation>スクリプトの出力(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo This</source>
+        <translation>これを取り消す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Roll Back To Here</source>
+        <translation>ここまで戻す(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Re&amp;do</source>
+        <translation>やり直す(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;This Transaction...</source>
+        <translation>このトランザクション(&amp;T)...</translation>
+    </message>
+    <message>
+        <source>&amp;All Transactions...</source>
+        <translation>すべてのトランザクション(&amp;A)...</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>エクスポート(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Write transactions into a file, as text or JSON</source>
+        <translation>トランザクションをテキストまたは JSON でファイルに書き込みます</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>閉じる(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Close the history</source>
+        <translation>履歴を閉じます</translation>
+    </message>
+    <message>
+        <source>Transaction</source>
+        <translation>トランザクション</translation>
+    </message>
+</context>
+<context>
     <name>KeyDialog</name>
     <message>
         <source>Import Key</source>
@@ -853,6 +1234,22 @@ That goes on to its end, and the program ends behind it.</source>
     <message>
         <source>Open Log With Each &amp;Apply</source>
         <translation>適用のたびにログを開く(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;History</source>
+        <translation>履歴(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Ctrl+H</source>
+        <translation>Ctrl+H</translation>
+    </message>
+    <message>
+        <source>Shows what was installed, updated and removed, and takes it back</source>
+        <translation>インストール・更新・削除したものを表示し、元に戻します</translation>
+    </message>
+    <message>
+        <source>The helper script in use is too old to tell the history</source>
+        <translation>使用中の補助スクリプトは古く、履歴を伝えられません</translation>
     </message>
 </context>
 <context>
@@ -1495,10 +1892,6 @@ Installed in more than one version: %1</source>
     <message>
         <source>Unable to read what is told of other packages</source>
         <translation>他のパッケージについての情報を読み込めません</translation>
-    </message>
-    <message>
-        <source>Internal error: execution of yumIO.%1 failed</source>
-        <translation>内部エラー: yumIO.%1 の実行に失敗しました</translation>
     </message>
 </context>
 <context>

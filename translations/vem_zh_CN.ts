@@ -333,6 +333,387 @@
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>Done</source>
+        <translation>完成</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>失败</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>正在运行</translation>
+    </message>
+    <message>
+        <source>Cut off</source>
+        <translation>中断</translation>
+    </message>
+    <message>
+        <source>Installed</source>
+        <translation>已安装</translation>
+    </message>
+    <message>
+        <source>Updated</source>
+        <translation>已更新</translation>
+    </message>
+    <message>
+        <source>Downgraded</source>
+        <translation>已降级</translation>
+    </message>
+    <message>
+        <source>Reinstalled</source>
+        <translation>已重新安装</translation>
+    </message>
+    <message>
+        <source>Removed</source>
+        <translation>已删除</translation>
+    </message>
+    <message>
+        <source>Obsoleted</source>
+        <translation>已被取代</translation>
+    </message>
+    <message>
+        <source>Reason changed</source>
+        <translation>原因已更改</translation>
+    </message>
+    <message>
+        <source>Replaced</source>
+        <translation>已替换</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>已更改</translation>
+    </message>
+    <message>
+        <source>user</source>
+        <translation>用户</translation>
+    </message>
+    <message>
+        <source>group</source>
+        <translation>组</translation>
+    </message>
+    <message>
+        <source>dependency</source>
+        <translation>依赖</translation>
+    </message>
+    <message>
+        <source>weak dependency</source>
+        <translation>弱依赖</translation>
+    </message>
+    <message>
+        <source>no longer needed</source>
+        <translation>不再需要</translation>
+    </message>
+    <message>
+        <source>another program</source>
+        <translation>其他程序</translation>
+    </message>
+    <message>
+        <source>Groups: %1</source>
+        <translation>组：%1</translation>
+    </message>
+</context>
+<context>
+    <name>History::Model</name>
+    <message>
+        <source>Number of the transaction, as the package library counts</source>
+        <translation>软件包库所计的事务编号</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>编号</translation>
+    </message>
+    <message>
+        <source>When the transaction began</source>
+        <translation>事务开始的时间</translation>
+    </message>
+    <message>
+        <source>Begin</source>
+        <translation>开始</translation>
+    </message>
+    <message>
+        <source>Who had logged in</source>
+        <translation>当时登录的人</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>用户</translation>
+    </message>
+    <message>
+        <source>What came of the transaction</source>
+        <translation>事务的结果</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>What was done to how many packages and groups</source>
+        <translation>对多少软件包和组做了什么</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>更改</translation>
+    </message>
+    <message>
+        <source>Command line of the program that did it</source>
+        <translation>执行程序的命令行</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>命令</translation>
+    </message>
+    <message>
+        <source>What the user has noted</source>
+        <translation>用户的备注</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>注释</translation>
+    </message>
+</context>
+<context>
+    <name>History::PackagesModel</name>
+    <message>
+        <source>%1: failed</source>
+        <translation>%1：失败</translation>
+    </message>
+    <message>
+        <source>Group %1</source>
+        <translation>组 %1</translation>
+    </message>
+    <message>
+        <source>What was done to the package</source>
+        <translation>对软件包做了什么</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>更改</translation>
+    </message>
+    <message>
+        <source>Name of the package</source>
+        <translation>软件包的名称</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Version before, and the version that took its place</source>
+        <translation>之前的版本，以及取代它的版本</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>版本</translation>
+    </message>
+    <message>
+        <source>Architecture of the package</source>
+        <translation>软件包的架构</translation>
+    </message>
+    <message>
+        <source>Architecture</source>
+        <translation>架构</translation>
+    </message>
+    <message>
+        <source>Where the package came from</source>
+        <translation>软件包的来源</translation>
+    </message>
+    <message>
+        <source>Repository</source>
+        <translation>软件库</translation>
+    </message>
+    <message>
+        <source>Why the package was installed</source>
+        <translation>软件包被安装的原因</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>原因</translation>
+    </message>
+</context>
+<context>
+    <name>History::Records</name>
+    <message>
+        <source>Unable to read the history of transactions</source>
+        <translation>无法读取事务历史</translation>
+    </message>
+</context>
+<context>
+    <name>History::Window</name>
+    <message>
+        <source>History</source>
+        <translation>历史</translation>
+    </message>
+    <message>
+        <source>No transaction is known.</source>
+        <translation>没有已知的事务。</translation>
+    </message>
+    <message>
+        <source>No transaction fits the search.</source>
+        <translation>没有符合搜索的事务。</translation>
+    </message>
+    <message>
+        <source>Transaction %1: %2</source>
+        <translation>事务 %1：%2</translation>
+    </message>
+    <message>
+        <source>Begun: %1</source>
+        <translation>开始：%1</translation>
+    </message>
+    <message>
+        <source>From %1 to %2</source>
+        <translation>从 %1 到 %2</translation>
+    </message>
+    <message>
+        <source>User: %1</source>
+        <translation>用户：%1</translation>
+    </message>
+    <message>
+        <source>Command: %1</source>
+        <translation>命令：%1</translation>
+    </message>
+    <message>
+        <source>Comment: %1</source>
+        <translation>注释：%1</translation>
+    </message>
+    <message>
+        <source>The scripts of the packages wrote nothing.</source>
+        <translation>软件包的脚本没有输出。</translation>
+    </message>
+    <message>
+        <source>The package library doesn&apos;t keep what scripts of packages write.</source>
+        <translation>该软件包库不保存软件包脚本的输出。</translation>
+    </message>
+    <message>
+        <source>The helper script in use is too old for changes by the history</source>
+        <translation>所用的辅助脚本太旧，无法按历史进行更改</translation>
+    </message>
+    <message>
+        <source>Do the opposite of the chosen transaction</source>
+        <translation>执行所选事务的相反操作</translation>
+    </message>
+    <message>
+        <source>Do the chosen transaction once more</source>
+        <translation>再次执行所选事务</translation>
+    </message>
+    <message>
+        <source>Undo all transactions behind the chosen one</source>
+        <translation>撤销所选事务之后的所有事务</translation>
+    </message>
+    <message>
+        <source>Not all of it can be done:</source>
+        <translation>并非全部都能完成：</translation>
+    </message>
+    <message>
+        <source>Go on with the rest? What exactly is done is shown before, and asked once more.</source>
+        <translation>继续其余部分吗？具体操作会事先显示，并再次询问。</translation>
+    </message>
+    <message>
+        <source>Text (*.txt)</source>
+        <translation>文本 (*.txt)</translation>
+    </message>
+    <message>
+        <source>JSON (*.json)</source>
+        <translation>JSON (*.json)</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>导出</translation>
+    </message>
+    <message>
+        <source>Unable to write %1: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+    <message>
+        <source>All transactions, the latest first</source>
+        <translation>所有事务，最新的在前</translation>
+    </message>
+    <message>
+        <source>part of a name, or a pattern such as kernel*</source>
+        <translation>名称的一部分，或如 kernel* 的模式</translation>
+    </message>
+    <message>
+        <source>Shows only the transactions about packages whose name, version and
+architecture hold this text or, with * or ?, match it</source>
+        <translation>只显示其软件包的名称、版本和架构包含此文本，
+或（用 * 或 ?）与之匹配的事务</translation>
+    </message>
+    <message>
+        <source>Pac&amp;kage:</source>
+        <translation>软件包(&amp;K)：</translation>
+    </message>
+    <message>
+        <source>The chosen transaction</source>
+        <translation>所选事务</translation>
+    </message>
+    <message>
+        <source>Packages</source>
+        <translation>软件包</translation>
+    </message>
+    <message>
+        <source>What the chosen transaction did</source>
+        <translation>所选事务做了什么</translation>
+    </message>
+    <message>
+        <source>Script Output</source>
+        <translation>脚本输出</translation>
+    </message>
+    <message>
+        <source>What scripts of the packages wrote during the transaction</source>
+        <translation>事务期间软件包脚本的输出</translation>
+    </message>
+    <message>
+        <source>&amp;Packages</source>
+        <translation>软件包(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Script Output</source>
+        <translation>脚本输出(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo This</source>
+        <translation>撤销此事务(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Roll Back To Here</source>
+        <translation>回滚到此处(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Re&amp;do</source>
+        <translation>重做(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;This Transaction...</source>
+        <translation>此事务(&amp;T)...</translation>
+    </message>
+    <message>
+        <source>&amp;All Transactions...</source>
+        <translation>所有事务(&amp;A)...</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>导出(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Write transactions into a file, as text or JSON</source>
+        <translation>将事务以文本或 JSON 写入文件</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>关闭(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Close the history</source>
+        <translation>关闭历史</translation>
+    </message>
+    <message>
+        <source>Transaction</source>
+        <translation>事务</translation>
+    </message>
+</context>
+<context>
     <name>KeyDialog</name>
     <message>
         <source>Import Key</source>
@@ -853,6 +1234,22 @@ That goes on to its end, and the program ends behind it.</source>
     <message>
         <source>Open Log With Each &amp;Apply</source>
         <translation>每次应用时打开日志(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;History</source>
+        <translation>历史(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Ctrl+H</source>
+        <translation>Ctrl+H</translation>
+    </message>
+    <message>
+        <source>Shows what was installed, updated and removed, and takes it back</source>
+        <translation>显示安装、更新和删除过的内容，并可撤回</translation>
+    </message>
+    <message>
+        <source>The helper script in use is too old to tell the history</source>
+        <translation>所用的辅助脚本太旧，无法给出历史</translation>
     </message>
 </context>
 <context>
@@ -1495,10 +1892,6 @@ Installed in more than one version: %1</source>
     <message>
         <source>Unable to read what is told of other packages</source>
         <translation>无法读取有关其他软件包的信息</translation>
-    </message>
-    <message>
-        <source>Internal error: execution of yumIO.%1 failed</source>
-        <translation>内部错误：执行 yumIO.%1 失败</translation>
     </message>
 </context>
 <context>

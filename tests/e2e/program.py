@@ -268,19 +268,23 @@ class Program:
         self.key("Return")
 
     def choose_from_context_menu(self, letter: str, at: tuple[int, int]) -> None:
-        """Right click, then the entry with this mnemonic. (A context menu isn't in the accessibility tree.)"""
+        """Right click, then the entry with this mnemonic."""
+        self.choose_from_popup(letter, lambda: self.click_at(*at, button=3))
+
+    def choose_from_popup(self, letter: str, opening: Callable[[], None]) -> None:
+        """The entry with this mnemonic of the menu that comes up then. (Such a menu isn't in the accessibility tree.)"""
         before = self._visible_windows()
-        self.click_at(*at, button=3)
-        wait_for(lambda: len(self._visible_windows()) > len(before), "the context menu", 10)
+        opening()
+        menu = wait_for(lambda: self._visible_windows() - before, "the menu", 10)
         self.key(letter)
-        wait_for(lambda: len(self._visible_windows()) <= len(before), "the context menu to close", 10)
+        wait_for(lambda: not menu & self._visible_windows(), "the menu to close", 10)
 
     @staticmethod
-    def _visible_windows() -> list[str]:
+    def _visible_windows() -> set[str]:
         answer = subprocess.run(
             ["xdotool", "search", "--onlyvisible", "--class", "vem"], capture_output=True, text=True, check=False
         )
-        return answer.stdout.split()
+        return set(answer.stdout.split())
 
     @staticmethod
     def text_of(edit: Atspi.Accessible) -> str:

@@ -21,6 +21,9 @@ private Q_SLOTS:
     void dialogOfAJobIsAnsweredByTheUser();
     void jobIsStoppedByTheUser();
     void jobWithoutMeansHasNoProgress();
+    void briefJobIsOverBeforeAnybodyIsToldThatItLasts();
+    void jobThatLastsIsToldOnceAndServesEvents();
+    void briefJobIsNotStartedBesideAnother();
 };
 
 void TestJobs::answersWhatTheJobAnswers()
@@ -122,6 +125,52 @@ void TestJobs::jobWithoutMeansHasNoProgress()
 {
     YumIODialogs const* const outside = engine->jobs.dialogs;
     QVERIFY(engine->jobs.runBare([&] { return !engine->jobs.progress && engine->jobs.dialogs == outside; }));
+}
+
+void TestJobs::briefJobIsOverBeforeAnybodyIsToldThatItLasts()
+{
+    bool lasted = false;
+    for (int time = 0; time < 200; ++time) {
+        QVERIFY(engine->jobs.runBriefly([] { return true; }, [&] { lasted = true; }));
+    }
+    QVERIFY(!engine->jobs.runBriefly([] { return false; }, [&] { lasted = true; }));
+    QVERIFY(!lasted);
+    QVERIFY(!engine->jobs.running());
+}
+
+void TestJobs::jobThatLastsIsToldOnceAndServesEvents()
+{
+    int lasts = 0;
+    std::atomic<int> served{0};
+    QTimer timer;
+    connect(&timer, &QTimer::timeout, this, [&] { served += lasts; });
+    timer.start(1);
+    QVERIFY(engine->jobs.runBriefly(
+        [&] {
+            for (int patience = 0; served < 3 && patience < 30000; ++patience) {
+                QThread::msleep(1);
+            }
+            return served >= 3;
+        },
+        [&] { ++lasts; }));
+    QCOMPARE(lasts, 1);
+}
+
+void TestJobs::briefJobIsNotStartedBesideAnother()
+{
+    std::atomic<bool> tried{false};
+    bool answer = true;
+    QTimer::singleShot(0, this, [&] {
+        answer = engine->jobs.runBriefly([] { return true; }, [] {});
+        tried = true;
+    });
+    QVERIFY(engine->jobs.runBare([&] {
+        while (!tried) {
+            QThread::msleep(1);
+        }
+        return true;
+    }));
+    QVERIFY(!answer);
 }
 
 QTEST_MAIN(TestJobs)

@@ -5,7 +5,6 @@
 #include "tests/Eventually.h"
 
 #include <QAction>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -63,12 +62,7 @@ class MainWindowHistoryTest : public ShellTest
 
     [[nodiscard]] QString head() const
     {
-        for (QLabel const* const label : history()->findChildren<QLabel*>()) {
-            if (label->accessibleDescription() == QLatin1String("The chosen transaction")) {
-                return label->text();
-            }
-        }
-        return {};
+        return named<QPlainTextEdit>(QStringLiteral("Transaction"))->toPlainText();
     }
 
     static void run(QByteArray const& statements)

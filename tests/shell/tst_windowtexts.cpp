@@ -6,6 +6,8 @@
 
 #include "WindowAccess.h"
 #include "WindowTexts.h"
+#include "history/HistoryTransaction.h"
+#include "history/HistoryWindow.h"
 #include "packagetable/PackageTableDescribeSection.h"
 #include "packagetable/PackageTableHeader.h"
 #include "packagetable/PackageTableView.h"
@@ -277,6 +279,46 @@ private Q_SLOTS:
             }
         }
         QCOMPARE(looked.size(), 1);
+    }
+
+    void history()
+    {
+        QCOMPARE(
+            script(QStringLiteral(
+                "def told(number, result):\n"
+                "    return dict(number=number, begun=1700000000, ended=1700000060, userName='1', "
+                "command='2',\n"
+                "        comment='3', result=result, counts={'upgrade': 1, 'reason': 1, 'groups': 1},\n"
+                "        packages=[dict(name='4', arch='5', old='6', new='7', action='upgrade', "
+                "reason='weak',\n"
+                "            repository='8', state='failed')],\n"
+                "        groups=[dict(id='9', name='', action='install', environment=False)], output=[])\n"
+                "standin.instead('historyList', lambda: [told(2, 'cut off'), told(1, 'failed')])\n"
+                "standin.instead('historyOf', lambda number: told(number, 'failed'))\n"
+                "standin.instead('historySearch', lambda text: [])\n")),
+            QString());
+        window->refresh();
+        window->showHistory();
+        auto* const shown = window->findChild<History::Window*>();
+        shown->reload();
+        QStringList data;
+        for (int number = 1; number < 10; ++number) {
+            data.append(QString::number(number));
+        }
+        data.append({QStringLiteral("6 \u2192 7"), History::Words::moment(1700000000)});
+        look(shown, data);
+        auto* const pages = shown->findChild<QTabWidget*>();
+        pages->setCurrentIndex(1);
+        look(shown, data);
+        if (QPushButton* const files = translatedButton(shown, "History::Window", "&Export")) {
+            lookAtPopup([files] { files->showMenu(); });
+        }
+        shown->findChild<QLineEdit*>()->setText(QStringLiteral("1"));
+        shown->reload();
+        look(shown, data);
+        shown->close();
+        QCOMPARE(script(QStringLiteral("standin.reset()")), QString());
+        window->refresh();
     }
 
     void about()
