@@ -17,6 +17,7 @@ import contextlib
 import os
 import subprocess
 import sys
+import sqlite3
 import tempfile
 import time
 from dataclasses import dataclass
@@ -289,6 +290,7 @@ class Book:
         (root / "gate-open").touch()
         program.wait_ready(60)
         self.keep_window(program, "after", "VEM - ")
+        self.history_picture(program, root)
         program.log_text()
         # At higher levels dnf tells the time of day.
         level = program.wait("Detail level", Atspi.Role.SPIN_BUTTON, inside=program.window("VEM Log"))
@@ -296,6 +298,17 @@ class Book:
         program.key("ctrl+a", "1", "Tab")
         wait_for(lambda: "expiration" not in program.log_text(), "the log at the lower level")
         self.keep_window(program, "log", "VEM Log")
+
+    def history_picture(self, program: Program, root: Path) -> None:
+        (database,) = root.rglob("*history.sqlite")
+        with contextlib.closing(sqlite3.connect(database)) as connection, connection:
+            # Every picture is taken at another time, by somebody else.
+            connection.execute("UPDATE trans SET dt_begin = 1709647200, dt_end = 1709647209, user_id = 0")
+        program.key("ctrl+h")
+        wait_for(lambda: program.find("oxbow", Atspi.Role.TABLE_CELL, program.window("History")), "its packages")
+        self.keep_window(program, "history", "History")
+        program.key("Escape")
+        program.wait_closed("History")
 
     # The configuration, which needs no repository to answer.
 

@@ -226,6 +226,10 @@ void Driver::measure(QJsonObject const& step)
     if (askedAfter >= 0) {
         line.insert(QLatin1String("asked"), askedAfter);
     }
+    if (step.contains(QLatin1String("table"))) {
+        auto const* const other = called<QTableView>(step.value(QLatin1String("table")).toString(), window);
+        line.insert(QLatin1String("listed"), other ? other->model()->rowCount() : -1);
+    }
     if (step.value(QLatin1String("do")) == QLatin1String("walk")) {
         QJsonArray widths;
         for (int column = 0; column < table->model()->columnCount(); ++column) {

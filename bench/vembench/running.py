@@ -99,7 +99,7 @@ class Ground:
                 **self.environment,
                 **self._shown,
                 "HOME": str(self.home),
-                "XDG_CONFIG_HOME": str(self.home),
+                "XDG_CONFIG_HOME": str(place),
                 "LD_PRELOAD": str(self.driver),
                 "VEMROOT": str(estate.root),
                 "VEMSHARE": str(build.share),

@@ -3,10 +3,12 @@
 
 from __future__ import annotations
 
+import contextlib
 import json
 import os
 import shutil
 import socket
+import sqlite3
 import tempfile
 from pathlib import Path
 from typing import Any, Sequence
@@ -27,6 +29,7 @@ EXPRESSIONS = (
 )
 NOTHING = "no such words anywhere"
 REFRESHES = 50
+TRANSACTIONS = 10_000
 SETTLING_REFRESHES = 10
 LOG_LINES = 100_000
 IN_MEMORY = "/dev/shm" if os.access("/dev/shm", os.W_OK) else None
@@ -163,18 +166,55 @@ def describe(ground: Ground, build: Build, estate: Estate, samples: Samples) -> 
             samples.add(line["name"], line["gap"])
 
 
+def small_system(directory: Path, server: str, **options: str) -> Estate:
+    """One installed package, and an update of it."""
+    estate = Estate(directory)
+    old, new = estate.build([spec("still-water", "1"), spec("still-water", "2")])
+    estate.write_main_config(**options)
+    repository = estate.repository("dock", [new])
+    if server:
+        run(["createrepo_c", "--quiet", "--baseurl", server, repository])
+    estate.install([old])
+    return estate
+
+
+def history(ground: Ground, build: Build, _estate: Estate, samples: Samples) -> None:
+    """On a system of its own, where the same update has been made again and again."""
+    with tempfile.TemporaryDirectory(dir=IN_MEMORY) as directory:
+        estate = small_system(Path(directory), "")
+        ground.dnf(estate, *UPGRADE[ground.backend].split()[1:])
+        (database,) = estate.root.rglob("*history.sqlite")
+        repeat_transaction(database, TRANSACTIONS)
+        steps: list[Step] = [{"do": "menu", "value": "History", "name": "history", "table": "History"}]
+        line = ground.program(build, estate, steps)[-1]
+    if line["listed"] != TRANSACTIONS:
+        raise BenchError(f"{line['listed']} transactions are listed, it should be {TRANSACTIONS}.")
+    samples.add("history", line["ms"] / 1000)
+    samples.add("gap/history", line["gap"])
+
+
+def repeat_transaction(database: Path, times: int) -> None:
+    """Makes of a history's one transaction so many, each with the same packages."""
+    counted = (
+        "WITH RECURSIVE counted(number) AS"
+        f" (SELECT 2 UNION ALL SELECT number + 1 FROM counted WHERE number < {times}) "
+    )
+    with contextlib.closing(sqlite3.connect(database)) as connection, connection:
+        for table, key in (("trans", "id"), ("trans_item", "trans_id")):
+            names = [row[1] for row in connection.execute(f"PRAGMA table_info({table})")]
+            others = ", ".join(name for name in names if name not in ("id", key))
+            connection.execute(
+                f"{counted}INSERT INTO {table} ({key}, {others}) SELECT number, {others} FROM counted, {table}"
+                f" WHERE {table}.{key} = 1"
+            )
+
+
 def stop(ground: Ground, build: Build, _estate: Estate, samples: Samples) -> None:
     """On a system of its own: one update, from a server that accepts connections and never says a word."""
     with tempfile.TemporaryDirectory() as directory, socket.socket() as server:
         server.bind(("127.0.0.1", 0))
         server.listen()
-        address = f"http://127.0.0.1:{server.getsockname()[1]}/"
-        estate = Estate(Path(directory))
-        old, new = estate.build([spec("still-water", "1"), spec("still-water", "2")])
-        estate.write_main_config(timeout="600")
-        repository = estate.repository("dock", [new])
-        run(["createrepo_c", "--quiet", "--baseurl", address, repository])
-        estate.install([old])
+        estate = small_system(Path(directory), f"http://127.0.0.1:{server.getsockname()[1]}/", timeout="600")
         steps: list[Step] = [
             {"do": "press", "value": "Set Update of All Out-of-Date"},
             {"do": "stop", "value": "Apply Actions", "name": "stop"},
