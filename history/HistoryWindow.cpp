@@ -99,7 +99,8 @@ void Window::takeLooks()
     packagesModel->setFont(font());
     constexpr int lines = 5;
     int const around = 2 * (headEdit->frameWidth() + qRound(headEdit->document()->documentMargin()));
-    headEdit->setFixedHeight(lines * headEdit->fontMetrics().lineSpacing() + around);
+    // Lines are laid out in fractions of a pixel.
+    headEdit->setFixedHeight(lines * (headEdit->fontMetrics().lineSpacing() + 1) + around);
 }
 
 void Window::reload()

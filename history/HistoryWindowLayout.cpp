@@ -30,7 +30,7 @@ constexpr int mostPackageRows = 8;
 constexpr int searchWidth = 24; ///< characters
 
 // Widths in characters, at least those of the headings: to look at thousands of rows for them takes long.
-constexpr int historyWidths[Model::ColumnCount] = {7, 20, 9, 9, 24, 18, 12};
+constexpr int historyWidths[Model::ColumnCount] = {7, 20, 9, 9, 30, 12, 12};
 constexpr int packageWidths[PackagesModel::ColumnCount] = {13, 26, 28, 12, 14, 12};
 
 template <std::size_t count>

@@ -305,7 +305,8 @@ class Book:
             # Every picture is taken at another time, by somebody else.
             connection.execute("UPDATE trans SET dt_begin = 1709647200, dt_end = 1709647209, user_id = 0")
         program.key("ctrl+h")
-        wait_for(lambda: program.find("oxbow", Atspi.Role.TABLE_CELL, program.window("History")), "its packages")
+        head = program.wait("Transaction", Atspi.Role.TEXT, inside=program.window("History"))
+        wait_for(lambda: program.text_of(head).startswith("Transaction"), "the latest transaction")
         self.keep_window(program, "history", "History")
         program.key("Escape")
         program.wait_closed("History")
