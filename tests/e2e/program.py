@@ -216,7 +216,7 @@ class Program:
         seen: list[tuple[int, int]] = []
 
         def look() -> Optional[Atspi.Accessible]:
-            for role in (Atspi.Role.PUSH_BUTTON, Atspi.Role.CHECK_BOX):
+            for role in (Atspi.Role.PUSH_BUTTON, Atspi.Role.PUSH_BUTTON_MENU, Atspi.Role.CHECK_BOX):
                 found = self.find(name, role, inside)
                 if found is not None and has_state(found, Atspi.StateType.ENABLED):
                     seen.append(self.centre(found))

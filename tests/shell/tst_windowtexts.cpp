@@ -171,7 +171,8 @@ class WindowTextsTest : public ShellTest
         });
         poll.start(5);
         open();
-        QVERIFY(seen);
+        // Not every release of the toolkit opens it as a loop of its own.
+        EVENTUALLY_VERIFY(seen);
     }
 
     QPushButton* translatedButton(QWidget* in, char const* context, char const* source) const
