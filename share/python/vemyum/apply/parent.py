@@ -247,7 +247,9 @@ def _comment(installs: Sequence[Any], updates: Sequence[Any], removes: Sequence[
     """The marks as the library's history shows them, in its own words."""
     marked = {"install": installs, "upgrade": [pair[0] for pair in updates], "remove": removes}
     return "; ".join(
-        f"{verb} {', '.join(str(package.po) for package in packages)}" for verb, packages in marked.items() if packages
+        f"{verb} {', '.join(sorted(str(package.po) for package in packages))}"
+        for verb, packages in marked.items()
+        if packages
     )
 
 
