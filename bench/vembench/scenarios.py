@@ -182,6 +182,7 @@ def history(ground: Ground, build: Build, _estate: Estate, samples: Samples) -> 
     """On a system of its own, where the same update has been made again and again."""
     with tempfile.TemporaryDirectory(dir=IN_MEMORY) as directory:
         estate = small_system(Path(directory), "")
+        ground.dnf(estate, "makecache")
         ground.dnf(estate, *UPGRADE[ground.backend].split()[1:])
         (database,) = estate.root.rglob("*history.sqlite")
         repeat_transaction(database, TRANSACTIONS)
