@@ -25,6 +25,7 @@ struct MarkCounts
     /// By how much the disk fills, below zero where it empties; nothing where that isn't known.
     std::optional<long long> onDisk;
 
+    MarkCounts() = default;
     explicit MarkCounts(YumIO& yumIO);
     [[nodiscard]] qsizetype all() const { return installs + updates + removals; }
 };

@@ -9,6 +9,7 @@
 #include <QAbstractItemModel>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QTextDocument>
 #include <QTextDocumentFragment>
 #include <QVBoxLayout>
 #include <chrono>
@@ -42,6 +43,7 @@ EmptyTableNote::EmptyTableNote(
 {
     setTextFormat(Qt::RichText);
     setAlignment(Qt::AlignCenter);
+    setWordWrap(true);
     setForegroundRole(QPalette::Text);
     setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     connect(this, &QLabel::linkActivated, this, &EmptyTableNote::follow);
@@ -54,6 +56,16 @@ EmptyTableNote::EmptyTableNote(
     pause.setInterval(pauseTime);
     connect(&pause, &QTimer::timeout, this, &EmptyTableNote::tell);
     connect(view->model(), &QAbstractItemModel::modelReset, this, &EmptyTableNote::wait);
+}
+
+// A label that may wrap would do so long before it has to.
+QSize EmptyTableNote::sizeHint() const
+{
+    QTextDocument lines;
+    lines.setDefaultFont(font());
+    lines.setDocumentMargin(0);
+    lines.setHtml(text());
+    return QSizeF(lines.idealWidth() + 1, lines.size().height()).toSize();
 }
 
 void EmptyTableNote::wait()

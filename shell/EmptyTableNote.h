@@ -33,6 +33,8 @@ public:
     /// All of these outlive the note.
     EmptyTableNote(PackageTable::View* view, YumIO const* yumIO, FilterControls const& controls);
 
+    [[nodiscard]] QSize sizeHint() const override;
+
 private:
     void wait();
     void tell();

@@ -16,7 +16,7 @@ class HMenu;
 class QAction;
 class QCheckBox;
 class QComboBox;
-class QHBoxLayout;
+class QLayout;
 class QPushButton;
 class StatusLine;
 class WindowMemory;
@@ -133,8 +133,8 @@ private:
     void fillSelectionMenu();
     /// Says on the controls what they do in that mode.
     void tellMode(int mode);
-    QHBoxLayout* createFilterRow();
-    QHBoxLayout* createButtonRow();
+    QLayout* createFilterRow();
+    QLayout* createButtonRow();
     /// Switches between busy and idle. Calls must pair, since each busy one pushes a cursor.
     void setReady(bool ready);
     /// Whether the line holds more than what matches everything.

@@ -17,6 +17,7 @@
 #include "shell/StopButton.h"
 #include "shell/WindowMemory.h"
 #include "widgets/HMenu.h"
+#include "widgets/WrappingRow.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -25,7 +26,9 @@
 #include <QItemSelectionModel>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <sys/utsname.h>
 
 MainWindow::MainWindow(QWidget* parentWidget)
@@ -42,7 +45,10 @@ MainWindow::MainWindow(QWidget* parentWidget)
 
 QSize MainWindow::sizeHint() const
 {
-    return QMainWindow::sizeHint().expandedTo(QSize(768, 0));
+    QSize const frame = frameSize() - size();
+    int const screenWidth = screen()->availableGeometry().width() - frame.width();
+    QSize const hint = QMainWindow::sizeHint().expandedTo(QSize(768, 0));
+    return {std::min(hint.width(), screenWidth), hint.height()};
 }
 
 void MainWindow::createMenuBar()
@@ -100,7 +106,7 @@ void MainWindow::createMenuBar()
     addEntry(helpMenu, tr("&About"), &MainWindow::about);
 }
 
-QHBoxLayout* MainWindow::createFilterRow()
+QLayout* MainWindow::createFilterRow()
 {
     modeCombo = new QComboBox(tableArea);
     modeCombo->addItem(tr("Filter"), 0);
@@ -138,7 +144,7 @@ QHBoxLayout* MainWindow::createFilterRow()
     includeGroupsBox->setToolTip(tr("Whether or not filter should include package groups"));
     connect(includeGroupsBox, &QCheckBox::toggled, this, &MainWindow::groupsFilterChanged);
 
-    auto* const row = new QHBoxLayout;
+    auto* const row = new WrappingRow;
     row->addWidget(modeCombo);
     row->addWidget(regExpEdit);
     row->addWidget(filterButton);
@@ -147,9 +153,9 @@ QHBoxLayout* MainWindow::createFilterRow()
     return row;
 }
 
-QHBoxLayout* MainWindow::createButtonRow()
+QLayout* MainWindow::createButtonRow()
 {
-    auto* const row = new QHBoxLayout;
+    auto* const row = new WrappingRow;
     auto const addButton = [&](QString const& text, QIcon const& icon, QString const& tip, auto slot) {
         auto* const button = new QPushButton(icon, text, tableArea);
         button->setToolTip(tip);

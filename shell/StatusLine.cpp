@@ -4,8 +4,10 @@
 #include "engine/YumIO.h"
 #include "packagetable/PackageTableMarks.h"
 #include "widgets/SignLabel.h"
+#include "widgets/Sizing.h"
 
 #include <QDateTime>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
@@ -36,14 +38,74 @@ protected:
 
 } // namespace
 
+/// Words that are a link. Where the line is too short for them, their beginning, and all in the tool tip.
+class StatusLine::Link final : public QLabel
+{
+public:
+    explicit Link(QWidget* parent)
+        : QLabel(parent)
+    {
+        setTextFormat(Qt::RichText);
+        setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+        hide();
+    }
+
+    void setWords(QString const& newWords)
+    {
+        words = newWords;
+        setAccessibleName(words);
+        tell(words);
+        whole = QLabel::sizeHint();
+        updateGeometry();
+    }
+
+    /// To be called once the line is laid out.
+    void fit()
+    {
+        bool const fits = width() >= whole.width();
+        tell(fits ? words : fontMetrics().elidedText(words, Qt::ElideRight, width()));
+        setToolTip(fits ? QString() : words);
+    }
+
+    [[nodiscard]] QSize sizeHint() const override { return whole; }
+    [[nodiscard]] QSize minimumSizeHint() const override { return whole; }
+
+protected:
+    void resizeEvent(QResizeEvent* event) override
+    {
+        QLabel::resizeEvent(event);
+        fit();
+    }
+
+    void changeEvent(QEvent* event) override
+    {
+        QLabel::changeEvent(event);
+        if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+            setWords(words);
+        }
+    }
+
+private:
+    void tell(QString const& shown)
+    {
+        QString const link = QStringLiteral("<a href=\"more\">%1</a>").arg(shown.toHtmlEscaped());
+        if (text() != link) {
+            setText(link);
+        }
+    }
+
+    QString words;
+    QSize whole; ///< the size that they take
+};
+
 StatusLine::StatusLine(QWidget* parent)
     : QWidget(parent),
       rows(new QLabel(this)),
       selected(new QLabel(this)),
-      marks(makeLink()),
+      marks(new Link(this)),
       sign(new SignLabel(QStyle::SP_MessageBoxWarning, QStyle::PM_SmallIconSize, this)),
       warning(new QLabel(this)),
-      incomplete(makeLink()),
+      incomplete(new Link(this)),
       age(new YieldingLabel(this)),
       looking(new QLabel(tr("Looking only"), this))
 {
@@ -68,7 +130,7 @@ StatusLine::StatusLine(QWidget* parent)
     line->addWidget(looking);
     connect(marks, &QLabel::linkActivated, this, &StatusLine::marksWanted);
     connect(incomplete, &QLabel::linkActivated, this, &StatusLine::incompleteWanted);
-    setLink(incomplete, tr("Incomplete Table"));
+    incomplete->setWords(tr("Incomplete Table"));
     constexpr int everyMinute = 60000;
     ageing.setInterval(everyMinute);
     connect(&ageing, &QTimer::timeout, this, &StatusLine::tellAge);
@@ -79,19 +141,20 @@ StatusLine::StatusLine(QWidget* parent)
     setWarning(QString());
 }
 
-QLabel* StatusLine::makeLink()
+QSize StatusLine::minimumSizeHint() const
 {
-    auto* const label = new QLabel(this);
-    label->setTextFormat(Qt::RichText);
-    label->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
-    label->hide();
-    return label;
+    QSize const hint = QWidget::minimumSizeHint();
+    return {std::min(hint.width(), Sizing::screenLimit(this).width()), hint.height()};
 }
 
-void StatusLine::setLink(QLabel* label, QString const& words)
+bool StatusLine::event(QEvent* event)
 {
-    label->setText(QStringLiteral("<a href=\"more\">%1</a>").arg(words.toHtmlEscaped()));
-    label->setAccessibleName(words);
+    bool const handled = QWidget::event(event);
+    if (event->type() == QEvent::LayoutRequest) {
+        marks->fit();
+        incomplete->fit();
+    }
+    return handled;
 }
 
 void StatusLine::setRows(qsizetype shown, qsizetype all)
@@ -128,7 +191,7 @@ void StatusLine::setMarks(PackageTable::MarkCounts const& counts)
         words = (*counts.onDisk > 0 ? tr("%1, %2 more on the disk") : tr("%1, %2 less on the disk"))
                     .arg(words, size);
     }
-    setLink(marks, words);
+    marks->setWords(words);
     marks->setVisible(!kinds.isEmpty());
 }
 

@@ -35,23 +35,29 @@ public:
     /// A warning that stays until the next one; empty for none.
     void setWarning(QString const& words);
 
+    /// No wider than the screen, whatever there is to tell.
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
 Q_SIGNALS:
     /// The marks have been clicked.
     void marksWanted();
     /// What the table lacks is to be told once more.
     void incompleteWanted();
 
+protected:
+    bool event(QEvent* event) override;
+
 private:
+    class Link;
+
     void tellAge();
-    QLabel* makeLink();
-    static void setLink(QLabel* label, QString const& words);
 
     QLabel* rows;
     QLabel* selected;
-    QLabel* marks;
+    Link* marks;
     QLabel* sign;
     QLabel* warning;
-    QLabel* incomplete;
+    Link* incomplete;
     QLabel* age;
     QTimer ageing;
     qint64 oldest = 0; ///< seconds since 1970; 0 where nobody tells

@@ -15,6 +15,8 @@
 #include <QMenuBar>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScopeGuard>
+#include <QScreen>
 #include <QTest>
 #include <memory>
 #include <sys/utsname.h>
@@ -64,6 +66,40 @@ private Q_SLOTS:
         QVERIFY(window->sizeHint().width() >= 768);
         delete window->centralWidget();
         QCOMPARE(window->sizeHint().width(), 768);
+    }
+
+    void theWindowNeverAsksForMoreThanTheScreenHas()
+    {
+        QFont const usual = QApplication::font();
+        QFont large = usual;
+        large.setPointSizeF(usual.pointSizeF() * 3);
+        QApplication::setFont(large);
+        auto const restore = qScopeGuard([&] { QApplication::setFont(usual); });
+        auto* const area = window->findChild<QLineEdit*>()->parentWidget();
+        area->setVisible(true);
+        int const screen = window->screen()->availableGeometry().width();
+        QVERIFY(area->sizeHint().width() > screen);
+        QVERIFY(window->sizeHint().width() <= screen);
+        QVERIFY(window->minimumSizeHint().width() <= screen);
+    }
+
+    void buttonsGoOnInAnotherLineOfANarrowWindow()
+    {
+        auto* const area = window->findChild<QLineEdit*>()->parentWidget();
+        area->setVisible(true);
+        QList<QPushButton*> const buttons = area->findChildren<QPushButton*>();
+        int const wide = area->sizeHint().width();
+        area->layout()->setGeometry({0, 0, wide, 500});
+        for (QPushButton const* const button : buttons.mid(2)) {
+            QVERIFY(button->geometry().top() < buttons.at(1)->geometry().bottom());
+        }
+        QCOMPARE(buttons.last()->geometry().right(), area->layout()->contentsRect().right());
+        area->layout()->setGeometry({0, 0, wide / 2, 500});
+        QVERIFY(buttons.last()->geometry().top() > buttons.at(1)->geometry().bottom());
+        for (QPushButton const* const button : buttons) {
+            QVERIFY2(area->layout()->contentsRect().contains(button->geometry()), qPrintable(button->text()));
+            QVERIFY(button->width() >= button->sizeHint().width());
+        }
     }
 
     void menusHaveTheirEntries()
