@@ -9,6 +9,7 @@
 #include "widgets/PasswdEchoEdit.h"
 #include "widgets/PasswdMask.h"
 #include "widgets/Sizing.h"
+#include "widgets/WrappingRow.h"
 
 #include <QApplication>
 #include <QGridLayout>
@@ -56,7 +57,7 @@ RepoAuth::Dialog::Dialog(QWidget* parent)
     applyHostButton = createButton(tr("Apply to All with this Host"), &Dialog::handleApplyHost);
     okButton = createButton(tr("OK"), &Dialog::handleOK);
     okButton->setDefault(true);
-    auto* const row = new QHBoxLayout;
+    auto* const row = new WrappingRow;
     row->addStretch();
     for (QPushButton* const button :
          {quitButton, disableButton, skipAllButton, applyAllButton, applyHostButton, okButton}) {
@@ -117,6 +118,11 @@ void RepoAuth::Dialog::exec(Repo::Entry* asked)
 
     setAnswersEnabled(true);
     authNameEdit->setFocus();
+    if (!testAttribute(Qt::WA_Resized)) {
+        // The toolkit would make it narrower for a small screen without making it higher.
+        int const width = sizeHint().boundedTo(Sizing::screenLimit(this)).width();
+        resize(width, layout()->totalHeightForWidth(width));
+    }
     show();
     // Stays when the program's end leaves the loop without an answer.
     setResult(Quit);
