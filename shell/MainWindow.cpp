@@ -19,6 +19,7 @@
 #include "shell/StatusLine.h"
 #include "shell/WindowMemory.h"
 #include "widgets/HMenu.h"
+#include "widgets/Sizing.h"
 
 #include <QAction>
 #include <QApplication>
@@ -26,6 +27,7 @@
 #include <QEventLoop>
 #include <QFile>
 #include <QItemSelectionModel>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
@@ -35,6 +37,22 @@ namespace
 {
 
 constexpr QLatin1String documentation("/usr/share/doc/vem-1.7.2");
+
+/// The toolkit keeps a box narrow, however large its letters are: it gets wider where it would be higher than
+/// the screen.
+void fitToScreen(QLabel* words)
+{
+    constexpr int narrow = 400; // of the toolkit's 500 pixels, with room for a picture
+    QSize const limit = Sizing::screenLimit(words) * 2 / 3;
+    int width = narrow;
+    words->setWordWrap(true);
+    while (words->heightForWidth(width) > limit.height() && width < limit.width()) {
+        width += narrow / 8;
+    }
+    if (width > narrow) {
+        words->setMinimumWidth(width);
+    }
+}
 
 } // namespace
 
@@ -350,7 +368,15 @@ void MainWindow::about()
         library.isEmpty() ? QString() : tr("<p>Package library: %1</p>").arg(library.toHtmlEscaped());
     QString const page =
         tr("<p>Web page: <a href=\"https://vem.example.org/\">https://vem.example.org/</a></p>");
-    QMessageBox::about(this, tr("About"), text + works + page);
+    QMessageBox box(QMessageBox::NoIcon, tr("About"), text + works + page, QMessageBox::Ok, this);
+    box.setDefaultButton(QMessageBox::Ok);
+    constexpr int iconSize = 64;
+    box.setIconPixmap(box.windowIcon().pixmap(iconSize));
+    box.setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    if (auto* const words = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {
+        fitToScreen(words);
+    }
+    box.exec();
 }
 
 bool MainWindow::isSearching() const
