@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // The words of every window in the language that VEM_TEST_LANGUAGE names, in letters of VEM_TEST_FONT_SCALE
 // times the usual size, on the ground that VEM_TEST_PALETTE names: all are there, none is cut off, and no
-// letter does two things; all can be read, and heard.
+// letter does two things; all can be read, and heard; and no window is larger than a small screen.
 #include "ShellTest.h"
 
 #include "WindowAccess.h"
@@ -36,6 +36,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QSet>
 #include <QTabWidget>
 #include <QTest>
@@ -124,6 +125,10 @@ class WindowTextsTest : public ShellTest
             shown->grab().save(name);
         }
         QString const title = shown->windowTitle() + QStringLiteral(": ");
+        QRect const screen = shown->screen()->availableGeometry();
+        QVERIFY2(
+            shown->width() <= screen.width() && shown->height() <= screen.height(),
+            qPrintable(title + QStringLiteral("%1 x %2").arg(shown->width()).arg(shown->height())));
         QStringList const unheard = WindowAccess::unheard(*shown);
         QVERIFY2(unheard.isEmpty(), qPrintable(title + unheard.join(QStringLiteral("; "))));
         QStringList const faint = WindowAccess::faint(*shown);
