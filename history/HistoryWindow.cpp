@@ -46,6 +46,7 @@ Window::Window(YumIO* engine, QWidget* parent)
     typing.setSingleShot(true);
     typing.setInterval(typingPause);
     build();
+    learn();
     takeLooks();
     connect(records, &Records::busy, this, &Window::busy);
     connect(&choice, &QTimer::timeout, this, &Window::showCurrent);
@@ -61,10 +62,21 @@ bool Window::offered(YumIO const& yumIO)
     return Records::offered(yumIO);
 }
 
+void Window::learn()
+{
+    searches = records->searches();
+    exports = records->exports();
+    turnsBack = yumIO->script.has("applyHistory");
+    whyNot = yumIO->whyNoChange();
+}
+
 void Window::setReady(bool ready)
 {
     isReady = ready;
-    searchEdit->setEnabled(ready && records->searches());
+    if (ready) {
+        learn();
+    }
+    searchEdit->setEnabled(ready && searches);
     table->setEnabled(ready);
     enableButtons();
 }
@@ -110,7 +122,6 @@ void Window::reload()
     }
     Transaction const* const chosen = current();
     int const number = chosen ? chosen->number : 0;
-    whyNot = yumIO->whyNoChange();
     model->setTransactions(records->all().value_or(QList<Transaction>()));
     shown = 0;
     if (searchEdit->text().isEmpty()) {
@@ -210,17 +221,16 @@ void Window::showOutput(Whole const& whole)
 void Window::enableButtons()
 {
     Transaction const* const chosen = isReady ? current() : nullptr;
-    bool const applicable = yumIO->script.has("applyHistory");
     // What is to be installed is looked for in what the collection has read.
-    bool const possible = chosen && chosen->result != Result::Running && applicable && whyNot.isEmpty() &&
+    bool const possible = chosen && chosen->result != Result::Running && turnsBack && whyNot.isEmpty() &&
                           yumIO->listSerial() != 0;
     bool const isLatest = chosen && model->rowOf(chosen->number) == 0;
     undoButton->setEnabled(possible);
     redoButton->setEnabled(possible);
     rollBackButton->setEnabled(possible && !isLatest);
-    exportButton->setEnabled(chosen && records->exports());
+    exportButton->setEnabled(chosen && exports);
     QString const why =
-        applicable ? whyNot : tr("The helper script in use is too old for changes by the history");
+        turnsBack ? whyNot : tr("The helper script in use is too old for changes by the history");
     undoButton->setToolTip(why.isEmpty() ? tr("Do the opposite of the chosen transaction") : why);
     redoButton->setToolTip(why.isEmpty() ? tr("Do the chosen transaction once more") : why);
     rollBackButton->setToolTip(why.isEmpty() ? tr("Undo all transactions behind the chosen one") : why);

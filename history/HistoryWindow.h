@@ -64,6 +64,8 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    /// Asks the script what it can do. Not during a job: the interpreter may be held for long then.
+    void learn();
     void build();
     [[nodiscard]] QHBoxLayout* createSearchRow();
     [[nodiscard]] QWidget* createDetails();
@@ -99,6 +101,9 @@ private:
     QTimer choice;  ///< runs from the choice of a row until that is read, since arrows run through many
     QTimer typing;  ///< the same for the search
     QString whyNot; ///< why nobody may change the packages; empty where the user may
+    bool searches = false; ///< the script can, as below
+    bool exports = false;
+    bool turnsBack = false;
     bool isReady = true;
     int shown = 0; ///< number of the transaction whose details show
 };
