@@ -9,6 +9,7 @@
 #include <QEvent>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QPainterPath>
 #include <QStringList>
 #include <QStringListModel>
 #include <QStyle>
@@ -27,6 +28,7 @@ constexpr std::chrono::milliseconds pauseTime(120);
 constexpr int expressionsKept = 20;
 /// The picture that says "Match Case", in pixels of a display without scaling.
 constexpr int pictureSize = 16;
+constexpr qreal lettersSize = 11; ///< of its letters, at most
 
 } // namespace
 
@@ -156,22 +158,30 @@ void ExpressionEdit::showMatchesCase()
 // have to be of the same case, faint where they need not.
 QIcon ExpressionEdit::caseIcon() const
 {
+    // As outlines, which keep their distance from the frame on any display and with any letters.
+    QPainterPath letters;
+    letters.addText(0, 0, font(), QStringLiteral("Aa"));
+    QRectF const bounds = letters.boundingRect();
+    QColor const color =
+        palette().color(QPalette::Active, matchesCase() ? QPalette::Text : QPalette::PlaceholderText);
     QIcon icon;
-    for (int const scale : {1, 2}) {
-        QPixmap picture(QSize(pictureSize, pictureSize) * scale);
+    for (qreal const scale : {1.0, 1.5, 2.0, 3.0}) {
+        QPixmap picture((QSizeF(pictureSize, pictureSize) * scale).toSize());
         picture.setDevicePixelRatio(scale);
         picture.fill(Qt::transparent);
         QPainter painter(&picture);
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(
-            palette().color(QPalette::Active, matchesCase() ? QPalette::Text : QPalette::PlaceholderText));
-        QFont letters = font();
-        letters.setPixelSize(10);
-        painter.setFont(letters);
         QRectF const whole(0.5, 0.5, pictureSize - 1, pictureSize - 1);
-        painter.drawText(whole, Qt::AlignCenter, QStringLiteral("Aa"));
         if (matchesCase()) {
+            painter.setPen(color);
             painter.drawRoundedRect(whole, 2, 2);
+        }
+        if (!bounds.isEmpty()) {
+            qreal const factor = std::min(lettersSize / bounds.width(), lettersSize / bounds.height());
+            painter.translate(whole.center());
+            painter.scale(factor, factor);
+            painter.translate(-bounds.center());
+            painter.fillPath(letters, color);
         }
         painter.end();
         icon.addPixmap(picture);
