@@ -52,6 +52,21 @@ class TestPackageTableExpressionEdit : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // Between the frame's left and right side and the letters nothing is drawn, whatever the display.
+    void theLettersOfMatchCaseKeepClearOfTheirFrame()
+    {
+        Lines lines;
+        for (qreal const scale : {1.0, 1.5, 2.0}) {
+            QImage const picture =
+                lines.action(QStringLiteral("Match Case"))->icon().pixmap(QSize(16, 16), scale).toImage();
+            for (int const x : {qRound(1.25 * scale), picture.width() - 1 - qRound(1.25 * scale)}) {
+                for (int y = picture.height() / 3; y < picture.height() * 2 / 3; ++y) {
+                    QVERIFY(qAlpha(picture.pixel(x, y)) < 64);
+                }
+            }
+        }
+    }
+
     void aPauseInTypingIsTold()
     {
         Lines lines;
