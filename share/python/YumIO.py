@@ -31,7 +31,7 @@ import bdb  # noqa: E402,F401
 from vemyum import choice, clean, host, messages, rights, stop, surroundings  # noqa: E402
 from vemyum.apply.parent import Apply  # noqa: E402
 from vemyum.errors import LockError, RepoError, YumBaseError, reported_as  # noqa: E402
-from vemyum.matters import history  # noqa: E402
+from vemyum.matters import advisories, history  # noqa: E402
 from vemyum.root import managed_root  # noqa: E402
 from vemyum.session import Session  # noqa: E402
 
@@ -203,6 +203,23 @@ class YumIO:
         """A transaction, or for 0 all of them, as "text" or "json". YumBaseError."""
         with reported_as(YumBaseError):
             return history.exported(self._session.records(), managed_root(), number, form)
+
+    def advisoryList(self) -> Optional[List[Dict[str, Any]]]:
+        """The advisories about what is installed, the latest first, as `matters.advisories` tells; None where no
+        repository's metadata tells of any. YumBaseError."""
+        with reported_as(YumBaseError):
+            return advisories.listed(self._session.system)
+
+    def advisoryOf(self, identifier: str) -> Dict[str, Any]:
+        """One of them in full, as `matters.advisories` tells. YumBaseError."""
+        with reported_as(YumBaseError):
+            return advisories.told(self._session.system, identifier)
+
+    def securityUpdates(self, newest: bool) -> List[Dict[str, Any]]:
+        """The updates that carry out security advisories, the smallest or the newest, as `matters.advisories` tells.
+        YumBaseError."""
+        with reported_as(YumBaseError):
+            return advisories.security_updates(self._session.system, newest)
 
     def collectFileLists(self) -> bool:
         """YumBaseError."""

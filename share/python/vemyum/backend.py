@@ -133,6 +133,44 @@ class Advice(NamedTuple):
     release: str
 
 
+class Reference(NamedTuple):
+    """What an advisory refers to."""
+
+    kind: str
+    """"cve", "bugzilla", "vendor" or whatever the repository says."""
+    id: str
+    title: str
+    address: str
+
+
+class AdvisoryPackage(NamedTuple):
+    """A version of a package that an advisory names."""
+
+    name: str
+    arch: str
+    epoch: str
+    version: str
+    release: str
+    open: bool
+    """Whether the command line counts it as available: it is newer than the latest that is installed of its name and
+    architecture, or than what is there of the running kernel, whether a repository has it or not."""
+
+
+class Advisory(NamedTuple):
+    """An advisory in full."""
+
+    id: str
+    kind: str
+    """As `Advice` has it."""
+    severity: str
+    title: str
+    issued: int
+    """Seconds since the epoch; 0 where nobody says. One of the libraries tells the last change instead, if any."""
+    text: str
+    references: List[Reference]
+    packages: List[AdvisoryPackage]
+
+
 class PutIn(NamedTuple):
     """A transaction of the library's history that put a version of a package in."""
 
@@ -241,6 +279,14 @@ class System(Protocol):
 
     def advice(self, row: Row) -> List[Advice]:
         """Of the advisories that name the package's name and architecture, in any version."""
+
+    def advisories(self, id: Optional[str] = None) -> List[Advisory]:
+        """Those that name an installed package by name and architecture, in any version; or the one of them with that
+        identifier. Of several repositories' ones of an identifier, the first, with the packages that concern the
+        system of each."""
+
+    def has_advisories(self) -> bool:
+        """Whether any enabled repository's metadata tells of advisories."""
 
     def put_in(self, row: Row) -> List[PutIn]:
         """The transactions that brought a version of the package's name and architecture, the latest first; none for a

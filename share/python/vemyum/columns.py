@@ -4,17 +4,20 @@
 from __future__ import annotations
 
 from collections import defaultdict
-from typing import Any, DefaultDict, Dict, List, Sequence, Tuple
+from typing import Any, DefaultDict, Dict, List, Optional, Sequence, Tuple
 
 from . import versions
 from .backend import Advised, Reason, System
+from .matters import advisories
 from .packages import InstalledPackage, Package
+from .text import valid
 from .texts import _
 
 
 def told(kind: str, packages: Sequence[Package], system: System) -> List[Any]:
     """One value for each package: "installedSize" in bytes; "reason", why it is installed, in a word; "advisory", the
-    identifiers of what an update carries out. KeyError for another kind."""
+    identifiers of what an update carries out; "advisories", the same as `_summaries` has them, None for none. KeyError for
+    another kind."""
     return _KINDS[kind](packages, system)
 
 
@@ -38,19 +41,48 @@ def _reasons(packages: Sequence[Package], system: System) -> List[str]:
     return [by_arch.get((package.name, package.arch)) or by_name.get(package.name, "") for package in packages]
 
 
-def _advisories(packages: Sequence[Package], system: System) -> List[str]:
+def _advised(packages: Sequence[Package], system: System) -> List[List[str]]:
+    """The identifiers of what each carries out, in their order."""
     advised: DefaultDict[Tuple[str, str], List[Advised]] = defaultdict(list)
     for one in system.advised():
         advised[one.name, one.arch].append(one)
 
-    def of(package: Package) -> str:
+    def of(package: Package) -> List[str]:
         # What stands for an installed package brings nothing; a newer one than the row's comes with another update.
         if isinstance(package, InstalledPackage):
-            return ""
+            return []
         these = advised.get((package.name, package.arch), ())
-        return ", ".join(sorted({one.advisory for one in these if versions.compare(one, package.po) <= 0}))
+        return sorted({one.advisory for one in these if versions.compare(one, package.po) <= 0})
 
     return [of(package) for package in packages]
 
 
-_KINDS = {"installedSize": _installed_sizes, "reason": _reasons, "advisory": _advisories}
+def _identifiers(packages: Sequence[Package], system: System) -> List[str]:
+    return [", ".join(carried) for carried in _advised(packages, system)]
+
+
+def _summaries(packages: Sequence[Package], system: System) -> List[Optional[Dict[str, Any]]]:
+    """Of each a dictionary: "type" and "severity" (str) of its gravest advisory, "identifiers" and "cves" (list of
+    str), the gravest advisory first."""
+    known = {one.id: one for one in system.advisories()}
+
+    def of(carried: List[str]) -> Optional[Dict[str, Any]]:
+        these = sorted((known[id] for id in carried if id in known), key=advisories.gravest_first)
+        if not these:
+            return None
+        return {
+            "type": advisories.kind(these[0]),
+            "severity": valid(these[0].severity),
+            "identifiers": [valid(one.id) for one in these],
+            "cves": list(dict.fromkeys(cve for one in these for cve in advisories.cves(one))),
+        }
+
+    return [of(carried) for carried in _advised(packages, system)]
+
+
+_KINDS = {
+    "installedSize": _installed_sizes,
+    "reason": _reasons,
+    "advisory": _identifiers,
+    "advisories": _summaries,
+}

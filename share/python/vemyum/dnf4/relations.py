@@ -9,16 +9,6 @@ import dnf.package
 import dnf.sack
 import hawkey
 
-from ..backend import Advice
-from ..packages import whole_evr
-
-_KINDS = {
-    hawkey.ADVISORY_SECURITY: "security",
-    hawkey.ADVISORY_BUGFIX: "bugfix",
-    hawkey.ADVISORY_ENHANCEMENT: "enhancement",
-    hawkey.ADVISORY_NEWPACKAGE: "newpackage",
-}
-
 
 def wanting(sack: dnf.sack.Sack, rows: Sequence[dnf.package.Package], kind: str) -> List[dnf.package.Package]:
     condition = {kind: list(rows)}
@@ -57,25 +47,6 @@ def satisfying(
 
 def versions_of(sack: dnf.sack.Sack, name: str) -> List[dnf.package.Package]:
     return list(_shown(sack).filter(name=name))
-
-
-def advice(sack: dnf.sack.Sack, row: dnf.package.Package) -> List[Advice]:
-    about = _all(sack).filter(name=row.name, arch=row.arch)
-    found = []
-    for one in about.get_advisory_pkgs(hawkey.LT | hawkey.EQ | hawkey.GT):
-        advisory = one.get_advisory(sack)
-        kind, severity, issued = _KINDS.get(advisory.type, ""), advisory.severity or "", advisory.updated
-        found.append(
-            Advice(
-                advisory.id,
-                kind,
-                severity,
-                advisory.title or "",
-                int(issued.timestamp()) if issued else 0,
-                *whole_evr(one.evr),
-            )
-        )
-    return found
 
 
 def _all(sack: dnf.sack.Sack) -> hawkey.Query:

@@ -14,6 +14,7 @@ from ..backend import (
     GROUPS,
     Advice,
     Advised,
+    Advisory,
     Dependency,
     OpenEntry,
     PutIn,
@@ -23,11 +24,12 @@ from ..backend import (
 from ..packages import whole_evr
 from ..sections import RepositorySection
 from ..vendors import by_name, refused
+from .advisories import advice, advisories
 from .base import open_base
 from .configuration import Settings
 from .fetching import fetch
 from .history import records
-from .relations import Needs, advice, satisfying, versions_of, wanting
+from .relations import Needs, satisfying, versions_of, wanting
 from .rows import checksum, dependencies
 from .sack import light_packages
 
@@ -151,6 +153,12 @@ class System:
 
     def advice(self, row: dnf.package.Package) -> List[Advice]:
         return advice(self._base.sack, row)
+
+    def advisories(self, id: Optional[str] = None) -> List[Advisory]:
+        return advisories(self._base.sack, id)
+
+    def has_advisories(self) -> bool:
+        return any(repo._repo.getMetadataPath("updateinfo") for repo in self._base.repos.iter_enabled())
 
     def architectures(self) -> Sequence[str]:
         return [str(arch) for arch in self._base.sack.list_arches()]

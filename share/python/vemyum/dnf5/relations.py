@@ -5,12 +5,8 @@ from __future__ import annotations
 
 from typing import Any, Iterable, List, Sequence, Tuple
 
-import libdnf5.advisory
-import libdnf5.common
 import libdnf5.rpm
 
-from ..backend import Advice
-from ..packages import whole_evr
 from ..text import valid
 from .base import Base
 from .lists import fitting, package_set
@@ -54,25 +50,6 @@ class Relations:
         query = self._everything()
         query.filter_name([name])
         return self._rows(query)
-
-    def advice(self, row: Row) -> List[Advice]:
-        advisories = libdnf5.advisory.AdvisoryQuery(self._base.library)
-        about = package_set(self._base, [row])
-        found = []
-        for order in (libdnf5.common.QueryCmp_LT, libdnf5.common.QueryCmp_GTE):
-            for one in advisories.get_advisory_packages_sorted(about, order):
-                advisory = one.get_advisory()
-                found.append(
-                    Advice(
-                        advisory.get_name(),
-                        advisory.get_type(),
-                        advisory.get_severity(),
-                        advisory.get_title(),
-                        int(advisory.get_buildtime()),
-                        *whole_evr(one.get_evr()),
-                    )
-                )
-        return found
 
     def _everything(self) -> libdnf5.rpm.PackageQuery:
         """What is there, excluded or not, and what is offered to this machine."""

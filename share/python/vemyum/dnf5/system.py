@@ -23,6 +23,7 @@ from ..backend import (
     GROUPS,
     Advice,
     Advised,
+    Advisory,
     Dependency,
     OpenEntry,
     PutIn,
@@ -36,6 +37,7 @@ from ..packages import COMMAND_LINE
 from ..reading import drop_damaged, without_durations
 from ..sections import RepositorySection
 from ..texts import _
+from .advisories import Advisories
 from .base import Base, open_base
 from .failures import FAILURES, in_full, words
 from .history import records
@@ -296,7 +298,17 @@ class System:
         return self._relations.versions(name)
 
     def advice(self, row: Row) -> List[Advice]:
-        return self._relations.advice(row)
+        return self._advisories.of(row)
+
+    def advisories(self, id: Optional[str] = None) -> List[Advisory]:
+        return self._advisories.all(id)
+
+    def has_advisories(self) -> bool:
+        return self._advisories.there_are()
+
+    @property
+    def _advisories(self) -> Advisories:
+        return Advisories(self.base, self._installed)
 
     @property
     def _relations(self) -> Relations:
