@@ -168,6 +168,8 @@ class Advisory(NamedTuple):
     """Seconds since the epoch; 0 where nobody says. One of the libraries tells the last change instead, if any."""
     text: str
     references: List[Reference]
+    count: int
+    """How many versions of packages it names."""
     packages: List[AdvisoryPackage]
 
 
@@ -282,7 +284,8 @@ class System(Protocol):
 
     def advisories(self, id: Optional[str] = None) -> List[Advisory]:
         """Those that name an installed package by name and architecture, in any version; or the one of them with that
-        identifier. Of several repositories' ones of an identifier, the first, with the packages that concern the
+        identifier. Only this one has all of its packages, the others those whose name and architecture are installed:
+        thousands of advisories name tens of thousands. Of several repositories' ones of an identifier, the first, with the packages that concern the
         system of each."""
 
     def has_advisories(self) -> bool:

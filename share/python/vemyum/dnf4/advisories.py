@@ -34,6 +34,7 @@ def advisories(sack: dnf.sack.Sack, id: Optional[str]) -> List[Advisory]:
             continue
         known = advisory.id in found
         packages = found[advisory.id].packages if known else []
+        every = () if known else advisory.packages
         if not known:
             found[advisory.id] = Advisory(
                 advisory.id,
@@ -46,10 +47,11 @@ def advisories(sack: dnf.sack.Sack, id: Optional[str]) -> List[Advisory]:
                     Reference(_REFERENCES.get(one.type, ""), valid(one.id or ""), valid(one.title or ""), valid(one.url or ""))
                     for one in advisory.references
                 ],
+                len(every),
                 packages,
             )
         # Repositories may each have an advisory of that name: what concerns the system counts of each.
-        for one in (concerned, *(() if known else advisory.packages)):
+        for one in (concerned, *(every if id is not None else ())):
             package = _package(one)
             if (advisory.id, package) not in seen:
                 seen.add((advisory.id, package))

@@ -43,8 +43,10 @@ class Advisories:
                 packages = found[name].packages if name in found else []
                 every = [concerned]
                 if name not in found:
-                    found[name] = _advisory(advisory, packages)
-                    every += [one for part in advisory.get_collections() for one in part.get_packages()]
+                    named = [part.get_packages() for part in advisory.get_collections()]
+                    found[name] = _advisory(advisory, sum(map(len, named)), packages)
+                    if id is not None:
+                        every += [one for part in named for one in part]
                 # Repositories may each have an advisory of that name: what concerns the system counts of each.
                 for one in every:
                     package = _package(one)
@@ -82,12 +84,12 @@ class Advisories:
         return considered
 
 
-def _advisory(advisory: libdnf5.advisory.Advisory, packages: List[AdvisoryPackage]) -> Advisory:
+def _advisory(advisory: libdnf5.advisory.Advisory, count: int, packages: List[AdvisoryPackage]) -> Advisory:
     references = [
         Reference(one.get_type_cstring(), valid(one.get_id()), valid(one.get_title()), valid(one.get_url()))
         for one in advisory.get_references()
     ]
-    return Advisory(*_head(advisory), advisory.get_description(), references, packages)
+    return Advisory(*_head(advisory), advisory.get_description(), references, count, packages)
 
 
 def _head(advisory: libdnf5.advisory.Advisory) -> Any:

@@ -8,7 +8,7 @@ Rests on a collection; changes nothing. An advisory is a dictionary:
     severity    str, as the repository words it; "" where it doesn't
     title       str
     issued      int, seconds since the epoch; 0 where nobody knows
-    count       int, how many packages it names, by name and architecture
+    count       int, how many versions of packages it names
     cves        list of str
     open        bool, whether the command line counts it as available: it names a newer version of what is installed
 
@@ -139,7 +139,7 @@ def _head(one: Advisory) -> Told:
         "severity": valid(one.severity),
         "title": valid(one.title),
         "issued": one.issued,
-        "count": len({(package.name, package.arch) for package in one.packages}),
+        "count": one.count,
         "cves": cves(one),
         "open": any(package.open for package in one.packages),
     }
