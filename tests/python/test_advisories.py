@@ -180,3 +180,22 @@ def test_nothing_is_told_before_a_collection(program: Program) -> None:
     program.start()
     with pytest.raises(program.errors.YumBaseError):
         program.yumio.advisoryList()
+
+
+def test_an_advisory_that_says_hardly_anything_is_told_as_far_as_it_goes(estate: Estate, program: Program) -> None:
+    bare = """
+  <update type="weird"><id>A-7</id>
+    <pkglist><collection>
+      <package name="lamp" epoch="0" version="2.0" release="1" arch="noarch"><filename>l</filename></package>
+    </collection></pkglist>
+  </update>
+  <update type="security"><id>A-8</id></update>
+</updates>
+"""
+    shine(estate, program, UPDATEINFO.replace("\n</updates>\n", bare))
+    found = listed(program)
+    assert "A-8" not in found
+    assert found["A-7"] == {
+        "identifier": "A-7", "type": "other", "severity": "", "title": "", "issued": 0, "count": 1, "cves": [], "open": True,
+    }
+    assert program.yumio.advisoryOf("A-7")["references"] == []
