@@ -120,15 +120,10 @@ void Window::reload()
     if (!isVisible() || !isReady || yumIO->jobRuns()) {
         return;
     }
-    Transaction const* const chosen = current();
-    int const number = chosen ? chosen->number : 0;
+    int const number = currentNumber();
     model->setTransactions(records->all().value_or(QList<Transaction>()));
     shown = 0;
-    if (searchEdit->text().isEmpty()) {
-        choose(number);
-    } else {
-        search();
-    }
+    findAndChoose(number);
 }
 
 void Window::search()
@@ -138,19 +133,17 @@ void Window::search()
         return;
     }
     typing.stop();
-    Transaction const* const chosen = current();
-    int const number = chosen ? chosen->number : 0;
+    findAndChoose(currentNumber());
+}
+
+void Window::findAndChoose(int number)
+{
     QString const text = searchEdit->text().trimmed();
     if (text.isEmpty()) {
         proxy->show(std::nullopt);
     } else if (auto const numbers = records->concerning(text)) {
         proxy->show(QSet<int>(numbers->begin(), numbers->end()));
     }
-    choose(number);
-}
-
-void Window::choose(int number)
-{
     QModelIndex row = proxy->mapFromSource(model->index(model->rowOf(number), 0));
     if (!row.isValid()) {
         row = proxy->index(0, 0);
@@ -165,6 +158,12 @@ Transaction const* Window::current() const
     return row.isValid() ? &model->transaction(proxy->mapToSource(row).row()) : nullptr;
 }
 
+int Window::currentNumber() const
+{
+    Transaction const* const chosen = current();
+    return chosen ? chosen->number : 0;
+}
+
 void Window::showCurrent()
 {
     if (yumIO->jobRuns()) {
@@ -172,10 +171,9 @@ void Window::showCurrent()
         return;
     }
     choice.stop();
-    Transaction const* const chosen = current();
-    int const number = chosen ? chosen->number : 0;
+    int const number = currentNumber();
     if (number != shown || number == 0) {
-        Whole const whole = chosen ? records->whole(number).value_or(Whole()) : Whole();
+        Whole const whole = current() ? records->whole(number).value_or(Whole()) : Whole();
         shown = number;
         showHead(whole);
         packagesModel->show(whole);
@@ -188,8 +186,11 @@ void Window::showHead(Whole const& whole)
 {
     Transaction const& head = whole.head;
     if (head.number == 0) {
+        // Where one is chosen, it has been told why it can't be shown.
         headEdit->setPlainText(
-            model->rowCount() == 0 ? tr("No transaction is known.") : tr("No transaction fits the search."));
+            current()                ? QString()
+            : model->rowCount() == 0 ? tr("No transaction is known.")
+                                     : tr("No transaction fits the search."));
         return;
     }
     QStringList lines{tr("Transaction %1: %2").arg(head.number).arg(Words::of(head.result))};

@@ -72,9 +72,12 @@ private:
     [[nodiscard]] QHBoxLayout* createButtonRow();
     void takeLooks();
     void search();
-    void choose(int number);
+    /// Shows what fits the search, and has this transaction chosen, if it does, else the first one.
+    void findAndChoose(int number);
     /// The chosen one; null for none.
     [[nodiscard]] Transaction const* current() const;
+    /// Its number; 0 for none.
+    [[nodiscard]] int currentNumber() const;
     void showCurrent();
     void showHead(Whole const& whole);
     void showOutput(Whole const& whole);

@@ -166,6 +166,20 @@ private Q_SLOTS:
         EVENTUALLY_COMPARE(numbers(), (QStringList{"3", "2", "1"}));
     }
 
+    void choiceOutlastsAReloadDuringASearch()
+    {
+        run("standin.instead('historySearch', lambda text: [3, 1])");
+        searchEdit()->setText(QStringLiteral("ash"));
+        EVENTUALLY_COMPARE(numbers(), (QStringList{"3", "1"}));
+        transactions()->selectRow(1);
+        EVENTUALLY_VERIFY(head().startsWith(QLatin1String("Transaction 1:")));
+        history()->reload();
+        QCOMPARE(numbers(), (QStringList{"3", "1"}));
+        QVERIFY(head().startsWith(QLatin1String("Transaction 1:")));
+        searchEdit()->clear();
+        EVENTUALLY_COMPARE(numbers(), (QStringList{"3", "2", "1"}));
+    }
+
     void lastTransactionHasNothingBehindItToRollBack()
     {
         transactions()->selectRow(0);
@@ -242,6 +256,7 @@ private Q_SLOTS:
         QCOMPARE(
             boxes->takeTexts(),
             QStringList{QStringLiteral("a damaged page\nUnable to read the history of transactions")});
+        QCOMPARE(head(), QString());
         run("standin.instead('historyOf', whole)");
         transactions()->selectRow(1);
         EVENTUALLY_VERIFY(head().startsWith(QLatin1String("Transaction 2:")));
