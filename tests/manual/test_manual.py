@@ -19,7 +19,8 @@ import pytest
 ROOT = Path(__file__).resolve().parents[2]
 SOURCE = ROOT / "manual"
 BUILT = Path(os.environ["VEM_MANUAL"])
-FOLDERS = ("base", "widgets", "bridge", "services", "engine", "repo", "packagetable", "shell", "share/python")
+FOLDERS = [path.parent for path in sorted(ROOT.glob("*/CMakeLists.txt")) if "vem_library(" in path.read_text()]
+FOLDERS += [ROOT / "share/python"]
 CHAPTERS = sorted((SOURCE / "chapters").glob("*.adoc"))
 
 
@@ -61,7 +62,7 @@ def words() -> str:
     """All texts of the program, each in one piece, blanks and line feeds as single blanks."""
     texts = []
     for folder in FOLDERS:
-        for path in sorted((ROOT / folder).rglob("*")):
+        for path in sorted(folder.rglob("*")):
             if path.suffix in {".cpp", ".h", ".py"}:
                 texts.append(re.sub(r'"\s*\n\s*[frb]{0,2}"', "", path.read_text(encoding="utf-8")))
     return plain("\n".join(texts).replace(r"\n", " ").replace(r"\t", " ").replace(r"\"", '"'))
