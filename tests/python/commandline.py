@@ -5,7 +5,10 @@ from __future__ import annotations
 
 import shutil
 import subprocess
+import sys
 from typing import List
+
+import pytest
 
 from libraries import by_library
 from rpmestate import Estate
@@ -24,6 +27,19 @@ def command_line(estate: Estate, *words: str, check: bool = True) -> str:
     )
     assert done.returncode == 0 or not check, done.stdout
     return done.stdout
+
+
+def require_groups() -> None:
+    """Skips a test whose command line ends by a signal as soon as it looks at a group: dnf 4's parser of groups does so
+    as some releases have built it (Debian 13)."""
+    look = "import libcomps; comps = libcomps.Comps(); comps.fromxml_str(%r); print([one.id for one in comps.groups])"
+    looked = subprocess.run(
+        [sys.executable, "-W", "ignore", "-c", look % "<comps><group><id>light</id></group></comps>"],
+        stdout=subprocess.PIPE,
+        check=False,
+    )
+    if by_library(looked.stdout != b"['light']\n", False):
+        pytest.skip("the groups of this release's command line are broken")
 
 
 def _command(estate: Estate) -> List[str]:

@@ -12,7 +12,7 @@ from typing import Any, Dict, List, Set, Tuple
 
 import pytest
 from catalogue import Catalogue
-from commandline import command_line
+from commandline import command_line, require_groups
 from fake_host import FakeHost
 from libraries import BACKEND, HISTORY, by_library
 from program import Program
@@ -229,6 +229,7 @@ def test_what_needs_a_package_that_goes_goes_along_and_is_told(
 
 
 def test_a_group_goes_and_comes_with_its_transaction(house: Estate, rpms: Catalogue, program: Program) -> None:
+    require_groups()
     comps = (
         "<comps><group><id>light</id><name>Light</name><uservisible>true</uservisible>"
         '<packagelist><packagereq type="mandatory">lone</packagereq></packagelist></group></comps>'
