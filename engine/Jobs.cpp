@@ -40,13 +40,7 @@ bool Jobs::run(Work const& work)
 
 bool Jobs::runBriefly(Work const& work, std::function<void()> const& lasts)
 {
-    if (running()) {
-        return false;
-    }
-    QEventLoop loop;
-    WorkThread thread(stop, loop, withMeans(work));
-    exec(loop, thread, lasts);
-    return thread.result;
+    return !running() && runBare(withMeans(work), lasts);
 }
 
 Jobs::Work Jobs::withMeans(Work const& work)
@@ -58,11 +52,11 @@ Jobs::Work Jobs::withMeans(Work const& work)
     };
 }
 
-bool Jobs::runBare(Work const& work)
+bool Jobs::runBare(Work const& work, std::function<void()> const& lasts)
 {
     QEventLoop loop;
     WorkThread thread(stop, loop, work);
-    exec(loop, thread);
+    exec(loop, thread, lasts);
     return thread.result;
 }
 

@@ -74,7 +74,8 @@ public:
     /// sees to that, and events are served from then on.
     bool runBriefly(Work const& work, std::function<void()> const& lasts);
     /// Runs a job that sees to its means and to the lock by itself. The caller knows that no other works.
-    bool runBare(Work const& work);
+    /// With `lasts`, briefly.
+    bool runBare(Work const& work, std::function<void()> const& lasts = {});
     /// Runs a thread that ends this loop, as `runBare` runs its own.
     void exec(QEventLoop& loop, QThread& thread, std::function<void()> const& lasts = {});
 

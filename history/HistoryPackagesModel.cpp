@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "history/HistoryPackagesModel.h"
 
+#include "services/TransactionDetails.h"
 #include "widgets/Fonts.h"
 
 namespace History
@@ -63,7 +64,7 @@ QString PackagesModel::cell(Package const& package, int column)
     case NameColumn:
         return package.name;
     case VersionColumn:
-        return Words::versions(package.oldVersion, package.newVersion);
+        return TransactionDetails::versions(package.oldVersion, package.newVersion);
     case ArchitectureColumn:
         return package.arch;
     case RepositoryColumn:

@@ -209,12 +209,4 @@ QString Words::moment(qint64 seconds)
                : QDateTime::fromSecsSinceEpoch(seconds).toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
 }
 
-QString Words::versions(QString const& oldVersion, QString const& newVersion)
-{
-    if (oldVersion.isEmpty() || newVersion.isEmpty() || oldVersion == newVersion) {
-        return newVersion.isEmpty() ? oldVersion : newVersion;
-    }
-    return QStringLiteral("%1 \u2192 %2").arg(oldVersion, newVersion);
-}
-
 } // namespace History

@@ -103,8 +103,6 @@ public:
     [[nodiscard]] static QString counts(Transaction const& transaction);
     /// Seconds since 1970 in local time, in the form that sorts; empty for 0.
     [[nodiscard]] static QString moment(qint64 seconds);
-    /// "1.0-1 → 1.1-1", or the one version that there is.
-    [[nodiscard]] static QString versions(QString const& oldVersion, QString const& newVersion);
 };
 
 } // namespace History

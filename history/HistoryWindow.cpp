@@ -46,7 +46,6 @@ Window::Window(YumIO* engine, QWidget* parent)
     typing.setSingleShot(true);
     typing.setInterval(typingPause);
     build();
-    learn();
     takeLooks();
     connect(records, &Records::busy, this, &Window::busy);
     connect(&choice, &QTimer::timeout, this, &Window::showCurrent);
@@ -73,9 +72,6 @@ void Window::learn()
 void Window::setReady(bool ready)
 {
     isReady = ready;
-    if (ready) {
-        learn();
-    }
     searchEdit->setEnabled(ready && searches);
     table->setEnabled(ready);
     enableButtons();
@@ -120,6 +116,8 @@ void Window::reload()
     if (!isVisible() || !isReady || yumIO->jobRuns()) {
         return;
     }
+    learn();
+    searchEdit->setEnabled(searches);
     int const number = currentNumber();
     model->setTransactions(records->all().value_or(QList<Transaction>()));
     shown = 0;
@@ -225,7 +223,7 @@ void Window::enableButtons()
     // What is to be installed is looked for in what the collection has read.
     bool const possible = chosen && chosen->result != Result::Running && turnsBack && whyNot.isEmpty() &&
                           yumIO->listSerial() != 0;
-    bool const isLatest = chosen && model->rowOf(chosen->number) == 0;
+    bool const isLatest = chosen && chosen->number == model->transaction(0).number;
     undoButton->setEnabled(possible);
     redoButton->setEnabled(possible);
     rollBackButton->setEnabled(possible && !isLatest);

@@ -64,7 +64,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    /// Asks the script what it can do. Not during a job: the interpreter may be held for long then.
+    /// Asks the script what it can do. Not while a job runs: the interpreter may be held for long then.
     void learn();
     void build();
     [[nodiscard]] QHBoxLayout* createSearchRow();

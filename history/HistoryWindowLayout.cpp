@@ -76,7 +76,6 @@ QHBoxLayout* Window::createSearchRow()
                               "architecture hold this text or, with * or ?, match it"));
     searchEdit->setAccessibleDescription(searchEdit->toolTip());
     searchEdit->setMinimumWidth(Sizing::columns(searchEdit, searchWidth));
-    connect(searchEdit, &QLineEdit::textEdited, &typing, qOverload<>(&QTimer::start));
     connect(searchEdit, &QLineEdit::textChanged, &typing, qOverload<>(&QTimer::start));
     connect(searchEdit, &QLineEdit::returnPressed, this, &Window::search);
     auto* const label = new QLabel(tr("Pac&kage:"), this);

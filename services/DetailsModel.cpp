@@ -93,7 +93,7 @@ QString DetailsModel::cell(Row const& row, int column) const
     case NameColumn:
         return row.name;
     case VersionColumn:
-        return versions(row);
+        return TransactionDetails::versions(row.oldVersion, row.newVersion);
     case ArchitectureColumn:
         return row.arch;
     case RepositoryColumn:
@@ -137,14 +137,6 @@ QString DetailsModel::words(Action action)
         return tr("Replace");
     }
     return {};
-}
-
-QString DetailsModel::versions(Row const& row)
-{
-    if (row.oldVersion.isEmpty() || row.newVersion.isEmpty()) {
-        return row.oldVersion + row.newVersion;
-    }
-    return QStringLiteral("%1 \u2192 %2").arg(row.oldVersion, row.newVersion);
 }
 
 QString DetailsModel::reason(Row const& row)

@@ -39,8 +39,6 @@ public:
 
     /// The words of an action.
     [[nodiscard]] static QString words(TransactionDetails::Action action);
-    /// "1.0-1 → 1.1-1", or the one version that there is.
-    [[nodiscard]] static QString versions(TransactionDetails::Row const& row);
     /// Why the package is in the transaction.
     [[nodiscard]] static QString reason(TransactionDetails::Row const& row);
     /// What a warning says, with "%1" where names of packages go.

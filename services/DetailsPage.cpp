@@ -216,7 +216,8 @@ QString DetailsPage::changesOf(int row) const
     QString const text = changes.value(row);
     TransactionDetails::Row const& package = model->row(row);
     return text.isEmpty() ? QString()
-                          : package.name + QLatin1Char(' ') + DetailsModel::versions(package) +
+                          : package.name + QLatin1Char(' ') +
+                                TransactionDetails::versions(package.oldVersion, package.newVersion) +
                                 QLatin1String("\n\n") + text;
 }
 

@@ -59,6 +59,15 @@ struct TransactionDetails
         Warnings warnings;
     };
 
+    /// "1.0-1 → 1.1-1", or the one version that there is.
+    [[nodiscard]] static QString versions(QString const& oldVersion, QString const& newVersion)
+    {
+        if (oldVersion.isEmpty() || newVersion.isEmpty() || oldVersion == newVersion) {
+            return newVersion.isEmpty() ? oldVersion : newVersion;
+        }
+        return QStringLiteral("%1 \u2192 %2").arg(oldVersion, newVersion);
+    }
+
     QList<Row> rows;      ///< those that want attention first
     QString download;     ///< what is still to be fetched, for people
     QString growth;       ///< by how much the disk's use changes, without sign

@@ -20,7 +20,7 @@ EDGES: dict[str, set[str]] = {
     "engine": {"base", "bridge", "services"},
     "repo": {"base", "widgets", "engine"},
     "packagetable": {"base", "widgets", "engine", "repo"},
-    "history": {"base", "widgets", "services", "engine"},
+    "history": {"widgets", "services", "engine"},
     "shell": {"base", "widgets", "bridge", "services", "engine", "repo", "packagetable", "history"},
 }
 INCLUDE = re.compile(r'^\s*#\s*include\s+["<]([a-z]+)/', re.MULTILINE)

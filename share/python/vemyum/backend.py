@@ -285,8 +285,8 @@ class System(Protocol):
     def advisories(self, id: Optional[str] = None) -> List[Advisory]:
         """Those that name an installed package by name and architecture, in any version; or the one of them with that
         identifier. Only this one has all of its packages, the others those whose name and architecture are installed:
-        thousands of advisories name tens of thousands. Of several repositories' ones of an identifier, the first, with the packages that concern the
-        system of each."""
+        thousands of advisories name tens of thousands. Of several repositories' ones of an identifier, the first, with
+        the packages that concern the system of each."""
 
     def has_advisories(self) -> bool:
         """Whether any enabled repository's metadata tells of advisories."""

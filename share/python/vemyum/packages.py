@@ -298,7 +298,12 @@ def shown_repository(id: str) -> str:
 def shown(package: PkgTup) -> str:
     """As the libraries write it: "name-[epoch:]version-release.arch"."""
     name, arch, epoch, version, release = package
-    return f"{name}-{'' if epoch == '0' else epoch + ':'}{version}-{release}.{arch}"
+    return f"{name}-{shown_evr(f'{epoch}:{version}-{release}')}.{arch}"
+
+
+def shown_evr(evr: str) -> str:
+    """Of "epoch:version-release": without an epoch that is none."""
+    return evr[2:] if evr.startswith("0:") else evr
 
 
 def dependency(text: str, name: str, relation: str, version: str) -> Dependency:

@@ -18,7 +18,7 @@ from .apply.messages import DOWNGRADE, INSTALL, OBSOLETED, REINSTALL, REMOVE, RE
 from .backend import OpenEntry, PkgTup, PutIn
 from .errors import YumBaseError
 from .history import readable
-from .packages import whole_evr
+from .packages import shown_evr, whole_evr
 from .root import as_configured
 from .text import valid
 from .texts import _
@@ -325,11 +325,6 @@ def changes(items: Sequence[Item]) -> List[Change]:
         versions = (shown_evr(old), shown_evr(new))
         found.append(Change(one.name, one.arch, *versions, one.action, one.reason, one.repository, one.state))
     return found
-
-
-def shown_evr(evr: str) -> str:
-    """Without an epoch that is none."""
-    return evr[2:] if evr.startswith("0:") else evr
 
 
 def _whole(number: Any) -> int:

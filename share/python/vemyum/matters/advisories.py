@@ -31,6 +31,7 @@ from typing import Any, Dict, List, Optional, Tuple
 from .. import stop, versions
 from ..backend import Advisory, Row, System
 from ..errors import YumBaseError
+from ..packages import shown_evr
 from ..text import valid
 from ..texts import _
 
@@ -159,7 +160,4 @@ def _evr(one: Any) -> Tuple[str, str, str]:
 
 
 def _version(one: Any) -> str:
-    if one is None:
-        return ""
-    epoch, version, release = _evr(one)
-    return f"{version}-{release}" if epoch == "0" else f"{epoch}:{version}-{release}"
+    return "" if one is None else shown_evr("{}:{}-{}".format(*_evr(one)))
