@@ -19,12 +19,6 @@ constexpr char const* exportFunction = "historyExport";
 
 } // namespace
 
-Records::Records(YumIO* engine, QObject* parent)
-    : QObject(parent),
-      yumIO(engine)
-{
-}
-
 bool Records::offered(YumIO const& yumIO)
 {
     return yumIO.script.has(listFunction) && yumIO.script.has(wholeFunction);
@@ -32,46 +26,23 @@ bool Records::offered(YumIO const& yumIO)
 
 bool Records::searches() const
 {
-    return yumIO->script.has(searchFunction);
+    return has(searchFunction);
 }
 
 bool Records::exports() const
 {
-    return yumIO->script.has(exportFunction);
+    return has(exportFunction);
 }
 
-template <typename Take>
-bool Records::read(
-    char const* function, Script::Arguments const& arguments, QJsonValue::Type type, Take const& take)
+QString Records::failure()
 {
-    bool lasted = false;
-    auto const work = [&] {
-        auto const answer =
-            yumIO->script.call(function, arguments, tr("Unable to read the history of transactions"));
-        if (answer && answer->type() != type) {
-            yumIO->script.misunderstood(function);
-            return false;
-        }
-        if (answer) {
-            take(*answer);
-        }
-        return answer.has_value();
-    };
-    auto const lasts = [&] {
-        lasted = true;
-        Q_EMIT busy(true);
-    };
-    bool const read = yumIO->jobs.runBriefly(work, lasts);
-    if (lasted) {
-        Q_EMIT busy(false);
-    }
-    return read;
+    return tr("Unable to read the history of transactions");
 }
 
 std::optional<QList<Transaction>> Records::all()
 {
     QList<Transaction> transactions;
-    bool const told = read(listFunction, {}, QJsonValue::Array, [&](QJsonValue const& answer) {
+    bool const told = read(listFunction, {}, failure(), {QJsonValue::Array}, [&](QJsonValue const& answer) {
         for (QJsonValue const transaction : answer.toArray()) {
             transactions.append(transactionOf(transaction.toObject()));
         }
@@ -82,20 +53,22 @@ std::optional<QList<Transaction>> Records::all()
 std::optional<Whole> Records::whole(int number)
 {
     Whole found;
-    bool const told = read(wholeFunction, {number}, QJsonValue::Object, [&](QJsonValue const& answer) {
-        found = wholeOf(answer.toObject());
-    });
+    bool const told =
+        read(wholeFunction, {number}, failure(), {QJsonValue::Object}, [&](QJsonValue const& answer) {
+            found = wholeOf(answer.toObject());
+        });
     return told ? std::optional(found) : std::nullopt;
 }
 
 std::optional<QList<int>> Records::concerning(QString const& text)
 {
     QList<int> numbers;
-    bool const told = read(searchFunction, {text}, QJsonValue::Array, [&](QJsonValue const& answer) {
-        for (QJsonValue const number : answer.toArray()) {
-            numbers.append(number.toInt());
-        }
-    });
+    bool const told =
+        read(searchFunction, {text}, failure(), {QJsonValue::Array}, [&](QJsonValue const& answer) {
+            for (QJsonValue const number : answer.toArray()) {
+                numbers.append(number.toInt());
+            }
+        });
     return told ? std::optional(numbers) : std::nullopt;
 }
 
@@ -103,9 +76,10 @@ std::optional<QString> Records::exported(int number, bool asJson)
 {
     QString text;
     QLatin1String const form(asJson ? "json" : "text");
-    bool const told = read(exportFunction, {number, form}, QJsonValue::String, [&](QJsonValue const& answer) {
-        text = answer.toString();
-    });
+    bool const told =
+        read(exportFunction, {number, form}, failure(), {QJsonValue::String}, [&](QJsonValue const& answer) {
+            text = answer.toString();
+        });
     return told ? std::optional(text) : std::nullopt;
 }
 

@@ -7,11 +7,8 @@
 #include "history/HistoryRecords.h"
 #include "services/ScrollableConfirmDialog.h"
 #include "widgets/ListTable.h"
-#include "widgets/RememberedSize.h"
 
-#include <QEvent>
 #include <QFileDialog>
-#include <QItemSelectionModel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPlainTextEdit>
@@ -26,34 +23,23 @@ namespace History
 namespace
 {
 
-constexpr int choicePause = 30;
 constexpr int typingPause = 300;
 
 } // namespace
 
 Window::Window(YumIO* engine, QWidget* parent)
-    : HDialog(parent),
-      yumIO(engine),
+    : MatterWindow(QStringLiteral("history"), engine, parent),
       records(new Records(engine, this)),
       model(new Model(this)),
       proxy(new Proxy(model, this)),
       packagesModel(new PackagesModel(this))
 {
     setWindowTitle(tr("History"));
-    setWindowFlag(Qt::WindowMinMaxButtonsHint);
-    choice.setSingleShot(true);
-    choice.setInterval(choicePause);
     typing.setSingleShot(true);
     typing.setInterval(typingPause);
     build();
-    takeLooks();
-    connect(records, &Records::busy, this, &Window::busy);
-    connect(&choice, &QTimer::timeout, this, &Window::showCurrent);
     connect(&typing, &QTimer::timeout, this, &Window::search);
-    connect(
-        table->selectionModel(), &QItemSelectionModel::currentRowChanged, &choice,
-        qOverload<>(&QTimer::start));
-    new RememberedSize(QStringLiteral("history"), this);
+    begin(table, records);
 }
 
 bool Window::offered(YumIO const& yumIO)
@@ -69,36 +55,10 @@ void Window::learn()
     whyNot = yumIO->whyNoChange();
 }
 
-void Window::setReady(bool ready)
-{
-    isReady = ready;
-    searchEdit->setEnabled(ready && searches);
-    table->setEnabled(ready);
-    enableButtons();
-}
-
-void Window::showEvent(QShowEvent* event)
-{
-    HDialog::showEvent(event);
-    if (!event->spontaneous()) {
-        // Behind the first painting, so that the window is there at once.
-        QMetaObject::invokeMethod(this, &Window::reload, Qt::QueuedConnection);
-    }
-}
-
 void Window::hideEvent(QHideEvent* event)
 {
-    choice.stop();
     typing.stop();
-    HDialog::hideEvent(event);
-}
-
-void Window::changeEvent(QEvent* event)
-{
-    HDialog::changeEvent(event);
-    if (table && (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)) {
-        takeLooks();
-    }
+    MatterWindow::hideEvent(event);
 }
 
 void Window::takeLooks()
@@ -111,13 +71,9 @@ void Window::takeLooks()
     headEdit->setFixedHeight(lines * (headEdit->fontMetrics().lineSpacing() + 1) + around);
 }
 
-void Window::reload()
+void Window::readAll()
 {
-    if (!isVisible() || !isReady || yumIO->jobRuns()) {
-        return;
-    }
     learn();
-    searchEdit->setEnabled(searches);
     int const number = currentNumber();
     model->setTransactions(records->all().value_or(QList<Transaction>()));
     shown = 0;
@@ -126,7 +82,7 @@ void Window::reload()
 
 void Window::search()
 {
-    if (!isReady || yumIO->jobRuns()) {
+    if (!mayRead()) {
         typing.start();
         return;
     }
@@ -147,7 +103,7 @@ void Window::findAndChoose(int number)
         row = proxy->index(0, 0);
     }
     table->setCurrentIndex(row);
-    showCurrent();
+    showChosenNow();
 }
 
 Transaction const* Window::current() const
@@ -162,22 +118,17 @@ int Window::currentNumber() const
     return chosen ? chosen->number : 0;
 }
 
-void Window::showCurrent()
+void Window::showChosen()
 {
-    if (yumIO->jobRuns()) {
-        choice.start();
+    int const number = currentNumber();
+    if (number == shown && number != 0) {
         return;
     }
-    choice.stop();
-    int const number = currentNumber();
-    if (number != shown || number == 0) {
-        Whole const whole = current() ? records->whole(number).value_or(Whole()) : Whole();
-        shown = number;
-        showHead(whole);
-        packagesModel->show(whole);
-        showOutput(whole);
-    }
-    enableButtons();
+    Whole const whole = current() ? records->whole(number).value_or(Whole()) : Whole();
+    shown = number;
+    showHead(whole);
+    packagesModel->show(whole);
+    showOutput(whole);
 }
 
 void Window::showHead(Whole const& whole)
@@ -217,9 +168,10 @@ void Window::showOutput(Whole const& whole)
     outputEdit->setPlainText(lines.join(QLatin1Char('\n')));
 }
 
-void Window::enableButtons()
+void Window::enableControls()
 {
-    Transaction const* const chosen = isReady ? current() : nullptr;
+    searchEdit->setEnabled(isReady() && searches);
+    Transaction const* const chosen = isReady() ? current() : nullptr;
     // What is to be installed is looked for in what the collection has read.
     bool const possible = chosen && chosen->result != Result::Running && turnsBack && whyNot.isEmpty() &&
                           yumIO->listSerial() != 0;
@@ -242,7 +194,7 @@ void Window::wish(HistoryWish::Kind kind)
         return;
     }
     HistoryWish wished{kind, chosen->number};
-    Q_EMIT applies([this, wished]() mutable {
+    apply([this, wished]() mutable {
         QStringList obstacles;
         if (yumIO->applyHistory(wished, obstacles)) {
             return true;
@@ -250,10 +202,6 @@ void Window::wish(HistoryWish::Kind kind)
         wished.without = true;
         return !obstacles.isEmpty() && goesOnWithout(obstacles) && yumIO->applyHistory(wished, obstacles);
     });
-    // The keyboard comes back from the questions to the main window, whose they are.
-    if (isVisible()) {
-        activateWindow();
-    }
 }
 
 bool Window::goesOnWithout(QStringList const& obstacles)

@@ -8,7 +8,6 @@
 #include "widgets/Sizing.h"
 
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -29,20 +28,6 @@ constexpr int mostRows = 12;
 constexpr int mostPackageRows = 8;
 constexpr int searchWidth = 24; ///< characters
 
-// Widths in characters, at least those of the headings: to look at thousands of rows for them takes long.
-constexpr int historyWidths[Model::ColumnCount] = {7, 20, 9, 9, 30, 12, 12};
-constexpr int packageWidths[PackagesModel::ColumnCount] = {13, 26, 28, 12, 14, 12};
-
-template <std::size_t count>
-void setWidths(ListTable& table, int const (&widths)[count])
-{
-    QHeaderView const* const header = table.horizontalHeader();
-    for (int column = 0; column < static_cast<int>(count); ++column) {
-        table.setColumnWidth(
-            column, qMax(Sizing::columns(&table, widths[column]), header->sectionSizeHint(column)));
-    }
-}
-
 } // namespace
 
 void Window::build()
@@ -54,7 +39,7 @@ void Window::build()
     table->setAccessibleName(tr("History"));
     table->setAccessibleDescription(tr("All transactions, the latest first"));
     table->display(proxy);
-    setWidths(*table, historyWidths);
+    table->setColumnWidths({7, 20, 9, 9, 30, 12, 12});
 
     auto* const parts = new QSplitter(Qt::Vertical, this);
     parts->setChildrenCollapsible(false);
@@ -106,7 +91,7 @@ QWidget* Window::createDetails()
     auto* const sorted = new HSortFilterProxyModel(PackagesModel::NameColumn, this);
     sorted->setSourceModel(packagesModel);
     packagesTable->display(sorted);
-    setWidths(*packagesTable, packageWidths);
+    packagesTable->setColumnWidths({13, 26, 28, 12, 14, 12});
     outputEdit = new QPlainTextEdit(pages);
     outputEdit->setReadOnly(true);
     outputEdit->setTabChangesFocus(true);

@@ -10,9 +10,11 @@
 #include <QPointer>
 #include <QStringList>
 #include <functional>
+#include <memory>
 
 class Desktop;
 class HMenu;
+class MatterWindow;
 class QAction;
 class QCheckBox;
 class QComboBox;
@@ -22,11 +24,6 @@ class StatusLine;
 class WindowMemory;
 class YumConfIO;
 class YumIO;
-
-namespace History
-{
-class Window;
-}
 
 namespace Log
 {
@@ -78,7 +75,6 @@ public Q_SLOTS:
     void yumConfIOChanged();
     void quit();
     void displayLog();
-    void showHistory();
     void editRepositories(bool forceReposChanged = false);
     void cleanHeaders();
     void cleanPackages();
@@ -173,10 +169,15 @@ private:
     void applying(std::function<bool()> const& job);
     /// The windows of the matters that stand beside the table: their entries, what is allowed in them, and
     /// that the system may be another one than they show.
+    struct Matter;
     void addMatters(HMenu& menu);
+    [[nodiscard]] MatterWindow* makeAdvisories();
+    void showMatter(Matter& matter);
     void allowMatters(bool ready);
     void reloadMatters();
     void closeMatters();
+    /// Marks the updates of the packages of these names, and shows all that is marked.
+    void markUpdates(QStringList const& names);
 
     /// What is remembered, by its key in the user's settings.
     static constexpr QLatin1String matchCaseSetting{"table/matchCase"};
@@ -223,7 +224,6 @@ private:
     Desktop* desktop = nullptr;
     WindowMemory* memory = nullptr;
     RepoEditor::Dialog* repoEditorDialog = nullptr; ///< null until first used
-    QAction* historyAction = nullptr;
-    History::Window* historyWindow = nullptr; ///< null until first used
-    Log::Window* logWindow = nullptr;         ///< null until first used; top-level, deleted with this window
+    QList<std::shared_ptr<Matter>> matters;
+    Log::Window* logWindow = nullptr; ///< null until first used; top-level, deleted with this window
 };

@@ -2,58 +2,116 @@
 // The windows of the matters that stand beside the table.
 #include "shell/MainWindow.h"
 
+#include "advisories/AdvisoriesWindow.h"
 #include "engine/YumIO.h"
 #include "history/HistoryWindow.h"
+#include "packagetable/PackageTableColumns.h"
+#include "packagetable/PackageTableModel.h"
+#include "packagetable/PackageTableView.h"
 #include "widgets/HMenu.h"
 
 #include <QAction>
+#include <QComboBox>
+#include <QSet>
+
+/// One of these windows, and its entry.
+struct MainWindow::Matter
+{
+    QAction* action;
+    QString tip;
+    QString tooOld; ///< says that the script in use knows nothing of it
+    bool (*offered)(YumIO const& yumIO);
+    std::function<MatterWindow*()> make;
+    MatterWindow* window = nullptr; ///< null until first used
+};
 
 void MainWindow::addMatters(HMenu& menu)
 {
-    historyAction = menu.addAction(tr("&History"));
-    historyAction->setShortcut(QKeySequence(tr("Ctrl+H")));
-    connect(historyAction, &QAction::triggered, this, &MainWindow::showHistory);
+    auto const add = [&](Matter matter, QString const& key) {
+        matter.action->setShortcut(QKeySequence(key));
+        matters.append(std::make_shared<Matter>(std::move(matter)));
+        connect(matters.last()->action, &QAction::triggered, this, [this, shown = matters.last()] {
+            showMatter(*shown);
+        });
+    };
+    add({menu.addAction(tr("&History")),
+         tr("Shows what was installed, updated and removed, and takes it back"),
+         tr("The helper script in use is too old to tell the history"), &History::Window::offered,
+         [this] { return new History::Window(yumIO, this); }},
+        tr("Ctrl+H"));
+    add({menu.addAction(tr("A&dvisories")),
+         tr("Shows what the repositories advise about installed packages, security first of all"),
+         tr("The helper script in use is too old to tell of advisories"), &Advisories::Window::offered,
+         [this] { return makeAdvisories(); }},
+        tr("Ctrl+D"));
+}
+
+MatterWindow* MainWindow::makeAdvisories()
+{
+    auto* const advisories = new Advisories::Window(yumIO, this);
+    connect(advisories, &Advisories::Window::updatesWanted, this, &MainWindow::markUpdates);
+    connect(advisories, &Advisories::Window::addressWanted, this, [this](QString const& address) {
+        runShareCommand({QStringLiteral("webbrowser"), address});
+    });
+    return advisories;
 }
 
 void MainWindow::allowMatters(bool ready)
 {
-    // While a job runs, the interpreter is not to be asked.
-    if (ready) {
-        bool const offered = History::Window::offered(*yumIO);
-        historyAction->setEnabled(offered);
-        historyAction->setToolTip(
-            offered ? tr("Shows what was installed, updated and removed, and takes it back")
-                    : tr("The helper script in use is too old to tell the history"));
-    } else {
-        historyAction->setEnabled(false);
-    }
-    if (historyWindow) {
-        historyWindow->setReady(ready);
+    for (auto const& matter : std::as_const(matters)) {
+        // While a job runs, the interpreter is not to be asked.
+        bool const offered = ready && matter->offered(*yumIO);
+        matter->action->setEnabled(offered);
+        if (ready) {
+            matter->action->setToolTip(offered ? matter->tip : matter->tooOld);
+        }
+        if (matter->window) {
+            matter->window->setReady(ready);
+        }
     }
 }
 
 void MainWindow::reloadMatters()
 {
-    if (historyWindow) {
-        historyWindow->reload();
+    for (auto const& matter : std::as_const(matters)) {
+        if (matter->window) {
+            matter->window->reload();
+        }
     }
 }
 
 void MainWindow::closeMatters()
 {
-    if (historyWindow) {
-        historyWindow->close();
+    for (auto const& matter : std::as_const(matters)) {
+        if (matter->window) {
+            matter->window->close();
+        }
     }
 }
 
-void MainWindow::showHistory()
+void MainWindow::showMatter(Matter& matter)
 {
-    if (!historyWindow) {
-        historyWindow = new History::Window(yumIO, this);
-        connect(historyWindow, &History::Window::busy, this, [this](bool begins) { setReady(!begins); });
-        connect(historyWindow, &History::Window::applies, this, &MainWindow::applying);
+    if (!matter.window) {
+        matter.window = matter.make();
+        connect(matter.window, &MatterWindow::busy, this, [this](bool begins) { setReady(!begins); });
+        connect(matter.window, &MatterWindow::applies, this, &MainWindow::applying);
     }
-    historyWindow->show();
-    historyWindow->raise();
-    historyWindow->activateWindow();
+    matter.window->show();
+    matter.window->raise();
+    matter.window->activateWindow();
+}
+
+void MainWindow::markUpdates(QStringList const& names)
+{
+    QSet<QString> const wanted(names.begin(), names.end());
+    for (int row = 0; row < yumIO->count(); ++row) {
+        Package::Entry const& entry = *(*yumIO)[row];
+        if (entry.kind != Package::Group && entry.state == Package::OutOfDate &&
+            wanted.contains(entry.name.toString())) {
+            model->setAction(model->index(row, PackageTable::ActionColumn), Package::Update);
+        }
+    }
+    stateChanged(-1);
+    // Whatever the table showed, what was marked is there to be seen.
+    stateFilterCombo->setCurrentIndex(PackageTable::Marked);
 }

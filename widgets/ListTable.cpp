@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "widgets/ListTable.h"
 
+#include "widgets/Sizing.h"
+
 #include <QHeaderView>
 
 ListTable::ListTable(int fewestRows, int mostRows, QWidget* parent)
@@ -22,6 +24,16 @@ void ListTable::display(QAbstractItemModel* model)
     setModel(model);
     horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
     setSortingEnabled(true);
+}
+
+void ListTable::setColumnWidths(std::initializer_list<int> widths)
+{
+    int column = 0;
+    for (int const width : widths) {
+        setColumnWidth(
+            column, qMax(Sizing::columns(this, width), horizontalHeader()->sectionSizeHint(column)));
+        ++column;
+    }
 }
 
 void ListTable::focusInEvent(QFocusEvent* event)

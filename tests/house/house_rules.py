@@ -20,8 +20,10 @@ EDGES: dict[str, set[str]] = {
     "engine": {"base", "bridge", "services"},
     "repo": {"base", "widgets", "engine"},
     "packagetable": {"base", "widgets", "engine", "repo"},
-    "history": {"widgets", "services", "engine"},
-    "shell": {"base", "widgets", "bridge", "services", "engine", "repo", "packagetable", "history"},
+    "matters": {"widgets", "engine"},
+    "history": {"widgets", "services", "engine", "matters"},
+    "advisories": {"widgets", "engine", "matters"},
+    "shell": {"base", "widgets", "bridge", "services", "engine", "repo", "packagetable", "matters", "history", "advisories"},
 }
 INCLUDE = re.compile(r'^\s*#\s*include\s+["<]([a-z]+)/', re.MULTILINE)
 PYTHON_API = re.compile(r'^\s*#\s*include\s+["<](Python\.h|bridge/PythonApi\.h)[">]', re.MULTILINE)

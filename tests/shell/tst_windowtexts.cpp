@@ -304,7 +304,11 @@ private Q_SLOTS:
                 "standin.instead('historySearch', lambda text: [])\n")),
             QString());
         window->refresh();
-        window->showHistory();
+        for (QAction* const entry : window->findChildren<QAction*>()) {
+            if (entry->shortcut() == QKeySequence(QStringLiteral("Ctrl+H"))) {
+                entry->trigger();
+            }
+        }
         auto* const shown = window->findChild<History::Window*>();
         shown->reload();
         QStringList data;
