@@ -2,6 +2,269 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de">
 <context>
+    <name>Advisories</name>
+    <message>
+        <source>Security</source>
+        <translation>Sicherheit</translation>
+    </message>
+    <message>
+        <source>Bug fix</source>
+        <translation>Fehlerbehebung</translation>
+    </message>
+    <message>
+        <source>Enhancement</source>
+        <translation>Verbesserung</translation>
+    </message>
+    <message>
+        <source>New package</source>
+        <translation>Neues Paket</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Sonstiges</translation>
+    </message>
+    <message>
+        <source>Critical</source>
+        <translation>Kritisch</translation>
+    </message>
+    <message>
+        <source>Important</source>
+        <translation>Wichtig</translation>
+    </message>
+    <message>
+        <source>Moderate</source>
+        <translation>Mittel</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>Niedrig</translation>
+    </message>
+</context>
+<context>
+    <name>Advisories::Model</name>
+    <message>
+        <source>Open</source>
+        <translation>Offen</translation>
+    </message>
+    <message>
+        <source>Carried out</source>
+        <translation>Erledigt</translation>
+    </message>
+    <message>
+        <source>Whether a newer version of an installed package is advised</source>
+        <translation>Ob zu einer neueren Version eines installierten Pakets geraten wird</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Stand</translation>
+    </message>
+    <message>
+        <source>What the advisory is about</source>
+        <translation>Worum es in dem Hinweis geht</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>How grave it is, as the repository words it</source>
+        <translation>Wie schwer es wiegt, in den Worten des Repositorys</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>Schwere</translation>
+    </message>
+    <message>
+        <source>Name of the advisory</source>
+        <translation>Name des Hinweises</translation>
+    </message>
+    <message>
+        <source>Identifier</source>
+        <translation>Kennung</translation>
+    </message>
+    <message>
+        <source>When the advisory was issued</source>
+        <translation>Wann der Hinweis herausgegeben wurde</translation>
+    </message>
+    <message>
+        <source>Issued</source>
+        <translation>Herausgegeben</translation>
+    </message>
+    <message>
+        <source>How many versions of packages it names</source>
+        <translation>Wie viele Versionen von Paketen er nennt</translation>
+    </message>
+    <message>
+        <source>Packages</source>
+        <translation>Pakete</translation>
+    </message>
+    <message>
+        <source>What it says in short</source>
+        <translation>Was er in Kürze sagt</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Known vulnerabilities that it is about</source>
+        <translation>Bekannte Schwachstellen, um die es geht</translation>
+    </message>
+    <message>
+        <source>CVEs</source>
+        <translation>CVEs</translation>
+    </message>
+</context>
+<context>
+    <name>Advisories::PackagesModel</name>
+    <message>
+        <source>Open</source>
+        <translation>Offen</translation>
+    </message>
+    <message>
+        <source>Not installed</source>
+        <translation>Nicht installiert</translation>
+    </message>
+    <message>
+        <source>Carried out</source>
+        <translation>Erledigt</translation>
+    </message>
+    <message>
+        <source>Name of the package</source>
+        <translation>Name des Pakets</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Version that the advisory names</source>
+        <translation>Version, die der Hinweis nennt</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>Version that is installed</source>
+        <translation>Version, die installiert ist</translation>
+    </message>
+    <message>
+        <source>Installed</source>
+        <translation>Installiert</translation>
+    </message>
+    <message>
+        <source>Architecture of the package</source>
+        <translation>Architektur des Pakets</translation>
+    </message>
+    <message>
+        <source>Architecture</source>
+        <translation>Architektur</translation>
+    </message>
+    <message>
+        <source>Whether what is installed is older</source>
+        <translation>Ob das Installierte älter ist</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Stand</translation>
+    </message>
+</context>
+<context>
+    <name>Advisories::Reader</name>
+    <message>
+        <source>Unable to read the advisories</source>
+        <translation>Die Hinweise können nicht gelesen werden</translation>
+    </message>
+</context>
+<context>
+    <name>Advisories::Window</name>
+    <message>
+        <source>Advisories</source>
+        <translation>Hinweise</translation>
+    </message>
+    <message>
+        <source>The metadata of the repositories in use tells of no advisories.</source>
+        <translation>Die Metadaten der verwendeten Repositorys enthalten keine Hinweise.</translation>
+    </message>
+    <message>
+        <source>No advisory is about an installed package.</source>
+        <translation>Kein Hinweis betrifft ein installiertes Paket.</translation>
+    </message>
+    <message>
+        <source>No advisory fits what is to be shown.</source>
+        <translation>Kein Hinweis passt zu dem, was gezeigt werden soll.</translation>
+    </message>
+    <message>
+        <source>Advisories about installed packages, the latest first</source>
+        <translation>Hinweise zu installierten Paketen, der neueste zuerst</translation>
+    </message>
+    <message>
+        <source>Open Security Advisories</source>
+        <translation>Offene Sicherheitshinweise</translation>
+    </message>
+    <message>
+        <source>Open Advisories</source>
+        <translation>Offene Hinweise</translation>
+    </message>
+    <message>
+        <source>All Advisories</source>
+        <translation>Alle Hinweise</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Ansicht</translation>
+    </message>
+    <message>
+        <source>Open is an advisory that names a newer version of an installed package</source>
+        <translation>Offen ist ein Hinweis, der eine neuere Version eines installierten Pakets nennt</translation>
+    </message>
+    <message>
+        <source>part of an identifier, a title or a CVE</source>
+        <translation>Teil einer Kennung, eines Titels oder einer CVE</translation>
+    </message>
+    <message>
+        <source>Shows only the advisories with this text in their identifier, title or CVEs</source>
+        <translation>Zeigt nur die Hinweise mit diesem Text in Kennung, Titel oder CVEs</translation>
+    </message>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>S&amp;uchen:</translation>
+    </message>
+    <message>
+        <source>Advisory</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>The chosen advisory</source>
+        <translation>Der gewählte Hinweis</translation>
+    </message>
+    <message>
+        <source>Packages</source>
+        <translation>Pakete</translation>
+    </message>
+    <message>
+        <source>Packages that the chosen advisory names</source>
+        <translation>Pakete, die der gewählte Hinweis nennt</translation>
+    </message>
+    <message>
+        <source>&amp;Mark Its Updates</source>
+        <translation>&amp;Aktualisierungen vormerken</translation>
+    </message>
+    <message>
+        <source>Marks the packages of the chosen advisory for an update</source>
+        <translation>Merkt die Pakete des gewählten Hinweises zur Aktualisierung vor</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>Close the advisories</source>
+        <translation>Die Hinweise schließen</translation>
+    </message>
+</context>
+<context>
     <name>Colors</name>
     <message>
         <source>#fffacd</source>
@@ -1250,6 +1513,22 @@ Das wird zu Ende geführt, und das Programm endet danach.</translation>
     <message>
         <source>The helper script in use is too old to tell the history</source>
         <translation>Das verwendete Hilfsskript ist zu alt, um den Verlauf zu nennen</translation>
+    </message>
+    <message>
+        <source>A&amp;dvisories</source>
+        <translation>H&amp;inweise</translation>
+    </message>
+    <message>
+        <source>Shows what the repositories advise about installed packages, security first of all</source>
+        <translation>Zeigt, wozu die Repositorys bei installierten Paketen raten, vor allem zur Sicherheit</translation>
+    </message>
+    <message>
+        <source>The helper script in use is too old to tell of advisories</source>
+        <translation>Das verwendete Hilfsskript ist zu alt, um Hinweise zu nennen</translation>
+    </message>
+    <message>
+        <source>Ctrl+D</source>
+        <translation>Ctrl+D</translation>
     </message>
 </context>
 <context>

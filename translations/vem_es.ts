@@ -2,6 +2,269 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es">
 <context>
+    <name>Advisories</name>
+    <message>
+        <source>Security</source>
+        <translation>Seguridad</translation>
+    </message>
+    <message>
+        <source>Bug fix</source>
+        <translation>Corrección</translation>
+    </message>
+    <message>
+        <source>Enhancement</source>
+        <translation>Mejora</translation>
+    </message>
+    <message>
+        <source>New package</source>
+        <translation>Paquete nuevo</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Otro</translation>
+    </message>
+    <message>
+        <source>Critical</source>
+        <translation>Crítica</translation>
+    </message>
+    <message>
+        <source>Important</source>
+        <translation>Importante</translation>
+    </message>
+    <message>
+        <source>Moderate</source>
+        <translation>Moderada</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>Baja</translation>
+    </message>
+</context>
+<context>
+    <name>Advisories::Model</name>
+    <message>
+        <source>Open</source>
+        <translation>Pendiente</translation>
+    </message>
+    <message>
+        <source>Carried out</source>
+        <translation>Aplicado</translation>
+    </message>
+    <message>
+        <source>Whether a newer version of an installed package is advised</source>
+        <translation>Si se aconseja una versión más nueva de un paquete instalado</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>What the advisory is about</source>
+        <translation>De qué trata el aviso</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>How grave it is, as the repository words it</source>
+        <translation>Su gravedad, según las palabras del repositorio</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>Gravedad</translation>
+    </message>
+    <message>
+        <source>Name of the advisory</source>
+        <translation>Nombre del aviso</translation>
+    </message>
+    <message>
+        <source>Identifier</source>
+        <translation>Identificador</translation>
+    </message>
+    <message>
+        <source>When the advisory was issued</source>
+        <translation>Cuándo se emitió el aviso</translation>
+    </message>
+    <message>
+        <source>Issued</source>
+        <translation>Emitido</translation>
+    </message>
+    <message>
+        <source>How many versions of packages it names</source>
+        <translation>Cuántas versiones de paquetes nombra</translation>
+    </message>
+    <message>
+        <source>Packages</source>
+        <translation>Paquetes</translation>
+    </message>
+    <message>
+        <source>What it says in short</source>
+        <translation>Lo que dice en breve</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Título</translation>
+    </message>
+    <message>
+        <source>Known vulnerabilities that it is about</source>
+        <translation>Vulnerabilidades conocidas de las que trata</translation>
+    </message>
+    <message>
+        <source>CVEs</source>
+        <translation>CVE</translation>
+    </message>
+</context>
+<context>
+    <name>Advisories::PackagesModel</name>
+    <message>
+        <source>Open</source>
+        <translation>Pendiente</translation>
+    </message>
+    <message>
+        <source>Not installed</source>
+        <translation>No instalado</translation>
+    </message>
+    <message>
+        <source>Carried out</source>
+        <translation>Aplicado</translation>
+    </message>
+    <message>
+        <source>Name of the package</source>
+        <translation>Nombre del paquete</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Version that the advisory names</source>
+        <translation>Versión que nombra el aviso</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Versión</translation>
+    </message>
+    <message>
+        <source>Version that is installed</source>
+        <translation>Versión instalada</translation>
+    </message>
+    <message>
+        <source>Installed</source>
+        <translation>Instalado</translation>
+    </message>
+    <message>
+        <source>Architecture of the package</source>
+        <translation>Arquitectura del paquete</translation>
+    </message>
+    <message>
+        <source>Architecture</source>
+        <translation>Arquitectura</translation>
+    </message>
+    <message>
+        <source>Whether what is installed is older</source>
+        <translation>Si lo instalado es más antiguo</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+</context>
+<context>
+    <name>Advisories::Reader</name>
+    <message>
+        <source>Unable to read the advisories</source>
+        <translation>No se pueden leer los avisos</translation>
+    </message>
+</context>
+<context>
+    <name>Advisories::Window</name>
+    <message>
+        <source>Advisories</source>
+        <translation>Avisos</translation>
+    </message>
+    <message>
+        <source>The metadata of the repositories in use tells of no advisories.</source>
+        <translation>Los metadatos de los repositorios en uso no contienen avisos.</translation>
+    </message>
+    <message>
+        <source>No advisory is about an installed package.</source>
+        <translation>Ningún aviso trata de un paquete instalado.</translation>
+    </message>
+    <message>
+        <source>No advisory fits what is to be shown.</source>
+        <translation>Ningún aviso encaja con lo que se quiere mostrar.</translation>
+    </message>
+    <message>
+        <source>Advisories about installed packages, the latest first</source>
+        <translation>Avisos sobre paquetes instalados, el último primero</translation>
+    </message>
+    <message>
+        <source>Open Security Advisories</source>
+        <translation>Avisos de seguridad pendientes</translation>
+    </message>
+    <message>
+        <source>Open Advisories</source>
+        <translation>Avisos pendientes</translation>
+    </message>
+    <message>
+        <source>All Advisories</source>
+        <translation>Todos los avisos</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Vista</translation>
+    </message>
+    <message>
+        <source>Open is an advisory that names a newer version of an installed package</source>
+        <translation>Está pendiente un aviso que nombra una versión más nueva de un paquete instalado</translation>
+    </message>
+    <message>
+        <source>part of an identifier, a title or a CVE</source>
+        <translation>parte de un identificador, un título o una CVE</translation>
+    </message>
+    <message>
+        <source>Shows only the advisories with this text in their identifier, title or CVEs</source>
+        <translation>Muestra solo los avisos con este texto en su identificador, título o CVE</translation>
+    </message>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>&amp;Buscar:</translation>
+    </message>
+    <message>
+        <source>Advisory</source>
+        <translation>Aviso</translation>
+    </message>
+    <message>
+        <source>The chosen advisory</source>
+        <translation>El aviso elegido</translation>
+    </message>
+    <message>
+        <source>Packages</source>
+        <translation>Paquetes</translation>
+    </message>
+    <message>
+        <source>Packages that the chosen advisory names</source>
+        <translation>Paquetes que nombra el aviso elegido</translation>
+    </message>
+    <message>
+        <source>&amp;Mark Its Updates</source>
+        <translation>&amp;Marcar sus actualizaciones</translation>
+    </message>
+    <message>
+        <source>Marks the packages of the chosen advisory for an update</source>
+        <translation>Marca los paquetes del aviso elegido para actualizarlos</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+    <message>
+        <source>Close the advisories</source>
+        <translation>Cerrar los avisos</translation>
+    </message>
+</context>
+<context>
     <name>Colors</name>
     <message>
         <source>#fffacd</source>
@@ -1250,6 +1513,22 @@ Eso continúa hasta el final, y el programa termina después.</translation>
     <message>
         <source>The helper script in use is too old to tell the history</source>
         <translation>El guion auxiliar en uso es demasiado antiguo para contar el historial</translation>
+    </message>
+    <message>
+        <source>A&amp;dvisories</source>
+        <translation>&amp;Avisos</translation>
+    </message>
+    <message>
+        <source>Shows what the repositories advise about installed packages, security first of all</source>
+        <translation>Muestra lo que los repositorios aconsejan sobre paquetes instalados, ante todo en seguridad</translation>
+    </message>
+    <message>
+        <source>The helper script in use is too old to tell of advisories</source>
+        <translation>El guion auxiliar en uso es demasiado antiguo para dar avisos</translation>
+    </message>
+    <message>
+        <source>Ctrl+D</source>
+        <translation>Ctrl+D</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,269 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr">
 <context>
+    <name>Advisories</name>
+    <message>
+        <source>Security</source>
+        <translation>Sécurité</translation>
+    </message>
+    <message>
+        <source>Bug fix</source>
+        <translation>Correction</translation>
+    </message>
+    <message>
+        <source>Enhancement</source>
+        <translation>Amélioration</translation>
+    </message>
+    <message>
+        <source>New package</source>
+        <translation>Nouveau paquet</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Autre</translation>
+    </message>
+    <message>
+        <source>Critical</source>
+        <translation>Critique</translation>
+    </message>
+    <message>
+        <source>Important</source>
+        <translation>Importante</translation>
+    </message>
+    <message>
+        <source>Moderate</source>
+        <translation>Modérée</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>Faible</translation>
+    </message>
+</context>
+<context>
+    <name>Advisories::Model</name>
+    <message>
+        <source>Open</source>
+        <translation>En attente</translation>
+    </message>
+    <message>
+        <source>Carried out</source>
+        <translation>Appliqué</translation>
+    </message>
+    <message>
+        <source>Whether a newer version of an installed package is advised</source>
+        <translation>Si une version plus récente d&apos;un paquet installé est conseillée</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>What the advisory is about</source>
+        <translation>De quoi traite l&apos;avis</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>How grave it is, as the repository words it</source>
+        <translation>Sa gravité, selon les mots du dépôt</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>Gravité</translation>
+    </message>
+    <message>
+        <source>Name of the advisory</source>
+        <translation>Nom de l&apos;avis</translation>
+    </message>
+    <message>
+        <source>Identifier</source>
+        <translation>Identifiant</translation>
+    </message>
+    <message>
+        <source>When the advisory was issued</source>
+        <translation>Quand l&apos;avis a été publié</translation>
+    </message>
+    <message>
+        <source>Issued</source>
+        <translation>Publié</translation>
+    </message>
+    <message>
+        <source>How many versions of packages it names</source>
+        <translation>Combien de versions de paquets il nomme</translation>
+    </message>
+    <message>
+        <source>Packages</source>
+        <translation>Paquets</translation>
+    </message>
+    <message>
+        <source>What it says in short</source>
+        <translation>Ce qu&apos;il dit en bref</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titre</translation>
+    </message>
+    <message>
+        <source>Known vulnerabilities that it is about</source>
+        <translation>Vulnérabilités connues dont il traite</translation>
+    </message>
+    <message>
+        <source>CVEs</source>
+        <translation>CVE</translation>
+    </message>
+</context>
+<context>
+    <name>Advisories::PackagesModel</name>
+    <message>
+        <source>Open</source>
+        <translation>En attente</translation>
+    </message>
+    <message>
+        <source>Not installed</source>
+        <translation>Non installé</translation>
+    </message>
+    <message>
+        <source>Carried out</source>
+        <translation>Appliqué</translation>
+    </message>
+    <message>
+        <source>Name of the package</source>
+        <translation>Nom du paquet</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Version that the advisory names</source>
+        <translation>Version que nomme l&apos;avis</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>Version that is installed</source>
+        <translation>Version installée</translation>
+    </message>
+    <message>
+        <source>Installed</source>
+        <translation>Installé</translation>
+    </message>
+    <message>
+        <source>Architecture of the package</source>
+        <translation>Architecture du paquet</translation>
+    </message>
+    <message>
+        <source>Architecture</source>
+        <translation>Architecture</translation>
+    </message>
+    <message>
+        <source>Whether what is installed is older</source>
+        <translation>Si ce qui est installé est plus ancien</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>État</translation>
+    </message>
+</context>
+<context>
+    <name>Advisories::Reader</name>
+    <message>
+        <source>Unable to read the advisories</source>
+        <translation>Impossible de lire les avis</translation>
+    </message>
+</context>
+<context>
+    <name>Advisories::Window</name>
+    <message>
+        <source>Advisories</source>
+        <translation>Avis</translation>
+    </message>
+    <message>
+        <source>The metadata of the repositories in use tells of no advisories.</source>
+        <translation>Les métadonnées des dépôts utilisés ne contiennent pas d&apos;avis.</translation>
+    </message>
+    <message>
+        <source>No advisory is about an installed package.</source>
+        <translation>Aucun avis ne concerne un paquet installé.</translation>
+    </message>
+    <message>
+        <source>No advisory fits what is to be shown.</source>
+        <translation>Aucun avis ne correspond à ce qui doit être montré.</translation>
+    </message>
+    <message>
+        <source>Advisories about installed packages, the latest first</source>
+        <translation>Avis sur les paquets installés, le dernier d&apos;abord</translation>
+    </message>
+    <message>
+        <source>Open Security Advisories</source>
+        <translation>Avis de sécurité en attente</translation>
+    </message>
+    <message>
+        <source>Open Advisories</source>
+        <translation>Avis en attente</translation>
+    </message>
+    <message>
+        <source>All Advisories</source>
+        <translation>Tous les avis</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Affichage</translation>
+    </message>
+    <message>
+        <source>Open is an advisory that names a newer version of an installed package</source>
+        <translation>Est en attente un avis qui nomme une version plus récente d&apos;un paquet installé</translation>
+    </message>
+    <message>
+        <source>part of an identifier, a title or a CVE</source>
+        <translation>partie d&apos;un identifiant, d&apos;un titre ou d&apos;une CVE</translation>
+    </message>
+    <message>
+        <source>Shows only the advisories with this text in their identifier, title or CVEs</source>
+        <translation>Montre seulement les avis dont l&apos;identifiant, le titre ou les CVE contiennent ce texte</translation>
+    </message>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>Ch&amp;ercher :</translation>
+    </message>
+    <message>
+        <source>Advisory</source>
+        <translation>Avis</translation>
+    </message>
+    <message>
+        <source>The chosen advisory</source>
+        <translation>L&apos;avis choisi</translation>
+    </message>
+    <message>
+        <source>Packages</source>
+        <translation>Paquets</translation>
+    </message>
+    <message>
+        <source>Packages that the chosen advisory names</source>
+        <translation>Paquets que nomme l&apos;avis choisi</translation>
+    </message>
+    <message>
+        <source>&amp;Mark Its Updates</source>
+        <translation>&amp;Marquer ses mises à jour</translation>
+    </message>
+    <message>
+        <source>Marks the packages of the chosen advisory for an update</source>
+        <translation>Marque les paquets de l&apos;avis choisi pour une mise à jour</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>Fer&amp;mer</translation>
+    </message>
+    <message>
+        <source>Close the advisories</source>
+        <translation>Fermer les avis</translation>
+    </message>
+</context>
+<context>
     <name>Colors</name>
     <message>
         <source>#fffacd</source>
@@ -1250,6 +1513,22 @@ Cela ira à son terme, et le programme se terminera ensuite.</translation>
     <message>
         <source>The helper script in use is too old to tell the history</source>
         <translation>Le script auxiliaire utilisé est trop ancien pour donner l&apos;historique</translation>
+    </message>
+    <message>
+        <source>A&amp;dvisories</source>
+        <translation>A&amp;vis</translation>
+    </message>
+    <message>
+        <source>Shows what the repositories advise about installed packages, security first of all</source>
+        <translation>Montre ce que les dépôts conseillent pour les paquets installés, avant tout en sécurité</translation>
+    </message>
+    <message>
+        <source>The helper script in use is too old to tell of advisories</source>
+        <translation>Le script auxiliaire utilisé est trop ancien pour donner des avis</translation>
+    </message>
+    <message>
+        <source>Ctrl+D</source>
+        <translation>Ctrl+D</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,269 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja">
 <context>
+    <name>Advisories</name>
+    <message>
+        <source>Security</source>
+        <translation>セキュリティー</translation>
+    </message>
+    <message>
+        <source>Bug fix</source>
+        <translation>バグ修正</translation>
+    </message>
+    <message>
+        <source>Enhancement</source>
+        <translation>機能強化</translation>
+    </message>
+    <message>
+        <source>New package</source>
+        <translation>新規パッケージ</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>その他</translation>
+    </message>
+    <message>
+        <source>Critical</source>
+        <translation>緊急</translation>
+    </message>
+    <message>
+        <source>Important</source>
+        <translation>重要</translation>
+    </message>
+    <message>
+        <source>Moderate</source>
+        <translation>中</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>低</translation>
+    </message>
+</context>
+<context>
+    <name>Advisories::Model</name>
+    <message>
+        <source>Open</source>
+        <translation>未適用</translation>
+    </message>
+    <message>
+        <source>Carried out</source>
+        <translation>適用済み</translation>
+    </message>
+    <message>
+        <source>Whether a newer version of an installed package is advised</source>
+        <translation>インストール済みパッケージの新しいバージョンが勧められているかどうか</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状態</translation>
+    </message>
+    <message>
+        <source>What the advisory is about</source>
+        <translation>アドバイザリの種類</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>種類</translation>
+    </message>
+    <message>
+        <source>How grave it is, as the repository words it</source>
+        <translation>リポジトリーの言う重大度</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>重大度</translation>
+    </message>
+    <message>
+        <source>Name of the advisory</source>
+        <translation>アドバイザリの名前</translation>
+    </message>
+    <message>
+        <source>Identifier</source>
+        <translation>識別子</translation>
+    </message>
+    <message>
+        <source>When the advisory was issued</source>
+        <translation>アドバイザリの発行日</translation>
+    </message>
+    <message>
+        <source>Issued</source>
+        <translation>発行日</translation>
+    </message>
+    <message>
+        <source>How many versions of packages it names</source>
+        <translation>挙げているパッケージのバージョンの数</translation>
+    </message>
+    <message>
+        <source>Packages</source>
+        <translation>パッケージ</translation>
+    </message>
+    <message>
+        <source>What it says in short</source>
+        <translation>要約</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>タイトル</translation>
+    </message>
+    <message>
+        <source>Known vulnerabilities that it is about</source>
+        <translation>対象となる既知の脆弱性</translation>
+    </message>
+    <message>
+        <source>CVEs</source>
+        <translation>CVE</translation>
+    </message>
+</context>
+<context>
+    <name>Advisories::PackagesModel</name>
+    <message>
+        <source>Open</source>
+        <translation>未適用</translation>
+    </message>
+    <message>
+        <source>Not installed</source>
+        <translation>未インストール</translation>
+    </message>
+    <message>
+        <source>Carried out</source>
+        <translation>適用済み</translation>
+    </message>
+    <message>
+        <source>Name of the package</source>
+        <translation>パッケージの名前</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Version that the advisory names</source>
+        <translation>アドバイザリが挙げるバージョン</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>バージョン</translation>
+    </message>
+    <message>
+        <source>Version that is installed</source>
+        <translation>インストールされているバージョン</translation>
+    </message>
+    <message>
+        <source>Installed</source>
+        <translation>インストール</translation>
+    </message>
+    <message>
+        <source>Architecture of the package</source>
+        <translation>パッケージのアーキテクチャー</translation>
+    </message>
+    <message>
+        <source>Architecture</source>
+        <translation>アーキテクチャー</translation>
+    </message>
+    <message>
+        <source>Whether what is installed is older</source>
+        <translation>インストール済みのものが古いかどうか</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状態</translation>
+    </message>
+</context>
+<context>
+    <name>Advisories::Reader</name>
+    <message>
+        <source>Unable to read the advisories</source>
+        <translation>アドバイザリを読み取れません</translation>
+    </message>
+</context>
+<context>
+    <name>Advisories::Window</name>
+    <message>
+        <source>Advisories</source>
+        <translation>アドバイザリ</translation>
+    </message>
+    <message>
+        <source>The metadata of the repositories in use tells of no advisories.</source>
+        <translation>使用中のリポジトリーのメタデータにアドバイザリはありません。</translation>
+    </message>
+    <message>
+        <source>No advisory is about an installed package.</source>
+        <translation>インストール済みパッケージに関するアドバイザリはありません。</translation>
+    </message>
+    <message>
+        <source>No advisory fits what is to be shown.</source>
+        <translation>表示の条件に合うアドバイザリはありません。</translation>
+    </message>
+    <message>
+        <source>Advisories about installed packages, the latest first</source>
+        <translation>インストール済みパッケージに関するアドバイザリ (新しい順)</translation>
+    </message>
+    <message>
+        <source>Open Security Advisories</source>
+        <translation>未適用のセキュリティーアドバイザリ</translation>
+    </message>
+    <message>
+        <source>Open Advisories</source>
+        <translation>未適用のアドバイザリ</translation>
+    </message>
+    <message>
+        <source>All Advisories</source>
+        <translation>すべてのアドバイザリ</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>表示</translation>
+    </message>
+    <message>
+        <source>Open is an advisory that names a newer version of an installed package</source>
+        <translation>未適用とは、インストール済みパッケージの新しいバージョンを挙げているアドバイザリです</translation>
+    </message>
+    <message>
+        <source>part of an identifier, a title or a CVE</source>
+        <translation>識別子・タイトル・CVE の一部</translation>
+    </message>
+    <message>
+        <source>Shows only the advisories with this text in their identifier, title or CVEs</source>
+        <translation>識別子・タイトル・CVE にこのテキストを含むアドバイザリだけを表示します</translation>
+    </message>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>検索(&amp;F):</translation>
+    </message>
+    <message>
+        <source>Advisory</source>
+        <translation>アドバイザリ</translation>
+    </message>
+    <message>
+        <source>The chosen advisory</source>
+        <translation>選んだアドバイザリ</translation>
+    </message>
+    <message>
+        <source>Packages</source>
+        <translation>パッケージ</translation>
+    </message>
+    <message>
+        <source>Packages that the chosen advisory names</source>
+        <translation>選んだアドバイザリが挙げるパッケージ</translation>
+    </message>
+    <message>
+        <source>&amp;Mark Its Updates</source>
+        <translation>更新に印を付ける(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Marks the packages of the chosen advisory for an update</source>
+        <translation>選んだアドバイザリのパッケージに更新の印を付けます</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>閉じる(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Close the advisories</source>
+        <translation>アドバイザリを閉じます</translation>
+    </message>
+</context>
+<context>
     <name>Colors</name>
     <message>
         <source>#fffacd</source>
@@ -1250,6 +1513,22 @@ That goes on to its end, and the program ends behind it.</source>
     <message>
         <source>The helper script in use is too old to tell the history</source>
         <translation>使用中の補助スクリプトは古く、履歴を伝えられません</translation>
+    </message>
+    <message>
+        <source>A&amp;dvisories</source>
+        <translation>アドバイザリ(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Shows what the repositories advise about installed packages, security first of all</source>
+        <translation>インストール済みパッケージに関するリポジトリーの勧告を表示します (特にセキュリティー)</translation>
+    </message>
+    <message>
+        <source>The helper script in use is too old to tell of advisories</source>
+        <translation>使用中の補助スクリプトは古く、アドバイザリを伝えられません</translation>
+    </message>
+    <message>
+        <source>Ctrl+D</source>
+        <translation>Ctrl+D</translation>
     </message>
 </context>
 <context>

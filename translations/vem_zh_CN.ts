@@ -2,6 +2,269 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN">
 <context>
+    <name>Advisories</name>
+    <message>
+        <source>Security</source>
+        <translation>安全</translation>
+    </message>
+    <message>
+        <source>Bug fix</source>
+        <translation>错误修复</translation>
+    </message>
+    <message>
+        <source>Enhancement</source>
+        <translation>增强</translation>
+    </message>
+    <message>
+        <source>New package</source>
+        <translation>新软件包</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>其他</translation>
+    </message>
+    <message>
+        <source>Critical</source>
+        <translation>严重</translation>
+    </message>
+    <message>
+        <source>Important</source>
+        <translation>重要</translation>
+    </message>
+    <message>
+        <source>Moderate</source>
+        <translation>中等</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>低</translation>
+    </message>
+</context>
+<context>
+    <name>Advisories::Model</name>
+    <message>
+        <source>Open</source>
+        <translation>待处理</translation>
+    </message>
+    <message>
+        <source>Carried out</source>
+        <translation>已应用</translation>
+    </message>
+    <message>
+        <source>Whether a newer version of an installed package is advised</source>
+        <translation>是否建议已安装软件包的更新版本</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>What the advisory is about</source>
+        <translation>公告的内容</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>How grave it is, as the repository words it</source>
+        <translation>软件库所述的严重程度</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>严重程度</translation>
+    </message>
+    <message>
+        <source>Name of the advisory</source>
+        <translation>公告的名称</translation>
+    </message>
+    <message>
+        <source>Identifier</source>
+        <translation>标识符</translation>
+    </message>
+    <message>
+        <source>When the advisory was issued</source>
+        <translation>公告的发布时间</translation>
+    </message>
+    <message>
+        <source>Issued</source>
+        <translation>发布</translation>
+    </message>
+    <message>
+        <source>How many versions of packages it names</source>
+        <translation>其中列出的软件包版本数</translation>
+    </message>
+    <message>
+        <source>Packages</source>
+        <translation>软件包</translation>
+    </message>
+    <message>
+        <source>What it says in short</source>
+        <translation>简要内容</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>标题</translation>
+    </message>
+    <message>
+        <source>Known vulnerabilities that it is about</source>
+        <translation>涉及的已知漏洞</translation>
+    </message>
+    <message>
+        <source>CVEs</source>
+        <translation>CVE</translation>
+    </message>
+</context>
+<context>
+    <name>Advisories::PackagesModel</name>
+    <message>
+        <source>Open</source>
+        <translation>待处理</translation>
+    </message>
+    <message>
+        <source>Not installed</source>
+        <translation>未安装</translation>
+    </message>
+    <message>
+        <source>Carried out</source>
+        <translation>已应用</translation>
+    </message>
+    <message>
+        <source>Name of the package</source>
+        <translation>软件包的名称</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Version that the advisory names</source>
+        <translation>公告中列出的版本</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>版本</translation>
+    </message>
+    <message>
+        <source>Version that is installed</source>
+        <translation>已安装的版本</translation>
+    </message>
+    <message>
+        <source>Installed</source>
+        <translation>已安装</translation>
+    </message>
+    <message>
+        <source>Architecture of the package</source>
+        <translation>软件包的架构</translation>
+    </message>
+    <message>
+        <source>Architecture</source>
+        <translation>架构</translation>
+    </message>
+    <message>
+        <source>Whether what is installed is older</source>
+        <translation>已安装的是否较旧</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+</context>
+<context>
+    <name>Advisories::Reader</name>
+    <message>
+        <source>Unable to read the advisories</source>
+        <translation>无法读取公告</translation>
+    </message>
+</context>
+<context>
+    <name>Advisories::Window</name>
+    <message>
+        <source>Advisories</source>
+        <translation>公告</translation>
+    </message>
+    <message>
+        <source>The metadata of the repositories in use tells of no advisories.</source>
+        <translation>所用软件库的元数据中没有公告。</translation>
+    </message>
+    <message>
+        <source>No advisory is about an installed package.</source>
+        <translation>没有涉及已安装软件包的公告。</translation>
+    </message>
+    <message>
+        <source>No advisory fits what is to be shown.</source>
+        <translation>没有符合显示条件的公告。</translation>
+    </message>
+    <message>
+        <source>Advisories about installed packages, the latest first</source>
+        <translation>关于已安装软件包的公告，最新的在前</translation>
+    </message>
+    <message>
+        <source>Open Security Advisories</source>
+        <translation>待处理的安全公告</translation>
+    </message>
+    <message>
+        <source>Open Advisories</source>
+        <translation>待处理的公告</translation>
+    </message>
+    <message>
+        <source>All Advisories</source>
+        <translation>所有公告</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>视图</translation>
+    </message>
+    <message>
+        <source>Open is an advisory that names a newer version of an installed package</source>
+        <translation>待处理的公告列出了已安装软件包的更新版本</translation>
+    </message>
+    <message>
+        <source>part of an identifier, a title or a CVE</source>
+        <translation>标识符、标题或 CVE 的一部分</translation>
+    </message>
+    <message>
+        <source>Shows only the advisories with this text in their identifier, title or CVEs</source>
+        <translation>只显示标识符、标题或 CVE 中含此文本的公告</translation>
+    </message>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>查找(&amp;F)：</translation>
+    </message>
+    <message>
+        <source>Advisory</source>
+        <translation>公告</translation>
+    </message>
+    <message>
+        <source>The chosen advisory</source>
+        <translation>所选公告</translation>
+    </message>
+    <message>
+        <source>Packages</source>
+        <translation>软件包</translation>
+    </message>
+    <message>
+        <source>Packages that the chosen advisory names</source>
+        <translation>所选公告列出的软件包</translation>
+    </message>
+    <message>
+        <source>&amp;Mark Its Updates</source>
+        <translation>标记其更新(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Marks the packages of the chosen advisory for an update</source>
+        <translation>将所选公告的软件包标记为更新</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>关闭(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Close the advisories</source>
+        <translation>关闭公告</translation>
+    </message>
+</context>
+<context>
     <name>Colors</name>
     <message>
         <source>#fffacd</source>
@@ -1250,6 +1513,22 @@ That goes on to its end, and the program ends behind it.</source>
     <message>
         <source>The helper script in use is too old to tell the history</source>
         <translation>所用的辅助脚本太旧，无法给出历史</translation>
+    </message>
+    <message>
+        <source>A&amp;dvisories</source>
+        <translation>公告(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Shows what the repositories advise about installed packages, security first of all</source>
+        <translation>显示软件库对已安装软件包的建议，首先是安全方面</translation>
+    </message>
+    <message>
+        <source>The helper script in use is too old to tell of advisories</source>
+        <translation>所用的辅助脚本太旧，无法给出公告</translation>
+    </message>
+    <message>
+        <source>Ctrl+D</source>
+        <translation>Ctrl+D</translation>
     </message>
 </context>
 <context>
