@@ -8,6 +8,7 @@
 
 #include <QEvent>
 #include <QItemSelectionModel>
+#include <QShowEvent>
 
 namespace
 {

@@ -114,8 +114,8 @@ private Q_SLOTS:
             menuTexts(menu(QStringLiteral("&Windows"))),
             QStringList(
                 {QStringLiteral("&Log|Ctrl+L"), QStringLiteral("Open Log With Each &Apply"),
-                 QStringLiteral("-"), QStringLiteral("&History|Ctrl+H"), QStringLiteral("-"),
-                 QStringLiteral("&Reset Window")}));
+                 QStringLiteral("-"), QStringLiteral("&History|Ctrl+H"), QStringLiteral("A&dvisories|Ctrl+D"),
+                 QStringLiteral("-"), QStringLiteral("&Reset Window")}));
         QCOMPARE(window->menuBar()->actions().at(4)->text(), QStringLiteral("S&election"));
         QCOMPARE(
             menuTexts(menu(QStringLiteral("S&election"))).filter(QStringLiteral("|")),
@@ -157,8 +157,10 @@ private Q_SLOTS:
             QVERIFY(menu(title)->isEnabled());
             for (QAction const* const entry : menu(title)->actions()) {
                 // What is remembered has yet to be used, and nobody could answer about the system.
-                bool const waits = entry->text() == QLatin1String("&Reset Window") ||
-                                   entry->text() == QLatin1String("&History");
+                static QStringList const waiting{
+                    QStringLiteral("&Reset Window"), QStringLiteral("&History"),
+                    QStringLiteral("A&dvisories")};
+                bool const waits = waiting.contains(entry->text());
                 QCOMPARE(entry->isEnabled(), !waits);
             }
         }
