@@ -39,7 +39,7 @@ void Window::build()
     table->setAccessibleName(tr("Advisories"));
     table->setAccessibleDescription(tr("Advisories about installed packages, the latest first"));
     table->display(proxy);
-    table->setColumnWidths({12, 13, 12, 22, 12, 10, 44, 16});
+    table->setColumnWidths({12, 13, 15, 20, 12, 10, 40, 16});
 
     auto* const parts = new QSplitter(Qt::Vertical, this);
     parts->setChildrenCollapsible(false);
@@ -47,7 +47,7 @@ void Window::build()
     parts->addWidget(createDetails());
     rows->addWidget(parts, 1);
     rows->addLayout(createButtonRow());
-    resize(QSize(Sizing::columns(this, 120), Sizing::screenLimit(this).height() * 3 / 4)
+    resize(QSize(Sizing::columns(this, 136), Sizing::screenLimit(this).height() * 3 / 4)
                .boundedTo(Sizing::screenLimit(this)));
     table->setFocus();
 }
@@ -96,11 +96,12 @@ QSplitter* Window::createDetails()
     auto* const sorted = new HSortFilterProxyModel(PackagesModel::NameColumn, this);
     sorted->setSourceModel(packagesModel);
     packagesTable->display(sorted);
-    packagesTable->setColumnWidths({20, 16, 16, 12, 12});
+    packagesTable->setColumnWidths({15, 11, 11, 11, 10});
     details->addWidget(text);
     details->addWidget(packagesTable);
     details->setStretchFactor(0, 1);
     details->setStretchFactor(1, 1);
+    details->setSizes({1, 1}); // of what there will be
     return details;
 }
 

@@ -261,10 +261,11 @@ class Estate:
         comps: Optional[str] = None,
         baseurl: Optional[str] = None,
         extra: Optional[Mapping[str, Optional[str]]] = None,
+        updateinfo: Optional[str] = None,
     ) -> Path:
         """Makes (or remakes) a repository of these rpms and its .repo file; gives its directory.
 
-        `comps` is the text of the groups file. `baseurl` defaults to the directory's file:// address.
+        `comps` is the text of the groups file, `updateinfo` that of the advisories. `baseurl` defaults to the directory's file:// address.
         `extra` are further keys of the section; a value None leaves that key out of the file.
         """
         directory = self.repos_dir / id
@@ -277,6 +278,8 @@ class Estate:
             (directory / "comps.xml").write_text(comps, encoding="utf-8")
             command += ["--groupfile", "comps.xml"]
         run([*command, directory])
+        if updateinfo is not None:
+            add_updateinfo(directory, updateinfo)
         self.write_repo_file(id, name, enabled, baseurl, extra)
         return directory
 
@@ -340,6 +343,13 @@ class Estate:
 
 
 @functools.lru_cache(maxsize=None)
+def add_updateinfo(repository: Path, text: str) -> None:
+    """Gives the metadata of a repository, its directory, this text as its advisories."""
+    file = repository / "updateinfo.xml"
+    file.write_text(text, encoding="utf-8")
+    run(["modifyrepo_c", "--mdtype=updateinfo", file, repository / "repodata"])
+
+
 def install_options() -> tuple[str, ...]:
     """What the rpm at hand wants to be told before it installs anything.
 

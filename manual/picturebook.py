@@ -279,6 +279,7 @@ class Book:
         program.wait_ready()
         program.press("Clear Actions")
 
+        self.advisories_picture(program)
         for name in ("oxbow", "tidegauge", "theodolite", "glyphhouse-mono"):
             program.click_cell(name, ACTION_COLUMN)
         self.keep_window(program, "marks", "VEM - ")
@@ -298,6 +299,16 @@ class Book:
         program.key("ctrl+a", "1", "Tab")
         wait_for(lambda: "expiration" not in program.log_text(), "the log at the lower level")
         self.keep_window(program, "log", "VEM Log")
+
+    def advisories_picture(self, program: Program) -> None:
+        program.key("ctrl+d")
+        wait_for(lambda: len(program.rows("Advisories", "Advisories")) == 5, "the open advisories")
+        program.key("Down", "Down", "Down")
+        text = program.wait("Advisory", Atspi.Role.LABEL, inside=program.window("Advisories"))
+        wait_for(lambda: "CVE-2025-20023" in program.text_of(text), "one with a CVE in full")
+        self.keep_window(program, "advisories", "Advisories")
+        program.key("Escape")
+        program.wait_closed("Advisories")
 
     def history_picture(self, program: Program, root: Path) -> None:
         (database,) = root.rglob("*history.sqlite")

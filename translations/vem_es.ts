@@ -1516,7 +1516,7 @@ Eso continúa hasta el final, y el programa termina después.</translation>
     </message>
     <message>
         <source>A&amp;dvisories</source>
-        <translation>&amp;Avisos</translation>
+        <translation>Avi&amp;sos</translation>
     </message>
     <message>
         <source>Shows what the repositories advise about installed packages, security first of all</source>

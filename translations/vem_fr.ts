@@ -249,7 +249,7 @@
     </message>
     <message>
         <source>&amp;Mark Its Updates</source>
-        <translation>&amp;Marquer ses mises à jour</translation>
+        <translation>Mar&amp;quer ses mises à jour</translation>
     </message>
     <message>
         <source>Marks the packages of the chosen advisory for an update</source>

@@ -93,6 +93,7 @@ def make(directory: Path) -> Estate:
     by_repository[DISABLED] += estate.build(HERE / "specs/tideledger.spec", "x86_64", DEFINES)
 
     comps = (HERE / "comps.xml").read_text(encoding="utf-8")
+    updateinfo = (HERE / "updateinfo.xml").read_text(encoding="utf-8")
     for repository, name in REPOSITORIES.items():
         estate.repository(
             repository,
@@ -100,6 +101,7 @@ def make(directory: Path) -> Estate:
             name=name,
             enabled=repository != DISABLED,
             comps=comps if repository == "base" else None,
+            updateinfo=updateinfo if repository == "updates" else None,
         )
     shutil.rmtree(estate.build_dir)
     estate.write_main_config(keepcache="0", installonly_limit="3", best="0")

@@ -246,9 +246,9 @@ class Program:
     def type_text(self, text: str) -> None:
         self.xdotool("type", "--delay", "5", text)
 
-    def choose(self, item: str) -> None:
-        """Chooses an item in the combo box that offers it, with mouse and keyboard."""
-        for combo in walk(self.window("VEM - ")):
+    def choose(self, item: str, window: str = "VEM - ") -> None:
+        """Chooses an item in the combo box of the window that offers it, with mouse and keyboard."""
+        for combo in walk(self.window(window)):
             if combo.get_role() != Atspi.Role.COMBO_BOX:
                 continue
             items = [node.get_name() for node in walk(combo) if node.get_role() == Atspi.Role.LIST_ITEM]
@@ -338,6 +338,16 @@ class Program:
         self.click_at(*self.place_of(name, column))
 
     # Pictures.
+
+    def rows(self, name: str, window: str) -> list[list[str]]:
+        """The cells of the table of that name in the window, a list for each row."""
+        table = self.wait(name, Atspi.Role.TABLE, inside=self.window(window))
+        cells = [
+            [table.get_accessible_at(row, column) for column in range(table.get_n_columns())]
+            for row in range(table.get_n_rows())
+        ]
+        # A table that is filled meanwhile lacks some.
+        return [[cell.get_name() for cell in row] for row in cells if all(row)]
 
     def shot(self, what: str) -> None:
         """A numbered screenshot, where a folder for them was given."""

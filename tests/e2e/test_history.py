@@ -26,23 +26,12 @@ def confirm(program: Program) -> str:
     return text
 
 
-def rows_of(program: Program, name: str) -> list[list[str]]:
-    """The cells of a table of the history's window, a list for each row."""
-    table = program.wait(name, Atspi.Role.TABLE, inside=program.window("History"))
-    cells = [
-        [table.get_accessible_at(row, column) for column in range(table.get_n_columns())]
-        for row in range(table.get_n_rows())
-    ]
-    # A table that is filled meanwhile lacks some.
-    return [[cell.get_name() for cell in row] for row in cells if all(row)]
-
-
 def numbers(program: Program) -> list[str]:
-    return [row[0] for row in rows_of(program, "History")]
+    return [row[0] for row in program.rows("History", "History")]
 
 
 def changes(program: Program) -> set[tuple[str, str, str]]:
-    return {(action, name, version) for action, name, version, *_ in rows_of(program, "Packages")}
+    return {(action, name, version) for action, name, version, *_ in program.rows("Packages", "History")}
 
 
 def head(program: Program) -> str:
@@ -110,7 +99,7 @@ def test_what_cannot_be_undone_is_told_before_and_the_rest_is_undone(
 
     program.key("ctrl+h")
     history = program.window("History")
-    wait_for(lambda: [row[3] for row in rows_of(program, "History")] == ["Failed", "Done"], "the results")
+    wait_for(lambda: [row[3] for row in program.rows("History", "History")] == ["Failed", "Done"], "the results")
     program.key("Down")
     wait_for(lambda: head(program).startswith("Transaction 1: Done"), "the first one in full")
 

@@ -6,7 +6,7 @@ from __future__ import annotations
 from pathlib import Path
 from typing import Tuple
 
-from rpmestate import run
+from rpmestate import add_updateinfo
 
 UPDATEINFO = """\
 <?xml version="1.0" encoding="UTF-8"?>
@@ -30,7 +30,5 @@ UPDATE = """
 
 def advise(repository: Path, *updates: Tuple[str, str, str]) -> None:
     """Gives a repository advisories: identifier, name and version of the package."""
-    file = repository / "updateinfo.xml"
     texts = [UPDATE.format(id=id, name=name, version=version) for id, name, version in updates]
-    file.write_text(UPDATEINFO.format("".join(texts)), encoding="utf-8")
-    run(["modifyrepo_c", "--mdtype=updateinfo", file, repository / "repodata"])
+    add_updateinfo(repository, UPDATEINFO.format("".join(texts)))

@@ -5,7 +5,6 @@ from __future__ import annotations
 
 import json
 import re
-from pathlib import Path
 from typing import Any, Dict, Set
 
 import pytest
@@ -14,7 +13,7 @@ from catalogue import Catalogue
 from commandline import command_line
 from libraries import by_library
 from program import Program
-from rpmestate import Estate, run, spec
+from rpmestate import Estate, add_updateinfo, spec
 
 UPDATEINFO = """\
 <?xml version="1.0" encoding="UTF-8"?>
@@ -79,15 +78,9 @@ def lamps(estate: Estate, program: Program) -> Program:
 def shine(estate: Estate, program: Program, text: str) -> Program:
     built = estate.build([spec("lamp", f"{number}.0") for number in range(1, 5)])
     estate.install([built[0]])
-    give(estate.repository("base", built), text)
+    add_updateinfo(estate.repository("base", built), text)
     program.collect()
     return program
-
-
-def give(repository: Path, text: str) -> None:
-    file = repository / "updateinfo.xml"
-    file.write_text(text, encoding="utf-8")
-    run(["modifyrepo_c", "--mdtype=updateinfo", file, repository / "repodata"])
 
 
 def listed(program: Program) -> Dict[str, Any]:

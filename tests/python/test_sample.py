@@ -3,10 +3,12 @@
 
 from __future__ import annotations
 
+import re
 import subprocess
 import sys
 from pathlib import Path
 from typing import Any
+from xml.etree import ElementTree
 
 import pytest
 
@@ -124,3 +126,12 @@ def test_updates_bring_output_of_lua_and_shell_scriptlets(sample: Estate) -> Non
     assert "sundial: clock source" in output
     assert "handing the clock back" not in output
     assert "quayside: pages are served" in output
+
+
+def test_has_advisories_of_every_kind_and_severity_about_its_updates(sample: Estate) -> None:
+    text = (MAKE_SAMPLE.parent / "updateinfo.xml").read_text(encoding="utf-8")
+    there = {update.get("type") for update in ElementTree.fromstring(text)}
+    assert there == {"security", "bugfix", "enhancement"}
+    offered = {rpm.name for name in ("base", "updates") for rpm in (sample.repos_dir / name).glob("*.rpm")}
+    assert offered.issuperset(re.findall("<filename>(.*)</filename>", text))
+    assert list((sample.repos_dir / "updates/repodata").glob("*updateinfo.xml*"))

@@ -6,6 +6,8 @@
 
 #include "WindowAccess.h"
 #include "WindowTexts.h"
+#include "advisories/AdvisoriesWindow.h"
+#include "advisories/Advisory.h"
 #include "history/HistoryTransaction.h"
 #include "history/HistoryWindow.h"
 #include "packagetable/PackageTableDescribeSection.h"
@@ -26,6 +28,7 @@
 #include "widgets/HMenu.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
 #include <QFile>
 #include <QHeaderView>
@@ -325,6 +328,48 @@ private Q_SLOTS:
         }
         shown->findChild<QLineEdit*>()->setText(QStringLiteral("1"));
         shown->reload();
+        look(shown, data);
+        shown->close();
+        QCOMPARE(script(QStringLiteral("standin.reset()")), QString());
+        window->refresh();
+    }
+
+    void advisories()
+    {
+        QCOMPARE(
+            script(QStringLiteral(
+                "def told(identifier, kind, severity, **more):\n"
+                "    return dict(identifier=identifier, type=kind, severity=severity, title='1', "
+                "issued=1700000000,\n"
+                "        count=2, cves=['3'], open=severity != 'low', **more)\n"
+                "def whole(identifier):\n"
+                "    return told(identifier, 'security', 'moderate', text='4', references=[\n"
+                "        dict(type='cve', id='5', title='', address='https://host/')],\n"
+                "        packages=[dict(name=name, arch='6', version='7', installed=there, open=opened)\n"
+                "            for name, there, opened in (('8', '9', True), ('a', '', False), ('b', '9', "
+                "False))])\n"
+                "standin.instead('advisoryList', lambda: [told('c', kind, severity) for kind, severity in (\n"
+                "    ('security', 'critical'), ('security', 'important'), ('bugfix', 'moderate'),\n"
+                "    ('enhancement', 'low'), ('newpackage', ''), ('other', ''))])\n"
+                "standin.instead('advisoryOf', whole)\n")),
+            QString());
+        window->refresh();
+        for (QAction* const entry : window->findChildren<QAction*>()) {
+            if (entry->shortcut() == QKeySequence(QStringLiteral("Ctrl+D"))) {
+                entry->trigger();
+            }
+        }
+        auto* const shown = window->findChild<Advisories::Window*>();
+        QVERIFY(shown);
+        shown->findChild<QComboBox*>()->setCurrentIndex(2);
+        shown->reload();
+        QStringList data{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")};
+        for (int number = 1; number < 10; ++number) {
+            data.append(QString::number(number));
+        }
+        data.append(Advisories::Words::day(1700000000));
+        look(shown, data);
+        shown->findChild<QLineEdit*>()->setText(QStringLiteral("no such one"));
         look(shown, data);
         shown->close();
         QCOMPARE(script(QStringLiteral("standin.reset()")), QString());
