@@ -3,7 +3,6 @@
 
 #include "widgets/Fonts.h"
 
-#include <QStyle>
 #include <QWidget>
 #include <algorithm>
 
@@ -54,7 +53,7 @@ QVariant Model::data(QModelIndex const& index, int role) const
     case Qt::FontRole:
         return advisory.open ? QVariant(bold) : QVariant();
     case Qt::DecorationRole:
-        return index.column() == SeverityColumn ? QVariant(sign(advisory)) : QVariant();
+        return index.column() == SeverityColumn ? QVariant(signs.of(advisory.severity)) : QVariant();
     default:
         return {};
     }
@@ -82,22 +81,6 @@ QVariant Model::cell(Advisory const& advisory, int column)
     default:
         return {};
     }
-}
-
-QIcon Model::sign(Advisory const& advisory) const
-{
-    switch (advisory.severity) {
-    case Severity::Critical:
-        return critical;
-    case Severity::Important:
-    case Severity::Moderate:
-        return warning;
-    case Severity::Low:
-        return information;
-    case Severity::Unknown:
-        break;
-    }
-    return {};
 }
 
 QVariant Model::headerData(int section, Qt::Orientation orientation, int role) const
@@ -131,10 +114,7 @@ QVariant Model::headerData(int section, Qt::Orientation orientation, int role) c
 void Model::setLooks(QWidget const* window)
 {
     bold = Fonts::makeBold(window->font());
-    QStyle const* const style = window->style();
-    critical = style->standardIcon(QStyle::SP_MessageBoxCritical, nullptr, window);
-    warning = style->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, window);
-    information = style->standardIcon(QStyle::SP_MessageBoxInformation, nullptr, window);
+    signs.take(window);
     if (!advisories.isEmpty()) {
         Q_EMIT dataChanged(
             index(0, 0), index(rowCount() - 1, ColumnCount - 1), {Qt::FontRole, Qt::DecorationRole});

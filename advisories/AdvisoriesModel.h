@@ -6,9 +6,7 @@
 #include "widgets/HSortFilterProxyModel.h"
 
 #include <QFont>
-#include <QIcon>
 
-class QStyle;
 class QWidget;
 
 namespace Advisories
@@ -50,11 +48,10 @@ public:
 
 private:
     [[nodiscard]] static QVariant cell(Advisory const& advisory, int column);
-    [[nodiscard]] QIcon sign(Advisory const& advisory) const;
 
     QList<Advisory> advisories;
     QFont bold;
-    QIcon critical, warning, information;
+    SeveritySigns signs;
 };
 
 /// Sorts that table, severities by their gravity, and shows what is asked for.

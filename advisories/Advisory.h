@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "widgets/Severity.h"
+
 #include <QCoreApplication>
 #include <QJsonObject>
 #include <QList>
@@ -19,16 +21,6 @@ enum class Kind
     Enhancement,
     NewPackage,
     Other
-};
-
-/// The gravest last, so that they compare.
-enum class Severity
-{
-    Unknown,
-    Low,
-    Moderate,
-    Important,
-    Critical
 };
 
 struct Advisory

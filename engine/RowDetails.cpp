@@ -11,7 +11,7 @@ void RowDetails::clear()
 
 void RowDetails::append(Text const& text)
 {
-    texts.push_back(*known.insert(text).first);
+    texts.push_back(*kept.insert(text).first);
 }
 
 void RowDetails::append(Text const& text, long long number)
@@ -20,9 +20,17 @@ void RowDetails::append(Text const& text, long long number)
     numbers.push_back(number);
 }
 
+void RowDetails::append(Text const& text, long long number, Text const& tip)
+{
+    append(text, number);
+    if (!tip.isEmpty()) {
+        tips.emplace(static_cast<int>(texts.size()) - 1, tip);
+    }
+}
+
 void RowDetails::finish()
 {
-    known = {};
+    kept = {};
     texts.shrink_to_fit();
     numbers.shrink_to_fit();
 }

@@ -4,6 +4,7 @@
 #include "engine/PackageText.h"
 
 #include <cstddef>
+#include <unordered_map>
 #include <vector>
 
 namespace Package
@@ -22,8 +23,8 @@ enum class Detail
 };
 constexpr std::size_t detailCount = 6;
 
-/// One detail of all rows: a text for each, equal ones kept once, and perhaps a number. Filled by a job, and
-/// read on the GUI thread behind it.
+/// One detail of all rows: a text for each, equal ones kept once, and perhaps a number and a tool tip. Filled
+/// by a job, and read on the GUI thread behind it.
 class RowDetails
 {
 public:
@@ -40,19 +41,31 @@ public:
         auto const place = static_cast<std::size_t>(row);
         return place < numbers.size() ? numbers[place] : 0;
     }
+    /// Empty where there is none.
+    [[nodiscard]] Text tip(int row) const
+    {
+        auto const found = tips.find(row);
+        return found == tips.end() ? Text() : found->second;
+    }
+    /// False where whoever was asked can't know it of any row.
+    [[nodiscard]] bool isKnown() const { return known; }
+    void setKnown(bool isKnown) { known = isKnown; }
     [[nodiscard]] bool isFor(int rows) const { return texts.size() == static_cast<std::size_t>(rows); }
 
     void clear();
     /// The next row's.
     void append(Text const& text);
     void append(Text const& text, long long number);
+    void append(Text const& text, long long number, Text const& tip);
     /// Behind the last row: gives back what only `append` needs.
     void finish();
 
 private:
     std::vector<Text> texts; ///< by row
     std::vector<long long> numbers;
-    TextSet known;
+    std::unordered_map<int, Text> tips; ///< few rows have one
+    TextSet kept;
+    bool known = true;
 };
 
 } // namespace Package

@@ -29,6 +29,13 @@ char const* scriptName(Detail detail)
     return nullptr;
 }
 
+long long numberOf(PyObject* value)
+{
+    long long const number = PyLong_AsLongLong(value);
+    PyErr_Clear();
+    return number;
+}
+
 } // namespace
 
 Package::RowDetails const& YumIO::details(Detail detail) const
@@ -112,6 +119,7 @@ void YumIO::askPackages(Detail detail, QList<Package::Entry*> const& rows, Packa
 bool YumIO::askScript(char const* name, QList<Package::Entry*> const& rows, Package::RowDetails& those)
 {
     PyRef const answer = scriptDetails(name, rows);
+    those.setKnown(!answer || answer.get() != Py_None);
     PyRef const values = PyRef::steal(answer ? PySequence_Fast(answer.get(), "not a sequence") : nullptr);
     PyErr_Clear();
     Py_ssize_t const told = values ? PySequence_Fast_GET_SIZE(values.get()) : 0;
@@ -122,9 +130,12 @@ bool YumIO::askScript(char const* name, QList<Package::Entry*> const& rows, Pack
             value = PySequence_Fast_GET_ITEM(values.get(), next++);
         }
         if (PyLong_Check(value)) {
-            long long const number = PyLong_AsLongLong(value);
-            PyErr_Clear();
+            long long const number = numberOf(value);
             those.append(bytesFormat(static_cast<unsigned long long>(number)), number);
+        } else if (PyTuple_Check(value) && PyTuple_GET_SIZE(value) == 3) {
+            those.append(
+                pyString(PyTuple_GET_ITEM(value, 0)), numberOf(PyTuple_GET_ITEM(value, 1)),
+                pyString(PyTuple_GET_ITEM(value, 2)));
         } else {
             those.append(value == Py_None ? QString() : pyString(value), 0);
         }

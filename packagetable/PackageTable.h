@@ -20,7 +20,8 @@ enum StateFilter
     Installable = 1,
     Removable = 2,
     All = 3,
-    Marked = 4, ///< by its mark, whatever its state and kind
+    Marked = 4,          ///< by its mark, whatever its state and kind
+    SecurityUpdates = 5, ///< updates that a security advisory names; needs `Model::useAdvisories`
 };
 
 } // namespace PackageTable

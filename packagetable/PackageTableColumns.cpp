@@ -94,6 +94,7 @@ bool isNumericColumn(int column)
     case SizeColumn:
     case BuildTimeColumn:
     case InstalledSizeColumn:
+    case AdvisoryColumn:
         return true;
     default:
         return false;

@@ -9,6 +9,7 @@
 #include "repo/RepoBrowse.h"
 #include "widgets/Colors.h"
 
+#include <algorithm>
 #include <array>
 
 namespace PackageTable
@@ -69,7 +70,8 @@ constexpr std::array<ColumnHeader, ColumnCount> columnHeaders{{
          "PackageTable::Model",
          "Why the package is installed: asked for by the user, by a group, or as a dependency")},
     {QT_TRANSLATE_NOOP("PackageTable::Model", "Advisory"),
-     QT_TRANSLATE_NOOP("PackageTable::Model", "Advisories that the update carries out")},
+     QT_TRANSLATE_NOOP(
+         "PackageTable::Model", "Advisories that the update carries out, and how grave the gravest one is")},
 }};
 
 Package::Action nextAction(Package::State state, Package::Action present)
@@ -149,9 +151,9 @@ QVariant Model::data(QModelIndex const& index, int role) const
         return column < NameColumn ? QVariant()
                                    : QVariant(columnText(*yumIO, index.row(), column).toString());
     case Qt::DecorationRole:
-        return decoration(*entry, column);
+        return decoration(index.row(), *entry, column);
     case Qt::ToolTipRole:
-        return toolTip(*entry, column);
+        return toolTip(index.row(), *entry, column);
     case Qt::ForegroundRole:
         return column < KindColumn ? QVariant() : foreground(*entry);
     case Qt::UserRole:
@@ -161,7 +163,7 @@ QVariant Model::data(QModelIndex const& index, int role) const
     }
 }
 
-QVariant Model::decoration(Package::Entry const& entry, int column) const
+QVariant Model::decoration(int row, Package::Entry const& entry, int column) const
 {
     switch (column) {
     case ActionColumn:
@@ -199,10 +201,20 @@ QVariant Model::decoration(Package::Entry const& entry, int column) const
             return packageIcon;
         }
         break;
+    case AdvisoryColumn:
+        return severitySign(row);
     default:
         break;
     }
     return {};
+}
+
+// 0 is nothing about security, 1 something whose severity nobody knows.
+QIcon Model::severitySign(int row) const
+{
+    constexpr auto most = 1 + static_cast<long long>(Severity::Critical);
+    long long const gravity = yumIO->details(Package::Detail::Advisory).number(row);
+    return gravity > 0 ? severitySigns.of(static_cast<Severity>(std::min(gravity, most) - 1)) : QIcon();
 }
 
 QString Model::installedVersions(Package::Entry const& entry) const
@@ -227,7 +239,7 @@ QString Model::stateToolTip(Package::Entry const& entry)
     return {};
 }
 
-QVariant Model::toolTip(Package::Entry const& entry, int column) const
+QVariant Model::toolTip(int row, Package::Entry const& entry, int column) const
 {
     switch (column) {
     case ActionColumn:
@@ -274,6 +286,8 @@ QVariant Model::toolTip(Package::Entry const& entry, int column) const
             return versions;
         }
         break;
+    case AdvisoryColumn:
+        return yumIO->details(Package::Detail::Advisory).tip(row).toString();
     default:
         break;
     }
@@ -302,7 +316,8 @@ QVariant Model::rawValue(Package::Entry* entry, int row, int column) const
     case KindColumn:
         return columnNumber(*entry, column);
     case InstalledSizeColumn:
-        return yumIO->details(Package::Detail::InstalledSize).number(row);
+    case AdvisoryColumn:
+        return yumIO->details(*columnDetail(column)).number(row);
     case SizeColumn:
         return entry->size;
     case BuildTimeColumn:
@@ -396,15 +411,27 @@ void Model::describe(QModelIndex const& index, QWidget* parent)
 
 void Model::showColumn(int column, bool shown)
 {
-    std::optional<Package::Detail> const detail = columnDetail(column);
-    if (!detail) {
-        return;
+    if (column == AdvisoryColumn) {
+        showsAdvisories = shown;
+        want(Package::Detail::Advisory, showsAdvisories || usesAdvisories);
+    } else if (std::optional<Package::Detail> const detail = columnDetail(column)) {
+        want(*detail, shown);
     }
-    bool const takesTime = shown && !yumIO->details(*detail).isFor(yumIO->count());
+}
+
+void Model::useAdvisories(bool used)
+{
+    usesAdvisories = used;
+    want(Package::Detail::Advisory, showsAdvisories || usesAdvisories);
+}
+
+void Model::want(Package::Detail detail, bool wanted)
+{
+    bool const takesTime = wanted && !yumIO->details(detail).isFor(yumIO->count());
     if (takesTime) {
         Q_EMIT busy(true);
     }
-    yumIO->wantDetails(*detail, shown);
+    yumIO->wantDetails(detail, wanted);
     if (takesTime) {
         Q_EMIT busy(false);
     }
@@ -429,6 +456,11 @@ void Model::setPalette(QPalette const& palette)
         Colors::onBase(Colors::error(), palette), Colors::onDisabledBase(Colors::errorDisabled(), palette)};
     availableColors = {
         Colors::onBase(Colors::minor(), palette), Colors::onDisabledBase(Colors::minorDisabled(), palette)};
+}
+
+void Model::setSigns(QWidget const* table)
+{
+    severitySigns.take(table);
 }
 
 void Model::setSelected(QList<QModelIndex> const& rows)
@@ -490,6 +522,20 @@ void Model::setUpdateAll()
             mark(row, entry, Package::Update);
         }
     });
+}
+
+bool Model::setUpdateSecurity()
+{
+    bool const used = usesAdvisories;
+    useAdvisories(true);
+    Package::RowDetails const& advisories = yumIO->details(Package::Detail::Advisory);
+    walkMarks(*yumIO, [&](int row, Package::Entry& entry) {
+        if (entry.state == Package::OutOfDate && advisories.number(row) > 0) {
+            mark(row, entry, Package::Update);
+        }
+    });
+    useAdvisories(used);
+    return advisories.isKnown();
 }
 
 void Model::clearActions()

@@ -2,7 +2,9 @@
 #pragma once
 
 #include "engine/Package.h"
+#include "engine/RowDetails.h"
 #include "widgets/HAbstractTableModel.h"
+#include "widgets/Severity.h"
 
 #include <QColor>
 #include <QIcon>
@@ -77,6 +79,12 @@ public:
     void describe(QModelIndex const& index, QWidget* parent);
     /// A column shows from now on, or no longer: what it shows is loaded by a job, see `busy`.
     void showColumn(int column, bool shown);
+    /// Something else than the column needs the advisories from now on, or no longer: they are loaded
+    /// likewise.
+    void useAdvisories(bool used);
+    /// Marks every update that a security advisory names. False where no repository tells of advisories.
+    /// These are loaded likewise.
+    bool setUpdateSecurity();
     /// Shows the repository of the entry in the user's browser; `parent` is the parent of error messages.
     void browse(QModelIndex const& index, QWidget* parent);
 
@@ -84,6 +92,8 @@ public:
     void setEnabled(bool enabled);
     /// Chooses the colours that can be read on the rows of a table with this palette. Emits nothing either.
     void setPalette(QPalette const& palette);
+    /// Takes the signs of that table's style. Emits nothing either.
+    void setSigns(QWidget const* table);
 
 public Q_SLOTS:
     /// Marks each row of the list that can be updated or installed for just that, whatever its mark was;
@@ -110,12 +120,14 @@ private:
     /// The mark that `markAll` gives; nothing for none.
     static std::optional<Package::Action> fitting(Package::Entry const& entry, Package::Action wanted);
     void mark(int row, Package::Entry& entry, Package::Action action);
-    QVariant decoration(Package::Entry const& entry, int column) const;
+    QVariant decoration(int row, Package::Entry const& entry, int column) const;
     QVariant foreground(Package::Entry const& entry) const;
-    QVariant toolTip(Package::Entry const& entry, int column) const;
+    QVariant toolTip(int row, Package::Entry const& entry, int column) const;
     static QString stateToolTip(Package::Entry const& entry);
     /// Where a transaction that was cut off has left more than one version of the package: which. Else empty.
     QString installedVersions(Package::Entry const& entry) const;
+    [[nodiscard]] QIcon severitySign(int row) const;
+    void want(Package::Detail detail, bool wanted);
     QVariant rawValue(Package::Entry* entry, int row, int column) const;
 
     YumIO* yumIO;
@@ -125,6 +137,9 @@ private:
     QIcon outOfDateIcon, upToDateIcon, doubledIcon;
     QIcon noneBoxIcon, updateBoxIcon, installBoxIcon, removeBoxIcon;
     QIcon suiteIcon, groupIcon, packageIcon;
+    SeveritySigns severitySigns;
+    bool showsAdvisories = false; ///< in their column
+    bool usesAdvisories = false;  ///< elsewhere
     StateColors outOfDateColors, upToDateColors, availableColors;
 };
 

@@ -93,7 +93,7 @@ void SortFilterProxyModel::searchAllRows()
         if (verdict != Verdict::None) {
             continue;
         }
-        if (!passesStateAndKind(*(*yumIO)[row], present)) {
+        if (!passesStateAndKind(row, *(*yumIO)[row], present)) {
             verdict = Verdict::Rejected;
         } else {
             (searchTexts.knows(row) ? run.kept : run.unread).push_back(row);

@@ -17,7 +17,8 @@
 namespace PackageTable
 {
 
-bool SortFilterProxyModel::passesStateAndKind(Package::Entry const& entry, Conditions const& wanted)
+bool SortFilterProxyModel::passesStateAndKind(
+    int row, Package::Entry const& entry, Conditions const& wanted) const
 {
     if (wanted.stateFilter == Marked) {
         return entry.action != Package::None;
@@ -32,6 +33,8 @@ bool SortFilterProxyModel::passesStateAndKind(Package::Entry const& entry, Condi
         return entry.state == Package::Available;
     case Removable:
         return entry.state != Package::Available;
+    case SecurityUpdates:
+        return entry.state == Package::OutOfDate && yumIO->details(Package::Detail::Advisory).number(row) > 0;
     case All:
     case Marked:
         break;
@@ -249,7 +252,7 @@ void SortFilterProxyModel::testShownTexts(Conditions const& wanted, Judge const&
         expression.compile(pattern, wanted.caseSensitivity);
         QByteArray texts;
         walkRows(*yumIO, begin, end, fetch, [&](std::size_t row, Package::Entry const& entry) {
-            bool accepted = passesStateAndKind(entry, wanted);
+            bool accepted = passesStateAndKind(static_cast<int>(row), entry, wanted);
             if (accepted && !pattern.isEmpty()) {
                 takeShownTexts(static_cast<int>(row), texts);
                 accepted = expression.matches(texts);
@@ -287,7 +290,7 @@ bool SortFilterProxyModel::matches(QString const& text) const
 
 bool SortFilterProxyModel::acceptRow(Package::Entry* entry, int sourceRow, QModelIndex const&) const
 {
-    if (!entry || !passesStateAndKind(*entry, present)) {
+    if (!entry || !passesStateAndKind(sourceRow, *entry, present)) {
         return false;
     }
     if (present.expression.isEmpty()) {

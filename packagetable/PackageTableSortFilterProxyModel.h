@@ -100,7 +100,7 @@ private:
     template <typename Judge>
     void testShownTexts(Conditions const& wanted, Judge const& judge) const;
     void takeShownTexts(int row, QByteArray& line) const;
-    static bool passesStateAndKind(Package::Entry const& entry, Conditions const& wanted);
+    bool passesStateAndKind(int row, Package::Entry const& entry, Conditions const& wanted) const;
     bool matchesAnyField(Package::Entry const& entry) const;
     void prepareVerdicts() const;
     void clearVerdicts();

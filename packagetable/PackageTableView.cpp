@@ -144,6 +144,9 @@ void View::resizeColumnsToContents()
 
 void View::showColumn(int column, bool shown)
 {
+    if (column == AdvisoryColumn && shown) {
+        packages->setSigns(this);
+    }
     packages->showColumn(column, shown);
     proxy->setColumnShown(column, shown);
     if (shown && !columns->hasWidthByHand(column)) {
@@ -271,6 +274,9 @@ void View::changeEvent(QEvent* event)
         packages->setPalette(palette());
     } else if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
         knownWidths = {};
+        if (!columns->isSectionHidden(AdvisoryColumn)) {
+            packages->setSigns(this);
+        }
     }
 }
 

@@ -114,6 +114,10 @@ QString EmptyTableNote::reason() const
         //: %1 is one of the choices above the table, such as "View Updatable"
         words = tr("There is nothing in %1.").arg(state);
     }
+    bool const isSecurity = controls.state->currentIndex() == PackageTable::SecurityUpdates;
+    if (isSecurity && !yumIO->details(Package::Detail::Advisory).isKnown()) {
+        words += QLatin1Char(' ') + tr("The metadata of the repositories in use tells of no advisories.");
+    }
     return words.toHtmlEscaped();
 }
 

@@ -511,6 +511,7 @@ void MainWindow::stateFilterChanged(int index)
     auto const step = [this, index] {
         view->stateFilterChanged(static_cast<PackageTable::StateFilter>(index));
     };
+    model->useAdvisories(index == PackageTable::SecurityUpdates);
     whileSearching(isSearching(), step);
 }
 

@@ -99,6 +99,8 @@ public Q_SLOTS:
     void groupsFilterChanged(int state);
     void setSelected();
     void setUpdateAll();
+    /// Marks the updates that mend something about security.
+    void setUpdateSecurity();
     void clearActions();
     void apply();
     void choosePackageFiles();
@@ -176,6 +178,7 @@ private:
     void allowMatters(bool ready);
     void reloadMatters();
     void closeMatters();
+    void allowSecurity(bool ready);
     /// Marks the updates of the packages of these names, and shows all that is marked.
     void markUpdates(QStringList const& names);
 
@@ -204,6 +207,7 @@ private:
     QAction* resetAction = nullptr;
     HMenu* selectionMenu = nullptr;
     QAction* findAction = nullptr;
+    QAction* securityAction = nullptr;
     QStringList incompleteTold;       ///< what `tellIncomplete` has told last
     QString unfinishedTold;           ///< what `tellUnfinished` has told last
     bool begun = false;               ///< the start-up is under way, or done

@@ -135,6 +135,7 @@ QLayout* MainWindow::createFilterRow()
     stateFilterCombo->addItem(tr("View Removable"), 2);
     stateFilterCombo->addItem(tr("View All"), 3);
     stateFilterCombo->addItem(tr("View Marked"), 4);
+    stateFilterCombo->addItem(tr("View Security Updates"), 5);
     stateFilterCombo->setToolTip(tr("Filter for those packages which are eligible for updating,\n"
                                     "for installing, or for removing; or show all packages"));
     stateFilterCombo->setAccessibleName(tr("View"));
@@ -207,6 +208,10 @@ void MainWindow::fillSelectionMenu()
     });
     selectionMenu->addSeparator();
     view->actions()->fill(*selectionMenu);
+    selectionMenu->addSeparator();
+    securityAction = selectionMenu->addAction(tr("Set Update of &Security Fixes"));
+    securityAction->setShortcut(QKeySequence(tr("Ctrl+Shift+U")));
+    connect(securityAction, &QAction::triggered, this, &MainWindow::setUpdateSecurity);
     selectionMenu->addSeparator();
     selectionMenu->addMenu(view->header()->columnsMenu());
 }

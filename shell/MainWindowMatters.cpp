@@ -12,6 +12,7 @@
 
 #include <QAction>
 #include <QComboBox>
+#include <QMessageBox>
 #include <QSet>
 
 /// One of these windows, and its entry.
@@ -69,6 +70,7 @@ void MainWindow::allowMatters(bool ready)
             matter->window->setReady(ready);
         }
     }
+    allowSecurity(ready);
 }
 
 void MainWindow::reloadMatters()
@@ -99,6 +101,27 @@ void MainWindow::showMatter(Matter& matter)
     matter.window->show();
     matter.window->raise();
     matter.window->activateWindow();
+}
+
+void MainWindow::setUpdateSecurity()
+{
+    if (!model->setUpdateSecurity()) {
+        QMessageBox::information(
+            this, tr("Set Update of Security Fixes"),
+            tr("The metadata of the repositories in use tells of no advisories."));
+    }
+    stateChanged(-1);
+}
+
+// What the metadata tells is known once it has been asked for.
+void MainWindow::allowSecurity(bool ready)
+{
+    bool const none = !yumIO->details(Package::Detail::Advisory).isKnown();
+    securityAction->setEnabled(ready && !none);
+    securityAction->setToolTip(
+        none ? tr("The metadata of the repositories in use tells of no advisories.")
+             : tr("Sets the Action for all packages which have a security update to Update.\n"
+                  "Does not Apply Actions automatically."));
 }
 
 void MainWindow::markUpdates(QStringList const& names)

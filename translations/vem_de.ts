@@ -565,6 +565,10 @@
         <source>Clear the expression</source>
         <translation>Den Ausdruck leeren</translation>
     </message>
+    <message>
+        <source>The metadata of the repositories in use tells of no advisories.</source>
+        <translation>Die Metadaten der verwendeten Repositorys enthalten keine Hinweise.</translation>
+    </message>
 </context>
 <context>
     <name>Execute</name>
@@ -1530,6 +1534,32 @@ Das wird zu Ende geführt, und das Programm endet danach.</translation>
         <source>Ctrl+D</source>
         <translation>Ctrl+D</translation>
     </message>
+    <message>
+        <source>View Security Updates</source>
+        <translation>Sicherheitsupdates anzeigen</translation>
+    </message>
+    <message>
+        <source>Set Update of &amp;Security Fixes</source>
+        <translation>Sicherheits&amp;updates vormerken</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+U</source>
+        <translation>Ctrl+Shift+U</translation>
+    </message>
+    <message>
+        <source>Set Update of Security Fixes</source>
+        <translation>Sicherheitsupdates vormerken</translation>
+    </message>
+    <message>
+        <source>The metadata of the repositories in use tells of no advisories.</source>
+        <translation>Die Metadaten der verwendeten Repositorys enthalten keine Hinweise.</translation>
+    </message>
+    <message>
+        <source>Sets the Action for all packages which have a security update to Update.
+Does not Apply Actions automatically.</source>
+        <translation>Setzt die Aktion aller Pakete, für die es ein Sicherheitsupdate gibt, auf „Aktualisieren“.
+Die Aktionen werden nicht automatisch angewendet.</translation>
+    </message>
 </context>
 <context>
     <name>PackageFilesDialog</name>
@@ -2109,8 +2139,8 @@ In mehr als einer Version installiert: %1</translation>
         <translation>Hinweis</translation>
     </message>
     <message>
-        <source>Advisories that the update carries out</source>
-        <translation>Hinweise, die die Aktualisierung umsetzt</translation>
+        <source>Advisories that the update carries out, and how grave the gravest one is</source>
+        <translation>Hinweise, die die Aktualisierung umsetzt, und wie schwer der schwerste wiegt</translation>
     </message>
 </context>
 <context>

@@ -565,6 +565,10 @@
         <source>Clear the expression</source>
         <translation>Vaciar la expresión</translation>
     </message>
+    <message>
+        <source>The metadata of the repositories in use tells of no advisories.</source>
+        <translation>Los metadatos de los repositorios en uso no contienen avisos.</translation>
+    </message>
 </context>
 <context>
     <name>Execute</name>
@@ -1530,6 +1534,32 @@ Eso continúa hasta el final, y el programa termina después.</translation>
         <source>Ctrl+D</source>
         <translation>Ctrl+D</translation>
     </message>
+    <message>
+        <source>View Security Updates</source>
+        <translation>Ver actualizaciones de seguridad</translation>
+    </message>
+    <message>
+        <source>Set Update of &amp;Security Fixes</source>
+        <translation>Marcar las actualizaciones de se&amp;guridad</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+U</source>
+        <translation>Ctrl+Shift+U</translation>
+    </message>
+    <message>
+        <source>Set Update of Security Fixes</source>
+        <translation>Marcar las actualizaciones de seguridad</translation>
+    </message>
+    <message>
+        <source>The metadata of the repositories in use tells of no advisories.</source>
+        <translation>Los metadatos de los repositorios en uso no contienen avisos.</translation>
+    </message>
+    <message>
+        <source>Sets the Action for all packages which have a security update to Update.
+Does not Apply Actions automatically.</source>
+        <translation>Asigna la acción Actualizar a todos los paquetes que tienen una actualización de seguridad.
+No aplica las acciones automáticamente.</translation>
+    </message>
 </context>
 <context>
     <name>PackageFilesDialog</name>
@@ -2109,8 +2139,8 @@ Instalado en más de una versión: %1</translation>
         <translation>Aviso</translation>
     </message>
     <message>
-        <source>Advisories that the update carries out</source>
-        <translation>Avisos que aplica la actualización</translation>
+        <source>Advisories that the update carries out, and how grave the gravest one is</source>
+        <translation>Avisos que aplica la actualización, y la gravedad del más grave</translation>
     </message>
 </context>
 <context>

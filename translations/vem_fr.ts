@@ -565,6 +565,10 @@
         <source>Clear the expression</source>
         <translation>Effacer l&apos;expression</translation>
     </message>
+    <message>
+        <source>The metadata of the repositories in use tells of no advisories.</source>
+        <translation>Les métadonnées des dépôts utilisés ne contiennent pas d&apos;avis.</translation>
+    </message>
 </context>
 <context>
     <name>Execute</name>
@@ -1530,6 +1534,32 @@ Cela ira à son terme, et le programme se terminera ensuite.</translation>
         <source>Ctrl+D</source>
         <translation>Ctrl+D</translation>
     </message>
+    <message>
+        <source>View Security Updates</source>
+        <translation>Voir mises à jour de sécurité</translation>
+    </message>
+    <message>
+        <source>Set Update of &amp;Security Fixes</source>
+        <translation>Marquer les mises à jour de &amp;sécurité</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+U</source>
+        <translation>Ctrl+Shift+U</translation>
+    </message>
+    <message>
+        <source>Set Update of Security Fixes</source>
+        <translation>Marquer les mises à jour de sécurité</translation>
+    </message>
+    <message>
+        <source>The metadata of the repositories in use tells of no advisories.</source>
+        <translation>Les métadonnées des dépôts utilisés ne contiennent pas d&apos;avis.</translation>
+    </message>
+    <message>
+        <source>Sets the Action for all packages which have a security update to Update.
+Does not Apply Actions automatically.</source>
+        <translation>Affecte l’action «&#xa0;Mettre à jour&#xa0;» à tous les paquets qui ont une mise à jour de sécurité.
+N’applique pas automatiquement les actions.</translation>
+    </message>
 </context>
 <context>
     <name>PackageFilesDialog</name>
@@ -2109,8 +2139,8 @@ Installé en plusieurs versions&#xa0;: %1</translation>
         <translation>Avis</translation>
     </message>
     <message>
-        <source>Advisories that the update carries out</source>
-        <translation>Avis que la mise à jour applique</translation>
+        <source>Advisories that the update carries out, and how grave the gravest one is</source>
+        <translation>Avis que la mise à jour applique, et la gravité du plus grave</translation>
     </message>
 </context>
 <context>

@@ -565,6 +565,10 @@
         <source>Clear the expression</source>
         <translation>式を消去します</translation>
     </message>
+    <message>
+        <source>The metadata of the repositories in use tells of no advisories.</source>
+        <translation>使用中のリポジトリーのメタデータにアドバイザリはありません。</translation>
+    </message>
 </context>
 <context>
     <name>Execute</name>
@@ -1530,6 +1534,32 @@ That goes on to its end, and the program ends behind it.</source>
         <source>Ctrl+D</source>
         <translation>Ctrl+D</translation>
     </message>
+    <message>
+        <source>View Security Updates</source>
+        <translation>セキュリティー更新を表示</translation>
+    </message>
+    <message>
+        <source>Set Update of &amp;Security Fixes</source>
+        <translation>セキュリティー修正を更新に設定(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+U</source>
+        <translation>Ctrl+Shift+U</translation>
+    </message>
+    <message>
+        <source>Set Update of Security Fixes</source>
+        <translation>セキュリティー修正を更新に設定</translation>
+    </message>
+    <message>
+        <source>The metadata of the repositories in use tells of no advisories.</source>
+        <translation>使用中のリポジトリーのメタデータにアドバイザリはありません。</translation>
+    </message>
+    <message>
+        <source>Sets the Action for all packages which have a security update to Update.
+Does not Apply Actions automatically.</source>
+        <translation>セキュリティー更新のあるパッケージすべての操作を「更新」に設定します。
+操作は自動的には適用されません。</translation>
+    </message>
 </context>
 <context>
     <name>PackageFilesDialog</name>
@@ -2109,8 +2139,8 @@ Installed in more than one version: %1</source>
         <translation>アドバイザリ</translation>
     </message>
     <message>
-        <source>Advisories that the update carries out</source>
-        <translation>更新によって反映されるアドバイザリ</translation>
+        <source>Advisories that the update carries out, and how grave the gravest one is</source>
+        <translation>更新によって反映されるアドバイザリと、その最も高い重大度</translation>
     </message>
 </context>
 <context>

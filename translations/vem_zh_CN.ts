@@ -565,6 +565,10 @@
         <source>Clear the expression</source>
         <translation>清除表达式</translation>
     </message>
+    <message>
+        <source>The metadata of the repositories in use tells of no advisories.</source>
+        <translation>所用软件库的元数据中没有公告。</translation>
+    </message>
 </context>
 <context>
     <name>Execute</name>
@@ -1530,6 +1534,32 @@ That goes on to its end, and the program ends behind it.</source>
         <source>Ctrl+D</source>
         <translation>Ctrl+D</translation>
     </message>
+    <message>
+        <source>View Security Updates</source>
+        <translation>查看安全更新</translation>
+    </message>
+    <message>
+        <source>Set Update of &amp;Security Fixes</source>
+        <translation>将安全修复设为更新(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+U</source>
+        <translation>Ctrl+Shift+U</translation>
+    </message>
+    <message>
+        <source>Set Update of Security Fixes</source>
+        <translation>将安全修复设为更新</translation>
+    </message>
+    <message>
+        <source>The metadata of the repositories in use tells of no advisories.</source>
+        <translation>所用软件库的元数据中没有公告。</translation>
+    </message>
+    <message>
+        <source>Sets the Action for all packages which have a security update to Update.
+Does not Apply Actions automatically.</source>
+        <translation>将所有有安全更新的软件包的操作设为“更新”。
+不会自动应用操作。</translation>
+    </message>
 </context>
 <context>
     <name>PackageFilesDialog</name>
@@ -2109,8 +2139,8 @@ Installed in more than one version: %1</source>
         <translation>公告</translation>
     </message>
     <message>
-        <source>Advisories that the update carries out</source>
-        <translation>更新所实施的公告</translation>
+        <source>Advisories that the update carries out, and how grave the gravest one is</source>
+        <translation>更新所实施的公告，以及其中最高的严重程度</translation>
     </message>
 </context>
 <context>

@@ -173,7 +173,7 @@ class YumIO:
             found = self._session.unfinished()
         return None if found is None else (found.text, found.versions, found.older)
 
-    def rowDetails(self, kind: str, packages: Sequence[Any]) -> List[Any]:
+    def rowDetails(self, kind: str, packages: Sequence[Any]) -> Optional[Sequence[Any]]:
         """For each of the packages, in their order, what `columns.told` tells. YumBaseError."""
         with reported_as(YumBaseError):
             return self._session.row_details(kind, packages)

@@ -26,6 +26,15 @@ def test_updates_of_an_advisory_are_marked_and_carry_it_out(fleet: Estate, site:
     program = start(site)
     program.wait_ready()
 
+    # The table knows as much.
+    program.choose("View Security Updates")
+    wait_for(lambda: program.names() == ["fleet-lamp"], "the update alone")
+    program.key("ctrl+shift+u")
+    program.choose("View Marked")
+    wait_for(lambda: program.names() == ["fleet-lamp"], "its mark")
+    program.press("Clear Actions")
+    wait_for(lambda: program.names() == [], "no mark")
+
     program.key("ctrl+d")
     window = program.window("Advisories")
     wait_for(lambda: advisories(program) == [["FLEET-2", "Open"]], "the one that is open")

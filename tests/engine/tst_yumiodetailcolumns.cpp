@@ -63,6 +63,32 @@ private Q_SLOTS:
             engine->details(Detail::InstalledSize).text(rowOf(group(QStringLiteral("Trees")))), QString());
     }
 
+    void aTextMayComeWithANumberAndAToolTip()
+    {
+        SCRIPT("YumIO.rowDetails = lambda self, kind, packages:"
+               " [('grave', 5, 'why') if p.name == 'hazel' else '' for p in packages]");
+        QVERIFY(engine->wantDetails(Detail::Advisory, true));
+        Package::RowDetails const& details = engine->details(Detail::Advisory);
+        int const hazel = rowOf(package(QStringLiteral("hazel")));
+        QCOMPARE(details.text(hazel).toString(), QStringLiteral("grave"));
+        QCOMPARE(details.number(hazel), 5LL);
+        QCOMPARE(details.tip(hazel).toString(), QStringLiteral("why"));
+        int const alder = rowOf(package(QStringLiteral("alder")));
+        QCOMPARE(details.number(alder), 0LL);
+        QCOMPARE(details.tip(alder).toString(), QString());
+        QVERIFY(details.isKnown());
+        engine->wantDetails(Detail::Advisory, false);
+    }
+
+    void whatNobodyCanKnowIsToldApart()
+    {
+        SCRIPT("YumIO.rowDetails = lambda self, kind, packages: None");
+        QVERIFY(engine->wantDetails(Detail::Advisory, true));
+        QVERIFY(!engine->details(Detail::Advisory).isKnown());
+        QVERIFY(engine->details(Detail::Advisory).isFor(engine->count()));
+        engine->wantDetails(Detail::Advisory, false);
+    }
+
     void whatIsWantedIsLoadedWithTheNextRows()
     {
         SCRIPT("YumIO.rowDetails = lambda self, kind, packages: [p.name.upper() for p in packages]");
@@ -105,6 +131,7 @@ private Q_SLOTS:
         QTest::newRow("no sequence") << "7";
         QTest::newRow("too short") << "['only']";
         QTest::newRow("too long") << "['x'] * 1000";
+        QTest::newRow("of tuples of anything") << "[(object(), object(), object()) for package in packages]";
         QTest::newRow("of anything") << "[object() for package in packages]";
         QTest::newRow("of huge numbers") << "[10 ** 30 for package in packages]";
         QTest::newRow("of halves of letters") << "['\\ud800' for package in packages]";

@@ -150,10 +150,7 @@ def test_an_advisory_of_a_version_that_nobody_offers_hides_no_fix(lamps: Program
 def test_a_row_tells_its_gravest_advisory_and_all_cves(lamps: Program) -> None:
     found = lamps.collect()
     packages = [found.update("lamp"), found.there("lamp")]
-    assert lamps.yumio.rowDetails("advisories", packages) == [
-        {"type": "security", "severity": "Critical", "identifiers": ["S-3", "S-2", "B-4"], "cves": ["CVE-2024-1"]},
-        None,
-    ]
+    assert lamps.yumio.rowDetails("advisory", packages) == [("Critical: S-3, S-2, B-4", 5, "CVE-2024-1"), ""]
 
 
 def test_metadata_without_advisories_is_told_apart(estate: Estate, rpms: Catalogue, program: Program) -> None:

@@ -73,13 +73,18 @@ def test_an_update_tells_the_advisories_that_it_carries_out(
     )
     found = program.collect()
     packages = [found.update("lib"), found.update("tool"), found.there("battery"), found.offered("clock")]
-    assert told(program, "advisory", packages) == {"lib": "A-1, A-2", "tool": "", "battery": "", "clock": ""}
+    assert told(program, "advisory", packages) == {
+        "lib": ("Important: A-1, A-2", 4, ""),
+        "tool": "",
+        "battery": "",
+        "clock": "",
+    }
 
 
 def test_repositories_without_advisories_tell_none(lamp: Tuple[Estate, Program]) -> None:
     _, program = lamp
     found = program.collect()
-    assert told(program, "advisory", [found.update("lamp")]) == {"lamp": ""}
+    assert program.yumio.rowDetails("advisory", [found.update("lamp")]) is None
 
 
 def test_nothing_is_told_before_a_collection(lamp: Tuple[Estate, Program]) -> None:

@@ -4,7 +4,7 @@
 from __future__ import annotations
 
 from collections import defaultdict
-from typing import Any, DefaultDict, Dict, List, Optional, Sequence, Tuple
+from typing import Any, Callable, DefaultDict, Dict, List, Optional, Sequence, Tuple, Union
 
 from . import versions
 from .backend import Advised, Reason, System
@@ -14,10 +14,9 @@ from .text import valid
 from .texts import _
 
 
-def told(kind: str, packages: Sequence[Package], system: System) -> List[Any]:
-    """One value for each package: "installedSize" in bytes; "reason", why it is installed, in a word; "advisory", the
-    identifiers of what an update carries out; "advisories", the same as `_summaries` has them, None for none. KeyError for
-    another kind."""
+def told(kind: str, packages: Sequence[Package], system: System) -> Optional[Sequence[Any]]:
+    """One value for each package: "installedSize" in bytes; "reason", why it is installed, in a word; "advisory", what
+    an update carries out, as `_advisories` tells it. None where nothing can be known of any. KeyError for another kind."""
     return _KINDS[kind](packages, system)
 
 
@@ -57,32 +56,30 @@ def _advised(packages: Sequence[Package], system: System) -> List[List[str]]:
     return [of(package) for package in packages]
 
 
-def _identifiers(packages: Sequence[Package], system: System) -> List[str]:
-    return [", ".join(carried) for carried in _advised(packages, system)]
+def _advisories(packages: Sequence[Package], system: System) -> Optional[List[Union[str, Tuple[str, int, str]]]]:
+    """Of each (text, gravity, CVEs): its gravest advisory in a word and all identifiers, the gravest one's first; 0 for
+    what is not about security, 1 where nobody says how grave it is, to 5; the CVEs in a line. "" for none. None altogether
+    where no repository's metadata tells of advisories."""
+    if not system.has_advisories():
+        return None
+    advised = _advised(packages, system)
+    known = {one.id: one for one in system.advisories()} if any(advised) else {}
 
-
-def _summaries(packages: Sequence[Package], system: System) -> List[Optional[Dict[str, Any]]]:
-    """Of each a dictionary: "type" and "severity" (str) of its gravest advisory, "identifiers" and "cves" (list of
-    str), the gravest advisory first."""
-    known = {one.id: one for one in system.advisories()}
-
-    def of(carried: List[str]) -> Optional[Dict[str, Any]]:
+    def of(carried: List[str]) -> Union[str, Tuple[str, int, str]]:
         these = sorted((known[id] for id in carried if id in known), key=advisories.gravest_first)
         if not these:
-            return None
-        return {
-            "type": advisories.kind(these[0]),
-            "severity": valid(these[0].severity),
-            "identifiers": [valid(one.id) for one in these],
-            "cves": list(dict.fromkeys(cve for one in these for cve in advisories.cves(one))),
-        }
+            return ""
+        identifiers = ", ".join(valid(one.id) for one in these)
+        word = advisories.word(these[0])
+        cves = dict.fromkeys(cve for one in these for cve in advisories.cves(one))
+        text = f"{word}: {identifiers}" if word else identifiers
+        return text, advisories.gravity(these[0]), ", ".join(cves)
 
-    return [of(carried) for carried in _advised(packages, system)]
+    return [of(carried) for carried in advised]
 
 
-_KINDS = {
+_KINDS: Dict[str, Callable[[Sequence[Package], System], Optional[Sequence[Any]]]] = {
     "installedSize": _installed_sizes,
     "reason": _reasons,
-    "advisory": _identifiers,
-    "advisories": _summaries,
+    "advisory": _advisories,
 }

@@ -180,7 +180,7 @@ class Session:
         text = "\n".join(filter(None, (failure, found.text)))
         return Unfinished(text, found.versions, [InstalledPackage(one, self._details) for one in found.older])
 
-    def row_details(self, kind: str, packages: Sequence[Any]) -> List[Any]:
+    def row_details(self, kind: str, packages: Sequence[Any]) -> Optional[Sequence[Any]]:
         return columns.told(kind, packages, self.system)
 
     def relations(self, kind: str, package: Any, most: int) -> Tuple[List[relations.Line], int]:

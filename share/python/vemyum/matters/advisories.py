@@ -130,6 +130,27 @@ def gravest_first(one: Advisory) -> Tuple[int, int, str]:
     )
 
 
+def gravity(one: Advisory) -> int:
+    """0 for what is not about security, 1 for an unknown severity, and then the more the graver."""
+    severity = one.severity.lower()
+    if one.kind != SECURITY:
+        return 0
+    return 1 + (len(_SEVERITIES) - _SEVERITIES.index(severity) if severity in _SEVERITIES else 0)
+
+
+def word(one: Advisory) -> str:
+    """For the user: how grave it is, if that is known of something about security, else what it is about; "" where that
+    isn't known either."""
+    of_kind = {
+        SECURITY: _("Security"),
+        "bugfix": _("Bug fix"),
+        "enhancement": _("Enhancement"),
+        "newpackage": _("New package"),
+    }
+    by_gravity = {2: _("Low"), 3: _("Moderate"), 4: _("Important"), 5: _("Critical")}
+    return by_gravity.get(gravity(one)) or of_kind.get(one.kind, "")
+
+
 _ORDER = functools.cmp_to_key(versions.compare)
 
 
