@@ -122,8 +122,7 @@ private Q_SLOTS:
             QStringList(
                 {QStringLiteral("&Find|Ctrl+F"), QStringLiteral("&Describe|Return"),
                  QStringLiteral("Install/Update of Selected: 0|+"), QStringLiteral("Remove Selected: 0|Del"),
-                 QStringLiteral("No Action for Selected: 0|Backspace"),
-                 QStringLiteral("Select &All|Ctrl+A"),
+                 QStringLiteral("No Action for Selected: 0|Backspace"), QStringLiteral("Select &All|Ctrl+A"),
                  QStringLiteral("Set Update of &Security Fixes|Ctrl+Shift+U")}));
         QCOMPARE(
             menuTexts(menu(QStringLiteral("&Repositories"))),
@@ -211,8 +210,7 @@ private Q_SLOTS:
                          {{QStringLiteral("Filter=0"), QStringLiteral("Search=1")},
                           {QStringLiteral("View Updatable=0"), QStringLiteral("View Installable=1"),
                            QStringLiteral("View Removable=2"), QStringLiteral("View All=3"),
-                           QStringLiteral("View Marked=4"),
-                           QStringLiteral("View Security Updates=5")}}));
+                           QStringLiteral("View Marked=4"), QStringLiteral("View Security Updates=5")}}));
         QCOMPARE(window->findChild<QLineEdit*>()->text(), QStringLiteral(".*"));
         auto* const groups = window->findChild<QCheckBox*>();
         QCOMPARE(groups->text(), QStringLiteral("Include Groups"));
