@@ -2,12 +2,48 @@
 #include "repo/RepoEditorConfigDialog.h"
 
 #include "repo/YumConfIO.h"
+#include "widgets/Sizing.h"
 
 #include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
+
+namespace
+{
+
+/// Around the form: scrolls on a screen that is too low for all of it, so that the buttons below stay in
+/// sight.
+class Page final : public QScrollArea
+{
+public:
+    explicit Page(QWidget* parent)
+        : QScrollArea(parent)
+    {
+        setFrameShape(QFrame::NoFrame);
+        setFocusPolicy(Qt::NoFocus);
+        setWidgetResizable(true);
+    }
+
+    [[nodiscard]] QSize sizeHint() const override { return fitted(widget()->sizeHint()); }
+    [[nodiscard]] QSize minimumSizeHint() const override { return fitted(widget()->minimumSizeHint()); }
+
+private:
+    [[nodiscard]] QSize fitted(QSize wanted) const
+    {
+        constexpr int linesBelow = 5;
+        QSize const limit = Sizing::screenLimit(this) - QSize(0, linesBelow * fontMetrics().height());
+        if (widget()->minimumSizeHint().height() > limit.height()) {
+            wanted.rwidth() += verticalScrollBar()->sizeHint().width();
+        }
+        return wanted.boundedTo(limit);
+    }
+};
+
+} // namespace
 
 RepoEditor::ConfigDialog::ConfigDialog(YumConfIO* conf, QWidget* parent)
     : HDialog(parent),
@@ -17,9 +53,13 @@ RepoEditor::ConfigDialog::ConfigDialog(YumConfIO* conf, QWidget* parent)
     setAttribute(Qt::WA_ShowModal);
 
     auto* const layout = new QVBoxLayout(this);
-    auto* const grid = new QGridLayout;
+    auto* const page = new Page(this);
+    auto* const form = new QWidget(page);
+    auto* const grid = new QGridLayout(form);
+    grid->setContentsMargins(0, 0, 0, 0);
     config = std::make_unique<Config>(grid);
-    layout->addLayout(grid);
+    page->setWidget(form);
+    layout->addWidget(page);
 
     statusLabel = new QLabel(this);
     initialPalette = statusLabel->palette();
