@@ -31,7 +31,7 @@ import bdb  # noqa: E402,F401
 from vemyum import choice, clean, host, messages, rights, stop, surroundings  # noqa: E402
 from vemyum.apply.parent import Apply  # noqa: E402
 from vemyum.errors import LockError, RepoError, YumBaseError, reported_as  # noqa: E402
-from vemyum.matters import advisories, history  # noqa: E402
+from vemyum.matters import advisories, history, keys  # noqa: E402
 from vemyum.root import managed_root  # noqa: E402
 from vemyum.session import Session  # noqa: E402
 
@@ -220,6 +220,27 @@ class YumIO:
         YumBaseError."""
         with reported_as(YumBaseError):
             return advisories.security_updates(self._session.system, newest)
+
+    def keyList(self) -> Dict[str, Any]:
+        """The keys that rpm trusts, as `matters.keys` tells. Needs no collection. YumBaseError."""
+        with reported_as(YumBaseError):
+            return keys.listed(self._session.configured(), managed_root())
+
+    def keyRead(self, word: str) -> Dict[str, Any]:
+        """The keys that a path or an address would bring, as `matters.keys` tells. Needs no collection. YumBaseError."""
+        with reported_as(YumBaseError):
+            return keys.read(self._session.configured(), managed_root(), word)
+
+    def keyImport(self, fingerprints: Sequence[str]) -> List[Dict[str, str]]:
+        """Has rpm trust these of the keys that `keyRead` gave last; what came of each, as `matters.keys` tells.
+        YumBaseError."""
+        with reported_as(YumBaseError), self._session.locked():
+            return keys.imported(managed_root(), fingerprints)
+
+    def keyRemove(self, key: str) -> None:
+        """Has rpm trust a key no more, by its fingerprint, or rpm's name for one that cannot be read. YumBaseError."""
+        with reported_as(YumBaseError), self._session.locked():
+            keys.removed(managed_root(), key)
 
     def collectFileLists(self) -> bool:
         """YumBaseError."""

@@ -302,9 +302,13 @@ class System(Protocol):
         """Behind `load`: takes a package file for a package that a repository "@commandline" offers, whose location is
         the path."""
 
-    def fetch(self, address: str, path: str) -> None:
-        """Makes a file of what an address gives, by the main configuration's settings. YumBaseError with the library's
-        words, also where the user wants to stop."""
+    def fetch(self, address: str, path: str, enough: Optional[Callable[[int], bool]] = None) -> None:
+        """Makes a file of what an address gives, by the main configuration's settings. `enough` is told now and then
+        how many bytes there are, and gives it up by a true answer. YumBaseError with the library's words, also where
+        the user wants to stop."""
+
+    def key_sources(self) -> List[KeySource]:
+        """The configured repositories, enabled or not, loaded or not."""
 
     def native(self) -> Sequence[str]:
         """The architectures that go before others."""

@@ -92,7 +92,7 @@ class Search:
     def _keys_at(self, location: str, repo: KeySource, packages: Sequence[str]) -> List[openpgp.Key]:
         if location not in self._files:
             self._files[location] = []
-            if not _is_local(location) and not host.confirm_key(
+            if not is_local(location) and not host.confirm_key(
                 location, repo.id, _named(packages), verified=repo.verified
             ):
                 self._tell(location, _("it was not agreed to fetch the key"))
@@ -121,22 +121,27 @@ class Search:
 def _places(repos: Sequence[KeySource]) -> List[tuple[KeySource, str]]:
     """Each repository with each address of its keys, those first that need no network."""
     places = [(repo, location) for repo in repos for location in repo.gpgkey]
-    return sorted(places, key=lambda place: not _is_local(place[1]))
+    return sorted(places, key=lambda place: not is_local(place[1]))
 
 
-def _is_local(location: str) -> bool:
+def is_local(location: str) -> bool:
+    """Whether it is a path or the address of a file."""
     return urllib.parse.urlsplit(location).scheme.lower() in ("", "file")
 
 
 def _content(location: str, repo: KeySource) -> bytes:
     """OSError, RuntimeError with the library's words."""
-    if _is_local(location):
-        path = urllib.parse.unquote(urllib.parse.urlsplit(location).path)
-        place = below(managed_root(), path)
-        # A file of the managed system, else one of this one, as dnf has it for any root.
-        with open(place if os.path.exists(place) else path, "rb") as file:
+    if is_local(location):
+        with open(local_path(location), "rb") as file:
             return file.read()
     return repo.fetch(location)
+
+
+def local_path(location: str) -> str:
+    """A file of the managed system, else one of this one, as dnf has it for any root. OSError."""
+    path = urllib.parse.unquote(urllib.parse.urlsplit(location).path)
+    place = below(managed_root(), path)
+    return place if os.path.exists(place) else path
 
 
 def _fault(key: openpgp.Key, part: openpgp.Part) -> Optional[str]:

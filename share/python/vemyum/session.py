@@ -196,6 +196,12 @@ class Session:
             raise YumBaseError(str(self._fault))
         return backend.library().records(self._settings)
 
+    def configured(self) -> System:
+        """The repositories, read or not. YumBaseError for a configuration that cannot be used."""
+        if self._system is None:
+            raise YumBaseError(str(self._fault or _NOT_READ))
+        return self._system
+
     # Extra data ------------------------------------------------------------------------------------------
 
     def load_file_lists(self) -> None:

@@ -32,6 +32,8 @@ DAMAGED = re.compile(r": BAD\b|^error:")
 """Stands in what rpmkeys says of a package that isn't as it was signed."""
 _LACKS_A_KEY = re.compile(r"\b([0-9a-f]{8,64}): NO(?:KEY|TTRUSTED)$", re.I)
 _ISSUER = re.compile(r"\b[0-9a-f]{16,64}\b", re.I)
+_DELETES_KEYS = 6
+"""The version of rpm from which on it calls it deprecated to remove a key as a package."""
 
 
 class _NoKeys:
@@ -118,9 +120,13 @@ def _rpmkeys(arguments: List[str], package: Any = subprocess.DEVNULL) -> "subpro
     rpmkeys = shutil.which("rpmkeys")
     if rpmkeys is None:
         raise YumBaseError(_("The program rpmkeys is missing: signatures cannot be checked"))
+    return _run(rpmkeys, arguments, package)
+
+
+def _run(program: str, arguments: List[str], package: Any = subprocess.DEVNULL) -> "subprocess.CompletedProcess[bytes]":
     environment = {**os.environ, "LC_ALL": "C"}
     pipe = subprocess.PIPE
-    return subprocess.run([rpmkeys, *arguments], stdin=package, stdout=pipe, stderr=pipe, env=environment, cwd="/")
+    return subprocess.run([program, *arguments], stdin=package, stdout=pipe, stderr=pipe, env=environment, cwd="/")
 
 
 def lines(done: "subprocess.CompletedProcess[bytes]") -> List[str]:
@@ -201,10 +207,31 @@ def _refusal(key: Key, issuer: str, path: str) -> Optional[str]:
 
 
 def _import(root: str, agreed: Agreed) -> None:
+    try:
+        import_key(root, agreed)
+    except YumBaseError as error:
+        raise YumBaseError("\n".join([str(error), _("Nothing was installed.")])) from error
+
+
+def import_key(root: str, agreed: Agreed) -> None:
+    """Has rpm trust it, and the log tell that. YumBaseError with rpm's words."""
     with key_file([agreed.key]) as file:
         done = _rpmkeys([*keys_below(root), "--import", file])
     if done.returncode != 0:
         key = agreed.key.primary.fingerprint
         refused = _("The key {key} could not be imported:").format(key=key)
-        raise YumBaseError("\n".join([refused, *lines(done), _("Nothing was installed.")]))
+        raise YumBaseError("\n".join([refused, *lines(done)]))
     host.log(host.LEVEL_NOTICE, imported(agreed))
+
+
+def remove_key(root: str, name: str, fingerprint: str) -> None:
+    """Has rpm trust a key no more. `name` is that of what it counts as a package; `fingerprint` may be empty where
+    the key cannot be read. YumBaseError with rpm's words."""
+    if fingerprint and int(rpm.__version__.split(".")[0]) >= _DELETES_KEYS:
+        done = _rpmkeys([*keys_below(root), "--delete", fingerprint])
+    else:
+        # There may be several entries of one key, and damaged ones.
+        done = _run("rpm", [*keys_below(root), "--erase", "--allmatches", "--nodigest", "--nosignature", name])
+    if done.returncode != 0:
+        refused = _("The key {key} could not be removed:").format(key=fingerprint or name)
+        raise YumBaseError("\n".join([refused, *lines(done)]))

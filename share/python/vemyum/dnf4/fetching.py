@@ -4,6 +4,7 @@
 from __future__ import annotations
 
 import os
+from typing import Callable, Optional
 
 import dnf.conf
 import libdnf.error
@@ -16,12 +17,13 @@ from ..errors import YumBaseError
 class _Callbacks(libdnf.repo.PackageTargetCB):  # type: ignore[misc]
     """An exception that left one of these would be lost."""
 
-    def __init__(self) -> None:
+    def __init__(self, enough: Optional[Callable[[int], bool]]) -> None:
         super().__init__()
         self.cause = ""
+        self._enough = enough
 
-    def progress(self, _total: float, _done: float) -> int:
-        return int(stop.wanted())
+    def progress(self, _total: float, done: float) -> int:
+        return int(stop.wanted() or (self._enough is not None and self._enough(int(done))))
 
     def end(self, status: int, message: str) -> int:
         if status == self.TransferStatus_ERROR:
@@ -33,9 +35,11 @@ class _Callbacks(libdnf.repo.PackageTargetCB):  # type: ignore[misc]
         return 0
 
 
-def fetch(address: str, path: str, conf: dnf.conf.MainConf) -> None:
+def fetch(
+    address: str, path: str, conf: dnf.conf.MainConf, enough: Optional[Callable[[int], bool]] = None
+) -> None:
     """See `backend.System`."""
-    callbacks = _Callbacks()
+    callbacks = _Callbacks(enough)
     place, name = os.path.split(address)
     # The library makes a file of the name in the address.
     folder = os.path.dirname(path)

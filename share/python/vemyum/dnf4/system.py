@@ -16,6 +16,7 @@ from ..backend import (
     Advised,
     Advisory,
     Dependency,
+    KeySource,
     OpenEntry,
     PutIn,
     Reason,
@@ -29,6 +30,7 @@ from .base import open_base
 from .configuration import Settings
 from .fetching import fetch
 from .history import records
+from .keys import RepositoryKeys
 from .relations import Needs, satisfying, versions_of, wanting
 from .rows import checksum, dependencies
 from .sack import light_packages
@@ -166,8 +168,11 @@ class System:
     def add_file(self, path: str) -> dnf.package.Package:
         return self._base.sack.add_cmdline_package(path)
 
-    def fetch(self, address: str, path: str) -> None:
-        fetch(address, path, self._base.conf)
+    def fetch(self, address: str, path: str, enough: Optional[Callable[[int], bool]] = None) -> None:
+        fetch(address, path, self._base.conf, enough)
+
+    def key_sources(self) -> List[KeySource]:
+        return [RepositoryKeys(repo) for repo in self._base.repos.all()]
 
     def native(self) -> Sequence[str]:
         variables = self._base.conf.substitutions

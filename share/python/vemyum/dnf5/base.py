@@ -40,7 +40,8 @@ class Listener(Protocol):
         """Of one file, or of a repository's metadata. The answer tells it apart in the other calls. `repository` is
         what was given to that as its user data."""
 
-    def progress(self, number: int, size: int, done: int) -> None: ...
+    def progress(self, number: int, size: int, done: int) -> Optional[bool]:
+        """A true answer gives the file up."""
 
     def end(self, number: int, status: int, message: str) -> None: ...
 
@@ -64,8 +65,8 @@ class _Downloads(libdnf5.repo.DownloadCallbacks):  # type: ignore[misc]
         return int(self._tell("begin", int(user_data or 0), description, int(size)) or 0)
 
     def progress(self, number: Any, size: float, done: float) -> int:
-        self._tell("progress", int(number or 0), int(size), int(done))
-        return self.ERROR if stop.wanted() else self.OK
+        enough = self._tell("progress", int(number or 0), int(size), int(done))
+        return self.ERROR if enough or stop.wanted() else self.OK
 
     def end(self, number: Any, status: int, message: Optional[str]) -> int:
         self._tell("end", int(number or 0), status, message or "")

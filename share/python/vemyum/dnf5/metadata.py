@@ -97,9 +97,9 @@ def content_of(base: Base, repo: libdnf5.repo.Repo, address: str) -> bytes:
         base.downloads.listener = listener
 
 
-def fetch_file(base: Base, address: str, path: str) -> None:
+def fetch_file(base: Base, address: str, path: str, enough: Optional[Callable[[int], bool]] = None) -> None:
     """See `backend.System`."""
-    causes = _Causes()
+    causes = _Causes(enough)
     listener, base.downloads.listener = base.downloads.listener, causes
     downloader = libdnf5.repo.FileDownloader(base.library)
     downloader.add(address, path)
@@ -115,13 +115,15 @@ def fetch_file(base: Base, address: str, path: str) -> None:
 class _Causes:
     """Hears why a file couldn't be had, which the library's failure doesn't tell."""
 
-    def __init__(self) -> None:
+    def __init__(self, enough: Optional[Callable[[int], bool]] = None) -> None:
         self.told: List[str] = []
+        self._enough = enough
 
     def begin(self, _repository: int, _what: str, _size: int) -> int:
         return 0
 
-    def progress(self, number: int, size: int, done: int) -> None: ...
+    def progress(self, _number: int, _size: int, done: int) -> Optional[bool]:
+        return None if self._enough is None else self._enough(done)
 
     def end(self, number: int, status: int, message: str) -> None: ...
 

@@ -25,6 +25,7 @@ from ..backend import (
     Advised,
     Advisory,
     Dependency,
+    KeySource,
     OpenEntry,
     PutIn,
     Reason,
@@ -41,7 +42,7 @@ from .advisories import Advisories
 from .base import Base, open_base
 from .failures import FAILURES, in_full, words
 from .history import records
-from .keys import load_signed
+from .keys import Source, load_signed
 from .lists import Lists, fitting, installed_rows
 from .log import LOGGER
 from .metadata import Metadata, fetch_file, told_of
@@ -327,8 +328,11 @@ class System:
         query.filter_repo_id([COMMAND_LINE])
         return next(row for row in rows(query, base) if row.location == path)
 
-    def fetch(self, address: str, path: str) -> None:
-        fetch_file(self.base, address, path)
+    def fetch(self, address: str, path: str, enough: Optional[Callable[[int], bool]] = None) -> None:
+        fetch_file(self.base, address, path, enough)
+
+    def key_sources(self) -> List[KeySource]:
+        return [Source(self.base, repo) for repo in self.base.repositories()]
 
     def native(self) -> Sequence[str]:
         variables = self.settings.variables
