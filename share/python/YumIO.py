@@ -28,10 +28,10 @@ streams.replace_streams()
 
 import bdb  # noqa: E402,F401
 
-from vemyum import choice, clean, host, messages, rights, stop, surroundings  # noqa: E402
+from vemyum import backend, choice, clean, host, messages, rights, stop, surroundings  # noqa: E402
 from vemyum.apply.parent import Apply  # noqa: E402
 from vemyum.errors import LockError, RepoError, YumBaseError, reported_as  # noqa: E402
-from vemyum.matters import advisories, history, keys  # noqa: E402
+from vemyum.matters import advisories, history, keys, restarts  # noqa: E402
 from vemyum.root import managed_root  # noqa: E402
 from vemyum.session import Session  # noqa: E402
 
@@ -241,6 +241,18 @@ class YumIO:
         """Has rpm trust a key no more, by its fingerprint, or rpm's name for one that cannot be read. YumBaseError."""
         with reported_as(YumBaseError), self._session.locked():
             keys.removed(managed_root(), key)
+
+    def restartAdvice(self) -> Dict[str, Any]:
+        """What still works with what has been replaced, as `matters.restarts` tells. Needs no collection.
+        YumBaseError."""
+        with reported_as(YumBaseError):
+            return restarts.advice(managed_root(), backend.library().REBOOT_LISTS)
+
+    def restartServices(self, units: Sequence[str]) -> List[Dict[str, Any]]:
+        """Restarts services of the running system, one by one; what came of each, as `matters.restarts` tells.
+        YumBaseError."""
+        with reported_as(YumBaseError):
+            return restarts.restarted(managed_root(), units)
 
     def collectFileLists(self) -> bool:
         """YumBaseError."""

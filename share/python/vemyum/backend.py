@@ -403,6 +403,9 @@ class Library(Protocol):
     VERSION: str
     NEEDED_LATER: Tuple[str, ...]
     """Modules that it would import while rpm works, when nothing can be imported."""
+    REBOOT_LISTS: Tuple[str, ...]
+    """Folders of the managed system whose `*.conf` name packages, one in a line, behind whose update the system is to
+    be started anew. A file in one folder counts instead of one of its name in a later one."""
 
     def read_settings(self) -> Settings:
         """Makes the log and cache directories where they are missing; whoever isn't the administrator has them below a

@@ -34,6 +34,7 @@ NEEDED_LATER = (
     "dnf.yum.rpmtrans",
     "libdnf.transaction",
 )
+REBOOT_LISTS = ("/etc/dnf/plugins/needs-restarting.d",)
 
 _BUILDERS = {
     name: getattr(dnf.lock, name) for name in ("build_metadata_lock", "build_download_lock", "build_rpmdb_lock")

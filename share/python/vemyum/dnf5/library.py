@@ -34,6 +34,7 @@ NEEDED_LATER = (
     "libdnf5.module",
     "libdnf5.transaction",
 )
+REBOOT_LISTS = ("/etc/dnf/suggest-reboot.d", "/usr/share/dnf5/suggest-reboot.d")
 
 
 def open_transaction(settings: Settings, request: Request) -> Transaction:
