@@ -10,7 +10,7 @@ import subprocess
 import sys
 import time
 from pathlib import Path
-from typing import Any, Callable, Dict, Iterator, List
+from typing import Any, Callable, Dict, Iterator, List, Tuple
 
 import pytest
 from fake_host import FakeHost
@@ -264,6 +264,30 @@ def test_silent_server_is_given_up_after_a_while_or_by_the_user(
     text = refused(program, lambda: yumio.keyRead(f"{web.url}/key"))
     assert f"{web.url}/key has not given its keys within 1 seconds." in text
     assert time.monotonic() - begun < 15
+
+
+def test_keys_are_told_and_read_behind_a_collection_too_and_behind_one_that_has_failed(
+    lamp: Tuple[Estate, Program], key: Key, web: Web
+) -> None:
+    estate, program = lamp
+    estate.rpm("--import", key.public)
+    estate.write_repo_file("base", extra={"gpgkey": key.public.as_uri()})
+    web.page("/key", key.public.read_bytes())
+    for fails in (False, True):
+        if fails:
+            program.clear()
+            estate.write_repo_file("gone", baseurl="file:///none", extra={"skip_if_unavailable": "0"})
+            with pytest.raises(program.errors.RepoError):
+                program.start().setupRepos()
+        else:
+            program.collect()
+        (one,) = program.yumio.keyList()["keys"]
+        assert (one["fingerprint"], one["repositories"]) == (key.fingerprint, ["base"])
+        assert fingerprints(program.yumio.keyRead(f"{web.url}/key")) == [key.fingerprint]
+        # The lock is the program's by now, and stays so.
+        assert program.yumio.keyImport([key.fingerprint])[0]["fault"] == ""
+    program.yumio.keyRemove(key.fingerprint)
+    assert program.yumio.keyList()["keys"] == []
 
 
 def test_damaged_database_is_told(estate: Estate, yumio: Any, program: Program, key: Key) -> None:

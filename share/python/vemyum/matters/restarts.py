@@ -5,10 +5,11 @@ Needs no collection. Looking changes nothing, and needs rights only for the proc
 
 The rules are the same with each library. The system is to be started anew where a package that provides one of the
 names below, or that the administrator's list names, has been installed since its first process began: that is what the
-command lines say, but for dnf 5's, which also asks the advisories of the repositories. A process is to be restarted
-where a file that it has mapped belongs to a package that has been installed since it began, as dnf 4's command line
-says; or where code that it has mapped is gone from the system's own folders, which the kernel tells. (dnf 5's command line
-takes a process for outdated when anything is that its program's package requires, used or not.)
+command lines say, but that dnf 5's and older ones of dnf 4 don't heed what a package of another name provides, and dnf
+5's also asks the advisories of the repositories. A process is to be restarted where a file that it has mapped belongs to
+a package that has been installed since it began, as dnf 4's command line says; or where code that it has mapped is gone
+from the system's own folders, which the kernel tells. (For dnf 5's command line a process is outdated as soon as anything
+has been installed since that its program's package requires, used or not.)
 
 The advice is a dictionary:
 
