@@ -243,10 +243,11 @@ class YumIO:
             keys.removed(managed_root(), key)
 
     def restartAdvice(self) -> Dict[str, Any]:
-        """What still works with what has been replaced, as `matters.restarts` tells. Needs no collection.
-        YumBaseError."""
+        """What still works with what has been replaced, as `matters.restarts` tells. Needs no collection; behind one,
+        advisories count. YumBaseError."""
         with reported_as(YumBaseError):
-            return restarts.advice(managed_root(), backend.library().REBOOT_LISTS)
+            lists, advised = backend.library().REBOOT_LISTS, self._session.reboot_advised()
+            return restarts.advice(managed_root(), lists, advised)
 
     def restartServices(self, units: Sequence[str]) -> List[Dict[str, Any]]:
         """Restarts services of the running system, one by one; what came of each, as `matters.restarts` tells.

@@ -15,11 +15,11 @@ from pathlib import Path
 from typing import Any, Dict, List, Optional, Sequence
 
 import pytest
-from catalogue import Catalogue
+from advisories import UPDATE, UPDATEINFO
 from commandline import _command
 from libraries import by_library
 from program import Program
-from rpmestate import Estate, spec
+from rpmestate import Estate, run, spec
 from stopping import Stopper
 from users import NOBODY, other_users_exist
 
@@ -119,7 +119,7 @@ def installed_for_the_command_line(estate: Estate, packages: Sequence[Path]) -> 
 
 def advice(estate: Estate, proc: Optional["Proc"] = None) -> Dict[str, Any]:
     folder = processes.PROC if proc is None else str(proc.folder)
-    return restarts.advice(str(estate.root), backend.library().REBOOT_LISTS, folder)
+    return restarts.advice(str(estate.root), backend.library().REBOOT_LISTS, proc=folder)
 
 
 def needs_restarting(estate: Estate, *words: str) -> "subprocess.CompletedProcess[str]":
@@ -383,6 +383,22 @@ def test_the_script_gives_the_advice_before_anything_is_collected(
     assert names(found) == ["glibc"] and found["processes"] == []
     with pytest.raises(program.errors.YumBaseError, match="is not the system that runs: no services"):
         yumio.restartServices(["tool.service"])
+
+
+@pytest.mark.dnf5
+def test_an_advisory_may_want_a_new_start_too(estate: Estate, program: Program, things: Dict[str, Path]) -> None:
+    installed_for_the_command_line(estate, [things["tool"], things["desk"]])
+    tool = UPDATE.format(id="S-1", name="tool", version="1.0")
+    tool = tool.replace("</filename>", "</filename><reboot_suggested>True</reboot_suggested>")
+    # Of a version that isn't there.
+    desk = tool.replace("S-1", "S-2").replace("tool", "desk").replace("1.0", "2.0")
+    base = estate.repos_dir / "base"
+    (base / "updateinfo.xml").write_text(UPDATEINFO.format(tool + desk))
+    run(["modifyrepo_c", "--mdtype=updateinfo", base / "updateinfo.xml", base / "repodata"])
+    yumio = program.namespace["YumIO"]()
+    assert names(yumio.restartAdvice()) == []
+    yumio = program.collect().yumio
+    assert names(yumio.restartAdvice()) == by_command_line(estate) == ["tool"]
 
 
 # Services -------------------------------------------------------------------------------------------------------

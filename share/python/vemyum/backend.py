@@ -291,6 +291,10 @@ class System(Protocol):
     def has_advisories(self) -> bool:
         """Whether any enabled repository's metadata tells of advisories."""
 
+    def reboot_advised(self) -> List[str]:
+        """The names of installed packages whose version wants the system started anew, as far as the library tells of
+        advisories that say so; there may be others among them that do anyway."""
+
     def put_in(self, row: Row) -> List[PutIn]:
         """The transactions that brought a version of the package's name and architecture, the latest first; none for a
         history that cannot be read."""

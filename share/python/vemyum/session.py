@@ -202,6 +202,10 @@ class Session:
             raise YumBaseError(str(self._fault or _NOT_READ))
         return self._system
 
+    def reboot_advised(self) -> List[str]:
+        """What the repositories' advisories tell of that; nothing before they are read."""
+        return [] if self._system is None or self._collector is None else self._system.reboot_advised()
+
     # Extra data ------------------------------------------------------------------------------------------
 
     def load_file_lists(self) -> None:

@@ -162,6 +162,10 @@ class System:
     def has_advisories(self) -> bool:
         return any(repo._repo.getMetadataPath("updateinfo") for repo in self._base.repos.iter_enabled())
 
+    def reboot_advised(self) -> List[str]:
+        """The library reads over what advisories say of it."""
+        return []
+
     def architectures(self) -> Sequence[str]:
         return [str(arch) for arch in self._base.sack.list_arches()]
 

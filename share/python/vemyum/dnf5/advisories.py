@@ -104,3 +104,11 @@ def _head(advisory: libdnf5.advisory.Advisory) -> Any:
 
 def _package(one: libdnf5.advisory.AdvisoryPackage) -> AdvisoryPackage:
     return AdvisoryPackage(one.get_name(), one.get_arch(), *whole_evr(one.get_evr()), False)
+
+
+def reboot_advised(base: Base) -> List[str]:
+    """See `backend.System`."""
+    query = libdnf5.rpm.PackageQuery(base.library)
+    query.filter_installed()
+    query.filter_reboot_suggested()
+    return sorted({str(package.get_name()) for package in query})

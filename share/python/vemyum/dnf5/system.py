@@ -38,7 +38,7 @@ from ..packages import COMMAND_LINE
 from ..reading import drop_damaged, without_durations
 from ..sections import RepositorySection
 from ..texts import _
-from .advisories import Advisories
+from .advisories import Advisories, reboot_advised
 from .base import Base, open_base
 from .failures import FAILURES, in_full, words
 from .history import records
@@ -393,6 +393,9 @@ class System:
 
     def open_entry(self) -> Optional[OpenEntry]:
         return records(self.settings).open_entry()
+
+    def reboot_advised(self) -> List[str]:
+        return reboot_advised(self.base)
 
     def put_in(self, row: Row) -> List[PutIn]:
         return records(self.settings).put_in(row.name, row.arch)

@@ -5,11 +5,11 @@ Needs no collection. Looking changes nothing, and needs rights only for the proc
 
 The rules are the same with each library. The system is to be started anew where a package that provides one of the
 names below, or that the administrator's list names, has been installed since its first process began: that is what the
-command lines say, but that dnf 5's and older ones of dnf 4 don't heed what a package of another name provides, and dnf
-5's also asks the advisories of the repositories. A process is to be restarted where a file that it has mapped belongs to
-a package that has been installed since it began, as dnf 4's command line says; or where code that it has mapped is gone
-from the system's own folders, which the kernel tells. (For dnf 5's command line a process is outdated as soon as anything
-has been installed since that its program's package requires, used or not.)
+command lines say, but that dnf 5's and older ones of dnf 4 don't heed what a package of another name provides. With dnf
+5, behind a collection, an advisory of the repositories may want it, too. A process is to be restarted where a file that
+it has mapped belongs to a package that has been installed since it began, as dnf 4's command line says; or where code
+that it has mapped is gone from the system's own folders, which the kernel tells. (For dnf 5's command line a process is
+outdated as soon as anything has been installed since that its program's package requires, used or not.)
 
 The advice is a dictionary:
 
@@ -101,14 +101,14 @@ class _Packages:
         return self._owners[path]
 
 
-def advice(root: str, lists: Sequence[str], proc: str = processes.PROC) -> Told:
-    """`lists` are the folders with the administrator's lists (`backend.Library`), `proc` is where processes are told of.
-    YumBaseError, Stopped."""
+def advice(root: str, lists: Sequence[str], advised: Sequence[str] = (), proc: str = processes.PROC) -> Told:
+    """`lists` are the folders with the administrator's lists (`backend.Library`), `advised` the names that advisories
+    add (`backend.System`), `proc` is where processes are told of. YumBaseError, Stopped."""
     running = os.path.realpath(root) == "/"
     note = "" if running else _("{root} is not the system that runs: few programs, if any, use its files.").format(root=root)
     since = processes.system_started(proc)
     with _opened(root) as packages:
-        reboot = _reboot(packages, root, lists, since)
+        reboot = _reboot(packages, {*_configured(root, lists), *advised}, since)
         found, unread = _outdated(packages, root, proc)
     return {
         "running": running,
@@ -139,10 +139,10 @@ def _opened(root: str) -> Iterator[_Packages]:
 # The system -----------------------------------------------------------------------------------------------------
 
 
-def _reboot(packages: _Packages, root: str, lists: Sequence[str], since: float) -> List[Told]:
+def _reboot(packages: _Packages, names: Set[str], since: float) -> List[Told]:
     found: Dict[Tuple[str, str], int] = {}
     wanted = [("providename", name) for name in _CORE]
-    wanted += [("name", name) for name in sorted(_configured(root, lists))]
+    wanted += [("name", name) for name in sorted(names)]
     for tag, text in wanted:
         for header in packages.matching(tag, text):
             installed = int(header["installtime"] or 0)
