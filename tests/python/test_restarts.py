@@ -266,8 +266,10 @@ def test_what_uses_files_outside_the_managed_root_is_left_out(
     estate: Estate, things: Dict[str, Path], proc: Proc
 ) -> None:
     estate.install([things["tool"]])
-    place = proc.add(20, 10, ["/usr/lib/tool.so"]) / "maps"
-    place.write_text(place.read_text().replace(str(estate.root), ""))
+    # The system's own, and another root's whose path is as long.
+    for pid, other in ((20, ""), (21, f"{str(estate.root)[:-1]}x")):
+        place = proc.add(pid, 10, ["/usr/lib/tool.so"]) / "maps"
+        place.write_text(place.read_text().replace(str(estate.root), other))
     found = advice(estate, proc)
     assert found["processes"] == [] and not found["running"]
     assert "is not the system that runs" in found["note"]
@@ -339,7 +341,7 @@ def test_units_are_told_with_their_processes_and_what_speaks_against_a_restart(
     groups = [
         "/system.slice/tool.service",
         "/system.slice/tool.service/worker",
-        "/system.slice/system-tool.slice/tool@one.service",
+        "/system.slice/system-tool.slice/_tool@one.service",
         "/user.slice/user-0.slice/user@0.service/app.slice/desk.service",
         "/user.slice/user-0.slice/user@0.service/init.scope",
         "/user.slice/user-0.slice/session-2.scope",

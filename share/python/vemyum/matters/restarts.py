@@ -245,7 +245,7 @@ def _replaced(packages: _Packages, mapped: Dict[str, Tuple[bool, bool]], began: 
 def _unit(group: str) -> Tuple[str, bool]:
     """The unit of a control group, and whether it is one of a user's own systemd; empty for none."""
     # systemd puts a line before names that would mean something else there.
-    units = [part.lstrip("_") for part in group.split("/") if _UNIT.search(part)]
+    units = [part[part.startswith("_") :] for part in group.split("/") if _UNIT.search(part)]
     if not units:
         return "", False
     inner = [unit for unit in units[1:] if unit != "init.scope"]
