@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "advisories/AdvisoriesModel.h"
 
+#include "matters/Moments.h"
 #include "widgets/Fonts.h"
 
 #include <QWidget>
@@ -71,7 +72,7 @@ QVariant Model::cell(Advisory const& advisory, int column)
     case IdentifierColumn:
         return advisory.identifier;
     case IssuedColumn:
-        return Words::day(advisory.issued);
+        return Moments::day(advisory.issued);
     case CountColumn:
         return advisory.count;
     case TitleColumn:

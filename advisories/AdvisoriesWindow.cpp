@@ -5,6 +5,7 @@
 #include "advisories/AdvisoriesPackagesModel.h"
 #include "advisories/AdvisoriesReader.h"
 #include "engine/YumIO.h"
+#include "matters/Moments.h"
 #include "widgets/ListTable.h"
 
 #include <QComboBox>
@@ -96,7 +97,7 @@ void Window::showText(Whole const& whole)
         return;
     }
     Advisory const& head = whole.head;
-    QStringList facts{Words::of(head.kind), Words::severity(head), Words::day(head.issued)};
+    QStringList facts{Words::of(head.kind), Words::severity(head), Moments::day(head.issued)};
     facts.removeAll(QString());
     QString page = QStringLiteral("<p><b>%1</b><br>%2<br>%3</p>")
                        .arg(

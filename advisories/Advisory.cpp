@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "advisories/Advisory.h"
 
-#include <QDateTime>
 #include <QJsonArray>
 
 namespace Advisories
@@ -116,11 +115,6 @@ QString Words::severity(Advisory const& advisory)
         return advisory.severityText;
     }
     return {};
-}
-
-QString Words::day(qint64 seconds)
-{
-    return seconds == 0 ? QString() : QDateTime::fromSecsSinceEpoch(seconds).date().toString(Qt::ISODate);
 }
 
 } // namespace Advisories

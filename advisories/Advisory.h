@@ -70,8 +70,6 @@ public:
     [[nodiscard]] static QString of(Kind kind);
     /// Those of the repository, where these are none of the usual ones.
     [[nodiscard]] static QString severity(Advisory const& advisory);
-    /// The day of seconds since 1970, in the form that sorts; empty for 0.
-    [[nodiscard]] static QString day(qint64 seconds);
 };
 
 } // namespace Advisories

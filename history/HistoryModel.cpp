@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "history/HistoryModel.h"
 
+#include "matters/Moments.h"
 #include "widgets/Fonts.h"
 
 #include <algorithm>
@@ -65,7 +66,7 @@ QVariant Model::cell(Transaction const& transaction, int column)
     case NumberColumn:
         return transaction.number;
     case BeginColumn:
-        return Words::moment(transaction.begun);
+        return Moments::moment(transaction.begun);
     case UserColumn:
         return transaction.user;
     case ResultColumn:

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "history/HistoryTransaction.h"
 
-#include <QDateTime>
 #include <QJsonArray>
 #include <numeric>
 
@@ -200,13 +199,6 @@ QString Words::counts(Transaction const& transaction)
         parts.append(tr("Groups: %1").arg(transaction.groups));
     }
     return parts.join(QLatin1String(", "));
-}
-
-QString Words::moment(qint64 seconds)
-{
-    return seconds == 0
-               ? QString()
-               : QDateTime::fromSecsSinceEpoch(seconds).toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
 }
 
 } // namespace History

@@ -101,8 +101,6 @@ public:
     [[nodiscard]] static QString of(Reason reason);
     /// Such as "2 Installed, 1 Removed".
     [[nodiscard]] static QString counts(Transaction const& transaction);
-    /// Seconds since 1970 in local time, in the form that sorts; empty for 0.
-    [[nodiscard]] static QString moment(qint64 seconds);
 };
 
 } // namespace History

@@ -5,6 +5,7 @@
 #include "history/HistoryModel.h"
 #include "history/HistoryPackagesModel.h"
 #include "history/HistoryRecords.h"
+#include "matters/Moments.h"
 #include "services/ScrollableConfirmDialog.h"
 #include "widgets/ListTable.h"
 
@@ -143,8 +144,8 @@ void Window::showHead(Whole const& whole)
         return;
     }
     QStringList lines{tr("Transaction %1: %2").arg(head.number).arg(Words::of(head.result))};
-    QString const begun = Words::moment(head.begun);
-    QString const ended = Words::moment(head.ended);
+    QString const begun = Moments::moment(head.begun);
+    QString const ended = Moments::moment(head.ended);
     if (!begun.isEmpty()) {
         lines.append(ended.isEmpty() ? tr("Begun: %1").arg(begun) : tr("From %1 to %2").arg(begun, ended));
     }

@@ -8,6 +8,7 @@
 #include "packagetable/PackageTableColumns.h"
 #include "packagetable/PackageTableModel.h"
 #include "packagetable/PackageTableView.h"
+#include "restarts/RestartsWindow.h"
 #include "widgets/HMenu.h"
 
 #include <QAction>
@@ -45,6 +46,11 @@ void MainWindow::addMatters(HMenu& menu)
          tr("The helper script in use is too old to tell of advisories"), &Advisories::Window::offered,
          [this] { return makeAdvisories(); }},
         tr("Ctrl+D"));
+    add({menu.addAction(tr("Res&tarts")),
+         tr("Shows what still works with files that have been replaced, and restarts services"),
+         tr("The helper script in use is too old to tell what is to be restarted"),
+         &Restarts::Window::offered, [this] { return new Restarts::Window(yumIO, this); }},
+        tr("Ctrl+Shift+R"));
 }
 
 MatterWindow* MainWindow::makeAdvisories()

@@ -1560,6 +1560,22 @@ Does not Apply Actions automatically.</source>
         <translation>Setzt die Aktion aller Pakete, für die es ein Sicherheitsupdate gibt, auf „Aktualisieren“.
 Die Aktionen werden nicht automatisch angewendet.</translation>
     </message>
+    <message>
+        <source>Res&amp;tarts</source>
+        <translation>Neus&amp;tarts</translation>
+    </message>
+    <message>
+        <source>Shows what still works with files that have been replaced, and restarts services</source>
+        <translation>Zeigt, was noch mit ersetzten Dateien arbeitet, und startet Dienste neu</translation>
+    </message>
+    <message>
+        <source>The helper script in use is too old to tell what is to be restarted</source>
+        <translation>Das verwendete Hilfsskript ist zu alt, um zu sagen, was neu zu starten ist</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+R</source>
+        <translation>Ctrl+Shift+R</translation>
+    </message>
 </context>
 <context>
     <name>PackageFilesDialog</name>
@@ -2641,6 +2657,190 @@ Lässt sich für eine einzelne Sitzung übersteuern.</translation>
     <message>
         <source>Repositories</source>
         <translation>Paketquellen</translation>
+    </message>
+</context>
+<context>
+    <name>Restarts::FilesModel</name>
+    <message>
+        <source>Removed</source>
+        <translation>Entfernt</translation>
+    </message>
+    <message>
+        <source>Replaced</source>
+        <translation>Ersetzt</translation>
+    </message>
+    <message>
+        <source>Path of the file</source>
+        <translation>Pfad der Datei</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Package that the file belongs to now</source>
+        <translation>Paket, zu dem die Datei jetzt gehört</translation>
+    </message>
+    <message>
+        <source>Package</source>
+        <translation>Paket</translation>
+    </message>
+    <message>
+        <source>Whether the file that the process uses is there in another version, or gone</source>
+        <translation>Ob die Datei, die der Prozess verwendet, in einer anderen Fassung da ist oder fehlt</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+</context>
+<context>
+    <name>Restarts::Model</name>
+    <message>
+        <source>Unit of systemd that the process belongs to</source>
+        <translation>Einheit von systemd, zu der der Prozess gehört</translation>
+    </message>
+    <message>
+        <source>Service</source>
+        <translation>Dienst</translation>
+    </message>
+    <message>
+        <source>Command that runs</source>
+        <translation>Befehl, der läuft</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Befehl</translation>
+    </message>
+    <message>
+        <source>Number of the process</source>
+        <translation>Nummer des Prozesses</translation>
+    </message>
+    <message>
+        <source>Process</source>
+        <translation>Prozess</translation>
+    </message>
+    <message>
+        <source>Whose process it is</source>
+        <translation>Wessen Prozess es ist</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Benutzer</translation>
+    </message>
+    <message>
+        <source>When the process began</source>
+        <translation>Wann der Prozess begann</translation>
+    </message>
+    <message>
+        <source>Started</source>
+        <translation>Gestartet</translation>
+    </message>
+    <message>
+        <source>How many files it uses that have been replaced</source>
+        <translation>Wie viele ersetzte Dateien er verwendet</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+</context>
+<context>
+    <name>Restarts::Reader</name>
+    <message>
+        <source>Unable to find out what is to be restarted</source>
+        <translation>Es kann nicht ermittelt werden, was neu zu starten ist</translation>
+    </message>
+    <message>
+        <source>Unable to restart services</source>
+        <translation>Dienste können nicht neu gestartet werden</translation>
+    </message>
+</context>
+<context>
+    <name>Restarts::Window</name>
+    <message>
+        <source>Restarts</source>
+        <translation>Neustarts</translation>
+    </message>
+    <message>
+        <source>The system is to be started anew. Since its start on %1 have been installed:</source>
+        <translation>Das System sollte neu gestartet werden. Seit seinem Start am %1 wurden installiert:</translation>
+    </message>
+    <message>
+        <source>The system need not be started anew.</source>
+        <translation>Das System muss nicht neu gestartet werden.</translation>
+    </message>
+    <message>
+        <source>No process uses files that have been replaced.</source>
+        <translation>Kein Prozess verwendet ersetzte Dateien.</translation>
+    </message>
+    <message>
+        <source>Processes of which nothing could be told for lack of rights: %1</source>
+        <translation>Prozesse, über die mangels Rechten nichts zu erfahren war: %1</translation>
+    </message>
+    <message>
+        <source>The helper script in use is too old to restart services</source>
+        <translation>Das verwendete Hilfsskript ist zu alt, um Dienste neu zu starten</translation>
+    </message>
+    <message>
+        <source>Restarts the services of these processes, as far as they can be restarted</source>
+        <translation>Startet die Dienste dieser Prozesse neu, soweit das möglich ist</translation>
+    </message>
+    <message>
+        <source>These services are restarted, one after the other:</source>
+        <translation>Diese Dienste werden nacheinander neu gestartet:</translation>
+    </message>
+    <message>
+        <source>What they do is interrupted for that time.</source>
+        <translation>Was sie tun, ist solange unterbrochen.</translation>
+    </message>
+    <message>
+        <source>Restart Services</source>
+        <translation>Dienste neu starten</translation>
+    </message>
+    <message>
+        <source>Advice</source>
+        <translation>Rat</translation>
+    </message>
+    <message>
+        <source>Whether the system is to be started anew</source>
+        <translation>Ob das System neu gestartet werden sollte</translation>
+    </message>
+    <message>
+        <source>Processes</source>
+        <translation>Prozesse</translation>
+    </message>
+    <message>
+        <source>Processes that use files which have been replaced</source>
+        <translation>Prozesse, die ersetzte Dateien verwenden</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Replaced files that the chosen process uses</source>
+        <translation>Ersetzte Dateien, die der gewählte Prozess verwendet</translation>
+    </message>
+    <message>
+        <source>&amp;Restart These Services</source>
+        <translation>Diese Dienste &amp;neu starten</translation>
+    </message>
+    <message>
+        <source>&amp;Look Again</source>
+        <translation>N&amp;ochmals nachsehen</translation>
+    </message>
+    <message>
+        <source>Find out anew what is to be restarted</source>
+        <translation>Neu ermitteln, was neu zu starten ist</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>Close the restarts</source>
+        <translation>Die Neustarts schließen</translation>
     </message>
 </context>
 <context>

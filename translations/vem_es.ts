@@ -1560,6 +1560,22 @@ Does not Apply Actions automatically.</source>
         <translation>Asigna la acción Actualizar a todos los paquetes que tienen una actualización de seguridad.
 No aplica las acciones automáticamente.</translation>
     </message>
+    <message>
+        <source>Res&amp;tarts</source>
+        <translation>Reini&amp;cios</translation>
+    </message>
+    <message>
+        <source>Shows what still works with files that have been replaced, and restarts services</source>
+        <translation>Muestra lo que aún trabaja con archivos sustituidos y reinicia servicios</translation>
+    </message>
+    <message>
+        <source>The helper script in use is too old to tell what is to be restarted</source>
+        <translation>El script auxiliar en uso es demasiado antiguo para decir qué hay que reiniciar</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+R</source>
+        <translation>Ctrl+Shift+R</translation>
+    </message>
 </context>
 <context>
     <name>PackageFilesDialog</name>
@@ -2641,6 +2657,190 @@ Se puede cambiar para una sesión concreta.</translation>
     <message>
         <source>Repositories</source>
         <translation>Repositorios</translation>
+    </message>
+</context>
+<context>
+    <name>Restarts::FilesModel</name>
+    <message>
+        <source>Removed</source>
+        <translation>Eliminado</translation>
+    </message>
+    <message>
+        <source>Replaced</source>
+        <translation>Sustituido</translation>
+    </message>
+    <message>
+        <source>Path of the file</source>
+        <translation>Ruta del archivo</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Archivo</translation>
+    </message>
+    <message>
+        <source>Package that the file belongs to now</source>
+        <translation>Paquete al que pertenece ahora el archivo</translation>
+    </message>
+    <message>
+        <source>Package</source>
+        <translation>Paquete</translation>
+    </message>
+    <message>
+        <source>Whether the file that the process uses is there in another version, or gone</source>
+        <translation>Si el archivo que usa el proceso está en otra versión o ya no está</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+</context>
+<context>
+    <name>Restarts::Model</name>
+    <message>
+        <source>Unit of systemd that the process belongs to</source>
+        <translation>Unidad de systemd a la que pertenece el proceso</translation>
+    </message>
+    <message>
+        <source>Service</source>
+        <translation>Servicio</translation>
+    </message>
+    <message>
+        <source>Command that runs</source>
+        <translation>Orden que se ejecuta</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Orden</translation>
+    </message>
+    <message>
+        <source>Number of the process</source>
+        <translation>Número del proceso</translation>
+    </message>
+    <message>
+        <source>Process</source>
+        <translation>Proceso</translation>
+    </message>
+    <message>
+        <source>Whose process it is</source>
+        <translation>De quién es el proceso</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Usuario</translation>
+    </message>
+    <message>
+        <source>When the process began</source>
+        <translation>Cuándo empezó el proceso</translation>
+    </message>
+    <message>
+        <source>Started</source>
+        <translation>Iniciado</translation>
+    </message>
+    <message>
+        <source>How many files it uses that have been replaced</source>
+        <translation>Cuántos archivos sustituidos usa</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Archivos</translation>
+    </message>
+</context>
+<context>
+    <name>Restarts::Reader</name>
+    <message>
+        <source>Unable to find out what is to be restarted</source>
+        <translation>No se puede averiguar qué hay que reiniciar</translation>
+    </message>
+    <message>
+        <source>Unable to restart services</source>
+        <translation>No se pueden reiniciar servicios</translation>
+    </message>
+</context>
+<context>
+    <name>Restarts::Window</name>
+    <message>
+        <source>Restarts</source>
+        <translation>Reinicios</translation>
+    </message>
+    <message>
+        <source>The system is to be started anew. Since its start on %1 have been installed:</source>
+        <translation>Hay que reiniciar el sistema. Desde su inicio el %1 se han instalado:</translation>
+    </message>
+    <message>
+        <source>The system need not be started anew.</source>
+        <translation>No hace falta reiniciar el sistema.</translation>
+    </message>
+    <message>
+        <source>No process uses files that have been replaced.</source>
+        <translation>Ningún proceso usa archivos sustituidos.</translation>
+    </message>
+    <message>
+        <source>Processes of which nothing could be told for lack of rights: %1</source>
+        <translation>Procesos de los que no se pudo saber nada por falta de permisos: %1</translation>
+    </message>
+    <message>
+        <source>The helper script in use is too old to restart services</source>
+        <translation>El script auxiliar en uso es demasiado antiguo para reiniciar servicios</translation>
+    </message>
+    <message>
+        <source>Restarts the services of these processes, as far as they can be restarted</source>
+        <translation>Reinicia los servicios de estos procesos, en lo posible</translation>
+    </message>
+    <message>
+        <source>These services are restarted, one after the other:</source>
+        <translation>Se reinician estos servicios, uno tras otro:</translation>
+    </message>
+    <message>
+        <source>What they do is interrupted for that time.</source>
+        <translation>Lo que hacen queda interrumpido mientras tanto.</translation>
+    </message>
+    <message>
+        <source>Restart Services</source>
+        <translation>Reiniciar servicios</translation>
+    </message>
+    <message>
+        <source>Advice</source>
+        <translation>Consejo</translation>
+    </message>
+    <message>
+        <source>Whether the system is to be started anew</source>
+        <translation>Si hay que reiniciar el sistema</translation>
+    </message>
+    <message>
+        <source>Processes</source>
+        <translation>Procesos</translation>
+    </message>
+    <message>
+        <source>Processes that use files which have been replaced</source>
+        <translation>Procesos que usan archivos sustituidos</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Archivos</translation>
+    </message>
+    <message>
+        <source>Replaced files that the chosen process uses</source>
+        <translation>Archivos sustituidos que usa el proceso elegido</translation>
+    </message>
+    <message>
+        <source>&amp;Restart These Services</source>
+        <translation>&amp;Reiniciar estos servicios</translation>
+    </message>
+    <message>
+        <source>&amp;Look Again</source>
+        <translation>&amp;Mirar de nuevo</translation>
+    </message>
+    <message>
+        <source>Find out anew what is to be restarted</source>
+        <translation>Averiguar de nuevo qué hay que reiniciar</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+    <message>
+        <source>Close the restarts</source>
+        <translation>Cerrar los reinicios</translation>
     </message>
 </context>
 <context>

@@ -1560,6 +1560,22 @@ Does not Apply Actions automatically.</source>
         <translation>Affecte l’action «&#xa0;Mettre à jour&#xa0;» à tous les paquets qui ont une mise à jour de sécurité.
 N’applique pas automatiquement les actions.</translation>
     </message>
+    <message>
+        <source>Res&amp;tarts</source>
+        <translation>Redé&amp;marrages</translation>
+    </message>
+    <message>
+        <source>Shows what still works with files that have been replaced, and restarts services</source>
+        <translation>Montre ce qui travaille encore avec des fichiers remplacés, et redémarre des services</translation>
+    </message>
+    <message>
+        <source>The helper script in use is too old to tell what is to be restarted</source>
+        <translation>Le script auxiliaire utilisé est trop ancien pour dire ce qui est à redémarrer</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+R</source>
+        <translation>Ctrl+Shift+R</translation>
+    </message>
 </context>
 <context>
     <name>PackageFilesDialog</name>
@@ -2641,6 +2657,190 @@ Peut être modifié pour une session donnée.</translation>
     <message>
         <source>Repositories</source>
         <translation>Dépôts</translation>
+    </message>
+</context>
+<context>
+    <name>Restarts::FilesModel</name>
+    <message>
+        <source>Removed</source>
+        <translation>Supprimé</translation>
+    </message>
+    <message>
+        <source>Replaced</source>
+        <translation>Remplacé</translation>
+    </message>
+    <message>
+        <source>Path of the file</source>
+        <translation>Chemin du fichier</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>Package that the file belongs to now</source>
+        <translation>Paquet auquel le fichier appartient maintenant</translation>
+    </message>
+    <message>
+        <source>Package</source>
+        <translation>Paquet</translation>
+    </message>
+    <message>
+        <source>Whether the file that the process uses is there in another version, or gone</source>
+        <translation>Si le fichier que le processus utilise est là dans une autre version, ou disparu</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>État</translation>
+    </message>
+</context>
+<context>
+    <name>Restarts::Model</name>
+    <message>
+        <source>Unit of systemd that the process belongs to</source>
+        <translation>Unité de systemd à laquelle le processus appartient</translation>
+    </message>
+    <message>
+        <source>Service</source>
+        <translation>Service</translation>
+    </message>
+    <message>
+        <source>Command that runs</source>
+        <translation>Commande qui tourne</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Commande</translation>
+    </message>
+    <message>
+        <source>Number of the process</source>
+        <translation>Numéro du processus</translation>
+    </message>
+    <message>
+        <source>Process</source>
+        <translation>Processus</translation>
+    </message>
+    <message>
+        <source>Whose process it is</source>
+        <translation>À qui est le processus</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Utilisateur</translation>
+    </message>
+    <message>
+        <source>When the process began</source>
+        <translation>Quand le processus a commencé</translation>
+    </message>
+    <message>
+        <source>Started</source>
+        <translation>Démarré</translation>
+    </message>
+    <message>
+        <source>How many files it uses that have been replaced</source>
+        <translation>Combien de fichiers remplacés il utilise</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Fichiers</translation>
+    </message>
+</context>
+<context>
+    <name>Restarts::Reader</name>
+    <message>
+        <source>Unable to find out what is to be restarted</source>
+        <translation>Impossible de savoir ce qui est à redémarrer</translation>
+    </message>
+    <message>
+        <source>Unable to restart services</source>
+        <translation>Impossible de redémarrer des services</translation>
+    </message>
+</context>
+<context>
+    <name>Restarts::Window</name>
+    <message>
+        <source>Restarts</source>
+        <translation>Redémarrages</translation>
+    </message>
+    <message>
+        <source>The system is to be started anew. Since its start on %1 have been installed:</source>
+        <translation>Le système est à redémarrer. Depuis son démarrage le %1 ont été installés :</translation>
+    </message>
+    <message>
+        <source>The system need not be started anew.</source>
+        <translation>Le système n’a pas besoin d’être redémarré.</translation>
+    </message>
+    <message>
+        <source>No process uses files that have been replaced.</source>
+        <translation>Aucun processus n’utilise de fichiers remplacés.</translation>
+    </message>
+    <message>
+        <source>Processes of which nothing could be told for lack of rights: %1</source>
+        <translation>Processus dont rien n’a pu être su, faute de droits : %1</translation>
+    </message>
+    <message>
+        <source>The helper script in use is too old to restart services</source>
+        <translation>Le script auxiliaire utilisé est trop ancien pour redémarrer des services</translation>
+    </message>
+    <message>
+        <source>Restarts the services of these processes, as far as they can be restarted</source>
+        <translation>Redémarre les services de ces processus, autant que possible</translation>
+    </message>
+    <message>
+        <source>These services are restarted, one after the other:</source>
+        <translation>Ces services sont redémarrés, l’un après l’autre :</translation>
+    </message>
+    <message>
+        <source>What they do is interrupted for that time.</source>
+        <translation>Ce qu’ils font est interrompu pendant ce temps.</translation>
+    </message>
+    <message>
+        <source>Restart Services</source>
+        <translation>Redémarrer des services</translation>
+    </message>
+    <message>
+        <source>Advice</source>
+        <translation>Conseil</translation>
+    </message>
+    <message>
+        <source>Whether the system is to be started anew</source>
+        <translation>Si le système est à redémarrer</translation>
+    </message>
+    <message>
+        <source>Processes</source>
+        <translation>Processus</translation>
+    </message>
+    <message>
+        <source>Processes that use files which have been replaced</source>
+        <translation>Processus qui utilisent des fichiers remplacés</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Fichiers</translation>
+    </message>
+    <message>
+        <source>Replaced files that the chosen process uses</source>
+        <translation>Fichiers remplacés que le processus choisi utilise</translation>
+    </message>
+    <message>
+        <source>&amp;Restart These Services</source>
+        <translation>&amp;Redémarrer ces services</translation>
+    </message>
+    <message>
+        <source>&amp;Look Again</source>
+        <translation>Re&amp;garder encore</translation>
+    </message>
+    <message>
+        <source>Find out anew what is to be restarted</source>
+        <translation>Chercher à nouveau ce qui est à redémarrer</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+    <message>
+        <source>Close the restarts</source>
+        <translation>Fermer les redémarrages</translation>
     </message>
 </context>
 <context>

@@ -1560,6 +1560,22 @@ Does not Apply Actions automatically.</source>
         <translation>セキュリティー更新のあるパッケージすべての操作を「更新」に設定します。
 操作は自動的には適用されません。</translation>
     </message>
+    <message>
+        <source>Res&amp;tarts</source>
+        <translation>再起動(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Shows what still works with files that have been replaced, and restarts services</source>
+        <translation>置き換えられたファイルをまだ使用しているものを表示し、サービスを再起動します</translation>
+    </message>
+    <message>
+        <source>The helper script in use is too old to tell what is to be restarted</source>
+        <translation>使用中のヘルパースクリプトは古すぎて、再起動すべきものを示せません</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+R</source>
+        <translation>Ctrl+Shift+R</translation>
+    </message>
 </context>
 <context>
     <name>PackageFilesDialog</name>
@@ -2641,6 +2657,190 @@ It can be overridden for a particular session.</source>
     <message>
         <source>Repositories</source>
         <translation>リポジトリ</translation>
+    </message>
+</context>
+<context>
+    <name>Restarts::FilesModel</name>
+    <message>
+        <source>Removed</source>
+        <translation>削除済み</translation>
+    </message>
+    <message>
+        <source>Replaced</source>
+        <translation>置き換え済み</translation>
+    </message>
+    <message>
+        <source>Path of the file</source>
+        <translation>ファイルのパス</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Package that the file belongs to now</source>
+        <translation>ファイルが現在属しているパッケージ</translation>
+    </message>
+    <message>
+        <source>Package</source>
+        <translation>パッケージ</translation>
+    </message>
+    <message>
+        <source>Whether the file that the process uses is there in another version, or gone</source>
+        <translation>プロセスが使用しているファイルが別の版になっているか、なくなっているか</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状態</translation>
+    </message>
+</context>
+<context>
+    <name>Restarts::Model</name>
+    <message>
+        <source>Unit of systemd that the process belongs to</source>
+        <translation>プロセスが属する systemd のユニット</translation>
+    </message>
+    <message>
+        <source>Service</source>
+        <translation>サービス</translation>
+    </message>
+    <message>
+        <source>Command that runs</source>
+        <translation>実行中のコマンド</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>コマンド</translation>
+    </message>
+    <message>
+        <source>Number of the process</source>
+        <translation>プロセスの番号</translation>
+    </message>
+    <message>
+        <source>Process</source>
+        <translation>プロセス</translation>
+    </message>
+    <message>
+        <source>Whose process it is</source>
+        <translation>プロセスの所有者</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>ユーザー</translation>
+    </message>
+    <message>
+        <source>When the process began</source>
+        <translation>プロセスの開始時刻</translation>
+    </message>
+    <message>
+        <source>Started</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>How many files it uses that have been replaced</source>
+        <translation>使用中の置き換え済みファイルの数</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>ファイル</translation>
+    </message>
+</context>
+<context>
+    <name>Restarts::Reader</name>
+    <message>
+        <source>Unable to find out what is to be restarted</source>
+        <translation>再起動すべきものを調べられません</translation>
+    </message>
+    <message>
+        <source>Unable to restart services</source>
+        <translation>サービスを再起動できません</translation>
+    </message>
+</context>
+<context>
+    <name>Restarts::Window</name>
+    <message>
+        <source>Restarts</source>
+        <translation>再起動</translation>
+    </message>
+    <message>
+        <source>The system is to be started anew. Since its start on %1 have been installed:</source>
+        <translation>システムの再起動が必要です。%1 の起動以降に次がインストールされました:</translation>
+    </message>
+    <message>
+        <source>The system need not be started anew.</source>
+        <translation>システムの再起動は必要ありません。</translation>
+    </message>
+    <message>
+        <source>No process uses files that have been replaced.</source>
+        <translation>置き換えられたファイルを使用しているプロセスはありません。</translation>
+    </message>
+    <message>
+        <source>Processes of which nothing could be told for lack of rights: %1</source>
+        <translation>権限がないため調べられなかったプロセス: %1</translation>
+    </message>
+    <message>
+        <source>The helper script in use is too old to restart services</source>
+        <translation>使用中のヘルパースクリプトは古すぎて、サービスを再起動できません</translation>
+    </message>
+    <message>
+        <source>Restarts the services of these processes, as far as they can be restarted</source>
+        <translation>これらのプロセスのサービスを、可能な限り再起動します</translation>
+    </message>
+    <message>
+        <source>These services are restarted, one after the other:</source>
+        <translation>次のサービスが順に再起動されます:</translation>
+    </message>
+    <message>
+        <source>What they do is interrupted for that time.</source>
+        <translation>その間、サービスの処理は中断されます。</translation>
+    </message>
+    <message>
+        <source>Restart Services</source>
+        <translation>サービスの再起動</translation>
+    </message>
+    <message>
+        <source>Advice</source>
+        <translation>助言</translation>
+    </message>
+    <message>
+        <source>Whether the system is to be started anew</source>
+        <translation>システムの再起動が必要かどうか</translation>
+    </message>
+    <message>
+        <source>Processes</source>
+        <translation>プロセス</translation>
+    </message>
+    <message>
+        <source>Processes that use files which have been replaced</source>
+        <translation>置き換えられたファイルを使用しているプロセス</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Replaced files that the chosen process uses</source>
+        <translation>選択したプロセスが使用している置き換え済みファイル</translation>
+    </message>
+    <message>
+        <source>&amp;Restart These Services</source>
+        <translation>これらのサービスを再起動(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Look Again</source>
+        <translation>再確認(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Find out anew what is to be restarted</source>
+        <translation>再起動すべきものを調べ直します</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>閉じる(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Close the restarts</source>
+        <translation>再起動のウィンドウを閉じます</translation>
     </message>
 </context>
 <context>

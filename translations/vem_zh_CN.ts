@@ -1560,6 +1560,22 @@ Does not Apply Actions automatically.</source>
         <translation>将所有有安全更新的软件包的操作设为“更新”。
 不会自动应用操作。</translation>
     </message>
+    <message>
+        <source>Res&amp;tarts</source>
+        <translation>重启(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Shows what still works with files that have been replaced, and restarts services</source>
+        <translation>显示仍在使用已被替换的文件的程序，并重启服务</translation>
+    </message>
+    <message>
+        <source>The helper script in use is too old to tell what is to be restarted</source>
+        <translation>所用的辅助脚本太旧，无法说明需要重启什么</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+R</source>
+        <translation>Ctrl+Shift+R</translation>
+    </message>
 </context>
 <context>
     <name>PackageFilesDialog</name>
@@ -2641,6 +2657,190 @@ It can be overridden for a particular session.</source>
     <message>
         <source>Repositories</source>
         <translation>仓库</translation>
+    </message>
+</context>
+<context>
+    <name>Restarts::FilesModel</name>
+    <message>
+        <source>Removed</source>
+        <translation>已移除</translation>
+    </message>
+    <message>
+        <source>Replaced</source>
+        <translation>已替换</translation>
+    </message>
+    <message>
+        <source>Path of the file</source>
+        <translation>文件的路径</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Package that the file belongs to now</source>
+        <translation>文件现在所属的软件包</translation>
+    </message>
+    <message>
+        <source>Package</source>
+        <translation>软件包</translation>
+    </message>
+    <message>
+        <source>Whether the file that the process uses is there in another version, or gone</source>
+        <translation>进程所用的文件是已换成另一版本，还是已不存在</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+</context>
+<context>
+    <name>Restarts::Model</name>
+    <message>
+        <source>Unit of systemd that the process belongs to</source>
+        <translation>进程所属的 systemd 单元</translation>
+    </message>
+    <message>
+        <source>Service</source>
+        <translation>服务</translation>
+    </message>
+    <message>
+        <source>Command that runs</source>
+        <translation>正在运行的命令</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>命令</translation>
+    </message>
+    <message>
+        <source>Number of the process</source>
+        <translation>进程的编号</translation>
+    </message>
+    <message>
+        <source>Process</source>
+        <translation>进程</translation>
+    </message>
+    <message>
+        <source>Whose process it is</source>
+        <translation>进程的所有者</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>用户</translation>
+    </message>
+    <message>
+        <source>When the process began</source>
+        <translation>进程开始的时间</translation>
+    </message>
+    <message>
+        <source>Started</source>
+        <translation>启动时间</translation>
+    </message>
+    <message>
+        <source>How many files it uses that have been replaced</source>
+        <translation>它使用了多少已被替换的文件</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>文件</translation>
+    </message>
+</context>
+<context>
+    <name>Restarts::Reader</name>
+    <message>
+        <source>Unable to find out what is to be restarted</source>
+        <translation>无法查明需要重启什么</translation>
+    </message>
+    <message>
+        <source>Unable to restart services</source>
+        <translation>无法重启服务</translation>
+    </message>
+</context>
+<context>
+    <name>Restarts::Window</name>
+    <message>
+        <source>Restarts</source>
+        <translation>重启</translation>
+    </message>
+    <message>
+        <source>The system is to be started anew. Since its start on %1 have been installed:</source>
+        <translation>系统需要重新启动。自 %1 启动以来安装了：</translation>
+    </message>
+    <message>
+        <source>The system need not be started anew.</source>
+        <translation>系统无需重新启动。</translation>
+    </message>
+    <message>
+        <source>No process uses files that have been replaced.</source>
+        <translation>没有进程使用已被替换的文件。</translation>
+    </message>
+    <message>
+        <source>Processes of which nothing could be told for lack of rights: %1</source>
+        <translation>因权限不足而无法查明的进程：%1</translation>
+    </message>
+    <message>
+        <source>The helper script in use is too old to restart services</source>
+        <translation>所用的辅助脚本太旧，无法重启服务</translation>
+    </message>
+    <message>
+        <source>Restarts the services of these processes, as far as they can be restarted</source>
+        <translation>重启这些进程所属的、可以重启的服务</translation>
+    </message>
+    <message>
+        <source>These services are restarted, one after the other:</source>
+        <translation>以下服务将逐个重启：</translation>
+    </message>
+    <message>
+        <source>What they do is interrupted for that time.</source>
+        <translation>在此期间，它们的工作会中断。</translation>
+    </message>
+    <message>
+        <source>Restart Services</source>
+        <translation>重启服务</translation>
+    </message>
+    <message>
+        <source>Advice</source>
+        <translation>建议</translation>
+    </message>
+    <message>
+        <source>Whether the system is to be started anew</source>
+        <translation>系统是否需要重新启动</translation>
+    </message>
+    <message>
+        <source>Processes</source>
+        <translation>进程</translation>
+    </message>
+    <message>
+        <source>Processes that use files which have been replaced</source>
+        <translation>使用已被替换的文件的进程</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Replaced files that the chosen process uses</source>
+        <translation>所选进程使用的已被替换的文件</translation>
+    </message>
+    <message>
+        <source>&amp;Restart These Services</source>
+        <translation>重启这些服务(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Look Again</source>
+        <translation>重新查看(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Find out anew what is to be restarted</source>
+        <translation>重新查明需要重启什么</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>关闭(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Close the restarts</source>
+        <translation>关闭重启窗口</translation>
     </message>
 </context>
 <context>

@@ -23,7 +23,8 @@ EDGES: dict[str, set[str]] = {
     "matters": {"widgets", "engine"},
     "history": {"widgets", "services", "engine", "matters"},
     "advisories": {"widgets", "engine", "matters"},
-    "shell": {"base", "widgets", "bridge", "services", "engine", "repo", "packagetable", "matters", "history", "advisories"},
+    "restarts": {"widgets", "services", "engine", "matters"},
+    "shell": {"base", "widgets", "bridge", "services", "engine", "repo", "packagetable", "matters", "history", "advisories", "restarts"},
 }
 INCLUDE = re.compile(r'^\s*#\s*include\s+["<]([a-z]+)/', re.MULTILINE)
 PYTHON_API = re.compile(r'^\s*#\s*include\s+["<](Python\.h|bridge/PythonApi\.h)[">]', re.MULTILINE)

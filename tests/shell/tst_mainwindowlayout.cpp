@@ -115,7 +115,8 @@ private Q_SLOTS:
             QStringList(
                 {QStringLiteral("&Log|Ctrl+L"), QStringLiteral("Open Log With Each &Apply"),
                  QStringLiteral("-"), QStringLiteral("&History|Ctrl+H"), QStringLiteral("A&dvisories|Ctrl+D"),
-                 QStringLiteral("-"), QStringLiteral("&Reset Window")}));
+                 QStringLiteral("Res&tarts|Ctrl+Shift+R"), QStringLiteral("-"),
+                 QStringLiteral("&Reset Window")}));
         QCOMPARE(window->menuBar()->actions().at(4)->text(), QStringLiteral("S&election"));
         QCOMPARE(
             menuTexts(menu(QStringLiteral("S&election"))).filter(QStringLiteral("|")),
@@ -159,7 +160,7 @@ private Q_SLOTS:
                 // What is remembered has yet to be used, and nobody could answer about the system.
                 static QStringList const waiting{
                     QStringLiteral("&Reset Window"), QStringLiteral("&History"),
-                    QStringLiteral("A&dvisories")};
+                    QStringLiteral("A&dvisories"), QStringLiteral("Res&tarts")};
                 bool const waits = waiting.contains(entry->text());
                 QCOMPARE(entry->isEnabled(), !waits);
             }

@@ -7,14 +7,14 @@
 #include "WindowAccess.h"
 #include "WindowTexts.h"
 #include "advisories/AdvisoriesWindow.h"
-#include "advisories/Advisory.h"
-#include "history/HistoryTransaction.h"
 #include "history/HistoryWindow.h"
+#include "matters/Moments.h"
 #include "packagetable/PackageTableDescribeSection.h"
 #include "packagetable/PackageTableHeader.h"
 #include "packagetable/PackageTableView.h"
 #include "repo/RepoAuthDialog.h"
 #include "repo/RepoEntry.h"
+#include "restarts/RestartsWindow.h"
 #include "services/KeyDialog.h"
 #include "services/KeyQuestion.h"
 #include "services/ScrollableConfirmDialog.h"
@@ -85,7 +85,7 @@ public:
             missed.append(text);
         }
         // These are no words: shortcuts, and names of colours.
-        static QRegularExpression const data(QStringLiteral("^(Ctrl\\+.|F\\d+)$"));
+        static QRegularExpression const data(QStringLiteral("^(Ctrl\\+(Shift\\+)?.|F\\d+)$"));
         bool const isData = at.key() == QLatin1String("Colors") || data.match(text).hasMatch();
         return isData ? QString() : WindowTexts::marked(text);
     }
@@ -114,6 +114,16 @@ class WindowTextsTest : public ShellTest
     {
         QFile output(QDir(qEnvironmentVariable("VEMROOT")).filePath(file));
         QVERIFY(output.open(QIODevice::WriteOnly) && output.write(content) == content.size());
+    }
+
+    /// The entry with this key, whatever its words are in the language.
+    void trigger(char const* key) const
+    {
+        for (QAction* const entry : window->findChildren<QAction*>()) {
+            if (entry->shortcut() == QKeySequence(QLatin1String(key))) {
+                entry->trigger();
+            }
+        }
     }
 
     void look(QWidget* shown, QStringList const& data = {})
@@ -307,18 +317,14 @@ private Q_SLOTS:
                 "standin.instead('historySearch', lambda text: [])\n")),
             QString());
         window->refresh();
-        for (QAction* const entry : window->findChildren<QAction*>()) {
-            if (entry->shortcut() == QKeySequence(QStringLiteral("Ctrl+H"))) {
-                entry->trigger();
-            }
-        }
+        trigger("Ctrl+H");
         auto* const shown = window->findChild<History::Window*>();
         shown->reload();
         QStringList data;
         for (int number = 1; number < 10; ++number) {
             data.append(QString::number(number));
         }
-        data.append({QStringLiteral("6 \u2192 7"), History::Words::moment(1700000000)});
+        data.append({QStringLiteral("6 \u2192 7"), Moments::moment(1700000000)});
         look(shown, data);
         auto* const pages = shown->findChild<QTabWidget*>();
         pages->setCurrentIndex(1);
@@ -354,11 +360,7 @@ private Q_SLOTS:
                 "standin.instead('advisoryOf', whole)\n")),
             QString());
         window->refresh();
-        for (QAction* const entry : window->findChildren<QAction*>()) {
-            if (entry->shortcut() == QKeySequence(QStringLiteral("Ctrl+D"))) {
-                entry->trigger();
-            }
-        }
+        trigger("Ctrl+D");
         auto* const shown = window->findChild<Advisories::Window*>();
         QVERIFY(shown);
         shown->findChild<QComboBox*>()->setCurrentIndex(2);
@@ -367,10 +369,43 @@ private Q_SLOTS:
         for (int number = 1; number < 10; ++number) {
             data.append(QString::number(number));
         }
-        data.append(Advisories::Words::day(1700000000));
+        data.append(Moments::day(1700000000));
         look(shown, data);
         shown->findChild<QLineEdit*>()->setText(QStringLiteral("no such one"));
         look(shown, data);
+        shown->close();
+        QCOMPARE(script(QStringLiteral("standin.reset()")), QString());
+        window->refresh();
+    }
+
+    void restarts()
+    {
+        QCOMPARE(
+            script(QStringLiteral(
+                "standin.instead('restartAdvice', lambda: dict(note='1', since=1700000000, unread=2,\n"
+                "    reboot=[dict(name='3', version='4', installed=1700000000)],\n"
+                "    processes=[dict(pid=5, userName='6', command='7', started=1700000000, unit=unit, "
+                "own=False,\n"
+                "        files=[dict(path='8', package='9', gone=gone) for gone in (True, False)])\n"
+                "        for unit in ('a', 'b')],\n"
+                "    units=[dict(unit='b', own=False, obstacle='1')]))\n"
+                "standin.instead('restartServices', lambda units: [dict(unit='a', done=False, "
+                "text='2')])\n")),
+            QString());
+        window->refresh();
+        trigger("Ctrl+Shift+R");
+        auto* const shown = window->findChild<Restarts::Window*>();
+        QVERIFY(shown);
+        shown->reload();
+        QStringList data{QStringLiteral("a"), QStringLiteral("b"), Moments::moment(1700000000)};
+        for (int number = 1; number < 10; ++number) {
+            data.append(QString::number(number));
+        }
+        data.append(QStringLiteral("  3 4 (%1)").arg(Moments::moment(1700000000)));
+        look(shown, data);
+        boxes->whileShown([this, data] { look(QApplication::activeModalWidget(), data); });
+        translatedButton(shown, "Restarts::Window", "&Restart These Services")->click();
+        boxes->take();
         shown->close();
         QCOMPARE(script(QStringLiteral("standin.reset()")), QString());
         window->refresh();
