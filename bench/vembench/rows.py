@@ -101,6 +101,7 @@ ROWS = (
     Row("gap", "longest time without serving events: start and jobs", "longest freeze", 50, "ms", 0),
     Row("describe", "longest freeze at the first &Describe of a package of a repository", "first Describe", 50, "ms", 0),
     Row("history", "window of 10,000 transactions, to the latest one in full", "history", 0.5, "s", 2),
+    Row("advisories", "window of 5,000 advisories, to the latest one in full", "advisories", 0.5, "s", 2),
     Row("stop", "Stop during a download from a server that is silent, to the ready window", "stop", 1, "s", 2),
     Row("memory", "peak memory after the first collection", "peak memory", 1.6, beside("mebibytes"), 2, "mebibytes"),
     Row("growth", "growth by a refresh, over 50 of them (the log keeps its 14 lines: 2 KiB)", "growth", 0, "", 0),

@@ -13,7 +13,7 @@ import tempfile
 from pathlib import Path
 from typing import Any, Sequence
 
-from rpmestate import Estate, run, spec
+from rpmestate import Estate, add_updateinfo, run, spec
 
 from .rows import UPGRADE
 from .running import BenchError, Build, Ground, Line, Step
@@ -30,6 +30,7 @@ EXPRESSIONS = (
 NOTHING = "no such words anywhere"
 REFRESHES = 50
 TRANSACTIONS = 10_000
+ADVISORIES = 5_000
 SETTLING_REFRESHES = 10
 LOG_LINES = 100_000
 IN_MEMORY = "/dev/shm" if os.access("/dev/shm", os.W_OK) else None
@@ -192,6 +193,34 @@ def history(ground: Ground, build: Build, _estate: Estate, samples: Samples) -> 
         raise BenchError(f"{line['listed']} transactions are listed, it should be {TRANSACTIONS}.")
     samples.add("history", line["ms"] / 1000)
     samples.add("gap/history", line["gap"])
+
+
+def advisories(ground: Ground, build: Build, _estate: Estate, samples: Samples) -> None:
+    """On a system of its own, about whose one installed package there are all of them."""
+    with tempfile.TemporaryDirectory(dir=IN_MEMORY) as directory:
+        estate = small_system(Path(directory), "")
+        add_updateinfo(estate.repos_dir / "dock", updateinfo(ADVISORIES))
+        steps: list[Step] = [{"do": "menu", "value": "Advisories", "name": "advisories", "table": "Advisories"}]
+        line = ground.program(build, estate, steps)[-1]
+    if line["listed"] != ADVISORIES:
+        raise BenchError(f"{line['listed']} advisories are listed, it should be {ADVISORIES}.")
+    samples.add("advisories", line["ms"] / 1000)
+    samples.add("gap/advisories", line["gap"])
+
+
+def updateinfo(count: int) -> str:
+    """So many advisories about the update of `small_system`, each of which names it."""
+    package = (
+        '<pkglist><collection><name>dock</name><package name="still-water" epoch="0" version="2" release="1"'
+        ' arch="noarch"><filename>still-water-2-1.noarch.rpm</filename></package></collection></pkglist>'
+    )
+    each = (
+        '<update from="bench" status="final" type="security" version="1"><id>BENCH-{0}</id><title>Advisory {0}</title>'
+        '<issued date="2024-03-05 12:00:00"/><severity>Important</severity><description>Of {0}.</description>'
+        '<references><reference href="https://bench.example/{0}" id="CVE-2024-{0}" title="" type="cve"/></references>'
+        "{1}</update>"
+    )
+    return f"<updates>{''.join(each.format(number, package) for number in range(1, count + 1))}</updates>"
 
 
 def repeat_transaction(database: Path, times: int) -> None:
