@@ -343,11 +343,12 @@ protected:
     void useRepos(PyObject* reposObject, QHash<QString, bool> const& repoStates);
     QStringList collectRepos(PyObject* reposDict);
     bool collectField(EntryHash& hash, PyObject* object, char const* field, Package::State state);
+    /// Of packages; by "withPlain", where there is such a method, of pairs of a package and its `plainForm`.
     bool collectSet(EntryHash& hash, PyObject* iterable, Package::State state);
     void collectPkg(
         Package::Entry*& slot, Package::State state, PyRef package, PyObject* plain, Package::Text name);
-    /// The object behind a package that has the same values as plain attributes, where the package's class
-    /// promises one by an attribute "plain" (see share/python/vemyum/packages.py); else empty.
+    /// The values that the table reads of a package, in a tuple, where the package's class promises them by
+    /// an attribute "plain" (see share/python/vemyum/packages.py); else empty.
     PyRef plainForm(PyObject* pkg);
     /// The name of a package; `plain` as `plainForm` gave it.
     Package::Text pkgName(PyObject* pkg, PyObject* plain);

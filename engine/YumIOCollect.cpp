@@ -26,19 +26,43 @@ constexpr Steps collectionSteps =
     preparingSteps + setupSteps + repositorySteps + updatesSteps + packagesSteps + groupsSteps;
 constexpr Steps actsPerRepository = 5;
 
-/// The text of a field as a plain attribute tells it. False for anything but a text or None, which is to be
-/// asked for, and reported, the long way.
+/// What `plainForm` gives, in this order.
+enum Field : Py_ssize_t
+{
+    NameField,
+    ArchField,
+    EvrField,
+    SizeField,
+    GroupField,
+    SummaryField,
+    BuildTimeField,
+    RepoField,
+    fieldCount
+};
+
+bool isPlainForm(PyObject* values)
+{
+    return values && PyTuple_CheckExact(values) && PyTuple_GET_SIZE(values) == fieldCount;
+}
+
+/// One of the values, which lives as long as they all do. Null without them.
+PyObject* plainValue(PyObject* values, Field field)
+{
+    return values ? PyTuple_GET_ITEM(values, field) : nullptr;
+}
+
+/// The text of a field as a plain value. False for anything but a text or None, which is to be asked for, and
+/// reported, the long way. The value is to outlive this.
 class PlainText
 {
 public:
-    explicit PlainText(PyRef attribute)
-        : value(std::move(attribute))
+    explicit PlainText(PyObject* value)
     {
-        if (value.get() == Py_None) {
+        if (value == Py_None) {
             known = true;
-        } else if (value && PyUnicode_CheckExact(value.get())) {
+        } else if (value && PyUnicode_CheckExact(value)) {
             Py_ssize_t length = 0;
-            char const* const utf8 = PyUnicode_AsUTF8AndSize(value.get(), &length);
+            char const* const utf8 = PyUnicode_AsUTF8AndSize(value, &length);
             known = utf8;
             letters = known ? std::string_view(utf8, static_cast<std::size_t>(length)) : std::string_view();
             PyErr_Clear();
@@ -51,7 +75,7 @@ public:
     }
 
     explicit operator bool() const { return known; }
-    /// UTF-8; lives as long as this does.
+    /// UTF-8; lives as long as the value does.
     [[nodiscard]] std::string_view text() const { return letters; }
     /// Without the line feeds at its end.
     [[nodiscard]] std::string_view trimmed() const
@@ -64,7 +88,6 @@ public:
     }
 
 private:
-    PyRef value;
     std::string_view letters;
     bool known = false;
 };
@@ -299,7 +322,8 @@ bool YumIO::collectField(EntryHash& hash, PyObject* object, char const* field, P
 
 bool YumIO::collectSet(EntryHash& hash, PyObject* iterable, Package::State state)
 {
-    PyRef const iterator = PyRef::steal(PyObject_GetIter(iterable));
+    PyRef const pairs = pyQuickCall(iterable, "withPlain");
+    PyRef const iterator = PyRef::steal(PyObject_GetIter(pairs ? pairs.get() : iterable));
     if (!iterator) {
         handleException();
         return false;
@@ -311,8 +335,17 @@ bool YumIO::collectSet(EntryHash& hash, PyObject* iterable, Package::State state
         hash.reserve(hash.size() + expected);
     }
     plainAsked = nullptr;
-    while (PyRef package = PyRef::steal(PyIter_Next(iterator.get()))) {
-        PyRef const plain = plainForm(package.get());
+    while (PyRef const item = PyRef::steal(PyIter_Next(iterator.get()))) {
+        PyRef package;
+        PyRef plain;
+        if (pairs && PyTuple_CheckExact(item.get()) && PyTuple_GET_SIZE(item.get()) == 2) {
+            package = PyRef::borrow(PyTuple_GET_ITEM(item.get(), 0));
+            PyObject* const values = PyTuple_GET_ITEM(item.get(), 1);
+            plain = isPlainForm(values) ? PyRef::borrow(values) : PyRef();
+        } else {
+            package = PyRef::borrow(item.get());
+            plain = plainForm(package.get());
+        }
         Package::Text const name = pkgName(package.get(), plain.get());
         Package::Entry*& slot = hash[EntryKey(false, name)];
         if (!slot) {
@@ -340,12 +373,13 @@ PyRef YumIO::plainForm(PyObject* pkg)
         plainAsked = Py_TYPE(pkg);
         plainOffered = bool(pyAttribute(reinterpret_cast<PyObject*>(Py_TYPE(pkg)), "plain"));
     }
-    return plainOffered ? pyAttribute(pkg, "plain") : PyRef();
+    PyRef values = plainOffered ? pyAttribute(pkg, "plain") : PyRef();
+    return isPlainForm(values.get()) ? std::move(values) : PyRef();
 }
 
 Package::Text YumIO::pkgName(PyObject* pkg, PyObject* plain)
 {
-    PlainText const name(plain ? pyAttribute(plain, "name") : PyRef());
+    PlainText const name(plainValue(plain, NameField));
     return name ? Package::Text::ofUtf8(name.text()) : Package::Text(pyStringDec(pyAttribute(pkg, "name")));
 }
 
@@ -367,41 +401,39 @@ void YumIO::collectPkg(
     slot = std::make_unique<Package::Entry>().release();
     Package::Entry& entry = *slot;
     PyObject* const pkg = package.get();
-    auto const plainField = [&](char const* field) {
-        return PlainText(plain ? pyAttribute(plain, field) : PyRef());
-    };
-    auto const plainNumber = [&](char const* field, long long& number) {
-        PyRef const value = plain ? pyAttribute(plain, field) : PyRef();
-        if (!value || !PyLong_CheckExact(value.get())) {
+    auto const plainText = [plain](Field field) { return PlainText(plainValue(plain, field)); };
+    auto const plainNumber = [plain](Field field, long long& number) {
+        PyObject* const value = plainValue(plain, field);
+        if (!value || !PyLong_CheckExact(value)) {
             return false;
         }
         int overflow = 0;
-        number = PyLong_AsLongLongAndOverflow(value.get(), &overflow);
+        number = PyLong_AsLongLongAndOverflow(value, &overflow);
         return overflow == 0;
     };
 
     long long number = 0;
     entry.action = Package::None;
     entry.state = state;
-    PlainText const group = plainField("group");
+    PlainText const group = plainText(GroupField);
     entry.kind = group ? pkgKind(group.trimmed()) : getPkgKind(pkg);
     entry.name = std::move(name);
-    if (PlainText const version = plainField("evr")) {
+    if (PlainText const version = plainText(EvrField)) {
         entry.verRel = sharedText(version.text());
     } else {
         PyRef text = pyQuickCall(pkg, "printVer");
         entry.verRel = sharedText(pyStringDec(text ? std::move(text) : pyMethodCall(pkg, "printVer", "()")));
     }
-    PlainText const repo(plain ? pyAttribute(pkg, "repoid") : PyRef());
+    PlainText const repo = plainText(RepoField);
     entry.repo = repo ? sharedText(repo.trimmed()) : sharedText(simpleString(pkg, "repoid"));
-    PlainText const arch = plainField("arch");
+    PlainText const arch = plainText(ArchField);
     entry.arch = arch ? sharedText(arch.text()) : sharedText(pyStringDec(pyAttribute(pkg, "arch")));
-    entry.size = plainNumber("size", number) ? static_cast<unsigned long long>(number) : sizeOf(pkg);
+    entry.size = plainNumber(SizeField, number) ? static_cast<unsigned long long>(number) : sizeOf(pkg);
     entry.sizeText = sharedText(bytesFormat(entry.size));
-    PlainText const summary = plainField("summary");
+    PlainText const summary = plainText(SummaryField);
     entry.summary =
         summary ? Package::Text::ofUtf8(summary.trimmed()) : Package::Text(simpleString(pkg, "summary"));
-    entry.buildTime = plainNumber("buildtime", number) ? number : buildTimeOf(pkg);
+    entry.buildTime = plainNumber(BuildTimeField, number) ? number : buildTimeOf(pkg);
     entry.buildTimeText = timeFormat(entry.buildTime);
     if (state == Package::OutOfDate) {
         entry.replaces = replacedPkgs(pkg);

@@ -107,6 +107,7 @@ def test_rows_of_one_package_are_equal(estate: Estate, rpms: Catalogue, loaded: 
 def test_row_on_offer_holds_nothing_of_the_library_once_the_next_is_read(
     estate: Estate, rpms: Catalogue, loaded: Callable[..., Any]  # noqa: F811
 ) -> None:
+    from vemyum.backend import PLAIN
     from vemyum.dnf5.rows import Row
 
     made = estate.build([spec(f"part{number:02}", "1") for number in range(70)])
@@ -125,6 +126,13 @@ def test_row_on_offer_holds_nothing_of_the_library_once_the_next_is_read(
     # In whatever order they are read later.
     assert [str(row) for row in reversed(rows)] == told[::-1]
     assert len(set(told)) == 71 and [str(row) for row in offered] == told
+    # Nor does it before, where it comes with its values.
+    pairs = list(offered.with_plain())
+    for row, _plain in pairs:
+        with pytest.raises(AttributeError):
+            held.__get__(row)
+    assert [str(row) for row, _plain in pairs] == told
+    assert all(plain == tuple(getattr(row, name) for name in PLAIN) for row, plain in pairs)
 
 
 def test_row_outlives_its_system_and_takes_the_base_along_at_last(

@@ -40,7 +40,8 @@ private Q_SLOTS:
     void answerAboutWhatIsIncompleteThatIsNone_data();
     void answerAboutWhatIsIncompleteThatIsNone();
 
-    void plainAttributesStandForMethods();
+    void plainValuesStandForMethods();
+    void pairsBringThePlainValues();
     void oddPlainValuesAreAskedForTheLongWay();
     void barsShowTheWork();
     void clearStartsAfresh();
@@ -404,15 +405,11 @@ void TestYumIOCollect::packageWithoutFieldsHarmsNoOther()
     QCOMPARE(package("last")->summary + package("last")->repo, QString());
 }
 
-void TestYumIOCollect::plainAttributesStandForMethods()
+void TestYumIOCollect::plainValuesStandForMethods()
 {
     // What isn't there can't be asked for without a report.
-    SCRIPT("class Plain:\n"
-           "    name, evr, arch, size, group, summary, buildtime = (\n"
-           "        'rowan', '1:2-3', 'noarch', 2048, 'Suite', 'A tree\\n\\n', 0)\n"
-           "class Quick:\n"
-           "    repoid = 'hedge'\n"
-           "    plain = Plain()\n"
+    SCRIPT("class Quick:\n"
+           "    plain = ('rowan', 'noarch', '1:2-3', 2048, 'Suite', 'A tree\\n\\n', 0, 'hedge')\n"
            "standin.world.updates = []\nstandin.world.installed = []\nstandin.world.available = [Quick()]\n"
            "standin.world.groups = {}");
     QVERIFY(engine->collect({}));
@@ -426,12 +423,38 @@ void TestYumIOCollect::plainAttributesStandForMethods()
     QCOMPARE(rowan->buildTimeText, QStringLiteral("Thu Jan  1 00:00:00 1970"));
 }
 
+void TestYumIOCollect::pairsBringThePlainValues()
+{
+    // The first has no values of its own, the second none at all, and what comes with the third are too few.
+    SCRIPT("class Silent: pass\n"
+           "class Slow:\n"
+           "    arch, size = 'noarch', 1024\n"
+           "    def __init__(self, name):\n        self.name = name\n"
+           "    def printVer(self):\n        return '2-3'\n"
+           "    def returnSimple(self, key):\n"
+           "        return {'group': '', 'repoid': 'wood', 'summary': 'Asked', 'buildtime': 0}[key]\n"
+           "class Pairs:\n"
+           "    def __iter__(self):\n        raise KeyError('asked by itself')\n"
+           "    def withPlain(self):\n"
+           "        yield Silent(), ('rowan', 'noarch', '1-1', 2048, 'Suite', 'A tree', 0, 'hedge')\n"
+           "        yield Slow('alder'), None\n"
+           "        yield Slow('hazel'), ('elder', 'noarch')\n"
+           "standin.world.updates = []\nstandin.world.installed = []\nstandin.world.available = Pairs()\n"
+           "standin.world.groups = {}");
+    QVERIFY(engine->collect({}));
+    QCOMPARE(engine->count(), 3);
+    QVERIFY(package("rowan") && package("alder") && package("hazel"));
+    QCOMPARE(package("rowan")->repo, QStringLiteral("hedge"));
+    QCOMPARE(package("rowan")->kind, Package::Suite);
+    QCOMPARE(package("alder")->repo, QStringLiteral("wood"));
+    QCOMPARE(package("hazel")->summary, QStringLiteral("Asked"));
+}
+
 void TestYumIOCollect::oddPlainValuesAreAskedForTheLongWay()
 {
-    SCRIPT("class Plain:\n"
-           "    name, evr, arch, size, group, summary, buildtime = b'rowan', 5, 5, '2048', 5, 5, '86400'\n"
-           "class Slow:\n"
-           "    name, arch, size, repoid, plain = 'rowan', 'noarch', '2048', 5, Plain()\n"
+    SCRIPT("class Slow:\n"
+           "    name, arch, size, repoid = 'rowan', 'noarch', '2048', 'hedge'\n"
+           "    plain = (b'rowan', 5, 5, '2048', 5, 5, '86400', 5)\n"
            "    def printVer(self):\n"
            "        return '2-3'\n"
            "    def returnSimple(self, key):\n"

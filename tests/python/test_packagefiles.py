@@ -34,7 +34,7 @@ def test_a_file_is_offered_in_the_place_of_what_a_repository_has_and_installed(
     found, opened = collect(program, file)
     assert opened == [(str(file), "lamp", "")]
     lamp = found.offered("lamp")
-    assert (lamp.repoid, lamp.printVer(), lamp.plain.name) == ("files", "1.0-1", "lamp")
+    assert (lamp.repoid, lamp.printVer(), lamp.plain[0]) == ("files", "1.0-1", "lamp")
     assert [package.name for package in found.available].count("lamp") == 1
     assert lamp.returnSimple("repoid") == "files"
     assert lamp.returnFileEntries("file") == ["/usr/share/lamp/shade"]

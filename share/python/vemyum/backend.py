@@ -21,6 +21,7 @@ from typing import (
     Collection,
     ContextManager,
     Dict,
+    Iterator,
     List,
     Mapping,
     NamedTuple,
@@ -43,6 +44,10 @@ PkgTup = Tuple[str, str, str, str, str]
 
 Dependency = Tuple[str, Optional[str], Tuple[Optional[str], Optional[str], Optional[str]]]
 """Name, flag ("GT", "GE", "LT", "LE", "EQ"; None for any version), and epoch, version, release."""
+
+Plain = Tuple[str, str, str, int, str, str, int, str]
+"""What the table reads of every row: the members of `Row` that `PLAIN` names."""
+PLAIN = ("name", "arch", "evr", "size", "group", "summary", "buildtime", "reponame")
 
 PRIMARY, FILE_LISTS, CHANGELOGS, GROUPS = "primary", "filelists", "other", "group"
 """Kinds of a repository's metadata, as repomd.xml calls them."""
@@ -75,6 +80,15 @@ class Row(Protocol):
     buildtime: int
     location: Optional[str]
     """The file's path below the repository's address."""
+
+
+class Offer(Collection[Row], Protocol):
+    """Tens of thousands of rows. Each is to be read before the next is taken: later, that takes longer and more
+    memory."""
+
+    def with_plain(self) -> Iterator[Tuple[Row, Optional[Plain]]]:
+        """The rows with what the table reads of them, which takes less time than to ask each; None where a text raises
+        UnicodeDecodeError."""
 
 
 class Settings(Protocol):
@@ -244,11 +258,10 @@ class System(Protocol):
     def installed(self) -> List[Row]:
         """All there are, excluded or not."""
 
-    def available(self) -> Collection[Row]:
+    def available(self) -> Offer:
         """The newest of each name and architecture that fits this machine, by the repositories' priorities, without
-        what is excluded. Of each name, a native one comes before others, and the newest of these first. Each row is to
-        be read before the next is taken: later, that takes longer and more memory. Here and in the next two lists, the
-        same package comes first from where it costs least."""
+        what is excluded. Of each name, a native one comes before others, and the newest of these first. Here and in the
+        next two lists, the same package comes first from where it costs least."""
 
     def upgrades(self) -> List[Row]:
         """The newest of those that would take the place of an installed version, as the solver allows it."""

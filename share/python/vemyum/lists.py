@@ -10,10 +10,10 @@ from __future__ import annotations
 import gc
 from functools import cached_property, cmp_to_key
 from operator import attrgetter
-from typing import Any, Collection, Dict, FrozenSet, Iterable, Iterator, List, Tuple
+from typing import Any, Collection, Dict, FrozenSet, Iterable, Iterator, List, Optional, Tuple
 
 from . import versions
-from .backend import Row, System
+from .backend import Offer, Plain, Row, System
 from .database import require_sound
 from .packages import (
     COMMAND_LINE,
@@ -23,6 +23,8 @@ from .packages import (
     InstalledPackage,
     ReplacingPackage,
 )
+
+_RowWithPlain = Tuple[Row, Optional[Plain]]
 
 
 def _names(rows: Iterable[Row]) -> FrozenSet[str]:
@@ -53,7 +55,7 @@ class PackageLists:
 class Offered:
     """The files that are opened, and the packages of the repositories, which are made as one goes through them."""
 
-    def __init__(self, files: List[AvailablePackage], rows: Collection[Row], details: Details) -> None:
+    def __init__(self, files: List[AvailablePackage], rows: Offer, details: Details) -> None:
         self._files = files
         self._rows = rows
         self._details = details
@@ -62,14 +64,27 @@ class Offered:
         return len(self._files) + len(self._rows)
 
     def __iter__(self) -> Iterator[AvailablePackage]:
-        yield from self._files
-        rows: Iterable[Row] = self._rows
+        return (package for package, _plain in self.withPlain())
+
+    def withPlain(self) -> Iterator[Tuple[AvailablePackage, Optional[Plain]]]:
+        """Each with what its `plain` tells, None where it has none: asked for by itself, it would take longer."""
+        for file in self._files:
+            yield file, getattr(file, "plain", None)
+        rows = self._rows.with_plain()
         if self._files:
-            rows = _without_files(rows, {file.name for file in self._files})
+            rows = self._without_files(rows)
         details = self._details
         with nothing_is_garbage():
-            for row in rows:
-                yield AvailablePackage(row, details)
+            for row, plain in rows:
+                yield AvailablePackage(row, details), plain
+
+    def _without_files(self, rows: Iterator[_RowWithPlain]) -> Iterator[_RowWithPlain]:
+        """See the function of this name. A row that has been told isn't asked once more."""
+        names = {file.name for file in self._files}
+        for row, plain in rows:
+            name, repository = (plain[0], plain[-1]) if plain is not None else (row.name, row.reponame)
+            if repository != COMMAND_LINE and name not in names:
+                yield row, plain
 
 
 def _without_files(rows: Iterable[Row], names: Collection[str]) -> Iterator[Row]:

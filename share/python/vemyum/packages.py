@@ -5,9 +5,8 @@ Some ten thousand are made and read in one go, so the members that every row of 
 plain attribute look-ups. All texts are as libsolv gives them; what it cannot hold is read on demand.
 
 A class with the attribute `plain` promises the engine a shorter way to the same values: `plain` of a
-package is an object whose attributes name, arch, size and evr are what the package's own members (for evr
-`printVer()`) tell, and whose attributes group, summary and buildtime are what `returnSimple` tells.
-`repoid` is an attribute of the package itself.
+package is a tuple of its name, arch, evr (as `printVer()` tells it) and size, then group, summary, buildtime
+and repoid as `returnSimple` tells them. A package that cannot tell one of them so has no `plain`.
 """
 
 from __future__ import annotations
@@ -17,7 +16,7 @@ from typing import Any, Callable, Dict, Iterable, Iterator, List, Optional, Prot
 
 import rpm
 
-from .backend import Dependency, PkgTup, Row
+from .backend import PLAIN, Dependency, PkgTup, Plain, Row
 from .errors import YumBaseError, reported_as
 from .headers import Header
 from .text import valid
@@ -51,6 +50,17 @@ class Details(Protocol):
     def local_path(self, row: Row) -> Optional[str]: ...
 
 
+_plain: Callable[[Row], Plain] = attrgetter(*PLAIN)
+
+
+def plain(row: Row) -> Optional[Plain]:
+    """As `Offer.with_plain` gives it."""
+    try:
+        return _plain(row)
+    except UnicodeDecodeError:
+        return None
+
+
 class Package:
     """What installed and available packages have in common."""
 
@@ -68,6 +78,16 @@ class Package:
 
     def printVer(self) -> str:
         return self.po.evr
+
+    repoid: str
+
+    @property
+    def plain(self) -> Plain:
+        """AttributeError, see above."""
+        values = plain(self.po)
+        if values is None:
+            raise AttributeError("plain")
+        return (*values[:-1], self.repoid)
 
     @property
     def epoch(self) -> str:
@@ -93,9 +113,6 @@ class Package:
     def __repr__(self) -> str:
         return f"<{type(self).__name__} {self.po}>"
 
-
-# The slot's descriptor under a second name.
-setattr(Package, "plain", Package.po)
 
 _SOLV_KEYS = "summary description group vendor sourcerpm license packager url buildtime".split()
 _SOLV_FIELDS: Dict[str, Callable[[Any], Any]] = {key: attrgetter("po." + key) for key in _SOLV_KEYS}

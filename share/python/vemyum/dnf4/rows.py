@@ -3,12 +3,19 @@
 
 from __future__ import annotations
 
-from typing import List, Optional
+from typing import Iterator, List, Optional, Tuple
 
 import dnf.package
 
-from ..backend import Dependency
-from ..packages import dependency
+from ..backend import Dependency, Plain
+from ..packages import dependency, plain
+
+
+class Offered(List[dnf.package.Package]):
+    """See `backend.Offer`."""
+
+    def with_plain(self) -> Iterator[Tuple[dnf.package.Package, Optional[Plain]]]:
+        return zip(self, map(plain, self))
 
 
 def dependencies(package: dnf.package.Package, kind: str) -> List[Dependency]:

@@ -32,7 +32,7 @@ from .fetching import fetch
 from .history import records
 from .keys import RepositoryKeys
 from .relations import Needs, satisfying, versions_of, wanting
-from .rows import checksum, dependencies
+from .rows import Offered, checksum, dependencies
 from .sack import light_packages
 
 
@@ -91,7 +91,7 @@ class System:
     def installed(self) -> List[dnf.package.Package]:
         return list(self._all_installed())
 
-    def available(self) -> List[dnf.package.Package]:
+    def available(self) -> Offered:
         sack = self._base.sack
         query = sack.query().available().filter(latest_per_arch_by_priority=True)
         query = query.filter(arch=sack.list_arches())
@@ -100,7 +100,7 @@ class System:
         for part in (native, query.difference(native)):
             newest = part.filter(latest=True)
             found += [*newest, *part.difference(newest)]
-        return found
+        return Offered(found)
 
     def upgrades(self) -> List[dnf.package.Package]:
         upgrades = self._changeable(self._base.sack.query()).filter(upgrades_by_priority=True)

@@ -8,12 +8,13 @@ the attribute `this`, and a row's attributes are these functions themselves, wit
 
 from __future__ import annotations
 
-from typing import Any, Callable, Collection, Iterable, Iterator, List, Optional, Sequence
+import itertools
+from typing import Any, Callable, Collection, Iterable, Iterator, List, Optional, Sequence, Tuple
 
 import libdnf5.rpm
 import libdnf5.transaction
 
-from ..backend import Dependency, PkgTup, Reason
+from ..backend import PLAIN, Dependency, PkgTup, Plain, Reason
 from ..packages import dependency
 from ..text import valid
 from .base import Base
@@ -84,6 +85,9 @@ class Row:
         return str(self.get_nevra())
 
 
+_PLAIN = [getattr(Row, name).fget for name in PLAIN]
+"""The library's own functions."""
+
 for _name, _method in vars(_Package).items():
     if callable(_method) and not _name.startswith("_"):
         setattr(Row, _name, _method)
@@ -119,9 +123,7 @@ class RestingRow(Row):
     __slots__ = ("_offset",)
     __module__ = Row.__module__
 
-    def __init__(self, this: Any, holder: _Stretch, offset: int) -> None:
-        """Who has made it takes `this` away again."""
-        self.this = this
+    def __init__(self, holder: _Stretch, offset: int) -> None:
         self.holder = holder
         self._offset = offset
 
@@ -133,8 +135,8 @@ class RestingRow(Row):
 
 
 class Offered(Collection[RestingRow]):
-    """The packages of some sets, one set behind the other. Each time that one goes through them, the rows are made anew;
-    one is quick to read until the next comes."""
+    """The packages of some sets, one set behind the other (`backend.Offer`). Each time that one goes through them, the
+    rows are made anew; one is quick to read until the next comes."""
 
     def __init__(self, sets: Sequence[libdnf5.rpm.PackageSet], base: Base) -> None:
         self._sets = sets
@@ -147,17 +149,30 @@ class Offered(Collection[RestingRow]):
         return any(row == one for one in self)
 
     def __iter__(self) -> Iterator[RestingRow]:
+        for rows, referred in self._stretches():
+            for row, this in zip(rows, referred):
+                row.this = this
+                yield row
+                del row.this
+
+    def with_plain(self) -> Iterator[Tuple[RestingRow, Plain]]:
+        for rows, referred in self._stretches():
+            # What a row refers to is quicker to ask than the row, and loops of the interpreter itself than ours.
+            yield from zip(rows, zip(*(map(function, referred) for function in _PLAIN)))
+
+    def _stretches(self) -> Iterator[Tuple[Iterator[RestingRow], List[Any]]]:
+        """The rows of each stretch, with what they refer to."""
         for packages in self._sets:
             iterator = packages.begin()
             place = iterator.this
             size = packages.size()
             for first in range(0, size, _STRETCH):
                 stretch = _Stretch(self._base, packages, place)
-                for offset in range(min(_STRETCH, size - first)):
-                    row = RestingRow(_value(place).this, stretch, offset)
+                referred = []
+                for _number in range(min(_STRETCH, size - first)):
+                    referred.append(_value(place).this)
                     _step(place)
-                    yield row
-                    del row.this
+                yield map(RestingRow, itertools.repeat(stretch), range(len(referred))), referred
 
 
 class InstalledRow(Row):
