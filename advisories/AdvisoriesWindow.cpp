@@ -12,9 +12,22 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTextBrowser>
+#include <QUrl>
 
 namespace Advisories
 {
+
+namespace
+{
+
+// Whatever else metadata calls an address is not for a browser to open.
+bool isOfTheWeb(QString const& address)
+{
+    static QStringList const schemes{QStringLiteral("http"), QStringLiteral("https"), QStringLiteral("ftp")};
+    return schemes.contains(QUrl(address, QUrl::StrictMode).scheme());
+}
+
+} // namespace
 
 Window::Window(YumIO* engine, QWidget* parent)
     : MatterWindow(QStringLiteral("advisories"), engine, parent),
@@ -107,12 +120,12 @@ void Window::showText(Whole const& whole)
         page += QStringLiteral("<p style=\"white-space: pre-wrap\">%1</p>").arg(whole.text.toHtmlEscaped());
     }
     for (Reference const& reference : whole.references) {
-        QString const words = reference.title.isEmpty() ? reference.id : reference.title;
-        QString const address = reference.address.toHtmlEscaped();
-        page += address.isEmpty()
-                    ? QStringLiteral("<p>%1</p>").arg(words.toHtmlEscaped())
-                    : QStringLiteral("<p><a href=\"%1\">%2</a></p>")
-                          .arg(address, (words.isEmpty() ? reference.address : words).toHtmlEscaped());
+        QString const title = reference.title.isEmpty() ? reference.id : reference.title;
+        QString const words = (title.isEmpty() ? reference.address : title).toHtmlEscaped();
+        page +=
+            isOfTheWeb(reference.address)
+                ? QStringLiteral("<p><a href=\"%1\">%2</a></p>").arg(reference.address.toHtmlEscaped(), words)
+                : QStringLiteral("<p>%1</p>").arg(words);
     }
     text->setHtml(page);
 }

@@ -84,7 +84,9 @@ private Q_SLOTS:
             "        for name, there, opened in (('alder', '1-1', True), ('birch', '', False), ('elm', "
             "'2-1', False))]\n"
             "    references = [dict(type='cve', id='CVE-1', title='', address='https://host/a?b=1&c=2'),\n"
-            "        dict(type='other', id='7', title='A <note>', address='')]\n"
+            "        dict(type='other', id='7', title='A <note>', address=''),\n"
+            "        dict(type='other', id='8', title='Local', address='file:///etc/passwd'),\n"
+            "        dict(type='other', id='9', title='Option', address='--profile')]\n"
             "    return head(identifier, 'security', 'Important', True, text='Do <b>it</b>\\n  now.',\n"
             "        references=references, packages=packages)\n"
             "advised = [head('A4', 'bugfix', '', True), head('A3', 'security', 'Low', True),\n"
@@ -151,6 +153,9 @@ private Q_SLOTS:
     {
         QVERIFY(text()->toHtml().contains(QLatin1String("href=\"https://host/a?b=1&amp;c=2\"")));
         QVERIFY(!text()->openLinks());
+        // Only addresses of the web are links.
+        QCOMPARE(text()->toHtml().count(QLatin1String("href=")), qsizetype(1));
+        QVERIFY(text()->toPlainText().contains(QLatin1String("Option")));
     }
 
     void updatesOfAnAdvisoryAreMarkedAndShown()
