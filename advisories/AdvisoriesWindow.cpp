@@ -55,11 +55,13 @@ void Window::takeLooks()
 void Window::readAll()
 {
     QString const identifier = currentIdentifier();
-    Reader::List const list = reader->all().value_or(Reader::List{true, {}});
-    known = list.known;
-    model->setAdvisories(list.advisories);
+    auto const list = reader->all();
+    told = list.has_value();
+    known = list && list->known;
+    model->setAdvisories(list ? list->advisories : QList<Advisory>());
     shown.clear();
     findAndChoose(identifier);
+    showChosenNow();
 }
 
 void Window::findAndChoose(QString const& identifier)
@@ -70,7 +72,7 @@ void Window::findAndChoose(QString const& identifier)
         row = proxy->index(0, 0);
     }
     table->setCurrentIndex(row);
-    showChosenNow();
+    showChosenSoon();
 }
 
 Advisory const* Window::current() const
@@ -91,8 +93,15 @@ void Window::showChosen()
     if (identifier == shown && !identifier.isEmpty()) {
         return;
     }
-    Whole const whole = current() ? reader->whole(identifier).value_or(Whole()) : Whole();
-    shown = identifier;
+    Whole whole;
+    shown.clear();
+    if (Advisory const* const chosen = current()) {
+        whole.head = *chosen;
+        if (auto const read = reader->whole(identifier)) {
+            whole = *read;
+            shown = identifier;
+        }
+    }
     openNames.clear();
     for (Package const& package : whole.packages) {
         if (package.open && !openNames.contains(package.name)) {
@@ -132,6 +141,10 @@ void Window::showText(Whole const& whole)
 
 QString Window::whyNothing() const
 {
+    if (!told) {
+        // Why has been reported.
+        return {};
+    }
     if (!known) {
         return tr("The metadata of the repositories in use tells of no advisories.");
     }
@@ -141,8 +154,6 @@ QString Window::whyNothing() const
 
 void Window::enableControls()
 {
-    showCombo->setEnabled(isReady());
-    searchEdit->setEnabled(isReady());
     markButton->setEnabled(isReady() && !openNames.isEmpty());
 }
 

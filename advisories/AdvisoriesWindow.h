@@ -72,7 +72,8 @@ private:
     ListTable* packagesTable = nullptr;
     QPushButton* markButton = nullptr;
     QStringList openNames; ///< of the packages that the chosen one advises to update
-    bool known = true;     ///< some repository tells of advisories
+    bool told = false;     ///< the advisories have been read
+    bool known = false;    ///< some repository tells of advisories
     QString shown;         ///< identifier of the advisory whose details show
 };
 

@@ -50,6 +50,9 @@ public:
     /// False where whoever was asked can't know it of any row.
     [[nodiscard]] bool isKnown() const { return known; }
     void setKnown(bool isKnown) { known = isKnown; }
+    /// Whether the last reading has failed, after a report: all are empty then.
+    [[nodiscard]] bool hasFailed() const { return failed; }
+    void setFailed() { failed = true; }
     [[nodiscard]] bool isFor(int rows) const { return texts.size() == static_cast<std::size_t>(rows); }
 
     void clear();
@@ -66,6 +69,7 @@ private:
     std::unordered_map<int, Text> tips; ///< few rows have one
     TextSet kept;
     bool known = true;
+    bool failed = false;
 };
 
 } // namespace Package

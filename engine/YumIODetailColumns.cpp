@@ -46,6 +46,10 @@ Package::RowDetails const& YumIO::details(Detail detail) const
 bool YumIO::wantDetails(Detail detail, bool wanted)
 {
     detailsWanted.at(static_cast<std::size_t>(detail)) = wanted;
+    if (Package::RowDetails& those = rowDetails.at(static_cast<std::size_t>(detail));
+        wanted && those.hasFailed()) {
+        those.clear();
+    }
     return !wanted || collectDetails();
 }
 
@@ -119,6 +123,9 @@ void YumIO::askPackages(Detail detail, QList<Package::Entry*> const& rows, Packa
 bool YumIO::askScript(char const* name, QList<Package::Entry*> const& rows, Package::RowDetails& those)
 {
     PyRef const answer = scriptDetails(name, rows);
+    if (!answer) {
+        those.setFailed();
+    }
     those.setKnown(!answer || answer.get() != Py_None);
     PyRef const values = PyRef::steal(answer ? PySequence_Fast(answer.get(), "not a sequence") : nullptr);
     PyErr_Clear();

@@ -342,7 +342,6 @@ class Estate:
         return {f"{name}-{rest}" for name, rest in rows if name != "gpg-pubkey"}
 
 
-@functools.lru_cache(maxsize=None)
 def add_updateinfo(repository: Path, text: str) -> None:
     """Gives the metadata of a repository, its directory, this text as its advisories."""
     file = repository / "updateinfo.xml"
@@ -350,6 +349,7 @@ def add_updateinfo(repository: Path, text: str) -> None:
     run(["modifyrepo_c", "--mdtype=updateinfo", file, repository / "repodata"])
 
 
+@functools.lru_cache(maxsize=None)
 def install_options() -> tuple[str, ...]:
     """What the rpm at hand wants to be told before it installs anything.
 

@@ -13,7 +13,9 @@
 namespace
 {
 
-constexpr int choicePause = 30; ///< milliseconds
+// Milliseconds.
+constexpr int choicePause = 30;
+constexpr int waitingPause = 100;
 
 } // namespace
 
@@ -25,6 +27,9 @@ MatterWindow::MatterWindow(QString const& name, YumIO* engine, QWidget* parent)
     choice.setSingleShot(true);
     choice.setInterval(choicePause);
     connect(&choice, &QTimer::timeout, this, &MatterWindow::showChosenNow);
+    waiting.setSingleShot(true);
+    waiting.setInterval(waitingPause);
+    connect(&waiting, &QTimer::timeout, this, &MatterWindow::reload);
     new RememberedSize(name, this);
 }
 
@@ -54,7 +59,10 @@ bool MatterWindow::mayRead() const
 void MatterWindow::reload()
 {
     if (mayRead()) {
+        waiting.stop();
         readAll();
+    } else if (isVisible()) {
+        waiting.start();
     }
 }
 
@@ -90,6 +98,7 @@ void MatterWindow::showEvent(QShowEvent* event)
 void MatterWindow::hideEvent(QHideEvent* event)
 {
     choice.stop();
+    waiting.stop();
     HDialog::hideEvent(event);
 }
 

@@ -26,7 +26,7 @@ public:
     void setReady(bool ready);
 
 public Q_SLOTS:
-    /// Reads everything again; the same row stays chosen.
+    /// Reads everything again, as soon as nothing is in the way; the same row stays chosen.
     void reload();
 
 Q_SIGNALS:
@@ -63,6 +63,8 @@ protected:
     [[nodiscard]] bool isReady() const { return ready; }
     /// Has the chosen row shown in full, or shortly where that can't be read now.
     void showChosenNow();
+    /// The same behind a pause, in which another row may be chosen.
+    void showChosenSoon() { choice.start(); }
     /// Has this done around which somebody else sees to what belongs around an apply.
     void apply(Job const& job);
 
@@ -70,6 +72,7 @@ protected:
 
 private:
     ListTable* table = nullptr;
-    QTimer choice; ///< runs from the choice of a row until that is read, since arrows run through many
+    QTimer choice;  ///< runs from the choice of a row until that is read, since arrows run through many
+    QTimer waiting; ///< runs while something is in the way of a reading
     bool ready = true;
 };

@@ -427,7 +427,8 @@ void Model::useAdvisories(bool used)
 
 void Model::want(Package::Detail detail, bool wanted)
 {
-    bool const takesTime = wanted && !yumIO->details(detail).isFor(yumIO->count());
+    Package::RowDetails const& those = yumIO->details(detail);
+    bool const takesTime = wanted && (those.hasFailed() || !those.isFor(yumIO->count()));
     if (takesTime) {
         Q_EMIT busy(true);
     }

@@ -262,6 +262,14 @@ def test_code_that_is_gone_counts_and_what_programs_make_and_drop_does_not(
     ]
 
 
+def test_names_that_are_no_text_spoil_nothing(estate: Estate, things: Dict[str, Path], proc: Proc) -> None:
+    estate.install([things["tool"]])
+    maps = proc.add(20, 10, ["/usr/lib/tool.so", "/usr/lib/caf@.so"]) / "maps"
+    maps.write_bytes(maps.read_bytes().replace(b"@", b"\xe9"))
+    (one,) = advice(estate, proc)["processes"]
+    assert [file["path"] for file in one["files"]] == ["/usr/lib/tool.so"]
+
+
 def test_what_uses_files_outside_the_managed_root_is_left_out(
     estate: Estate, things: Dict[str, Path], proc: Proc
 ) -> None:
@@ -349,11 +357,17 @@ def test_units_are_told_with_their_processes_and_what_speaks_against_a_restart(
         "/init.scope",
         "/",
         "/system.slice/gdm.service",
+        "/system.slice/vncserver@:1.service",
+        "/system.slice/odd-screens.service",
+        "/system.slice/terminal.service",
     ]
     for pid, group in enumerate(groups, 20):
         proc.add(pid, 10, ["/usr/lib/tool.so"], group)
     # Beside other hierarchies, as older systems have it.
     (proc.folder / "21/cgroup").write_text("4:memory:/\n1:name=systemd:/system.slice/tool.service/worker\n0::/\n")
+    # Whatever shows the screens, and what this program runs in.
+    monkeypatch.setattr(services, "_SCREENS_OWN", str(proc.folder / "odd-screens.service"))
+    monkeypatch.setattr(services, "_own_units", lambda: ["terminal.service"])
     found = advice(estate, proc)
     assert all("system that runs" in one["obstacle"] for one in found["units"])
     units = {one["unit"]: one for one in restarts._units(found["processes"], True)}
@@ -362,8 +376,9 @@ def test_units_are_told_with_their_processes_and_what_speaks_against_a_restart(
     assert (units["desk.service"]["own"], units["desk.service"]["user"]) == (True, "root")
     assert "log out" in units["user@0.service"]["obstacle"] and "log out" in units["session-2.scope"]["obstacle"]
     assert "start the system anew" in units["dbus.service"]["obstacle"]
-    assert "screens" in units["gdm.service"]["obstacle"]
-    assert set(units) >= {"init.scope"} and len(units) == 8
+    for name in ("gdm", "vncserver@:1", "odd-screens", "terminal"):
+        assert "end the sessions" in units[f"{name}.service"]["obstacle"], name
+    assert set(units) >= {"init.scope"} and len(units) == 11
 
 
 def test_damaged_database_is_told(estate: Estate, things: Dict[str, Path], proc: Proc) -> None:

@@ -210,6 +210,8 @@ def test_files_without_keys_are_refused_by_a_sentence(
     assert "is larger than 1024 KiB" in refused(program, lambda: yumio.keyRead(str(tmp_path / "large")))
     assert "No such file" in refused(program, lambda: yumio.keyRead(str(tmp_path / "none")))
     assert f"{tmp_path}: Is a directory" in refused(program, lambda: yumio.keyRead(str(tmp_path)))
+    for odd in ("/key\0s", "file:///key%00s", "http://["):
+        assert "there is no key in it" in refused(program, lambda: yumio.keyRead(odd)), odd
     assert "begin with http://" in refused(program, lambda: yumio.keyRead("ftp://127.0.0.1/key"))
     # What was read before them isn't at hand any more.
     yumio.keyRead(str(key.public))

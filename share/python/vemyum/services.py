@@ -10,7 +10,7 @@ import subprocess
 import time
 from typing import Any, Dict, List, Sequence, Tuple
 
-from . import host, rights, stop
+from . import host, processes, rights, stop
 from .errors import YumBaseError, os_error_text
 from .text import valid
 from .texts import _
@@ -24,7 +24,12 @@ _PROGRAM = "systemctl"
 _SERVICE = re.compile(r"^[A-Za-z0-9:_.\\@][A-Za-z0-9:_.\\@-]*\.service$")
 """What systemd takes for a name, without anything that could be an option or a pattern."""
 _ALL_REST_ON_IT = ("dbus.service", "dbus-broker.service", "systemd-logind.service")
-_SCREENS = ("display-manager", "gdm", "gdm3", "greetd", "lightdm", "lxdm", "sddm", "xdm")
+_SCREENS = re.compile(
+    r"(display-manager|cosmic-greeter|gdm3?|greetd|lightdm|ly(@.*)?|lxdm|plasmalogin|sddm|slim|wdm|xdm|xrdp(-sesman)?"
+    r"|[xv]*vncserver(@.*)?|x11vnc)\.service"
+)
+_SCREENS_OWN = "/etc/systemd/system/display-manager.service"
+"""A link to the unit that the administrator has chosen."""
 NO_RESTART = _("Only the administrator can restart services: start the program with administrator rights.")
 
 
@@ -41,9 +46,15 @@ def obstacle(unit: str, own: bool, running: bool) -> str:
         return _("This is no service.")
     if unit in _ALL_REST_ON_IT:
         return _("Other services and the sessions rest on it: start the system anew instead.")
-    if unit[: -len(".service")] in _SCREENS:
+    chosen = os.path.basename(os.path.realpath(_SCREENS_OWN))
+    if _SCREENS.fullmatch(unit) or unit == chosen or unit in _own_units():
         return _("This would end the sessions on the screens: log out first, or start the system anew.")
     return ""
+
+
+def _own_units() -> List[str]:
+    """The services in which this program itself runs, be it below a session."""
+    return [part for part in processes.control_group(os.getpid()).split("/") if part.endswith(".service")]
 
 
 def restarted(root: str, units: Sequence[str]) -> List[Dict[str, Any]]:

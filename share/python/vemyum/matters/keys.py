@@ -113,7 +113,8 @@ def read(system: System, root: str, word: str) -> Told:
     shown = masked(valid(word))
     try:
         keys = openpgp.keys_in(_content(system, word))
-    except openpgp.Unreadable:
+    except (openpgp.Unreadable, ValueError):
+        # Or it has letters that no path or address can have.
         keys = []
     except OSError as error:
         raise YumBaseError(os_error_text(error)) from error
@@ -270,7 +271,7 @@ def _used(system: System) -> Tuple[Dict[str, List[str]], List[str]]:
                 if location not in files:
                     found = openpgp.keys_in(_file(local_path(location)))
                     files[location] = [key.primary.fingerprint for key in found]
-            except openpgp.Unreadable:
+            except (openpgp.Unreadable, ValueError):
                 fault = _("{location}: there is no key in it").format(location=shown)
             except OSError as error:
                 fault = os_error_text(error)

@@ -32,7 +32,7 @@ from __future__ import annotations
 import contextlib
 import os
 import re
-from typing import Any, Dict, Iterator, List, NamedTuple, Sequence, Set, Tuple
+from typing import Any, Dict, Iterator, List, NamedTuple, Sequence, Set, Tuple, Union
 
 import rpm
 
@@ -88,7 +88,7 @@ class _Packages:
     def close(self) -> None:
         self._transaction.closeDB()
 
-    def matching(self, tag: str, text: str) -> Iterator[Any]:
+    def matching(self, tag: str, text: Union[str, bytes]) -> Iterator[Any]:
         return iter(self._transaction.dbMatch(tag, text))
 
     def owners(self, path: str) -> List[_Package]:
@@ -96,7 +96,7 @@ class _Packages:
         if path not in self._owners:
             self._owners[path] = [
                 _Package(valid(header["nevra"]), int(header["installtime"] or 0))
-                for header in self.matching("basenames", path)
+                for header in self.matching("basenames", os.fsencode(path))
             ]
         return self._owners[path]
 
